@@ -1,0 +1,125 @@
+#include "core/Text.h"
+
+#include <algorithm>
+
+namespace veyrant {
+
+std::string Mid(std::string_view text, long start, long length) {
+    if (start < 1) {
+        start = 1;
+    }
+    const auto from = static_cast<std::size_t>(start - 1);
+    if (from >= text.size()) {
+        return {};
+    }
+    const auto count = length < 0 ? std::string_view::npos : static_cast<std::size_t>(length);
+    return std::string(text.substr(from, count));
+}
+
+std::string Left(std::string_view text, long length) {
+    return length <= 0 ? std::string() : std::string(text.substr(0, static_cast<std::size_t>(length)));
+}
+
+std::string Right(std::string_view text, long length) {
+    if (length <= 0) {
+        return {};
+    }
+    const auto count = std::min(text.size(), static_cast<std::size_t>(length));
+    return std::string(text.substr(text.size() - count));
+}
+
+long Find(std::string_view text, std::string_view needle, long start) {
+    if (start < 1 || static_cast<std::size_t>(start - 1) > text.size()) {
+        return 0;
+    }
+    const auto at = text.find(needle, static_cast<std::size_t>(start - 1));
+    return at == std::string_view::npos ? 0 : static_cast<long>(at) + 1;
+}
+
+long FindNoCase(std::string_view text, std::string_view needle, long start) {
+    return Find(Lower(text), Lower(needle), start);
+}
+
+std::string LTrim(std::string_view text) {
+    const auto first = text.find_first_not_of(' ');
+    return first == std::string_view::npos ? std::string() : std::string(text.substr(first));
+}
+
+std::string RTrim(std::string_view text) {
+    const auto last = text.find_last_not_of(' ');
+    return last == std::string_view::npos ? std::string() : std::string(text.substr(0, last + 1));
+}
+
+std::string Trim(std::string_view text) { return LTrim(RTrim(text)); }
+
+namespace {
+
+unsigned char Byte(char c) { return static_cast<unsigned char>(c); }
+
+} // namespace
+
+char UpperChar(char c) {
+    const auto b = Byte(c);
+    if (b >= 'a' && b <= 'z') {
+        return static_cast<char>(b - 32);
+    }
+    // Latin-1 letters, except the division sign; the five Windows-1252 extras pair off in
+    // their own places.
+    if (b >= 0xE0 && b <= 0xFE && b != 0xF7) {
+        return static_cast<char>(b - 32);
+    }
+    switch (b) {
+    case 0x9A: return '\x8A';
+    case 0x9C: return '\x8C';
+    case 0x9E: return '\x8E';
+    case 0xFF: return '\x9F';
+    default: return c;
+    }
+}
+
+char LowerChar(char c) {
+    const auto b = Byte(c);
+    if (b >= 'A' && b <= 'Z') {
+        return static_cast<char>(b + 32);
+    }
+    if (b >= 0xC0 && b <= 0xDE && b != 0xD7) {
+        return static_cast<char>(b + 32);
+    }
+    switch (b) {
+    case 0x8A: return '\x9A';
+    case 0x8C: return '\x9C';
+    case 0x8E: return '\x9E';
+    case 0x9F: return '\xFF';
+    default: return c;
+    }
+}
+
+std::string Upper(std::string_view text) {
+    std::string result(text);
+    std::transform(result.begin(), result.end(), result.begin(), UpperChar);
+    return result;
+}
+
+std::string Lower(std::string_view text) {
+    std::string result(text);
+    std::transform(result.begin(), result.end(), result.begin(), LowerChar);
+    return result;
+}
+
+bool EqualNoCase(std::string_view a, std::string_view b) {
+    return a.size() == b.size() && Lower(a) == Lower(b);
+}
+
+void UpperAt(std::string& text, long position) {
+    if (position >= 1 && static_cast<std::size_t>(position) <= text.size()) {
+        text[static_cast<std::size_t>(position - 1)] = UpperChar(text[static_cast<std::size_t>(position - 1)]);
+    }
+}
+
+void LowerAt(std::string& text, long position) {
+    if (position >= 1 && static_cast<std::size_t>(position) <= text.size()) {
+        text[static_cast<std::size_t>(position - 1)] = LowerChar(text[static_cast<std::size_t>(position - 1)]);
+    }
+}
+
+} // namespace veyrant

@@ -1,0 +1,96 @@
+#include "core/FieldReader.h"
+#include "core/ProgramError.h"
+
+#include <gtest/gtest.h>
+
+namespace veyrant {
+namespace {
+
+std::vector<int> ReadAllInt16(const std::string& text, int count) {
+    FieldReader reader(text);
+    std::vector<int> values;
+    for (int i = 0; i < count; ++i) {
+        values.push_back(reader.ReadInt16());
+    }
+    return values;
+}
+
+TEST(FieldReader, NumbersReadAlikeInAnySpacingOrSeparator) {
+    const std::vector<int> expected = {1, 2, 0, -1, 21};
+    const std::string forms[] = {
+        " 1 \r\n 2 \r\n 0  -1 \r\n 21 \r\n",
+        "1,2,0,-1,21",
+        "1\n2\n0\n-1\n21",
+        "  1 ,  2,0 , -1\r\n\r\n21",
+        "1 2 0 -1 21",
+    };
+    for (const auto& form : forms) {
+        EXPECT_EQ(ReadAllInt16(form, 5), expected) << form;
+    }
+}
+
+TEST(FieldReader, FailuresCarryTheirNumbers) {
+    struct Case {
+        std::string Text;
+        bool Wide;
+        int Error;
+    };
+    const Case cases[] = {
+        {"", false, 62},
+        {" \r\n ", false, 62},
+        {"32768", false, 6},
+        {"-32769", false, 6},
+        {"2147483648", true, 6},
+        {"12x", false, 13},
+        {"\"text\"", false, 13},
+        {"-", false, 13},
+        {"1.5", false, 13},
+    };
+    for (const auto& c : cases) {
+        FieldReader reader(c.Text);
+        try {
+            if (c.Wide) {
+                reader.ReadInt32();
+            } else {
+                reader.ReadInt16();
+            }
+            ADD_FAILURE() << "no failure for " << c.Text;
+        } catch (const ProgramError& error) {
+            EXPECT_EQ(error.Number(), c.Error) << c.Text;
+        }
+    }
+}
+
+TEST(FieldReader, LimitsOfEachWidthRead) {
+    FieldReader reader("32767,-32768,2147483647,-2147483648");
+    EXPECT_EQ(reader.ReadInt16(), 32767);
+    EXPECT_EQ(reader.ReadInt16(), -32768);
+    EXPECT_EQ(reader.ReadInt32(), 2147483647);
+    EXPECT_EQ(reader.ReadInt32(), INT32_MIN);
+    EXPECT_TRUE(reader.AtEnd());
+}
+
+TEST(FieldReader, StringsQuotedOrBare) {
+    FieldReader reader("\"Parity\", \"a, b\",\"\"\r\n  Liberation Serif  \r\nx,7\r\n\"Tail\" junk,8");
+    EXPECT_EQ(reader.ReadString(), "Parity");
+    EXPECT_EQ(reader.ReadString(), "a, b");
+    EXPECT_EQ(reader.ReadString(), "");
+    EXPECT_EQ(reader.ReadString(), "Liberation Serif");
+    EXPECT_EQ(reader.Line(), 3);
+    EXPECT_EQ(reader.ReadAny(), "x");
+    EXPECT_EQ(reader.ReadInt16(), 7);
+    EXPECT_EQ(reader.ReadString(), "Tail");
+    EXPECT_EQ(reader.ReadInt16(), 8);
+    EXPECT_TRUE(reader.AtEnd());
+    EXPECT_THROW(reader.ReadString(), ProgramError);
+}
+
+TEST(FieldReader, EmptyFieldBetweenCommasReadsAsZero) {
+    FieldReader reader("4,,5");
+    EXPECT_EQ(reader.ReadInt16(), 4);
+    EXPECT_EQ(reader.ReadInt16(), 0);
+    EXPECT_EQ(reader.ReadInt16(), 5);
+}
+
+} // namespace
+} // namespace veyrant

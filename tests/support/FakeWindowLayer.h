@@ -1,0 +1,51 @@
+#pragma once
+
+#include "core/WindowLayer.h"
+
+#include <deque>
+#include <map>
+#include <set>
+#include <string>
+#include <vector>
+
+namespace veyrant::testing {
+
+// Answers message boxes from a script (Ok when the script is empty) and records everything the
+// logic asked of the platform, so a test can assert what the user would have seen.
+class FakeWindowLayer : public WindowLayer {
+public:
+    MessageAnswer ShowMessage(const MessageBoxRequest& request) override;
+    void Yield() override { ++Yields; }
+    void SetBusyPointer(bool busy) override { Busy = busy; }
+    void StartTimer(TimerId timer, int milliseconds) override { Timers[timer] = milliseconds; }
+    void StopTimer(TimerId timer) override { Timers.erase(timer); }
+    void ShowWindow(WindowId window) override;
+    void HideWindow(WindowId window) override;
+    void MinimiseWindow(WindowId window) override { Minimised.insert(window); }
+    void RestoreWindow(WindowId window) override { Minimised.erase(window); }
+    bool IsWindowVisible(WindowId window) const override { return Visible.count(window) > 0; }
+    int ScreenWidthTwips() const override { return ScreenWidth; }
+    int ScreenHeightTwips() const override { return ScreenHeight; }
+    int TextWidthTwips(const std::string& face, double points, bool bold, bool italic,
+                       const std::string& text) const override;
+    bool HasFontFace(const std::string& face, bool italic) const override;
+    void EndProcessAfter(int milliseconds) override { EndAfter = milliseconds; }
+    void EndProcess() override { Ended = true; }
+
+    // Titles and texts of the boxes shown, in order.
+    std::vector<MessageBoxRequest> Boxes;
+    std::deque<MessageAnswer> Answers;
+    std::map<TimerId, int> Timers;
+    std::set<WindowId> Visible;
+    std::set<WindowId> Minimised;
+    std::vector<std::string> WindowEvents; // "show Mirror", "hide Banner", ...
+    std::set<std::string> MissingFaces;
+    int ScreenWidth = 1920 * TwipsPerPixel;
+    int ScreenHeight = 1080 * TwipsPerPixel;
+    int Yields = 0;
+    bool Busy = false;
+    int EndAfter = -1;
+    bool Ended = false;
+};
+
+} // namespace veyrant::testing
