@@ -23,7 +23,7 @@ std::string Cp1252ToUtf8(std::string_view text);
 std::optional<std::string> Utf16ToCp1252(std::u16string_view text);
 
 struct Utf8Conversion {
-    std::string Text;          // the converted text, when Ok
+    std::string Text; // the converted text, when Ok
     bool Ok = true;
     std::size_t BadOffset = 0; // byte offset of the first character that cannot be converted
 };

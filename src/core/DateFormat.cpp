@@ -54,7 +54,8 @@ std::string FormatDate(const DateTime& when, std::string_view pattern) {
             if (run >= 4) {
                 out += DayNames[static_cast<std::size_t>(Weekday(when) - 1)];
             } else if (run == 3) {
-                out += std::string(DayNames[static_cast<std::size_t>(Weekday(when) - 1)]).substr(0, 3);
+                out +=
+                    std::string(DayNames[static_cast<std::size_t>(Weekday(when) - 1)]).substr(0, 3);
             } else {
                 out += run == 2 ? TwoDigits(when.Day) : std::to_string(when.Day);
             }
@@ -66,7 +67,8 @@ std::string FormatDate(const DateTime& when, std::string_view pattern) {
             } else if (run >= 4) {
                 out += MonthNames[static_cast<std::size_t>(when.Month - 1)];
             } else if (run == 3) {
-                out += std::string(MonthNames[static_cast<std::size_t>(when.Month - 1)]).substr(0, 3);
+                out +=
+                    std::string(MonthNames[static_cast<std::size_t>(when.Month - 1)]).substr(0, 3);
             } else {
                 out += run == 2 ? TwoDigits(when.Month) : std::to_string(when.Month);
             }

@@ -70,6 +70,8 @@ bool IsValidDate(int year, int month, int day) {
     return day <= length;
 }
 
-int RoundDays(double days) { return static_cast<int>(std::nearbyint(days)); }
+int RoundDays(double days) {
+    return static_cast<int>(std::nearbyint(days));
+}
 
 } // namespace veyrant

@@ -8,8 +8,12 @@ namespace veyrant {
 
 namespace {
 
-bool IsBlank(char c) { return c == ' ' || c == '\t'; }
-bool IsLineEnd(char c) { return c == '\r' || c == '\n'; }
+bool IsBlank(char c) {
+    return c == ' ' || c == '\t';
+}
+bool IsLineEnd(char c) {
+    return c == '\r' || c == '\n';
+}
 
 } // namespace
 
@@ -25,7 +29,8 @@ bool FieldReader::AtEnd() const {
 }
 
 int FieldReader::Line() const {
-    return 1 + static_cast<int>(std::count(text_.begin(), text_.begin() + static_cast<std::ptrdiff_t>(pos_), '\n'));
+    return 1 + static_cast<int>(std::count(
+                   text_.begin(), text_.begin() + static_cast<std::ptrdiff_t>(pos_), '\n'));
 }
 
 void FieldReader::RequireField() {
@@ -73,7 +78,8 @@ std::int64_t FieldReader::ReadNumber(std::int64_t low, std::int64_t high) {
         negative = token.front() == '-';
         token.remove_prefix(1);
     }
-    if (token.empty() || !std::all_of(token.begin(), token.end(), [](char c) { return c >= '0' && c <= '9'; })) {
+    if (token.empty() ||
+        !std::all_of(token.begin(), token.end(), [](char c) { return c >= '0' && c <= '9'; })) {
         throw ProgramError(ErrorNumber::TypeMismatch);
     }
     std::int64_t value = 0;

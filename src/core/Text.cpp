@@ -17,7 +17,8 @@ std::string Mid(std::string_view text, long start, long length) {
 }
 
 std::string Left(std::string_view text, long length) {
-    return length <= 0 ? std::string() : std::string(text.substr(0, static_cast<std::size_t>(length)));
+    return length <= 0 ? std::string()
+                       : std::string(text.substr(0, static_cast<std::size_t>(length)));
 }
 
 std::string Right(std::string_view text, long length) {
@@ -50,11 +51,15 @@ std::string RTrim(std::string_view text) {
     return last == std::string_view::npos ? std::string() : std::string(text.substr(0, last + 1));
 }
 
-std::string Trim(std::string_view text) { return LTrim(RTrim(text)); }
+std::string Trim(std::string_view text) {
+    return LTrim(RTrim(text));
+}
 
 namespace {
 
-unsigned char Byte(char c) { return static_cast<unsigned char>(c); }
+unsigned char Byte(char c) {
+    return static_cast<unsigned char>(c);
+}
 
 } // namespace
 
@@ -69,11 +74,16 @@ char UpperChar(char c) {
         return static_cast<char>(b - 32);
     }
     switch (b) {
-    case 0x9A: return '\x8A';
-    case 0x9C: return '\x8C';
-    case 0x9E: return '\x8E';
-    case 0xFF: return '\x9F';
-    default: return c;
+    case 0x9A:
+        return '\x8A';
+    case 0x9C:
+        return '\x8C';
+    case 0x9E:
+        return '\x8E';
+    case 0xFF:
+        return '\x9F';
+    default:
+        return c;
     }
 }
 
@@ -86,11 +96,16 @@ char LowerChar(char c) {
         return static_cast<char>(b + 32);
     }
     switch (b) {
-    case 0x8A: return '\x9A';
-    case 0x8C: return '\x9C';
-    case 0x8E: return '\x9E';
-    case 0x9F: return '\xFF';
-    default: return c;
+    case 0x8A:
+        return '\x9A';
+    case 0x8C:
+        return '\x9C';
+    case 0x8E:
+        return '\x9E';
+    case 0x9F:
+        return '\xFF';
+    default:
+        return c;
     }
 }
 
@@ -112,13 +127,15 @@ bool EqualNoCase(std::string_view a, std::string_view b) {
 
 void UpperAt(std::string& text, long position) {
     if (position >= 1 && static_cast<std::size_t>(position) <= text.size()) {
-        text[static_cast<std::size_t>(position - 1)] = UpperChar(text[static_cast<std::size_t>(position - 1)]);
+        text[static_cast<std::size_t>(position - 1)] =
+            UpperChar(text[static_cast<std::size_t>(position - 1)]);
     }
 }
 
 void LowerAt(std::string& text, long position) {
     if (position >= 1 && static_cast<std::size_t>(position) <= text.size()) {
-        text[static_cast<std::size_t>(position - 1)] = LowerChar(text[static_cast<std::size_t>(position - 1)]);
+        text[static_cast<std::size_t>(position - 1)] =
+            LowerChar(text[static_cast<std::size_t>(position - 1)]);
     }
 }
 

@@ -12,16 +12,22 @@ namespace veyrant {
 
 int ErrorNumberFor(const std::error_code& error) {
     switch (error.value()) {
-    case ENOENT: return ErrorNumber::FileNotFound;
+    case ENOENT:
+        return ErrorNumber::FileNotFound;
     case ENOSPC:
     case EDQUOT:
-    case EFBIG: return ErrorNumber::DiskFull;
+    case EFBIG:
+        return ErrorNumber::DiskFull;
     case EACCES:
     case EPERM:
-    case EROFS: return ErrorNumber::PermissionDenied;
-    case ENOTDIR: return ErrorNumber::PathNotFound;
-    case ENOMEM: return ErrorNumber::OutOfMemory;
-    default: return ErrorNumber::PathFileAccess;
+    case EROFS:
+        return ErrorNumber::PermissionDenied;
+    case ENOTDIR:
+        return ErrorNumber::PathNotFound;
+    case ENOMEM:
+        return ErrorNumber::OutOfMemory;
+    default:
+        return ErrorNumber::PathFileAccess;
     }
 }
 

@@ -21,7 +21,7 @@ TEST(Cp1252, QuotationMarksAndDashesMapToTheirUnicodeCharacters) {
 }
 
 TEST(Cp1252, CharactersWithoutACodeAreRefused) {
-    EXPECT_FALSE(Utf16ToCp1252(u"\u0416").has_value()); // Cyrillic
+    EXPECT_FALSE(Utf16ToCp1252(u"\u0416").has_value());     // Cyrillic
     EXPECT_FALSE(Utf16ToCp1252(u"\U0001F600").has_value()); // emoji, a surrogate pair
     struct Case {
         std::string Utf8;
@@ -29,13 +29,10 @@ TEST(Cp1252, CharactersWithoutACodeAreRefused) {
         std::size_t BadOffset;
     };
     const Case cases[] = {
-        {"plain", true, 0},
-        {"em \u2014 dash", true, 0},
-        {"caf\u00E9", true, 0},
-        {"ab\u4E2D", false, 2},
-        {"x\xC3", false, 1},         // cut short
-        {"x\xC3(", false, 1},        // bad continuation
-        {"\u0081", false, 0},        // C1 stand-in is not authored text
+        {"plain", true, 0},     {"em \u2014 dash", true, 0}, {"caf\u00E9", true, 0},
+        {"ab\u4E2D", false, 2}, {"x\xC3", false, 1}, // cut short
+        {"x\xC3(", false, 1},                        // bad continuation
+        {"\u0081", false, 0},                        // C1 stand-in is not authored text
     };
     for (const auto& c : cases) {
         const auto result = Utf8ToCp1252(c.Utf8);

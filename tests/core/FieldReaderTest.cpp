@@ -1,4 +1,5 @@
 #include "core/FieldReader.h"
+
 #include "core/ProgramError.h"
 
 #include <gtest/gtest.h>
@@ -18,11 +19,8 @@ std::vector<int> ReadAllInt16(const std::string& text, int count) {
 TEST(FieldReader, NumbersReadAlikeInAnySpacingOrSeparator) {
     const std::vector<int> expected = {1, 2, 0, -1, 21};
     const std::string forms[] = {
-        " 1 \r\n 2 \r\n 0  -1 \r\n 21 \r\n",
-        "1,2,0,-1,21",
-        "1\n2\n0\n-1\n21",
-        "  1 ,  2,0 , -1\r\n\r\n21",
-        "1 2 0 -1 21",
+        " 1 \r\n 2 \r\n 0  -1 \r\n 21 \r\n", "1,2,0,-1,21", "1\n2\n0\n-1\n21",
+        "  1 ,  2,0 , -1\r\n\r\n21",         "1 2 0 -1 21",
     };
     for (const auto& form : forms) {
         EXPECT_EQ(ReadAllInt16(form, 5), expected) << form;
@@ -36,15 +34,9 @@ TEST(FieldReader, FailuresCarryTheirNumbers) {
         int Error;
     };
     const Case cases[] = {
-        {"", false, 62},
-        {" \r\n ", false, 62},
-        {"32768", false, 6},
-        {"-32769", false, 6},
-        {"2147483648", true, 6},
-        {"12x", false, 13},
-        {"\"text\"", false, 13},
-        {"-", false, 13},
-        {"1.5", false, 13},
+        {"", false, 62},         {" \r\n ", false, 62},   {"32768", false, 6},
+        {"-32769", false, 6},    {"2147483648", true, 6}, {"12x", false, 13},
+        {"\"text\"", false, 13}, {"-", false, 13},        {"1.5", false, 13},
     };
     for (const auto& c : cases) {
         FieldReader reader(c.Text);
@@ -71,7 +63,8 @@ TEST(FieldReader, LimitsOfEachWidthRead) {
 }
 
 TEST(FieldReader, StringsQuotedOrBare) {
-    FieldReader reader("\"Parity\", \"a, b\",\"\"\r\n  Liberation Serif  \r\nx,7\r\n\"Tail\" junk,8");
+    FieldReader reader(
+        "\"Parity\", \"a, b\",\"\"\r\n  Liberation Serif  \r\nx,7\r\n\"Tail\" junk,8");
     EXPECT_EQ(reader.ReadString(), "Parity");
     EXPECT_EQ(reader.ReadString(), "a, b");
     EXPECT_EQ(reader.ReadString(), "");

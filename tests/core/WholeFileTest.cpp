@@ -1,5 +1,6 @@
-#include "core/ProgramError.h"
 #include "core/WholeFile.h"
+
+#include "core/ProgramError.h"
 #include "support/TempFolder.h"
 
 #include <csignal>

@@ -6,14 +6,22 @@ namespace {
 
 const char* WindowName(WindowId window) {
     switch (window) {
-    case WindowId::Banner: return "Banner";
-    case WindowId::Back: return "Back";
-    case WindowId::Mirror: return "Mirror";
-    case WindowId::Read: return "Read";
-    case WindowId::Options: return "Options";
-    case WindowId::Utility: return "Utility";
-    case WindowId::Resize: return "Resize";
-    case WindowId::Check: return "Check";
+    case WindowId::Banner:
+        return "Banner";
+    case WindowId::Back:
+        return "Back";
+    case WindowId::Mirror:
+        return "Mirror";
+    case WindowId::Read:
+        return "Read";
+    case WindowId::Options:
+        return "Options";
+    case WindowId::Utility:
+        return "Utility";
+    case WindowId::Resize:
+        return "Resize";
+    case WindowId::Check:
+        return "Check";
     }
     return "?";
 }

@@ -1,0 +1,22 @@
+#pragma once
+
+// The application folder: one fixed root under the XDG data home, holding exe/, dlg/ and isp/.
+// Every file of the program is this root plus a fixed relative name.
+
+#include <filesystem>
+
+namespace veyrant {
+
+struct AppFolder {
+    std::filesystem::path Root;
+
+    std::filesystem::path Exe() const { return Root / "exe"; }
+    std::filesystem::path Dlg() const { return Root / "dlg"; }
+    std::filesystem::path Isp() const { return Root / "isp"; }
+
+    // $XDG_DATA_HOME/veyrant-sagrel, or ~/.local/share/veyrant-sagrel when it is unset or not
+    // absolute, as the XDG rules say.
+    static AppFolder FromEnvironment();
+};
+
+} // namespace veyrant
