@@ -1,0 +1,116 @@
+#include "engine/Composer.h"
+
+#include "core/Random.h"
+#include "support/FakeWindowLayer.h"
+
+#include <gtest/gtest.h>
+
+namespace veyrant {
+namespace {
+
+// Components 0 to 6 in stock 1, one row each: the comma (first CaseKeeper), the period, the
+// dash (TightJoiner), " I am" (CaseKeeper), and three plain phrases.
+enum : std::int16_t { Comma, Period, Dash, IAm, Hello, Big, Third };
+
+class AssembleMessage : public ::testing::Test {
+protected:
+    void SetUp() override {
+        stocks.Rows[1] = {"",      " Label",       ",",         ".",     "\x97",
+                          " I am", " Hello there", " Big news", " Third"};
+        tables.ComponentCount = 6;
+        tables.RowCap = 1;
+        tables.SysBlockCount = 14;
+        tables.CaseKeepers = {0, Comma, Period, IAm};
+        tables.TightJoiners = {0, Dash};
+        tables.ComponentRows.assign(7, 1);
+        tables.ComponentBlock.assign(7, 1);
+        tables.Map.Allocate(14, 6, 1);
+        for (int c = 0; c <= 6; ++c) {
+            tables.Map.At(1, c, 1) = static_cast<std::int16_t>(c + 2);
+        }
+        composer.MarkJoiners();
+    }
+
+    std::string Assemble(const std::vector<std::int16_t>& components) {
+        composer.CompositionComponents = {0};
+        composer.CompositionComponents.insert(composer.CompositionComponents.end(),
+                                              components.begin(), components.end());
+        composer.CompositionRows.assign(components.size() + 1, 1);
+        composer.CompositionLength = static_cast<std::int16_t>(components.size());
+        composer.AssembleMessage();
+        return composer.ComposedText;
+    }
+
+    EngineTables tables;
+    PhraseStocks stocks;
+    Random random;
+    testing::FakeWindowLayer windows;
+    Composer composer{tables, stocks, random, windows};
+};
+
+TEST_F(AssembleMessage, SetsCaseAndSpacingByTheTwoLists) {
+    const struct {
+        std::vector<std::int16_t> Components;
+        const char* Text;
+    } cases[] = {
+        // One component: a tab and the row, lead blank included.
+        {{Hello}, "\t Hello there"},
+        {{Hello, Big}, "\t Hello there big news"},
+        // Behind the comma, the first CaseKeeper, the sentence goes on in lower case.
+        {{Hello, Comma, Big}, "\t Hello there, big news"},
+        // Behind any other CaseKeeper the next row keeps its capital.
+        {{Hello, Period, Big}, "\t Hello there. Big news"},
+        {{Hello, IAm, Big}, "\t Hello there I am Big news"},
+        {{Hello, Comma, IAm}, "\t Hello there, I am"},
+        {{IAm, Big}, "\t I am Big news"},
+        // Behind the dash the next row loses its blank.
+        {{Hello, Dash, Big},
+         "\t Hello there\x97"
+         "big news"},
+        // Held back by a CaseKeeper rule, the tight join waits for the next lowered row.
+        {{Hello, Dash, Period, Big}, "\t Hello there\x97. Big news"},
+        {{Hello, Dash, Period, Big, Third}, "\t Hello there\x97. Big newsthird"},
+        // A component may repeat.
+        {{Hello, Hello}, "\t Hello there hello there"},
+        {{}, "\t"},
+    };
+    for (const auto& c : cases) {
+        EXPECT_EQ(Assemble(c.Components), c.Text);
+    }
+    EXPECT_TRUE(windows.Boxes.empty());
+}
+
+TEST_F(AssembleMessage, NeverShowsTheLabelRow) {
+    // Row 0 of a component lies in the idle plane; the draw runs from row 1.
+    tables.Map.At(0, Hello, 0) = 1;
+    EXPECT_EQ(Assemble({Hello}), "\t Hello there");
+}
+
+TEST_F(AssembleMessage, ReportsAComponentOutsideTheStocks) {
+    tables.ComponentBlock[Big] = 0;
+    EXPECT_EQ(Assemble({Hello, Big}), "\t Hello there hello there");
+    ASSERT_EQ(windows.Boxes.size(), 1u);
+    EXPECT_EQ(windows.Boxes[0].Title, "Coding error in Rcmp, Engine21");
+    EXPECT_EQ(windows.Boxes[0].Text, "Error in Sub Rcmp configuration. Must be put into "
+                                     "comformity for the correct number of SysBlocks.");
+    EXPECT_EQ(windows.Boxes[0].Buttons, MessageButtons::OkCancel);
+}
+
+TEST_F(AssembleMessage, SplitsThePoolBetweenMessageSectionsAndRows) {
+    tables.MaxSections = 2;
+    tables.MaxComponents = 3;
+    std::vector<float> pool(2 + 3 + 15 + 1);
+    for (std::size_t i = 1; i < pool.size(); ++i) {
+        pool[i] = static_cast<float>(i);
+    }
+    composer.SplitSeeds(pool);
+    EXPECT_EQ(composer.MessageSeed, 1.0f);
+    EXPECT_EQ(composer.SectionSeeds, (std::vector<float>{0, 2, 3, 4, 0, 0}));
+    ASSERT_EQ(composer.RowSeeds.size(), pool.size());
+    EXPECT_EQ(composer.RowSeeds[1], 5.0f);
+    EXPECT_EQ(composer.RowSeeds[16], 20.0f); // MaxComponents + 13 filled
+    EXPECT_EQ(composer.RowSeeds[17], 0.0f);
+}
+
+} // namespace
+} // namespace veyrant

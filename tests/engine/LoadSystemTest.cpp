@@ -1,0 +1,138 @@
+#include "EngineFixture.h"
+#include "core/Text.h"
+#include "core/WholeFile.h"
+#include "engine/KeptPlans.h"
+
+#include <gtest/gtest.h>
+
+namespace veyrant {
+namespace {
+
+using testing::FakeWindowLayer;
+
+const std::string MemoryText =
+    "Windows cannot load the Veyrant Sagrel because it has insufficient available memory.\r\n\r\n"
+    "The immediate solution is to close one or more open programs. However, we recommend that "
+    "you clear your computer's memory by closing all open programs, then exiting and restarting "
+    "Windows.";
+const std::string ParityText =
+    "Parity error loading the configuration system file. Data structure is incorrect.";
+
+// A small table file that is whole in itself, with the number of stocks given.
+std::string SmallSystemFile(int sysBlocks) {
+    std::string text = "1, 2\r\n1, 1\r\n0, 0\r\n5\r\n2, 0\r\n1\r\n0\r\n" +
+                       std::to_string(sysBlocks) + "\r\n1, 1\r\n1, 1\r\n1\r\n\r\n0, 1\r\n1, 2\r\n";
+    for (int b = 1; b <= sysBlocks; ++b) {
+        text += (b > 1 ? ", " : "") + std::string("10");
+    }
+    return text + "\r\n1, 1, 1, 2\r\n1, 3, 1, 4, 1, 5\r\n\"Parity\"\r\n";
+}
+
+std::string ShippedWith(std::string_view from, std::string_view to) {
+    std::string text(ShippedSystemFile());
+    const auto at = text.rfind(from);
+    EXPECT_NE(at, std::string::npos);
+    return text.replace(at, from.size(), to);
+}
+
+struct DamageCase {
+    const char* Name;
+    std::string SystemFile; // empty: no file at all
+    std::string Text;
+};
+
+class LoadSystemBoxes : public ::testing::TestWithParam<DamageCase> {};
+
+TEST_P(LoadSystemBoxes, EndTheStartWithTheProgramsBox) {
+    testing::TempFolder temp;
+    const AppFolder folder{temp.Path()};
+    std::filesystem::create_directories(folder.Exe());
+    if (!GetParam().SystemFile.empty()) {
+        WriteWholeFile(folder.Exe() / "qdr41.sys", GetParam().SystemFile);
+    }
+    FakeWindowLayer windows;
+    testing::FakeClock clock;
+    Random random;
+    Engine engine(random, clock, windows);
+    EXPECT_FALSE(engine.LoadSystem(folder));
+    ASSERT_EQ(windows.Boxes.size(), 1u);
+    EXPECT_EQ(windows.Boxes[0].Title, "Error LoadSystem");
+    EXPECT_EQ(windows.Boxes[0].Icon, MessageIcon::Warning);
+    EXPECT_EQ(windows.Boxes[0].Text, GetParam().Text);
+    EXPECT_EQ(engine.SystemError, 1);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Damaged, LoadSystemBoxes,
+    ::testing::Values(
+        DamageCase{"FieldTooMany", ShippedWith("\"Parity\"", "7, \"Parity\""), ParityText},
+        DamageCase{"MarkMisspelt", ShippedWith("\"Parity\"", "\"parity\""), ParityText},
+        DamageCase{"BadNumber", ShippedWith("\"Parity\"", "\"Parity\"").replace(0, 1, "x"),
+                   MemoryText},
+        DamageCase{"Missing", "", MemoryText},
+        DamageCase{"CutShort", std::string(ShippedSystemFile().substr(0, 200)), MemoryText},
+        DamageCase{"FifteenStocks", SmallSystemFile(15),
+                   "DESIGN ERROR: Sysblocks too large for current system design. Sysblocks=15 "
+                   "exceeds MaxDataBlocks=14"},
+        DamageCase{"ThirteenStocks", SmallSystemFile(13),
+                   "Incorrect number=14 of LCMs in LoadSystem. Probable missing BAS file(s) in "
+                   "system MAK. Required SysBlocks=13\r\n\r\nThe missing cmp.BAS files must be "
+                   "added to the MAK file, sub LoadSystem reconfigured, and the EXE "
+                   "re-compiled."}),
+    [](const auto& info) { return std::string(info.param.Name); });
+
+TEST(ReadEngineTables, PutsRowZeroIntoTheIdlePlane) {
+    testing::TempFolder temp;
+    WriteWholeFile(temp / "qdr41.sys", SmallSystemFile(14));
+    EngineTables tables;
+    ASSERT_EQ(ReadEngineTables(temp / "qdr41.sys", tables), 0);
+    EXPECT_EQ(tables.ComponentRows[1], 2);
+    EXPECT_EQ(tables.ComponentBlock[1], 1);
+    EXPECT_EQ(tables.Map.At(0, 1, 0), 3); // the label row, read before the stock was known
+    EXPECT_EQ(tables.Map.At(1, 1, 0), 0);
+    EXPECT_EQ(tables.Map.At(1, 1, 1), 4);
+    EXPECT_EQ(tables.Map.At(1, 1, 2), 5);
+    EXPECT_EQ(tables.CaseKeepers.size(), 2u);
+    EXPECT_EQ(tables.TightJoiners.size(), 1u);
+}
+
+using ShippedTables = testing::EngineFixture;
+
+// The shipped tables, read back by the engine's own reader, fit the stocks and the plans.
+TEST_F(ShippedTables, FitTheStocksAndThePlans) {
+    const EngineTables& t = TheEngine.Tables();
+    const PhraseStocks& stocks = TheEngine.Stocks();
+    EXPECT_EQ(t.SysBlockCount, 14);
+    EXPECT_EQ(t.MessageCount, 16);
+    EXPECT_EQ(stocks.LastLoaded, 14);
+    for (int b = 1; b <= 14; ++b) {
+        EXPECT_EQ(t.BlockRows[static_cast<std::size_t>(b)] + 1u,
+                  stocks.Rows[static_cast<std::size_t>(b)].size());
+    }
+    for (int c = 0; c <= t.ComponentCount; ++c) {
+        const int block = t.ComponentBlock[static_cast<std::size_t>(c)];
+        ASSERT_GE(block, 1);
+        ASSERT_LE(block, 14);
+        const auto& rows = stocks.Rows[static_cast<std::size_t>(block)];
+        EXPECT_FALSE(rows.at(static_cast<std::size_t>(t.Map.At(0, c, 0))).empty());
+        ASSERT_GE(t.ComponentRows[static_cast<std::size_t>(c)], 1);
+        ASSERT_LE(t.ComponentRows[static_cast<std::size_t>(c)], t.RowCap);
+        for (int r = 1; r <= t.ComponentRows[static_cast<std::size_t>(c)]; ++r) {
+            const std::string_view row = rows.at(static_cast<std::size_t>(t.Map.At(block, c, r)));
+            const bool punctuation = row == "." || row == "?" || row == "," || row == "\x97";
+            const bool phrase = row.size() > 1 && row[0] == ' ' &&
+                                (LowerChar(row[1]) != row[1] || row[1] == '\x97');
+            EXPECT_TRUE(punctuation || phrase) << "component " << c << " row " << r;
+        }
+    }
+    const KeptPlans plans(ShippedPlanFile(), t);
+    for (std::int16_t m = 1; m <= t.MessageCount; ++m) {
+        EXPECT_EQ(plans.TrueCombos("Message", m), t.MessageCombos[static_cast<std::size_t>(m)]);
+    }
+    for (std::int16_t s = 1; s <= t.SectionCount; ++s) {
+        EXPECT_EQ(plans.TrueCombos("Section", s), t.SectionCombos[static_cast<std::size_t>(s)]);
+    }
+}
+
+} // namespace
+} // namespace veyrant
