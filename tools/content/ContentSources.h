@@ -44,6 +44,7 @@ using PlanChoice = std::vector<std::string>;
 
 struct PlanBlockSource {
     std::array<std::vector<PlanChoice>, 7> Slots; // slots 1 to 6
+    std::array<SourcePlace, 7> SlotPlaces;
     SourcePlace Place;
 };
 

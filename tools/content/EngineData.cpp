@@ -119,19 +119,21 @@ private:
             std::array<std::vector<int>, 7> slots;
             std::int64_t combos = 1;
             for (std::size_t s = 1; s <= 6; ++s) {
+                const SourcePlace& place =
+                    block.SlotPlaces[s].Line > 0 ? block.SlotPlaces[s] : block.Place;
                 std::vector<PlanChoice> choices = block.Slots[s];
                 if (choices.empty()) {
                     choices.emplace_back(); // an unwritten slot holds the empty choice
                 }
                 if (choices.size() > MaxSlotChoices) {
-                    throw ContentError(block.Place, "slot " + std::to_string(s) + " holds " +
-                                                        std::to_string(choices.size()) +
-                                                        " choices, more than 250");
+                    throw ContentError(place, "slot " + std::to_string(s) + " holds " +
+                                                  std::to_string(choices.size()) +
+                                                  " choices, more than 250");
                 }
                 for (const PlanChoice& choice : choices) {
                     std::vector<int> numbers;
                     for (const std::string& name : choice) {
-                        numbers.push_back(partsOf(block.Place, name));
+                        numbers.push_back(partsOf(place, name));
                     }
                     const std::string text = Joined(numbers, ", ");
                     auto [found, added] =
