@@ -70,6 +70,11 @@ struct RefusalCase {
     std::string Message;
 };
 
+// ctest lists a case by what this prints.
+void PrintTo(const RefusalCase& c, std::ostream* out) {
+    *out << c.Name;
+}
+
 std::string Replaced(std::string text, const std::string& from, const std::string& to) {
     return text.replace(text.find(from), from.size(), to);
 }

@@ -24,6 +24,11 @@ struct ClassifyCase {
     std::int16_t EntryType;
 };
 
+// ctest lists a case by what this prints.
+void PrintTo(const ClassifyCase& c, std::ostream* out) {
+    *out << c.Sentence;
+}
+
 class ClassifyEntryTable : public ::testing::TestWithParam<ClassifyCase> {};
 
 TEST_P(ClassifyEntryTable, GivesTheSentenceType) {
@@ -96,6 +101,11 @@ struct CheckCase {
     std::int16_t EntryStatus;
     std::int16_t EntryType; // 77 when it must stay as it was
 };
+
+// ctest lists a case by what this prints.
+void PrintTo(const CheckCase& c, std::ostream* out) {
+    *out << c.ActiveMethod << " " << c.Sentence;
+}
 
 class CheckEntryTable : public ::testing::TestWithParam<CheckCase> {};
 

@@ -47,6 +47,11 @@ struct FaultCase {
     int Error;
 };
 
+// ctest lists a case by what this prints.
+void PrintTo(const FaultCase& c, std::ostream* out) {
+    *out << c.Name;
+}
+
 class ReadPlanFaults : public ::testing::TestWithParam<FaultCase> {};
 
 TEST_P(ReadPlanFaults, RaiseTheirNumber) {
@@ -72,6 +77,11 @@ struct SequenceCase {
     std::int32_t Target;
     const char* Sequence;
 };
+
+// ctest lists a case by what this prints.
+void PrintTo(const SequenceCase& c, std::ostream* out) {
+    *out << c.Target;
+}
 
 class GenMatrixSeqTable : public ::testing::TestWithParam<SequenceCase> {};
 
@@ -127,6 +137,11 @@ struct LoadCase {
     std::int16_t Number;
     const char* Sequence;
 };
+
+// ctest lists a case by what this prints.
+void PrintTo(const LoadCase& c, std::ostream* out) {
+    *out << c.Kind << " " << c.Number;
+}
 
 class LoadPlanTable : public ::testing::TestWithParam<LoadCase> {};
 
