@@ -28,6 +28,7 @@ std::string SmallPlans() {
 EngineData Compile(const std::string& stock1, const std::string& plans,
                    const std::string& suggestions = "= Heading\nA short text.\n") {
     ContentSources sources;
+    ReadGroupOrder("order.txt", "1: Sure Yes\n2: Maybe No\n", sources);
     sources.Stocks[1] = ReadStockSource("01.txt", stock1);
     sources.Stocks[2] = ReadStockSource("02.txt", SmallStock2);
     ReadPlanSource("plans.txt", plans, sources);
@@ -106,6 +107,10 @@ INSTANTIATE_TEST_SUITE_P(
                     Ok, "01.txt:5: the group . has no rows"},
         RefusalCase{"NoWindowsCode", SmallStock1 + "Of course \xE2\x98\x83\n", SmallPlans(), Ok,
                     "01.txt:11: a character at byte 11 has no Windows-1252 code"},
+        RefusalCase{"GroupInAnotherStock", SmallStock1 + "[No]\nNo\n", SmallPlans(), Ok,
+                    "01.txt:11: the group No belongs in stock 2"},
+        RefusalCase{"GroupOutOfOrder", SmallStock1 + "[Sure]\nSure\n", SmallPlans(), Ok,
+                    "01.txt:11: the group Sure belongs before Yes"},
         RefusalCase{"LabelTwice", SmallStock1 + "[Yes]\nYes\n", SmallPlans(), Ok,
                     "01.txt:11: the label Yes is used by another group"},
         RefusalCase{"UnknownLabel", SmallStock1, Replaced(SmallPlans(), "Yes | Maybe", "Yes | No"),

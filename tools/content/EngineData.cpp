@@ -59,6 +59,7 @@ private:
         for (int b = 1; b <= StockCount; ++b) {
             auto& rows = stockRows_[static_cast<std::size_t>(b)];
             rows.assign(1, std::string());
+            const PhraseGroup* lastPlaced = nullptr;
             for (const PhraseGroup& group : sources_.Stocks[static_cast<std::size_t>(b)].Groups) {
                 if (componentByLabel_.count(group.Label) > 0) {
                     throw ContentError(group.Place,
@@ -68,6 +69,7 @@ private:
                     throw ContentError(group.Place,
                                        "the group " + group.Label + " has too many rows");
                 }
+                CheckPlace(b, group, lastPlaced);
                 componentByLabel_[group.Label] = static_cast<int>(components_.size());
                 components_.push_back(
                     {b, static_cast<int>(rows.size()), static_cast<int>(group.Rows.size())});
@@ -82,6 +84,24 @@ private:
         if (components_.empty()) {
             throw ContentError({"data/stocks", 0}, "the stocks hold no group");
         }
+    }
+
+    // Named groups keep the stock and the order of the group order list.
+    void CheckPlace(int stock, const PhraseGroup& group, const PhraseGroup*& lastPlaced) const {
+        const auto place = sources_.GroupOrder.find(group.Label);
+        if (place == sources_.GroupOrder.end()) {
+            return;
+        }
+        if (place->second.Stock != stock) {
+            throw ContentError(group.Place, "the group " + group.Label + " belongs in stock " +
+                                                std::to_string(place->second.Stock));
+        }
+        if (lastPlaced != nullptr &&
+            sources_.GroupOrder.at(lastPlaced->Label).Order > place->second.Order) {
+            throw ContentError(group.Place,
+                               "the group " + group.Label + " belongs before " + lastPlaced->Label);
+        }
+        lastPlaced = &group;
     }
 
     static bool IsPunctuation(const std::string& label) {
