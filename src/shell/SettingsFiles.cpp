@@ -121,7 +121,8 @@ void SaveReadSettings(const Application& app) {
 
 void LoadFontNames(Application& app) {
     try {
-        FieldReader reader(ReadWholeFile(FontFile(app)));
+        const std::string text = ReadWholeFile(FontFile(app));
+        FieldReader reader(text);
         FontNames names;
         names.Main = reader.ReadString();
         names.Italic = reader.ReadString();
