@@ -6,6 +6,7 @@
 
 #include <QCloseEvent>
 #include <QFont>
+#include <QFontMetricsF>
 #include <QFrame>
 #include <QLabel>
 #include <QPlainTextEdit>
@@ -96,6 +97,8 @@ MirrorWindow::MirrorWindow(const Application& app) : QWidget(nullptr) {
         made->setObjectName(QString::fromLatin1(name));
         made->setFont(writeFont);
         made->document()->setDocumentMargin(6);
+        // Paragraphs open with a tab; a short indent reads better than a wide column stop.
+        made->setTabStopDistance(QFontMetricsF(writeFont).averageCharWidth() * 4);
         Place(made, place);
         return made;
     };
