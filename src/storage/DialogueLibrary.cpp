@@ -171,9 +171,13 @@ bool DialogueLibrary::AddToLibrary(const std::string& inspirationText,
     // The isp/ file is laid down first under a hidden name and put in place only once the
     // Dialogue is written, so that a failure leaves the pair as it was, old or absent.
     const std::filesystem::path staged = folder_.Isp() / ("." + name + ".new");
-    std::filesystem::path writing = folder_.Isp() / name;
+    std::filesystem::path writing;
     try {
-        MakeLibraryFolders();
+        writing = folder_.Isp() / name;
+        MakeFolder(folder_.Isp());
+        writing = folder_.Dlg() / name;
+        MakeFolder(folder_.Dlg());
+        writing = folder_.Isp() / name;
         WriteWholeFile(staged, inspirationText);
         writing = folder_.Dlg() / name;
         WriteWholeFile(writing, dialogueText);
