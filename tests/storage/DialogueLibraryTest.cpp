@@ -46,8 +46,8 @@ TEST_F(DialogueLibraryTest, RetentionKeepsBothLimitsAndNeverTheLastDialogue) {
     for (const auto& c : cases) {
         SCOPED_TRACE(c.What);
         std::filesystem::remove_all(Folder.Root);
-        Options.MaxLibraryFiles = static_cast<std::int16_t>(c.MaxFiles);
-        Options.MaxLibraryDays = static_cast<std::int16_t>(c.MaxDays);
+        UserSettings.MaxLibraryFiles = static_cast<std::int16_t>(c.MaxFiles);
+        UserSettings.MaxLibraryDays = static_cast<std::int16_t>(c.MaxDays);
         std::vector<std::string> names;
         for (const double age : c.Ages) {
             names.push_back(SaveAt(DaysAgo(age)));
@@ -87,7 +87,7 @@ TEST_F(DialogueLibraryTest, ListingHoldsDateOrderAndLabels) {
     EXPECT_EQ(listing.LibraryListOrder[3], 1);
 
     // One Dialogue alone has a short label of the date only.
-    Options.MaxLibraryFiles = 1;
+    UserSettings.MaxLibraryFiles = 1;
     ASSERT_TRUE(Library.ScanLibrary());
     EXPECT_EQ(listing.LibraryCount, 1);
     EXPECT_EQ(listing.LibraryLabels[1], "Nov 22");
@@ -118,7 +118,7 @@ TEST_F(DialogueLibraryTest, MissingFoldersAreMadeAnewAndAnEmptyLibraryKeepsOldTa
 }
 
 TEST_F(DialogueLibraryTest, AMissingDialogueFileStopsTheRetentionWithTheLibraryBox) {
-    Options.MaxLibraryFiles = 1;
+    UserSettings.MaxLibraryFiles = 1;
     const auto oldest = SaveAt(DaysAgo(3));
     const auto middle = SaveAt(DaysAgo(2));
     SaveAt(DaysAgo(1));

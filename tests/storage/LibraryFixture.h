@@ -26,11 +26,11 @@ class LibraryFixture : public ::testing::Test {
 protected:
     TempFolder Temp;
     AppFolder Folder{Temp.Path()};
-    Settings Options;
+    Settings UserSettings;
     FakeClock Clock;
     FakeWindowLayer Windows;
-    DialogueLibrary Library{Folder, Options, Clock, Windows};
-    WorkBuffers Buffers{Folder, Options, Clock, Windows};
+    DialogueLibrary Library{Folder, UserSettings, Clock, Windows};
+    WorkBuffers Buffers{Folder, UserSettings, Clock, Windows};
 
     // Puts a saved Dialogue into the Library as a save at that date would.
     std::string SaveAt(const DateTime& when, const std::string& dialogue = "\r\n\r\n\t\x93Hi\x94") {
