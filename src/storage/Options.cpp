@@ -90,10 +90,9 @@ void Options::Form_Load() {
         controls_.Label4.Caption = "There are no files to clean.";
     } else {
         controls_.cmdClean.Enabled = true;
-        controls_.Label4.Caption =
-            "To delete every Dialogue in the Library at once, click 'Clean Library'.";
+        controls_.Label4.Caption = "To delete every Dialogue at once, click 'Clean Library'.";
     }
-    controls_.Focus = OptionsControl::cmdCancel;
+    MoveFocus(OptionsControl::cmdCancel);
 }
 
 // Filling a box counts as a change of it, as typing does.
@@ -154,7 +153,7 @@ void Options::cmdClean_Click() {
                      std::to_string(listing.LibraryCount) + " files." + std::string(CrLf) +
                      std::string(CrLf) + "Are you certain you wish to delete all the Dialogues?"));
     if (answer != MessageAnswer::Yes) {
-        controls_.Focus = OptionsControl::cmdCancel;
+        MoveFocus(OptionsControl::cmdCancel);
         return;
     }
     unloadReader_();
@@ -175,9 +174,14 @@ void Options::cmdClean_Click() {
         return;
     }
     library_.ScanLibrary();
-    controls_.Focus = OptionsControl::cmdCancel;
+    MoveFocus(OptionsControl::cmdCancel);
     controls_.cmdClean.Enabled = false;
     controls_.Label4.Caption = "All Dialogues have been deleted.";
+}
+
+void Options::MoveFocus(OptionsControl control) {
+    controls_.Focus = control;
+    ++controls_.FocusMoves;
 }
 
 void Options::Leave() {

@@ -39,6 +39,7 @@ struct OptionsControls {
     OptionsButton cmdCancel;
     OptionsButton cmdClean;
     OptionsControl Focus = OptionsControl::None;
+    int FocusMoves = 0; // counts the moves, so that a window moves the focus once per move
 };
 
 class Options {
@@ -63,6 +64,7 @@ public:
 
 private:
     void ShowLimits(int files, int days);
+    void MoveFocus(OptionsControl control);
     void Leave();
 
     DialogueLibrary& library_;

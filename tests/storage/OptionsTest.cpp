@@ -32,7 +32,7 @@ TEST_F(OptionsTest, OpensWithTheSettingsAndScansTheLibrary) {
               "Label3 \"Set the number and/or age of the files saved in the Library. Check or "
               "uncheck the Library Guest Mode. Then click 'OK' or the prior settings are "
               "retained.\"\n"
-              "Label4 \"To delete every Dialogue in the Library at once, click 'Clean "
+              "Label4 \"To delete every Dialogue at once, click 'Clean "
               "Library'.\"\n"
               "cmdOK enabled, cmdCancel enabled, cmdClean enabled\n"
               "focus cmdCancel\n");
