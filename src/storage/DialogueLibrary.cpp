@@ -47,16 +47,14 @@ std::vector<std::string> RankByDate(const std::vector<std::string>& names) {
 }
 
 MessageBoxRequest ScanFailureBox(int number) {
-    MessageBoxRequest box;
-    box.Title = "Error " + std::to_string(number) + " Dialogue Library File Names";
-    box.Text = "The Dialogue Library retrieval system has failed. The cause is unknown, but a file "
-               "may be missing. If there has been no tampering, your disk may be corrupted or "
-               "damaged. Be certain to check it fully with all available diagnostics." +
-               std::string(CrLf) + std::string(CrLf) +
-               "If the failure returns after that, uninstall the Veyrant Sagrel and then "
-               "re-install it.";
-    box.Icon = MessageIcon::Warning;
-    return box;
+    return WarningBox(
+        "Error " + std::to_string(number) + " Dialogue Library File Names",
+        "The Dialogue Library retrieval system has failed. The cause is unknown, but a file "
+        "may be missing. If there has been no tampering, your disk may be corrupted or "
+        "damaged. Be certain to check it fully with all available diagnostics." +
+            std::string(CrLf) + std::string(CrLf) +
+            "If the failure returns after that, uninstall the Veyrant Sagrel and then "
+            "re-install it.");
 }
 
 } // namespace
@@ -207,15 +205,13 @@ bool DialogueLibrary::DeleteDialogue(const std::string& fileName) {
         DeletePair(fileName);
         return true;
     } catch (const ProgramError& error) {
-        MessageBoxRequest box;
-        box.Title = "Dialogue Library Corrupted";
-        box.Text = "Error " + std::to_string(error.Number()) +
-                   " attempting to delete the file from the Dialogue Library. Because the Library "
-                   "has become corrupted, it is necessary for you to repair it. Open the 'User's "
-                   "Manual' from the Veyrant Sagrel program group and review the section, "
-                   "'Repairing the Dialogue Library'.";
-        box.Icon = MessageIcon::Warning;
-        windows_.ShowMessage(box);
+        windows_.ShowMessage(WarningBox(
+            "Dialogue Library Corrupted",
+            "Error " + std::to_string(error.Number()) +
+                " attempting to delete the file from the Dialogue Library. Because the Library "
+                "has become corrupted, it is necessary for you to repair it. Open the 'User's "
+                "Manual' from the Veyrant Sagrel program group and review the section, "
+                "'Repairing the Dialogue Library'."));
         return false;
     }
 }

@@ -2,6 +2,7 @@
 
 #include "core/ProgramError.h"
 #include "core/Text.h"
+#include "storage/StorageFailure.h"
 
 #include <algorithm>
 #include <cctype>
@@ -162,15 +163,13 @@ void Options::cmdClean_Click() {
             library_.DeletePair(listing.LibraryFiles[static_cast<std::size_t>(k)]);
         }
     } catch (const ProgramError& error) {
-        MessageBoxRequest box;
-        box.Title = "Dialogue Library Corrupted";
-        box.Text = "Error " + std::to_string(error.Number()) +
-                   " attempting to delete a file from the Dialogue Library. Because the Library "
-                   "has become corrupted, it is necessary for you to repair it. Open the 'User's "
-                   "Manual' from the Veyrant program group and review the section, 'Repairing "
-                   "the Dialogue Library'.";
-        box.Icon = MessageIcon::Warning;
-        windows_.ShowMessage(box);
+        windows_.ShowMessage(WarningBox(
+            "Dialogue Library Corrupted",
+            "Error " + std::to_string(error.Number()) +
+                " attempting to delete a file from the Dialogue Library. Because the Library has "
+                "become corrupted, it is necessary for you to repair it. Open the 'User's Manual' "
+                "from the Veyrant program group and review the section, 'Repairing the Dialogue "
+                "Library'."));
         return;
     }
     library_.ScanLibrary();

@@ -5,6 +5,7 @@
 #include "core/Text.h"
 
 #include <string>
+#include <utility>
 
 namespace veyrant {
 
@@ -44,30 +45,34 @@ std::string Paragraphs(const std::string& first, const std::string& second) {
 
 } // namespace
 
-MessageBoxRequest SaveFailureBox(int number, const std::filesystem::path& file) {
+MessageBoxRequest WarningBox(std::string title, std::string text) {
     MessageBoxRequest box;
-    box.Title = "Error " + std::to_string(number) + " Saving the Dialogue";
-    box.Text = Paragraphs("Error " + std::to_string(number) +
-                              " attempting to save your Dialogue in the Dialogue Library. " +
-                              Cause(number, file),
-                          "Your Dialogue is not lost. It stays on the screen and in the work "
-                          "buffers, and the Library is as it was. " +
-                              Remedy(number) + ", then click 'Save' again.");
+    box.Title = std::move(title);
+    box.Text = std::move(text);
     box.Icon = MessageIcon::Warning;
     return box;
 }
 
+MessageBoxRequest SaveFailureBox(int number, const std::filesystem::path& file) {
+    return WarningBox(
+        "Error " + std::to_string(number) + " Saving the Dialogue",
+        Paragraphs("Error " + std::to_string(number) +
+                       " attempting to save your Dialogue in the Dialogue Library. " +
+                       Cause(number, file),
+                   "Your Dialogue is not lost. It stays on the screen and in the work "
+                   "buffers, and the Library is as it was. " +
+                       Remedy(number) + ", then click 'Save' again."));
+}
+
 MessageBoxRequest KeepFailureBox(int number, const std::filesystem::path& file) {
-    MessageBoxRequest box;
-    box.Title = "Error " + std::to_string(number) + " Keeping the Dialogue";
-    box.Text = Paragraphs(
-        "Error " + std::to_string(number) +
-            " attempting to keep your Dialogue in the work buffers. " + Cause(number, file),
-        "The work buffers still hold the Dialogue as it was last kept, and the "
-        "Dialogue on the screen is unchanged. " +
-            Remedy(number) + ", or click 'Print' or 'File' to keep a copy of it.");
-    box.Icon = MessageIcon::Warning;
-    return box;
+    return WarningBox(
+        "Error " + std::to_string(number) + " Keeping the Dialogue",
+        Paragraphs("Error " + std::to_string(number) +
+                       " attempting to keep your Dialogue in the work buffers. " +
+                       Cause(number, file),
+                   "The work buffers still hold the Dialogue as it was last kept, and the "
+                   "Dialogue on the screen is unchanged. " +
+                       Remedy(number) + ", or click 'Print' or 'File' to keep a copy of it."));
 }
 
 } // namespace veyrant

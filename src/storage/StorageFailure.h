@@ -1,13 +1,17 @@
 #pragma once
 
-// The boxes for a file that could not be written. Every such write leaves the old file whole,
-// so the boxes can promise that nothing was lost, and they say what the user can do about it.
+// The storage's failure boxes. A write that fails leaves the old file whole, so its box can
+// promise that nothing was lost, and it says what the user can do about it.
 
 #include "core/WindowLayer.h"
 
 #include <filesystem>
+#include <string>
 
 namespace veyrant {
+
+// A box with the warning icon and only OK, as the program's failures show.
+MessageBoxRequest WarningBox(std::string title, std::string text);
 
 // Adding the Dialogue to the Library failed; the Library is as it was.
 MessageBoxRequest SaveFailureBox(int number, const std::filesystem::path& file);

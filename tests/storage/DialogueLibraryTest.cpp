@@ -1,9 +1,6 @@
 #include "LibraryFixture.h"
 #include "core/ProgramError.h"
 
-#include <csignal>
-#include <sys/resource.h>
-
 namespace veyrant::testing {
 namespace {
 
@@ -205,22 +202,14 @@ TEST_F(DialogueLibraryTest, WithoutItsWorkBufferASaveTakesThePresentMinute) {
     EXPECT_EQ(Names(Folder.Dlg()), std::vector<std::string>{"76112212.000"});
 }
 
-// A file-size limit makes the kernel refuse the write part way, as a full disk would.
 TEST_F(DialogueLibraryTest, AFailedSaveLeavesTheOldPairAndSaysWhy) {
     std::filesystem::create_directories(Folder.Exe());
     WriteWholeFile(Folder.Exe() / "savei.tmp", "\told");
     SetFileDate(Folder.Exe() / "savei.tmp", {2026, 11, 21, 18, 7, 0});
     ASSERT_TRUE(Library.AddToLibrary("\told", "old dialogue"));
 
-    rlimit saved{};
-    ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &saved), 0);
-    const auto previousHandler = std::signal(SIGXFSZ, SIG_IGN);
-    rlimit small = saved;
-    small.rlim_cur = 4096;
-    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &small), 0);
-    const bool added = Library.AddToLibrary("\tnew", std::string(100000, 'x'));
-    setrlimit(RLIMIT_FSIZE, &saved);
-    std::signal(SIGXFSZ, previousHandler);
+    const bool added =
+        WithDiskNearlyFull([&] { return Library.AddToLibrary("\tnew", std::string(100000, 'x')); });
 
     EXPECT_FALSE(added);
     EXPECT_EQ(ReadWholeFile(Folder.Isp() / "76112118.070"), "\told");

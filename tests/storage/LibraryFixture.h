@@ -13,10 +13,12 @@
 
 #include <algorithm>
 #include <chrono>
+#include <csignal>
 #include <ctime>
 #include <filesystem>
 #include <gtest/gtest.h>
 #include <string>
+#include <sys/resource.h>
 #include <vector>
 
 namespace veyrant::testing {
@@ -68,5 +70,21 @@ protected:
         std::filesystem::last_write_time(path, std::chrono::file_clock::from_sys(stamp));
     }
 };
+
+// Runs the action with files limited to 4 KiB: the kernel then refuses a write part way, as a
+// full disk would.
+template <typename Action>
+auto WithDiskNearlyFull(Action action) {
+    rlimit saved{};
+    getrlimit(RLIMIT_FSIZE, &saved);
+    const auto previousHandler = std::signal(SIGXFSZ, SIG_IGN);
+    rlimit small = saved;
+    small.rlim_cur = 4096;
+    setrlimit(RLIMIT_FSIZE, &small);
+    const auto result = action();
+    setrlimit(RLIMIT_FSIZE, &saved);
+    std::signal(SIGXFSZ, previousHandler);
+    return result;
+}
 
 } // namespace veyrant::testing

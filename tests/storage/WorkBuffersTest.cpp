@@ -1,8 +1,5 @@
 #include "LibraryFixture.h"
 
-#include <csignal>
-#include <sys/resource.h>
-
 namespace veyrant::testing {
 namespace {
 
@@ -95,21 +92,13 @@ TEST_F(WorkBuffersTest, DeletingLeavesTheSuggestionBehindWhichAloneIsNoPriorDial
     EXPECT_TRUE(Windows.Boxes.empty());
 }
 
-// A file-size limit makes the kernel refuse the write part way, as a full disk would.
 TEST_F(WorkBuffersTest, AFailedWriteLeavesTheOldSetWhole) {
     ASSERT_TRUE(Buffers.WriteWorkBuffers(Running));
     SetFileDate(Folder.Exe() / "savei.tmp", DaysAgo(1));
 
-    rlimit saved{};
-    ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &saved), 0);
-    const auto previousHandler = std::signal(SIGXFSZ, SIG_IGN);
-    rlimit small = saved;
-    small.rlim_cur = 4096;
-    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &small), 0);
-    const bool written =
-        Buffers.WriteWorkBuffers({"\tnew", std::string(100000, 'x'), "new suggestion", 9});
-    setrlimit(RLIMIT_FSIZE, &saved);
-    std::signal(SIGXFSZ, previousHandler);
+    const bool written = WithDiskNearlyFull([&] {
+        return Buffers.WriteWorkBuffers({"\tnew", std::string(100000, 'x'), "new suggestion", 9});
+    });
 
     EXPECT_FALSE(written);
     const auto prior = Buffers.ReadWorkBuffers();
