@@ -83,8 +83,8 @@ std::optional<PriorDialogue> WorkBuffers::ReadWorkBuffers() const {
         prior.Buffers.InspirationText = ReadWholeFile(folder_.Exe() / InspirationBuffer);
         prior.Buffers.DialogueText = ReadWholeFile(folder_.Exe() / DialogueBuffer);
         prior.Buffers.SuggestionText = ReadWholeFile(folder_.Exe() / SuggestionBuffer);
-        FieldReader pairCount(ReadWholeFile(folder_.Exe() / PairCountBuffer));
-        prior.Buffers.PairCount = pairCount.ReadInt16();
+        const std::string pairCount = ReadWholeFile(folder_.Exe() / PairCountBuffer);
+        prior.Buffers.PairCount = FieldReader(pairCount).ReadInt16();
         const auto written = clock_.FileDate(folder_.Exe() / InspirationBuffer);
         if (!written) {
             return std::nullopt;
