@@ -1,0 +1,128 @@
+#include "dialogue/MirrorDriver.h"
+
+#include "core/Text.h"
+#include "dialogue/KeyCodes.h"
+
+namespace veyrant::testing {
+
+EntryJudgement ScriptedEngine::CheckEntry(const std::string& entryText, int, int) {
+    CheckedEntries.push_back(entryText);
+    if (Judgements.empty()) {
+        return {1, 2};
+    }
+    const auto judgement = Judgements.front();
+    Judgements.pop_front();
+    return judgement;
+}
+
+void ScriptedEngine::RecordKey(float time, int characterCode) {
+    KeyTimes.push_back(time);
+    KeyCodes.push_back(characterCode);
+}
+
+int ScriptedEngine::RollAnswer(int percent) {
+    RollPercents.push_back(percent);
+    if (Rolls.empty()) {
+        return 1;
+    }
+    const int flag = Rolls.front();
+    Rolls.pop_front();
+    return flag;
+}
+
+std::string ScriptedEngine::RequestAnswer(int entryType) {
+    ++Compositions;
+    return "\t Answer " + std::to_string(Compositions) + " to type " + std::to_string(entryType) +
+           ".  ";
+}
+
+std::string ScriptedEngine::RequestRemark(int entryType) {
+    ++Compositions;
+    return "\t Remark " + std::to_string(Compositions) + " on type " + std::to_string(entryType) +
+           ".";
+}
+
+std::string ScriptedEngine::RequestInspiration() {
+    ++Inspirations;
+    return "\tInspiration number " + std::to_string(Inspirations) + ".";
+}
+
+std::string ScriptedEngine::PickGuidance() {
+    ++Guidances;
+    return "Suggestion " + std::to_string(Guidances);
+}
+
+float ScriptedRandom::Draw() {
+    const float draw = Draws.front();
+    if (Draws.size() > 1) {
+        Draws.pop_front();
+    }
+    return draw;
+}
+
+MirrorDriver::MirrorDriver(const MirrorScale& scale)
+    : mirror(std::make_unique<Mirror>(Layer, Clock, Draws, Engine, Store, Options, scale)) {}
+
+void MirrorDriver::Key(int keyCode, int keyAscii) {
+    const bool passedDown = mirror->KeyDown(keyCode) != 0;
+    int passed = keyAscii;
+    if (keyAscii != 0) {
+        passed = mirror->KeyPress(keyAscii);
+    }
+    if (!passedDown || passed == 0) {
+        return;
+    }
+    // Applied as the text widget would: at the caret, or a Backspace before it.
+    const auto focus = mirror->Controls().Focus;
+    std::string text = Box(focus).Text;
+    long caret = Box(focus).Caret;
+    if (passed == KeyCode::Backspace) {
+        if (caret > 0) {
+            text.erase(static_cast<std::size_t>(caret - 1), 1);
+            --caret;
+        }
+    } else if (passed != KeyCode::Enter) {
+        text.insert(static_cast<std::size_t>(caret), 1, static_cast<char>(passed));
+        ++caret;
+    }
+    mirror->TextEdited(focus, text, caret);
+}
+
+void MirrorDriver::Type(const std::string& text) {
+    for (char c : text) {
+        const auto code = static_cast<unsigned char>(c);
+        // Punctuation has its own key codes, which must not read as the arrows and Delete that
+        // share their character numbers.
+        int keyCode = 0xBE;
+        if (code >= 'a' && code <= 'z') {
+            keyCode = code - 32;
+        } else if ((code >= 'A' && code <= 'Z') || (code >= '0' && code <= '9') || code == ' ') {
+            keyCode = code;
+        }
+        Key(keyCode, code);
+    }
+}
+
+void MirrorDriver::Enter() {
+    Key(KeyCode::Enter, KeyCode::Enter);
+}
+
+void MirrorDriver::Backspace() {
+    Key(KeyCode::Backspace, KeyCode::Backspace);
+}
+
+void MirrorDriver::Press(int keyCode) {
+    Key(keyCode, 0);
+}
+
+void MirrorDriver::StartConverse() {
+    mirror->StartWindow();
+    mirror->Click(MirrorControl::cmdConverse);
+}
+
+void MirrorDriver::Converse(const std::string& entry) {
+    Type(entry);
+    Enter();
+}
+
+} // namespace veyrant::testing
