@@ -5,9 +5,9 @@
 // events into the calls below.
 
 #include "core/WindowLayer.h"
-#include "dialogue/DialogueStore.h"
 #include "dialogue/MirrorControls.h"
 #include "dialogue/MirrorState.h"
+#include "storage/WorkBuffers.h"
 
 #include <functional>
 #include <optional>
@@ -15,26 +15,16 @@
 
 namespace veyrant {
 
-class Clock;
-class Random;
+struct Application;
 class DialogueEngine;
-struct Settings;
+class DialogueLibrary;
 
 enum class MouseButton { Left, Right, Middle };
 
-// The display size of this run, chosen at start-up.
-struct MirrorScale {
-    double ScaleFactor = 1.0;
-    double ButtonFontSize = 8.25;
-    double TextSize1 = 12;
-    double TextSize2 = 13.5;
-    bool TextSize1Bold = true;
-};
-
 class Mirror {
 public:
-    Mirror(WindowLayer& layer, const Clock& clock, Random& random, DialogueEngine& engine,
-           DialogueStore& store, Settings& settings, const MirrorScale& scale);
+    Mirror(Application& app, DialogueEngine& engine, WorkBuffers& buffers,
+           DialogueLibrary& library);
 
     const MirrorControls& Controls() const { return controls_; }
     const MirrorState& State() const { return state_; }
@@ -69,8 +59,9 @@ public:
     // The visible state as short stable lines, for tests and diagnosis.
     std::string Dump() const;
 
-    // Set by the closing sequence; the focus rule stands down while it is 1.
-    int ClosingState = 0;
+    // The window closes: a running Dialogue goes into the work buffers, to reopen next time.
+    void Unload();
+
     // The background window's visibility, kept by its owner.
     bool BackVisible = false;
 
@@ -147,7 +138,9 @@ private:
     void ContinueDialogue();
     void SaveDialogue();
     void ClickNewCaption();
-    DialogueRecord Record() const;
+    DialogueBuffers Record() const;
+    bool GuestMode() const;
+    std::string LibraryStatusText(const std::string& suggestionText) const;
 
     // Platform.
     MessageAnswer Message(const std::string& title, const std::string& text,
@@ -158,13 +151,10 @@ private:
 
     Control& C(MirrorControl control) { return controls_[control]; }
 
-    WindowLayer& layer_;
-    const Clock& clock_;
-    Random& random_;
+    Application& app_;
     DialogueEngine& engine_;
-    DialogueStore& store_;
-    Settings& settings_;
-    MirrorScale scale_;
+    WorkBuffers& buffers_;
+    DialogueLibrary& library_;
     std::function<void()> painter_;
 
     MirrorControls controls_;

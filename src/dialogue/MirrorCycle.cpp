@@ -8,6 +8,7 @@
 #include "dialogue/KeyCodes.h"
 #include "dialogue/Mirror.h"
 #include "dialogue/MirrorTexts.h"
+#include "shell/Application.h"
 
 namespace veyrant {
 
@@ -135,7 +136,7 @@ void Mirror::StartEntry(int kind) {
     state_.PairState = 0;
     state_.EntryFailed = 0;
     state_.AwaitingEnter = 0;
-    state_.EntryStartTime = clock_.Timer();
+    state_.EntryStartTime = app_.Clock.Timer();
 
     auto& mirror = C(MirrorControl::txtMirror);
     mirror.Background = Colour::EntryYellow;
@@ -213,7 +214,7 @@ void Mirror::SetEntryLimits(int kind) {
 
 void Mirror::UpdateTitle() {
     controls_.Title = std::string(MirrorText::TitleLead) + state_.TitleMethod + " -- " +
-                      FormatDate(clock_.Now(), MirrorText::TitleDateFormat);
+                      FormatDate(app_.Clock.Now(), MirrorText::TitleDateFormat);
 }
 
 void Mirror::ShowInstruction() {
@@ -334,7 +335,7 @@ void Mirror::ProcessEntry() {
     ++state_.CycleCount;
     mirror.Text += CloseQuote;
     Yield();
-    state_.SeriesSeed = clock_.Timer();
+    state_.SeriesSeed = app_.Clock.Timer();
     engine_.StretchSeeds(state_.SeriesSeed);
     state_.AnswerFlag = engine_.RollAnswer(25);
 

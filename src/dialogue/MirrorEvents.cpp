@@ -3,6 +3,7 @@
 
 #include "dialogue/Mirror.h"
 #include "dialogue/MirrorTexts.h"
+#include "shell/Application.h"
 
 namespace veyrant {
 
@@ -35,10 +36,9 @@ bool IsTextBox(MirrorControl control) {
 
 } // namespace
 
-Mirror::Mirror(WindowLayer& layer, const Clock& clock, Random& random, DialogueEngine& engine,
-               DialogueStore& store, Settings& settings, const MirrorScale& scale)
-    : layer_(layer), clock_(clock), random_(random), engine_(engine), store_(store),
-      settings_(settings), scale_(scale) {
+Mirror::Mirror(Application& app, DialogueEngine& engine, WorkBuffers& buffers,
+               DialogueLibrary& library)
+    : app_(app), engine_(engine), buffers_(buffers), library_(library) {
     ScaleAtCreation();
     // Nothing shows until the delayed start has reset the Dialogue.
     for (auto& control : controls_.Items) {
@@ -173,12 +173,12 @@ MessageAnswer Mirror::Message(const std::string& title, const std::string& text,
     request.Text = text;
     request.Icon = icon;
     request.Buttons = buttons;
-    return layer_.ShowMessage(request);
+    return app_.Windows.ShowMessage(request);
 }
 
 void Mirror::Yield() {
     Paint();
-    layer_.Yield();
+    app_.Windows.Yield();
 }
 
 void Mirror::Paint() {

@@ -6,6 +6,8 @@
 #include "dialogue/DialogueEngine.h"
 #include "dialogue/Mirror.h"
 #include "dialogue/MirrorTexts.h"
+#include "shell/Application.h"
+#include "storage/DialogueLibrary.h"
 
 namespace veyrant {
 
@@ -26,7 +28,7 @@ void Mirror::MarkHover(MirrorControl control, const std::string& text) {
     C(control).Underlined = true;
     hoverText_ = text;
     hoverTicks_ = 0;
-    layer_.StartTimer(TimerId::MirrorHover, HoverInterval);
+    app_.Windows.StartTimer(TimerId::MirrorHover, HoverInterval);
 }
 
 void Mirror::ClearHover() {
@@ -53,7 +55,7 @@ void Mirror::HoverTick() {
         return;
     }
     ShowInstruction();
-    layer_.StopTimer(TimerId::MirrorHover);
+    app_.Windows.StopTimer(TimerId::MirrorHover);
     hoverTicks_ = 0;
 }
 
@@ -162,7 +164,7 @@ std::string Mirror::HelpFor(MirrorControl control) const {
             return "The Dialogue Library is already open. You must close the Read window to "
                    "right-click for Library Options.";
         }
-        const int saved = store_.SavedCount();
+        const int saved = library_.Listing().LibraryCount;
         if (saved == 0) {
             return "Open the Dialogue Library. You have no saved Dialogues. Right-click for "
                    "Library Options.";
@@ -199,7 +201,7 @@ void Mirror::ResponseHover() {
     hoverControl_.reset();
     hoverText_ = tip;
     hoverTicks_ = 0;
-    layer_.StartTimer(TimerId::MirrorHover, HoverInterval);
+    app_.Windows.StartTimer(TimerId::MirrorHover, HoverInterval);
 }
 
 void Mirror::NoteHover() {
@@ -212,7 +214,7 @@ void Mirror::NoteHover() {
     ClearHover();
     hoverText_ = MirrorText::TipKeys;
     hoverTicks_ = 0;
-    layer_.StartTimer(TimerId::MirrorHover, HoverInterval);
+    app_.Windows.StartTimer(TimerId::MirrorHover, HoverInterval);
 }
 
 void Mirror::SetResponse(const std::string& text, Colour background) {
@@ -227,7 +229,7 @@ void Mirror::SetResponse(const std::string& text, Colour background) {
 // the Direction, the Inspiration and the Suggestion, and leaves anything else where it is.
 void Mirror::ClickResponse() {
     if (state_.ActiveMethod == 0) {
-        state_.SeriesSeed = clock_.Timer();
+        state_.SeriesSeed = app_.Clock.Timer();
         engine_.StretchSeeds(state_.SeriesSeed);
         state_.InspirationText = engine_.RequestInspiration();
         state_.InspirationView = "Inspiration\r\n" + state_.InspirationText;

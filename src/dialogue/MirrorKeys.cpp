@@ -7,6 +7,7 @@
 #include "dialogue/KeyCodes.h"
 #include "dialogue/Mirror.h"
 #include "dialogue/MirrorTexts.h"
+#include "shell/Application.h"
 
 namespace veyrant {
 
@@ -70,7 +71,7 @@ int Mirror::KeyPress(int keyAscii) {
 // The newest key goes into the series with the time it was typed, so that the Sagrel's draws
 // follow the rhythm and the letters of the typing.
 void Mirror::RecordKey(int characterCode) {
-    engine_.RecordKey(clock_.Timer(), characterCode);
+    engine_.RecordKey(app_.Clock.Timer(), characterCode);
 }
 
 int Mirror::MirrorKeyDown(int keyCode) {
@@ -214,7 +215,7 @@ void Mirror::ClickEntryBox() {
     ShowInstruction();
     ClearHover();
     hoverTicks_ = 0;
-    layer_.StopTimer(TimerId::MirrorHover);
+    app_.Windows.StopTimer(TimerId::MirrorHover);
     if (state_.AwaitingEnter == 1) {
         C(MirrorControl::txtMirror).Caret = 0;
         Message(std::string(MirrorText::HelpTitle),
@@ -257,7 +258,7 @@ void Mirror::FocusLost(MirrorControl control) {
 // The entry box keeps the focus whenever it is enabled; while it is not and the list box shows,
 // the list box keeps it.
 void Mirror::FocusGained(MirrorControl) {
-    if (ClosingState == 1) {
+    if (app_.ClosingState == ClosingStates::Exiting) {
         return;
     }
     if (C(MirrorControl::txtMirror).Enabled) {

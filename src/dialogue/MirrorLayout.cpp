@@ -2,86 +2,74 @@
 // three arrangements of the boxes, the text sizes, and the keys the window takes before its
 // boxes.
 
+#include "shell/MirrorLayout.h"
+
 #include "dialogue/KeyCodes.h"
 #include "dialogue/Mirror.h"
-#include "shell/Settings.h"
+#include "shell/Application.h"
 
 #include <cmath>
+#include <utility>
 
 namespace veyrant {
 
 namespace {
 
-struct DesignPlace {
-    MirrorControl Control;
-    int Left;
-    int Top;
-    int Width;
-    int Height;
-};
-
-// Twips at the design size. The boxes' vertical places are those of the arrangements; the
-// buttons sit on Panel1 above them and in a column to their right.
-constexpr DesignPlace DesignPlaces[] = {
-    {MirrorControl::Panel1, 0, 0, 9060, 840},
-    {MirrorControl::cmdConverse, 240, 180, 1200, 480},
-    {MirrorControl::cmdSuppose, 1500, 180, 1200, 480},
-    {MirrorControl::cmdNotate, 2760, 180, 1200, 480},
-    {MirrorControl::cmdKnow, 5100, 180, 1140, 480},
-    {MirrorControl::cmdRetrieve, 6300, 180, 1140, 480},
-    {MirrorControl::cmdHelp, 7680, 180, 1140, 480},
-    {MirrorControl::txtResponse, 240, 960, 6960, 1335},
-    {MirrorControl::txtMirror, 240, 2280, 6960, 660},
-    {MirrorControl::txtAnalyze, 240, 3000, 6960, 2175},
-    {MirrorControl::txtSaved, 240, 3000, 6960, 2175},
-    {MirrorControl::lblRem, 7230, 2760, 420, 300},
-    {MirrorControl::lblRemS, 7230, 4875, 420, 300},
-    {MirrorControl::cmdClear, 7740, 960, 1080, 480},
-    {MirrorControl::cmdRemove, 7740, 1560, 1080, 480},
-    {MirrorControl::cmdDisplay, 7740, 2160, 1080, 480},
-    {MirrorControl::cmdPrint, 7740, 3000, 1080, 480},
-    {MirrorControl::cmdSave, 7740, 3600, 1080, 480},
-    {MirrorControl::cmdNew, 7740, 4695, 1080, 480},
-    {MirrorControl::txtNote, 240, 5610, 8580, 450},
-};
-
-constexpr int DesignClientWidth = 9060;
-constexpr int DesignClientHeight = 6210;
-// The frame of the window is not scaled.
-constexpr int FrameWidth = 90;
-constexpr int FrameHeight = 405;
+int Twips(double scaled) {
+    return static_cast<int>(std::lround(scaled));
+}
 
 } // namespace
 
 int Mirror::WindowWidth() const {
-    return static_cast<int>(std::lround(DesignClientWidth * scale_.ScaleFactor)) + FrameWidth;
+    return Twips(ScaleMirrorLayout(MirrorDesign(), app_.Scale.ScaleFactor).WindowWidth);
 }
 
 int Mirror::WindowHeight() const {
-    return static_cast<int>(std::lround(DesignClientHeight * scale_.ScaleFactor)) + FrameHeight;
+    return Twips(ScaleMirrorLayout(MirrorDesign(), app_.Scale.ScaleFactor).WindowHeight);
 }
 
 void Mirror::ScaleAtCreation() {
-    const auto scaled = [this](int twips) {
-        return static_cast<int>(std::lround(twips * scale_.ScaleFactor));
+    const MirrorLayout layout = ScaleMirrorLayout(MirrorDesign(), app_.Scale.ScaleFactor);
+    const std::pair<MirrorControl, const ControlPlace*> places[] = {
+        {MirrorControl::Panel1, &layout.Panel1},
+        {MirrorControl::cmdConverse, &layout.cmdConverse},
+        {MirrorControl::cmdSuppose, &layout.cmdSuppose},
+        {MirrorControl::cmdNotate, &layout.cmdNotate},
+        {MirrorControl::cmdKnow, &layout.cmdKnow},
+        {MirrorControl::cmdRetrieve, &layout.cmdRetrieve},
+        {MirrorControl::cmdHelp, &layout.cmdHelp},
+        {MirrorControl::cmdClear, &layout.cmdClear},
+        {MirrorControl::cmdRemove, &layout.cmdRemove},
+        {MirrorControl::cmdDisplay, &layout.cmdDisplay},
+        {MirrorControl::cmdPrint, &layout.cmdPrint},
+        {MirrorControl::cmdSave, &layout.cmdSave},
+        {MirrorControl::cmdNew, &layout.cmdNew},
+        {MirrorControl::txtResponse, &layout.txtResponse},
+        {MirrorControl::txtMirror, &layout.txtMirror},
+        {MirrorControl::txtSaved, &layout.txtSaved},
+        {MirrorControl::txtAnalyze, &layout.txtAnalyze},
+        {MirrorControl::txtNote, &layout.txtNote},
+        {MirrorControl::lblRem, &layout.lblRem},
+        {MirrorControl::lblRemS, &layout.lblRemS},
     };
-    for (const auto& place : DesignPlaces) {
-        auto& control = C(place.Control);
-        control.Left = scaled(place.Left);
-        control.Top = scaled(place.Top);
-        control.Width = scaled(place.Width);
-        control.Height = scaled(place.Height);
-        control.FontSize = scale_.ButtonFontSize;
+    for (const auto& [id, place] : places) {
+        auto& control = C(id);
+        control.Left = Twips(place->Left);
+        control.Top = Twips(place->Top);
+        control.Width = Twips(place->Width);
+        control.Height = Twips(place->Height);
+        control.FontSize = app_.Scale.ButtonFontSize;
     }
-    C(MirrorControl::Window).Width = WindowWidth();
-    C(MirrorControl::Window).Height = WindowHeight();
+    C(MirrorControl::Window).Width = Twips(layout.WindowWidth);
+    C(MirrorControl::Window).Height = Twips(layout.WindowHeight);
     ApplyWriteFont();
 }
 
 void Mirror::Place(MirrorControl control, int top, int height) {
-    C(control).Top = static_cast<int>(std::lround(top * scale_.ScaleFactor));
+    C(control).Top = static_cast<int>(std::lround(top * app_.Scale.ScaleFactor));
     if (height > 0) {
-        C(control).Height = static_cast<int>(std::lround(height * scale_.ScaleFactor));
+        C(control).Height = static_cast<int>(std::lround(height * app_.Scale.ScaleFactor));
     }
 }
 
@@ -89,7 +77,7 @@ void Mirror::ArrangeOpening() {
     Place(MirrorControl::txtResponse, 960, 1820);
     Place(MirrorControl::txtMirror, 2480, 0);
     Place(MirrorControl::txtSaved, 2760, 2745);
-    C(MirrorControl::lblRem).FontSize = scale_.ButtonFontSize;
+    C(MirrorControl::lblRem).FontSize = app_.Scale.ButtonFontSize;
 }
 
 // While an entry is typed it stands below the response; once answered, above it, so the eye
@@ -99,7 +87,7 @@ void Mirror::ArrangeEntry() {
     Place(MirrorControl::txtMirror, 2280, 0);
     Place(MirrorControl::lblRem, 2760, 0);
     Place(MirrorControl::txtSaved, 3000, 2175);
-    C(MirrorControl::lblRem).FontSize = scale_.ButtonFontSize;
+    C(MirrorControl::lblRem).FontSize = app_.Scale.ButtonFontSize;
 }
 
 void Mirror::ArrangeResult() {
@@ -107,20 +95,20 @@ void Mirror::ArrangeResult() {
     Place(MirrorControl::txtMirror, 960, 0);
     Place(MirrorControl::lblRem, 1440, 0);
     Place(MirrorControl::txtSaved, 3000, 2175);
-    C(MirrorControl::lblRem).FontSize = scale_.ButtonFontSize;
+    C(MirrorControl::lblRem).FontSize = app_.Scale.ButtonFontSize;
 }
 
 void Mirror::ApplyWriteFont() {
-    const bool large = settings_.WriteFontStep == 2;
+    const bool large = app_.UserSettings.WriteFontStep == 2;
     for (auto box : {MirrorControl::txtMirror, MirrorControl::txtResponse,
                      MirrorControl::txtAnalyze, MirrorControl::txtSaved}) {
-        C(box).FontSize = large ? scale_.TextSize2 : scale_.TextSize1;
-        C(box).FontBold = !large && scale_.TextSize1Bold;
+        C(box).FontSize = large ? app_.Scale.TextSize[2] : app_.Scale.TextSize[1];
+        C(box).FontBold = !large && app_.Scale.TextSize1Bold;
     }
 }
 
 void Mirror::ToggleWriteFont() {
-    settings_.WriteFontStep = settings_.WriteFontStep == 1 ? 2 : 1;
+    app_.UserSettings.WriteFontStep = app_.UserSettings.WriteFontStep == 1 ? 2 : 1;
     ApplyWriteFont();
 }
 

@@ -8,6 +8,9 @@
 #include "dialogue/Mirror.h"
 #include "dialogue/MirrorTexts.h"
 #include "dialogue/Transcript.h"
+#include "shell/Application.h"
+#include "storage/DialogueLibrary.h"
+#include "storage/LibraryStatus.h"
 
 namespace veyrant {
 
@@ -25,7 +28,22 @@ std::string AgeText(int days) {
 
 } // namespace
 
-DialogueRecord Mirror::Record() const {
+bool Mirror::GuestMode() const {
+    return app_.UserSettings.GuestMode == 1;
+}
+
+std::string Mirror::LibraryStatusText(const std::string& suggestionText) const {
+    return suggestionText + "\r\n\r\n" + GenLibStatus(library_.Listing(), app_.UserSettings);
+}
+
+void Mirror::Unload() {
+    if (state_.ActiveMethod > 0 && !state_.DialogueText.empty()) {
+        buffers_.WriteWorkBuffers(Record());
+    }
+    C(MirrorControl::txtMirror).Enabled = false;
+}
+
+DialogueBuffers Mirror::Record() const {
     return {state_.InspirationText, state_.DialogueText, state_.SuggestionText, state_.PairCount};
 }
 
@@ -44,8 +62,8 @@ void Mirror::ResetDialogue() {
     state_.DialogueText.clear();
     state_.CycleCount = 0;
 
-    random_.Seed(clock_.Timer());
-    state_.CycleGoal = static_cast<int>(10 * random_.Draw()) + 3;
+    app_.Random.Seed(app_.Clock.Timer());
+    state_.CycleGoal = static_cast<int>(10 * app_.Random.Draw()) + 3;
 
     if (LoadPriorDialogue()) {
         return;
@@ -71,8 +89,8 @@ void Mirror::ResetDialogue() {
         state_.TitleShownOnce = true;
         controls_.Title = std::string(MirrorText::ProductLine);
     } else {
-        controls_.Title = store_.GuestMode() ? "Veyrant Sagrel -- New Dialogue -- Guest Mode"
-                                             : "Veyrant Sagrel -- New Dialogue";
+        controls_.Title = GuestMode() ? "Veyrant Sagrel -- New Dialogue -- Guest Mode"
+                                      : "Veyrant Sagrel -- New Dialogue";
     }
     state_.InstructionText = "Reflect upon the Inspiration and Suggestion to compose your thoughts "
                              "before you begin. Click either text to change it.";
@@ -97,19 +115,19 @@ void Mirror::ResetDialogue() {
 
 bool Mirror::LoadPriorDialogue() {
     state_.ActiveMethod = 0;
-    const auto prior = store_.ReadWorkBuffers();
+    const auto prior = buffers_.ReadWorkBuffers();
     if (!prior) {
         return false;
     }
-    state_.InspirationText = prior->Record.InspirationText;
-    state_.DialogueText = prior->Record.DialogueText;
-    state_.SuggestionText = prior->Record.SuggestionText;
-    state_.PairCount = prior->Record.PairCount;
+    state_.InspirationText = prior->Buffers.InspirationText;
+    state_.DialogueText = prior->Buffers.DialogueText;
+    state_.SuggestionText = prior->Buffers.SuggestionText;
+    state_.PairCount = prior->Buffers.PairCount;
     state_.InspirationView = "Inspiration\r\n" + state_.InspirationText;
 
-    state_.TitleMethod = PagesTitle(state_.PairCount) + AgeText(prior->AgeDays);
+    state_.TitleMethod = PagesTitle(state_.PairCount) + AgeText(prior->PriorAge);
     controls_.Title = std::string(MirrorText::TitleLead) + state_.TitleMethod + " -- " +
-                      FormatDate(prior->Written, MirrorText::TitleDateFormat);
+                      FormatDate(prior->BufferDate, MirrorText::TitleDateFormat);
 
     state_.DialogueView = "Dialogue" + state_.DialogueText;
     C(MirrorControl::cmdNew).Text = "New";
@@ -125,7 +143,7 @@ bool Mirror::LoadPriorDialogue() {
         C(button).Visible = true;
         C(button).Enabled = true;
     }
-    C(MirrorControl::cmdSave).Enabled = !store_.GuestMode();
+    C(MirrorControl::cmdSave).Enabled = !GuestMode();
     C(MirrorControl::cmdDisplay).Text = "File";
     C(MirrorControl::cmdRemove).Text = "Continue";
     state_.InstructionText = "Click 'Continue' to open and continue the prior Dialogue. Or click "
@@ -136,13 +154,13 @@ bool Mirror::LoadPriorDialogue() {
 }
 
 void Mirror::BeginDialogue() {
-    state_.SeriesSeed = clock_.Timer();
+    state_.SeriesSeed = app_.Clock.Timer();
     engine_.StretchSeeds(state_.SeriesSeed);
     state_.InspirationText = engine_.RequestInspiration();
     state_.InspirationView = "Inspiration\r\n" + state_.InspirationText;
     SetResponse(state_.InspirationView, C(MirrorControl::txtResponse).Background);
     state_.SuggestionText = engine_.PickGuidance();
-    C(MirrorControl::txtSaved).Text = store_.LibraryStatus(state_.SuggestionText);
+    C(MirrorControl::txtSaved).Text = LibraryStatusText(state_.SuggestionText);
 }
 
 void Mirror::FinishDialogue() {
@@ -152,10 +170,10 @@ void Mirror::FinishDialogue() {
         C(button).Enabled = false;
     }
     state_.InstructionText =
-        store_.GuestMode() ? "To keep your Dialogue, click 'Print' or 'File'. Click 'New' to "
-                             "delete the Dialogue and begin another."
-                           : "To keep your Dialogue, click 'Save', or close the program. Click "
-                             "'New' to delete the Dialogue and begin another.";
+        GuestMode() ? "To keep your Dialogue, click 'Print' or 'File'. Click 'New' to "
+                      "delete the Dialogue and begin another."
+                    : "To keep your Dialogue, click 'Save', or close the program. Click "
+                      "'New' to delete the Dialogue and begin another.";
     state_.InstructionColour = Colour::Black;
     state_.TitleMethod = PagesTitle(state_.PairCount);
     UpdateTitle();
@@ -170,14 +188,14 @@ void Mirror::FinishDialogue() {
         state_.DialogueView = C(MirrorControl::txtSaved).Text;
         ShowDialogueFull();
     }
-    store_.WriteWorkBuffers(Record());
+    buffers_.WriteWorkBuffers(Record());
 
     C(MirrorControl::lblRem).Visible = false;
     C(MirrorControl::lblRemS).Visible = false;
     state_.ActiveMethod = 0;
     C(MirrorControl::cmdNew).Text = "New";
     C(MirrorControl::cmdNew).Enabled = true;
-    C(MirrorControl::cmdSave).Enabled = !store_.GuestMode();
+    C(MirrorControl::cmdSave).Enabled = !GuestMode();
     C(MirrorControl::cmdDisplay).Text = "File";
     C(MirrorControl::cmdDisplay).Enabled = true;
     C(MirrorControl::cmdPrint).Enabled = true;
@@ -200,12 +218,17 @@ void Mirror::ContinueDialogue() {
 
 void Mirror::SaveDialogue() {
     C(MirrorControl::cmdSave).Enabled = false;
-    layer_.SetBusyPointer(true);
-    store_.AddToLibrary(Record());
+    app_.Windows.SetBusyPointer(true);
+    if (!library_.AddToLibrary(state_.InspirationText, state_.DialogueText)) {
+        // The box has told why; the Dialogue stays as it is, to be saved again or kept.
+        C(MirrorControl::cmdSave).Enabled = true;
+        app_.Windows.SetBusyPointer(false);
+        return;
+    }
     state_.DialogueSaved = 1;
     C(MirrorControl::cmdNew).Text = "New";
     Click(MirrorControl::cmdNew);
-    layer_.SetBusyPointer(false);
+    app_.Windows.SetBusyPointer(false);
 }
 
 void Mirror::ClickNewCaption() {
@@ -223,7 +246,7 @@ void Mirror::ClickNewCaption() {
             ResetDialogue();
         }
     } else if (caption == "New") {
-        if (!state_.DialogueText.empty() && !store_.GuestMode() && state_.DialogueSaved == 0) {
+        if (!state_.DialogueText.empty() && !GuestMode() && state_.DialogueSaved == 0) {
             const auto answer =
                 Message("Save Finished Dialogue",
                         "When you click 'Save', your Dialogue is added to the Library, where you "
@@ -237,7 +260,7 @@ void Mirror::ClickNewCaption() {
             }
         }
         state_.DialogueSaved = 0;
-        store_.DeleteWorkBuffers();
+        buffers_.DeleteWorkBuffers();
         ResetDialogue();
     }
 }

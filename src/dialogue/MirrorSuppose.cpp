@@ -5,6 +5,7 @@
 #include "dialogue/DialogueEngine.h"
 #include "dialogue/Mirror.h"
 #include "dialogue/MirrorTexts.h"
+#include "shell/Application.h"
 
 namespace veyrant {
 

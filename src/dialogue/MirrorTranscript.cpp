@@ -5,6 +5,7 @@
 #include "dialogue/DialogueEngine.h"
 #include "dialogue/Mirror.h"
 #include "dialogue/Transcript.h"
+#include "shell/Application.h"
 
 namespace veyrant {
 
@@ -147,7 +148,7 @@ void Mirror::ClickDisplay() {
 void Mirror::ClickSaved() {
     if (state_.ActiveMethod == 0 && state_.DisplayFull == 0) {
         state_.SuggestionText = engine_.PickGuidance();
-        C(MirrorControl::txtSaved).Text = store_.LibraryStatus(state_.SuggestionText);
+        C(MirrorControl::txtSaved).Text = LibraryStatusText(state_.SuggestionText);
         return;
     }
     const auto& display = C(MirrorControl::cmdDisplay);

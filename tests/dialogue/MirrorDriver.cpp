@@ -60,8 +60,25 @@ float ScriptedRandom::Draw() {
     return draw;
 }
 
-MirrorDriver::MirrorDriver(const MirrorScale& scale)
-    : mirror(std::make_unique<Mirror>(Layer, Clock, Draws, Engine, Store, Options, scale)) {}
+MirrorDriver::MirrorDriver(int displayOption)
+    : App(AppFolder{Temp.Path()}, Temp / "program", Clock, Draws, Layer),
+      Library(App.Folder, App.UserSettings, Clock, Layer),
+      Buffers(App.Folder, App.UserSettings, Clock, Layer) {
+    std::filesystem::create_directories(App.Folder.Exe());
+    App.UserSettings.DisplayOption = static_cast<std::int16_t>(displayOption);
+    SetDisplayScale(displayOption, App.Scale);
+    mirror = std::make_unique<Mirror>(App, Engine, Buffers, Library);
+}
+
+void MirrorDriver::LeavePriorDialogue(int pairCount) {
+    std::string dialogue;
+    for (int item = 1; item <= pairCount; ++item) {
+        dialogue += "\r\n\r\n\t\x93"
+                    "Entry " +
+                    std::to_string(item) + ".\x94\r\n\tResponse.";
+    }
+    Buffers.WriteWorkBuffers({"\tAn old inspiration.", dialogue, "An old suggestion.", pairCount});
+}
 
 void MirrorDriver::Key(int keyCode, int keyAscii) {
     const bool passedDown = mirror->KeyDown(keyCode) != 0;

@@ -5,11 +5,13 @@
 
 #include "core/Random.h"
 #include "dialogue/DialogueEngine.h"
-#include "dialogue/DialogueStore.h"
 #include "dialogue/Mirror.h"
-#include "shell/Settings.h"
+#include "shell/Application.h"
+#include "storage/DialogueLibrary.h"
+#include "storage/WorkBuffers.h"
 #include "support/FakeClock.h"
 #include "support/FakeWindowLayer.h"
+#include "support/TempFolder.h"
 
 #include <deque>
 #include <memory>
@@ -44,29 +46,6 @@ public:
     int Guidances = 0;
 };
 
-class FakeStore : public DialogueStore {
-public:
-    std::optional<PriorDialogue> ReadWorkBuffers() override { return Prior; }
-    void WriteWorkBuffers(const DialogueRecord& record) override { Written.push_back(record); }
-    void DeleteWorkBuffers() override {
-        ++Deletes;
-        Prior.reset();
-    }
-    void AddToLibrary(const DialogueRecord& record) override { Added.push_back(record); }
-    std::string LibraryStatus(const std::string& suggestionText) override {
-        return suggestionText + "\r\n\r\nDialogue Library Status";
-    }
-    int SavedCount() const override { return Saved; }
-    bool GuestMode() const override { return Guest; }
-
-    std::optional<PriorDialogue> Prior;
-    std::vector<DialogueRecord> Written;
-    std::vector<DialogueRecord> Added;
-    int Deletes = 0;
-    int Saved = 0;
-    bool Guest = false;
-};
-
 // Every draw is the next scripted value, or the last one when the script runs out.
 class ScriptedRandom : public Random {
 public:
@@ -77,7 +56,7 @@ public:
 
 class MirrorDriver {
 public:
-    explicit MirrorDriver(const MirrorScale& scale = {});
+    explicit MirrorDriver(int displayOption = 1);
 
     // Types each character of text (Windows-1252) into the focused box.
     void Type(const std::string& text);
@@ -95,12 +74,17 @@ public:
     std::string Text(MirrorControl control) const { return Box(control).Text; }
     const MirrorState& State() const { return mirror->State(); }
 
+    // Leaves work buffers that reopen as a Prior Dialogue of that many items.
+    void LeavePriorDialogue(int pairCount);
+
+    TempFolder Temp;
     FakeWindowLayer Layer;
     FakeClock Clock;
     ScriptedRandom Draws;
     ScriptedEngine Engine;
-    FakeStore Store;
-    Settings Options;
+    Application App;
+    DialogueLibrary Library;
+    WorkBuffers Buffers;
     std::unique_ptr<Mirror> mirror;
 };
 
