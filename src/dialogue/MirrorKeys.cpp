@@ -251,13 +251,14 @@ void Mirror::CaretMoved(MirrorControl control, long caret, long selectionLength)
 
 void Mirror::FocusLost(MirrorControl control) {
     if (control == MirrorControl::txtMirror) {
-        FocusGained(control);
+        FocusGained(MirrorControl::Window);
     }
 }
 
 // The entry box keeps the focus whenever it is enabled; while it is not and the list box shows,
 // the list box keeps it.
-void Mirror::FocusGained(MirrorControl) {
+void Mirror::FocusGained(MirrorControl control) {
+    controls_.Focus = control;
     if (app_.ClosingState == ClosingStates::Exiting) {
         return;
     }
