@@ -1,0 +1,83 @@
+#pragma once
+
+// The authored content as read from data/, before it is compiled: phrase stocks as groups of
+// rows, plans that name their parts by label, the engine settings, and the Suggestions. Text is
+// already Windows-1252 here; every item remembers where it was written.
+
+#include <array>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace veyrant::content {
+
+struct SourcePlace {
+    std::string File;
+    int Line = 0;
+};
+
+// A fault in the content, named by file and line.
+class ContentError : public std::runtime_error {
+public:
+    ContentError(const SourcePlace& place, const std::string& message)
+        : std::runtime_error(place.File + ":" + std::to_string(place.Line) + ": " + message) {}
+};
+
+inline constexpr int StockCount = 14;
+
+// A group becomes one component: its label row, then its phrase rows (repeats written out).
+struct PhraseGroup {
+    std::string Label; // as authored, e.g. "Expect-yes" or "."
+    std::vector<std::string> Rows;
+    SourcePlace Place;
+};
+
+struct StockSource {
+    std::vector<PhraseGroup> Groups;
+    SourcePlace Place;
+};
+
+// A choice is a list of names (labels in a section, section names in a message); an empty
+// list is the empty choice.
+using PlanChoice = std::vector<std::string>;
+
+struct PlanBlockSource {
+    std::array<std::vector<PlanChoice>, 7> Slots; // slots 1 to 6
+    SourcePlace Place;
+};
+
+struct PlanDefinition {
+    std::string Name;
+    int Number = 0; // messages only
+    std::vector<PlanBlockSource> Blocks;
+    SourcePlace Place;
+};
+
+struct NameList {
+    std::vector<std::string> Names;
+    SourcePlace Place;
+};
+
+struct ContentSources {
+    std::array<StockSource, StockCount + 1> Stocks; // 1 to 14
+    std::vector<PlanDefinition> Messages;
+    std::vector<PlanDefinition> Sections;
+    int MaxSections = 0;
+    int MaxComponents = 0;
+    SourcePlace LimitsPlace;
+    NameList CaseKeepers;
+    NameList TightJoiners;
+    std::vector<std::string> Suggestions;
+};
+
+// Each raises ContentError.
+StockSource ReadStockSource(const std::string& fileName, std::string_view utf8);
+void ReadPlanSource(const std::string& fileName, std::string_view utf8, ContentSources& sources);
+std::vector<std::string> ReadSuggestionSource(const std::string& fileName, std::string_view utf8);
+
+// The text lines of a source file in Windows-1252, with comments and outer blanks removed;
+// blank lines are kept as empty strings so that line numbers hold.
+std::vector<std::string> SourceLines(const std::string& fileName, std::string_view utf8);
+
+} // namespace veyrant::content

@@ -1,0 +1,172 @@
+// sample-replies [--count N] [--message M] [--seed SECONDS]
+//
+// Prints composed replies for every message number, or for one, as the program would show
+// them, from a given clock reading. Content authors run it after each change to data/.
+
+#include "core/Clock.h"
+#include "core/Cp1252.h"
+#include "core/Random.h"
+#include "core/Text.h"
+#include "core/WindowLayer.h"
+#include "engine/Engine.h"
+#include "engine/EngineFiles.h"
+
+#include <cstdlib>
+#include <cstring>
+#include <filesystem>
+#include <iostream>
+#include <string>
+
+namespace {
+
+using namespace veyrant;
+
+// Boxes go to the error stream; nothing else of a window is needed here.
+class ConsoleWindowLayer final : public WindowLayer {
+public:
+    MessageAnswer ShowMessage(const MessageBoxRequest& request) override {
+        std::cerr << "[" << Cp1252ToUtf8(request.Title) << "] " << Cp1252ToUtf8(request.Text)
+                  << "\n";
+        return MessageAnswer::Ok;
+    }
+    void Yield() override {}
+    void SetBusyPointer(bool) override {}
+    void StartTimer(TimerId, int) override {}
+    void StopTimer(TimerId) override {}
+    void ShowWindow(WindowId) override {}
+    void HideWindow(WindowId) override {}
+    void MinimiseWindow(WindowId) override {}
+    void RestoreWindow(WindowId) override {}
+    bool IsWindowVisible(WindowId) const override { return false; }
+    int ScreenWidthTwips() const override { return 1920 * TwipsPerPixel; }
+    int ScreenHeightTwips() const override { return 1080 * TwipsPerPixel; }
+    int TextWidthTwips(const std::string&, double, bool, bool,
+                       const std::string& text) const override {
+        return static_cast<int>(text.size()) * 100;
+    }
+    bool HasFontFace(const std::string&, bool) const override { return true; }
+    void EndProcessAfter(int) override {}
+    void EndProcess() override {}
+};
+
+class SampleClock final : public Clock {
+public:
+    float Timer() const override { return Seconds; }
+    DateTime Now() const override { return {}; }
+    float Seconds = 0;
+};
+
+const char* const MessageNames[] = {"",
+                                    "answer to a yes-or-no question",
+                                    "answer to a \"who\" question",
+                                    "answer to a \"what\" question",
+                                    "answer to a \"when\" question",
+                                    "answer to a \"where\" question",
+                                    "answer to a \"why\" question",
+                                    "answer to a \"how\" question",
+                                    "answer to a statement",
+                                    "verdict on an idea, chosen",
+                                    "verdict on an idea, declined",
+                                    "remark on a yes-or-no question",
+                                    "remark on a question",
+                                    "remark on a statement",
+                                    "remark in the Supposition method",
+                                    "Inspiration",
+                                    "interjection about the conversation"};
+
+std::string Shown(const std::string& composed) {
+    return Trim(Mid(composed, 3));
+}
+
+// Asks for the message through the request the Write window would use, and gives the text as
+// the window shows it.
+std::string Reply(Engine& engine, int message) {
+    static const std::int16_t AnswerTypes[] = {0, 1, 10, 20, 30, 40, 50, 60, 2};
+    static const std::int16_t RemarkTypes[] = {1, 10, 2, 9};
+    if (message <= 8) {
+        engine.RequestAnswer(AnswerTypes[message]);
+        return Shown(engine.ReplyText);
+    }
+    if (message == 9) {
+        engine.RequestIdeaVerdict(1);
+        return std::string("Your idea ") + OpenQuote + "Move closer to the sea." + CloseQuote +
+               " " + engine.IdeaVerdict;
+    }
+    if (message == 10) {
+        engine.RequestIdeaVerdict(0);
+        return Shown(engine.IdeaVerdict);
+    }
+    if (message <= 14) {
+        engine.RequestRemark(RemarkTypes[message - 11]);
+        return Shown(engine.ReplyText);
+    }
+    if (message == 15) {
+        engine.RequestInspiration();
+        return Mid(engine.InspirationText, 2);
+    }
+    engine.RequestInterjection();
+    return Shown(engine.ReplyText);
+}
+
+int Usage() {
+    std::cerr << "usage: sample-replies [--count N] [--message 1-16] [--seed SECONDS]\n";
+    return 2;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    int count = 5;
+    int only = 0;
+    float seed = 43200.25f;
+    for (int i = 1; i + 1 < argc; i += 2) {
+        if (std::strcmp(argv[i], "--count") == 0) {
+            count = std::atoi(argv[i + 1]);
+        } else if (std::strcmp(argv[i], "--message") == 0) {
+            only = std::atoi(argv[i + 1]);
+        } else if (std::strcmp(argv[i], "--seed") == 0) {
+            seed = std::strtof(argv[i + 1], nullptr);
+        } else {
+            return Usage();
+        }
+    }
+    if (argc % 2 == 0 || count < 1 || only < 0 || only > 16) {
+        return Usage();
+    }
+    char folderName[] = "/tmp/sample-replies-XXXXXX";
+    if (mkdtemp(folderName) == nullptr) {
+        std::cerr << "sample-replies: cannot make a temporary folder\n";
+        return 1;
+    }
+    const AppFolder folder{folderName};
+    ConsoleWindowLayer windows;
+    SampleClock clock;
+    Random random;
+    Engine engine(random, clock, windows);
+    int status = 0;
+    try {
+        InstallEngineFiles(folder);
+        clock.Seconds = seed;
+        if (!engine.LoadSystem(folder)) {
+            status = 1;
+        }
+    } catch (const std::exception& error) {
+        std::cerr << "sample-replies: " << error.what() << "\n";
+        status = 1;
+    }
+    if (status == 0) {
+        engine.SeedSeries();
+        for (int message = only == 0 ? 1 : only; message <= (only == 0 ? 16 : only); ++message) {
+            std::cout << "Message " << message << ": " << MessageNames[message] << "\n";
+            for (int k = 0; k < count; ++k) {
+                // Each reply as if the entry were accepted a little later in the day.
+                clock.Seconds = seed + 7.31f * static_cast<float>(k + 1);
+                engine.SeriesSeed = clock.Timer();
+                engine.StretchSeeds();
+                std::cout << "    " << Cp1252ToUtf8(Reply(engine, message)) << "\n";
+            }
+        }
+    }
+    std::filesystem::remove_all(folderName);
+    return status;
+}
