@@ -2,6 +2,9 @@
 
 #include "core/Text.h"
 #include "dialogue/KeyCodes.h"
+#include "engine/EngineFiles.h"
+
+#include <stdexcept>
 
 namespace veyrant::testing {
 
@@ -53,21 +56,33 @@ std::string ScriptedEngine::PickGuidance() {
 }
 
 float ScriptedRandom::Draw() {
-    const float draw = Draws.front();
-    if (Draws.size() > 1) {
-        Draws.pop_front();
+    if (Draws.empty()) {
+        return Random::Draw();
     }
+    const float draw = Draws.front();
+    Draws.pop_front();
     return draw;
 }
 
-MirrorDriver::MirrorDriver(int displayOption)
+MirrorDriver::MirrorDriver(int displayOption, Replies replies)
     : App(AppFolder{Temp.Path()}, Temp / "program", Clock, Draws, Layer),
       Library(App.Folder, App.UserSettings, Clock, Layer),
       Buffers(App.Folder, App.UserSettings, Clock, Layer) {
     std::filesystem::create_directories(App.Folder.Exe());
     App.UserSettings.DisplayOption = static_cast<std::int16_t>(displayOption);
     SetDisplayScale(displayOption, App.Scale);
-    mirror = std::make_unique<Mirror>(App, Engine, Buffers, Library);
+    DialogueEngine* engine = &Engine;
+    if (replies == Replies::Composed) {
+        InstallEngineFiles(App.Folder);
+        RealEngine = std::make_unique<veyrant::Engine>(Draws, Clock, Layer);
+        if (!RealEngine->LoadSystem(App.Folder)) {
+            throw std::runtime_error("the engine data did not load");
+        }
+        RealEngine->SeedSeries();
+        Composer = std::make_unique<EngineDialogue>(*RealEngine);
+        engine = Composer.get();
+    }
+    mirror = std::make_unique<Mirror>(App, *engine, Buffers, Library);
 }
 
 void MirrorDriver::LeavePriorDialogue(int pairCount) {

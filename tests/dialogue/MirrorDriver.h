@@ -5,7 +5,9 @@
 
 #include "core/Random.h"
 #include "dialogue/DialogueEngine.h"
+#include "dialogue/EngineDialogue.h"
 #include "dialogue/Mirror.h"
+#include "engine/Engine.h"
 #include "shell/Application.h"
 #include "storage/DialogueLibrary.h"
 #include "storage/WorkBuffers.h"
@@ -46,17 +48,19 @@ public:
     int Guidances = 0;
 };
 
-// Every draw is the next scripted value, or the last one when the script runs out.
+// Draws from a script while it lasts, then as the program's own generator does.
 class ScriptedRandom : public Random {
 public:
-    void Seed(float) override {}
     float Draw() override;
-    std::deque<float> Draws{0.0f};
+    std::deque<float> Draws;
 };
 
 class MirrorDriver {
 public:
-    explicit MirrorDriver(int displayOption = 1);
+    // With the program's engine and its starter content in place of the scripted one.
+    enum class Replies { Scripted, Composed };
+
+    explicit MirrorDriver(int displayOption = 1, Replies replies = Replies::Scripted);
 
     // Types each character of text (Windows-1252) into the focused box.
     void Type(const std::string& text);
@@ -85,6 +89,8 @@ public:
     Application App;
     DialogueLibrary Library;
     WorkBuffers Buffers;
+    std::unique_ptr<veyrant::Engine> RealEngine;
+    std::unique_ptr<EngineDialogue> Composer;
     std::unique_ptr<Mirror> mirror;
 };
 
