@@ -33,16 +33,26 @@ int ScriptedEngine::RollAnswer(int percent) {
     return flag;
 }
 
+// As the program's engine does, a type with no message composes nothing and the last text comes
+// back again.
 std::string ScriptedEngine::RequestAnswer(int entryType) {
+    if (entryType <= 0 || entryType == 9) {
+        return Last;
+    }
     ++Compositions;
-    return "\t Answer " + std::to_string(Compositions) + " to type " + std::to_string(entryType) +
+    Last = "\t Answer " + std::to_string(Compositions) + " to type " + std::to_string(entryType) +
            ".  ";
+    return Last;
 }
 
 std::string ScriptedEngine::RequestRemark(int entryType) {
+    if (entryType <= 0) {
+        return Last;
+    }
     ++Compositions;
-    return "\t Remark " + std::to_string(Compositions) + " on type " + std::to_string(entryType) +
-           ".";
+    Last =
+        "\t Remark " + std::to_string(Compositions) + " on type " + std::to_string(entryType) + ".";
+    return Last;
 }
 
 std::string ScriptedEngine::RequestInspiration() {

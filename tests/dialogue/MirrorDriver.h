@@ -44,6 +44,7 @@ public:
     std::vector<float> KeyTimes;
     std::vector<float> Stretched;
     int Compositions = 0;
+    std::string Last;
     int Inspirations = 0;
     int Guidances = 0;
 };
