@@ -62,9 +62,6 @@ public:
     // The window closes: a running Dialogue goes into the work buffers, to reopen next time.
     void Unload();
 
-    // The background window's visibility, kept by its owner.
-    bool BackVisible = false;
-
 private:
     // Dialogue cycle.
     void ClickMethod(int kind);
@@ -72,6 +69,9 @@ private:
     void StartEntry(int kind);
     void ProcessEntry();
     void ProcessComment();
+    void TakeEntry();
+    void JudgeEntry();
+    void RejectLength();
     void RejectEntry(bool comment);
     void ShowResult();
     void SetEntryLimits(int kind);
@@ -85,6 +85,7 @@ private:
     void DeliverNotice();
     void SetFinishOrCancel();
     std::string DirectionFor(int kind) const;
+    std::string CommentInstruction() const;
 
     // Suppose: the list of ideas and the ends of the method.
     void OpenIdeaList();
@@ -160,7 +161,10 @@ private:
     MirrorControls controls_;
     MirrorState state_;
 
-    // The hover help of txtNote.
+    // The hover help of txtNote: a tick every 1250 milliseconds, the instruction back at the
+    // eighth.
+    static constexpr int HoverInterval = 1250;
+    static constexpr int HoverLastTick = 7;
     std::string hoverText_;
     int hoverTicks_ = 0;
     std::optional<MirrorControl> hoverControl_;

@@ -108,16 +108,20 @@ void Mirror::StartMethod(int kind) {
         state_.TitleMethod = "Notation";
         UpdateTitle();
         StartEntry(4);
-        state_.InstructionText = state_.DialogueText.empty()
-                                     ? "Type your comment. Click 'Rewrite' to erase the text. "
-                                       "Press 'Enter' to begin the Conversation."
-                                     : "Type your comment. Click 'Rewrite' to erase the text. "
-                                       "Press 'Enter' to restore the Conversation.";
+        state_.InstructionText = CommentInstruction();
         C(MirrorControl::cmdNew).Text = "Cancel";
         break;
     }
     state_.InstructionColour = Colour::Black;
     ShowInstruction();
+}
+
+// A comment that opens a Dialogue begins the Conversation; one in its course returns to it.
+std::string Mirror::CommentInstruction() const {
+    return state_.DialogueText.empty() ? "Type your comment. Click 'Rewrite' to erase the text. "
+                                         "Press 'Enter' to begin the Conversation."
+                                       : "Type your comment. Click 'Rewrite' to erase the text. "
+                                         "Press 'Enter' to restore the Conversation.";
 }
 
 std::string Mirror::DirectionFor(int kind) const {
@@ -252,11 +256,7 @@ void Mirror::AdvanceCycle() {
     case 4:
         if (state_.EntryFailed == 1) {
             StartEntry(4);
-            state_.InstructionText = state_.DialogueText.empty()
-                                         ? "Type your comment. Click 'Rewrite' to erase the text. "
-                                           "Press 'Enter' to begin the Conversation."
-                                         : "Type your comment. Click 'Rewrite' to erase the text. "
-                                           "Press 'Enter' to restore the Conversation.";
+            state_.InstructionText = CommentInstruction();
         } else {
             Click(MirrorControl::cmdConverse);
         }
@@ -295,28 +295,14 @@ void Mirror::ProcessEntry() {
     }
 
     auto& mirror = C(MirrorControl::txtMirror);
-    state_.EntryText = mirror.Text;
-    state_.EntryCount = static_cast<int>(state_.EntryText.size()) - 2;
-    state_.AwaitingEnter = 1;
+    TakeEntry();
     if (state_.EntryFit != 0) {
-        const bool tooShort = state_.EntryFit == -1;
-        state_.AwaitingEnter = 0;
-        SetResponse(std::string(tooShort ? MirrorText::TooShort : MirrorText::TooLong),
-                    Colour::ColourError);
-        state_.InstructionText =
-            tooShort ? MirrorText::TooShortInstruction : MirrorText::TooLongInstruction;
-        state_.InstructionColour = Colour::Black;
-        C(MirrorControl::lblRem).Visible = true;
-        C(MirrorControl::cmdClear).Enabled = true;
+        RejectLength();
         state_.EntryFailed = 1;
         return;
     }
 
-    const auto judgement =
-        engine_.CheckEntry(state_.EntryText, state_.ActiveMethod, state_.PairCount);
-    state_.EntryStatus = judgement.Status;
-    state_.EntryType = judgement.Type;
-    CheckDialogueLimit();
+    JudgeEntry();
     if (state_.ActiveMethod == 2) {
         if (state_.EntryStatus == 2) {
             state_.EntryStatus = -101;
@@ -398,6 +384,34 @@ void Mirror::ShowResult() {
     }
 }
 
+void Mirror::TakeEntry() {
+    state_.EntryText = C(MirrorControl::txtMirror).Text;
+    state_.EntryCount = static_cast<int>(state_.EntryText.size()) - 2;
+    state_.AwaitingEnter = 1;
+}
+
+// The parser's judgement first, then the limit on kept items, which no other refusal outranks.
+void Mirror::JudgeEntry() {
+    const auto judgement =
+        engine_.CheckEntry(state_.EntryText, state_.ActiveMethod, state_.PairCount);
+    state_.EntryStatus = judgement.Status;
+    state_.EntryType = judgement.Type;
+    CheckDialogueLimit();
+}
+
+// Length is judged from the status the last key left, before the parser sees the entry.
+void Mirror::RejectLength() {
+    const bool tooShort = state_.EntryFit == -1;
+    state_.AwaitingEnter = 0;
+    SetResponse(std::string(tooShort ? MirrorText::TooShort : MirrorText::TooLong),
+                Colour::ColourError);
+    state_.InstructionText =
+        tooShort ? MirrorText::TooShortInstruction : MirrorText::TooLongInstruction;
+    state_.InstructionColour = Colour::Black;
+    C(MirrorControl::lblRem).Visible = true;
+    C(MirrorControl::cmdClear).Enabled = true;
+}
+
 void Mirror::RejectEntry(bool comment) {
     const int status = state_.EntryStatus;
     SetResponse(MirrorText::RejectionMessage(status, state_.ActiveMethod), Colour::ColourError);
@@ -421,27 +435,14 @@ void Mirror::RejectEntry(bool comment) {
 
 void Mirror::ProcessComment() {
     auto& mirror = C(MirrorControl::txtMirror);
-    state_.EntryText = mirror.Text;
-    state_.EntryCount = static_cast<int>(state_.EntryText.size()) - 2;
-    state_.AwaitingEnter = 1;
+    TakeEntry();
+    // A comment of the wrong length leaves EntryFailed as it was.
     if (state_.EntryFit != 0) {
-        const bool tooShort = state_.EntryFit == -1;
-        state_.AwaitingEnter = 0;
-        SetResponse(std::string(tooShort ? MirrorText::TooShort : MirrorText::TooLong),
-                    Colour::ColourError);
-        state_.InstructionText =
-            tooShort ? MirrorText::TooShortInstruction : MirrorText::TooLongInstruction;
-        state_.InstructionColour = Colour::Black;
-        C(MirrorControl::lblRem).Visible = true;
-        C(MirrorControl::cmdClear).Enabled = true;
+        RejectLength();
         return;
     }
 
-    const auto judgement =
-        engine_.CheckEntry(state_.EntryText, state_.ActiveMethod, state_.PairCount);
-    state_.EntryStatus = judgement.Status;
-    state_.EntryType = judgement.Type;
-    CheckDialogueLimit();
+    JudgeEntry();
     if (state_.EntryStatus <= 0) {
         state_.EntryText = state_.EntryBackup;
         RejectEntry(true);

@@ -83,7 +83,7 @@ void Mirror::Click(MirrorControl control) {
     if (IsButton(control)) {
         // The effect of a click is not hidden behind old help.
         ClearHover();
-        hoverTicks_ = 7;
+        hoverTicks_ = HoverLastTick;
     }
     switch (control) {
     case MirrorControl::cmdConverse:

@@ -11,13 +11,6 @@
 
 namespace veyrant {
 
-namespace {
-
-constexpr int HoverInterval = 1250;
-constexpr int HoverLastTick = 7;
-
-} // namespace
-
 void Mirror::MarkHover(MirrorControl control, const std::string& text) {
     if (hoverControl_ == control && C(control).Ink != Colour::Black) {
         return;

@@ -13,7 +13,6 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QStyle>
-#include <QTextBlock>
 #include <cmath>
 
 namespace veyrant {
