@@ -68,6 +68,32 @@ TEST(MirrorCycle, ConverseEntryIsAcceptedAnsweredAndKept) {
     EXPECT_EQ(driver.Engine.CheckedEntries.front(), Prefix + Question);
 }
 
+TEST(MirrorCycle, ProcessingShowsBeforeTheReplyIsComposed) {
+    MirrorDriver driver;
+    driver.StartConverse();
+    std::vector<std::string> painted;
+    driver.mirror->SetPainter([&] { painted.push_back(driver.Text(MirrorControl::txtResponse)); });
+    driver.Converse(Question);
+    ASSERT_FALSE(painted.empty());
+    EXPECT_EQ(painted.front(), "Processing . . .");
+    EXPECT_EQ(driver.Engine.Compositions, 1);
+    EXPECT_GE(driver.Layer.Yields, 2);
+}
+
+TEST(MirrorCycle, ClosingTheWindowKeepsARunningDialogueForNextTime) {
+    MirrorDriver driver;
+    driver.StartConverse();
+    driver.mirror->Unload();
+    EXPECT_FALSE(driver.Buffers.ReadWorkBuffers().has_value()); // nothing kept yet
+    driver.Converse(Question);
+    driver.mirror->Unload();
+    const auto prior = driver.Buffers.ReadWorkBuffers();
+    ASSERT_TRUE(prior.has_value());
+    EXPECT_EQ(prior->Buffers.DialogueText, driver.State().DialogueText);
+    EXPECT_EQ(prior->Buffers.PairCount, 1);
+    EXPECT_FALSE(driver.Box(MirrorControl::txtMirror).Enabled);
+}
+
 TEST(MirrorCycle, NextEnterBeginsAFreshEntryBelowTheResponse) {
     MirrorDriver driver;
     driver.StartConverse();
