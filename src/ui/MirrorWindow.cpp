@@ -444,6 +444,12 @@ bool MirrorWindow::eventFilter(QObject* watched, QEvent* event) {
     case QEvent::MouseMove:
         mirror_.MouseMove(control);
         Render();
+        // A button or label would pass the move on to the window behind it, whose own move
+        // ends the help just begun.
+        if (!IsTextBox(control) && control != MirrorControl::Window &&
+            static_cast<QMouseEvent*>(event)->buttons() == Qt::NoButton) {
+            return true;
+        }
         break;
     case QEvent::MouseButtonPress:
         if (!IsTextBox(control) && static_cast<QMouseEvent*>(event)->button() != Qt::LeftButton) {

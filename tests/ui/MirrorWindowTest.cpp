@@ -142,6 +142,22 @@ private slots:
         QCOMPARE(write.Layer.Boxes.back().Title, std::string("Invalid Key"));
     }
 
+    void RestingOnAButtonMarksItAndItsHelpFollows() {
+        WriteWindow write;
+        write.Click(MirrorControl::cmdConverse);
+        QWidget* cancel = write.Window->Widget(MirrorControl::cmdNew);
+        QTest::mouseMove(cancel, QPoint(10, 10));
+        QTest::mouseMove(cancel, QPoint(12, 11));
+        QCOMPARE(int(write.Logic->Controls()[MirrorControl::cmdNew].Ink), int(Colour::HoverInk));
+        QVERIFY(cancel->property("hoverMark").toBool());
+        QCOMPARE(write.Layer.Timers.count(TimerId::MirrorHover), 1u);
+        write.Logic->TimerFired(TimerId::MirrorHover);
+        write.Window->Render();
+        auto* note = static_cast<QLabel*>(write.Window->Widget(MirrorControl::txtNote));
+        QCOMPARE(note->text(),
+                 QStringLiteral("Cancel your interaction and return to New Dialogue."));
+    }
+
     void FullViewCoversTheBoxesAndComesBack() {
         WriteWindow write;
         write.Click(MirrorControl::cmdConverse);
