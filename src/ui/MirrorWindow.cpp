@@ -1,139 +1,487 @@
 #include "ui/MirrorWindow.h"
 
+#include "core/Cp1252.h"
+#include "dialogue/KeyCodes.h"
 #include "shell/MirrorLayout.h"
 #include "shell/WindowPlacement.h"
+#include "ui/GuardedTextBox.h"
 #include "ui/QtWindowLayer.h"
 
 #include <QCloseEvent>
-#include <QFont>
-#include <QFontMetricsF>
 #include <QFrame>
+#include <QKeyEvent>
 #include <QLabel>
-#include <QPlainTextEdit>
 #include <QPushButton>
-#include <QTextDocument>
+#include <QStyle>
 #include <cmath>
 
 namespace veyrant {
 
 namespace {
 
-int Pixels(double twips) {
-    return static_cast<int>(std::lround(twips / TwipsPerPixel));
+int Pixels(int twips) {
+    return static_cast<int>(std::lround(static_cast<double>(twips) / TwipsPerPixel));
 }
 
-void Place(QWidget* widget, const ControlPlace& place) {
-    widget->setGeometry(Pixels(place.Left), Pixels(place.Top), Pixels(place.Width),
-                        Pixels(place.Height));
+QString Css(Colour colour) {
+    const Rgb rgb = ColourValue(colour);
+    return QStringLiteral("rgb(%1, %2, %3)").arg(rgb.Red).arg(rgb.Green).arg(rgb.Blue);
 }
 
-QFont SizedFont(QFont font, double points, bool bold = false) {
-    if (points > 0) {
-        font.setPointSizeF(points);
-    }
-    font.setBold(bold);
-    return font;
-}
-
-// Quiet greys and one cool accent: the program's shades, a light window and white boxes.
+// Quiet greys for the frame and the buttons; the boxes carry the program's own colours, which
+// say what is on show.
 const char* const MirrorStyle = R"(
-MirrorWindow, QWidget#Mirror { background: rgb(236, 236, 240); }
-QFrame#Panel1 { background: rgb(220, 220, 226); border: none;
-                border-bottom: 1px solid rgb(190, 190, 196); }
-QPushButton { background: qlineargradient(x1:0, y1:0, x2:0, y2:1, stop:0 rgb(252, 252, 253),
-                                          stop:1 rgb(232, 232, 236));
-              border: 1px solid rgb(172, 172, 178); border-radius: 4px; color: rgb(40, 42, 52);
+QWidget#Mirror { background: rgb(238, 238, 242); }
+QFrame#Panel1 { background: rgb(222, 223, 230); border: none;
+                border-bottom: 1px solid rgb(192, 193, 202); }
+QPushButton { background: qlineargradient(x1:0, y1:0, x2:0, y2:1, stop:0 rgb(253, 253, 254),
+                                          stop:1 rgb(233, 234, 238));
+              border: 1px solid rgb(170, 172, 182); border-radius: 4px; color: rgb(36, 38, 48);
               padding: 0 6px; }
-QPushButton:hover { border-color: rgb(120, 128, 150); }
-QPushButton:pressed, QPushButton:checked { background: rgb(208, 210, 220); }
-QPushButton:disabled { color: rgb(150, 150, 156); border-color: rgb(200, 200, 204); }
-QPlainTextEdit { border: 1px solid rgb(180, 180, 188); border-radius: 3px;
-                 selection-background-color: rgb(150, 160, 190); }
-QLabel#txtNote { color: rgb(60, 62, 74); }
-QLabel#lblRem, QLabel#lblRemS { color: rgb(150, 40, 40); font-weight: bold; }
+QPushButton:pressed { background: rgb(206, 209, 222); }
+QPushButton[pressedIn="true"] { background: rgb(200, 205, 224); border: 1px solid rgb(96, 104, 140);
+                                border-top: 2px solid rgb(80, 86, 118); font-weight: bold; }
+QPushButton[hoverMark="true"] { color: rgb(0, 0, 192); text-decoration: underline; }
+QPushButton:disabled { color: rgb(156, 156, 164); border-color: rgb(204, 205, 210); }
+QPlainTextEdit { border: 1px solid rgb(176, 178, 190); border-radius: 3px; color: black;
+                 selection-background-color: rgb(150, 160, 196); }
+QLabel#txtNote { background: white; border: 1px solid rgb(196, 198, 208); border-radius: 3px;
+                 padding: 0px 6px; }
+QLabel#lblRem, QLabel#lblRemS { color: rgb(150, 32, 32); font-weight: bold; }
 )";
+
+// The key code the rules know a key by. Punctuation gets a code of its own, since Qt's codes for
+// it are the character numbers, which the rules would take for arrows or Delete.
+int VirtualKey(const QKeyEvent* event) {
+    const int key = event->key();
+    switch (key) {
+    case Qt::Key_Backspace:
+        return KeyCode::Backspace;
+    case Qt::Key_Tab:
+    case Qt::Key_Backtab:
+        return KeyCode::Tab;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        return KeyCode::Enter;
+    case Qt::Key_Shift:
+        return KeyCode::Shift;
+    case Qt::Key_Control:
+        return KeyCode::Control;
+    case Qt::Key_Escape:
+        return KeyCode::Escape;
+    case Qt::Key_PageUp:
+        return KeyCode::PageUp;
+    case Qt::Key_PageDown:
+        return KeyCode::PageDown;
+    case Qt::Key_End:
+        return KeyCode::End;
+    case Qt::Key_Home:
+        return KeyCode::Home;
+    case Qt::Key_Left:
+        return KeyCode::Left;
+    case Qt::Key_Up:
+        return KeyCode::Up;
+    case Qt::Key_Right:
+        return KeyCode::Right;
+    case Qt::Key_Down:
+        return KeyCode::Down;
+    case Qt::Key_Delete:
+        return KeyCode::Delete;
+    case Qt::Key_Space:
+        return ' ';
+    default:
+        break;
+    }
+    if (key >= Qt::Key_F1 && key <= Qt::Key_F12) {
+        return KeyCode::Function(key - Qt::Key_F1 + 1);
+    }
+    if ((key >= Qt::Key_A && key <= Qt::Key_Z) || (key >= Qt::Key_0 && key <= Qt::Key_9)) {
+        return key;
+    }
+    return event->text().isEmpty() ? 0 : 0xDE;
+}
+
+// The character of a key as the key-press stage sees it: 0 for a key with none, -1 for a
+// character that has no Windows-1252 code and is refused.
+int KeyCharacter(const QKeyEvent* event) {
+    switch (event->key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        return KeyCode::Enter;
+    case Qt::Key_Backspace:
+        return KeyCode::Backspace;
+    case Qt::Key_Tab:
+    case Qt::Key_Backtab:
+        return KeyCode::Tab;
+    default:
+        break;
+    }
+    const QString text = event->text();
+    if (text.size() != 1 || text[0].unicode() < 32 || text[0].unicode() == 127) {
+        return 0;
+    }
+    const auto byte = CodePointToCp1252(text[0].unicode());
+    return byte ? static_cast<unsigned char>(*byte) : -1;
+}
+
+// The logic counts CR LF as two characters where the box holds one line break.
+int BoxPosition(const std::string& text, long caret) {
+    int position = 0;
+    const long end = std::min<long>(caret, static_cast<long>(text.size()));
+    for (long index = 0; index < end; ++index) {
+        if (!(text[static_cast<std::size_t>(index)] == '\r' && index + 1 < end &&
+              text[static_cast<std::size_t>(index + 1)] == '\n')) {
+            ++position;
+        }
+    }
+    return position;
+}
+
+bool IsTextBox(MirrorControl control) {
+    return control == MirrorControl::txtMirror || control == MirrorControl::txtResponse ||
+           control == MirrorControl::txtAnalyze || control == MirrorControl::txtSaved;
+}
+
+bool IsLabel(MirrorControl control) {
+    return control == MirrorControl::txtNote || control == MirrorControl::lblRem ||
+           control == MirrorControl::lblRemS;
+}
+
+MouseButton ButtonOf(const QMouseEvent* event) {
+    switch (event->button()) {
+    case Qt::RightButton:
+        return MouseButton::Right;
+    case Qt::MiddleButton:
+        return MouseButton::Middle;
+    default:
+        return MouseButton::Left;
+    }
+}
 
 } // namespace
 
-MirrorWindow::MirrorWindow(const Application& app) : QWidget(nullptr) {
+MirrorWindow::MirrorWindow(Application& app, Mirror& mirror)
+    : QWidget(nullptr), app_(app), mirror_(mirror) {
     setObjectName(QStringLiteral("Mirror"));
-    setWindowTitle(QStringLiteral("Veyrant Sagrel"));
     setStyleSheet(QString::fromLatin1(MirrorStyle));
-    const DisplayScale& scale = app.Scale;
-    const MirrorLayout layout = ScaleMirrorLayout(MirrorDesign(), scale.ScaleFactor);
+    setMouseTracking(true);
+    Build();
+    mirror_.SetPainter([this] { Render(); });
 
-    auto& c = controls_;
-    c.Panel1 = new QFrame(this);
-    c.Panel1->setObjectName(QStringLiteral("Panel1"));
-    Place(c.Panel1, layout.Panel1);
-
-    const QFont buttonFont = SizedFont(font(), scale.ButtonFontSize);
-    const auto button = [&](QWidget* parent, const char* caption, const ControlPlace& place) {
-        auto* made = new QPushButton(QString::fromLatin1(caption), parent);
-        made->setFont(buttonFont);
-        made->setFocusPolicy(Qt::NoFocus);
-        Place(made, place);
-        return made;
-    };
-    c.cmdConverse = button(c.Panel1, "Converse", layout.cmdConverse);
-    c.cmdSuppose = button(c.Panel1, "Suppose", layout.cmdSuppose);
-    c.cmdNotate = button(c.Panel1, "Comment", layout.cmdNotate);
-    c.cmdKnow = button(c.Panel1, "Knowledge", layout.cmdKnow);
-    c.cmdRetrieve = button(c.Panel1, "Library", layout.cmdRetrieve);
-    c.cmdHelp = button(c.Panel1, "Information", layout.cmdHelp);
-    c.cmdClear = button(this, "Rewrite", layout.cmdClear);
-    c.cmdRemove = button(this, "Edit", layout.cmdRemove);
-    c.cmdDisplay = button(this, "Display", layout.cmdDisplay);
-    c.cmdPrint = button(this, "Print", layout.cmdPrint);
-    c.cmdSave = button(this, "Save", layout.cmdSave);
-    c.cmdNew = button(this, "New", layout.cmdNew);
-
-    const int step = app.UserSettings.WriteFontStep == 2 ? 2 : 1;
-    const QFont writeFont =
-        SizedFont(QFont(ToDisplayText(app.Fonts.Main)),
-                  scale.TextSize[static_cast<std::size_t>(step)], step == 1 && scale.TextSize1Bold);
-    const auto box = [&](const char* name, const ControlPlace& place) {
-        auto* made = new QPlainTextEdit(this);
-        made->setObjectName(QString::fromLatin1(name));
-        made->setFont(writeFont);
-        made->document()->setDocumentMargin(6);
-        // Paragraphs open with a tab; a short indent reads better than a wide column stop.
-        made->setTabStopDistance(QFontMetricsF(writeFont).averageCharWidth() * 4);
-        Place(made, place);
-        return made;
-    };
-    c.txtResponse = box("txtResponse", layout.txtResponse);
-    c.txtSaved = box("txtSaved", layout.txtSaved);
-    c.txtAnalyze = box("txtAnalyze", layout.txtAnalyze);
-    c.txtMirror = box("txtMirror", layout.txtMirror);
-    c.txtResponse->setReadOnly(true);
-    c.txtSaved->setReadOnly(true);
-    c.txtAnalyze->hide();
-    // The entry box stays out of sight until a Dialogue gives it its place.
-    c.txtMirror->hide();
-    c.txtMirror->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-
-    const auto label = [&](const char* name, const ControlPlace& place) {
-        auto* made = new QLabel(this);
-        made->setObjectName(QString::fromLatin1(name));
-        made->setFont(buttonFont);
-        Place(made, place);
-        return made;
-    };
-    c.txtNote = label("txtNote", layout.txtNote);
-    c.txtNote->setWordWrap(true);
-    c.lblRem = label("lblRem", layout.lblRem);
-    c.lblRem->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    c.lblRem->hide();
-    c.lblRemS = label("lblRemS", layout.lblRemS);
-    c.lblRemS->hide();
-
-    setFixedSize(Pixels(layout.WindowWidth - FrameWidthTwips),
-                 Pixels(layout.WindowHeight - FrameHeightTwips));
-    const ScreenPoint place = CentredPlace(
-        app.Windows.ScreenWidthTwips(), app.Windows.ScreenHeightTwips(),
-        static_cast<int>(layout.WindowWidth), static_cast<int>(layout.WindowHeight), 2, 1.9);
+    const auto& window = mirror_.Controls()[MirrorControl::Window];
+    setFixedSize(Pixels(window.Width - static_cast<int>(FrameWidthTwips)),
+                 Pixels(window.Height - static_cast<int>(FrameHeightTwips)));
+    const ScreenPoint place =
+        CentredPlace(app.Windows.ScreenWidthTwips(), app.Windows.ScreenHeightTwips(), window.Width,
+                     window.Height, 2, 1.9);
     move(Pixels(place.Left), Pixels(place.Top));
+    Render();
+}
+
+void MirrorWindow::Build() {
+    auto* panel = new QFrame(this);
+    panel->setObjectName(QStringLiteral("Panel1"));
+    widgets_[Index(MirrorControl::Panel1)] = panel;
+    Watch(panel, MirrorControl::Panel1);
+    widgets_[Index(MirrorControl::Window)] = this;
+    Watch(this, MirrorControl::Window);
+
+    // Made in this order so that the entry box lies under the others where they overlap, and
+    // the Dialogue panel over the response.
+    for (auto box : {MirrorControl::txtMirror, MirrorControl::txtResponse, MirrorControl::txtSaved,
+                     MirrorControl::txtAnalyze}) {
+        MakeBox(box);
+    }
+    for (auto button :
+         {MirrorControl::cmdConverse, MirrorControl::cmdSuppose, MirrorControl::cmdNotate,
+          MirrorControl::cmdKnow, MirrorControl::cmdRetrieve, MirrorControl::cmdHelp}) {
+        MakeButton(button, panel);
+    }
+    for (auto button :
+         {MirrorControl::cmdClear, MirrorControl::cmdRemove, MirrorControl::cmdDisplay,
+          MirrorControl::cmdPrint, MirrorControl::cmdSave, MirrorControl::cmdNew}) {
+        MakeButton(button, this);
+    }
+    for (auto label : {MirrorControl::txtNote, MirrorControl::lblRem, MirrorControl::lblRemS}) {
+        MakeLabel(label);
+    }
+    static_cast<QLabel*>(Widget(MirrorControl::txtNote))->setWordWrap(true);
+    static_cast<QLabel*>(Widget(MirrorControl::lblRem))
+        ->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    static_cast<QLabel*>(Widget(MirrorControl::lblRemS))
+        ->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+}
+
+void MirrorWindow::Watch(QWidget* widget, MirrorControl control) {
+    widget->setProperty("mirrorControl", static_cast<int>(control));
+    widget->setMouseTracking(true);
+    widget->installEventFilter(this);
+}
+
+GuardedTextBox* MirrorWindow::MakeBox(MirrorControl control) {
+    auto* box = new GuardedTextBox(this);
+    box->setObjectName(QString::fromLatin1(ControlName(control).data(),
+                                           static_cast<qsizetype>(ControlName(control).size())));
+    box->document()->setDocumentMargin(6);
+    box->setFrameShape(QFrame::NoFrame);
+    if (control != MirrorControl::txtMirror && control != MirrorControl::txtAnalyze) {
+        box->setReadOnly(true);
+        box->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    }
+    if (control == MirrorControl::txtMirror) {
+        box->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    }
+    widgets_[Index(control)] = box;
+    Watch(box, control);
+    Watch(box->viewport(), control);
+    box->KeyFilter = [this, control](QKeyEvent* event) { return KeyFromScreen(control, event); };
+    box->KeyApplied = [this, control] {
+        ReadBack(control);
+        Render();
+    };
+    box->MousePressed = [this, control](QMouseEvent* event) {
+        ReadBack(control);
+        mirror_.MouseDown(control, ButtonOf(event));
+        Render();
+    };
+    box->MouseReleased = [this, control](QMouseEvent* event) {
+        ReadBack(control);
+        mirror_.MouseUp(control, ButtonOf(event));
+        if (event->button() == Qt::LeftButton) {
+            mirror_.Click(control);
+        }
+        Render();
+    };
+    return box;
+}
+
+QPushButton* MirrorWindow::MakeButton(MirrorControl control, QWidget* parent) {
+    auto* button = new QPushButton(parent);
+    button->setFocusPolicy(Qt::NoFocus);
+    widgets_[Index(control)] = button;
+    Watch(button, control);
+    connect(button, &QPushButton::pressed, this, [this, control] {
+        mirror_.MouseDown(control, MouseButton::Left);
+        Render();
+    });
+    connect(button, &QPushButton::clicked, this, [this, control] {
+        mirror_.Click(control);
+        Render();
+    });
+    return button;
+}
+
+QLabel* MirrorWindow::MakeLabel(MirrorControl control) {
+    auto* label = new QLabel(this);
+    label->setObjectName(QString::fromLatin1(ControlName(control).data(),
+                                             static_cast<qsizetype>(ControlName(control).size())));
+    label->setTextFormat(Qt::PlainText);
+    widgets_[Index(control)] = label;
+    Watch(label, control);
+    return label;
+}
+
+bool MirrorWindow::KeyFromScreen(MirrorControl, QKeyEvent* event) {
+    const auto modifiers = event->modifiers();
+    const int key = event->key();
+    // The control key itself reaches the rules and gets its box; no shortcut goes further.
+    if ((modifiers & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) &&
+        key != Qt::Key_Control) {
+        return false;
+    }
+    const int character = KeyCharacter(event);
+    if (character < 0) {
+        return false;
+    }
+    const int keyCode = VirtualKey(event);
+    if (keyCode == 0) {
+        return false;
+    }
+    const int passedDown = mirror_.KeyDown(keyCode);
+    // A key dropped at key down still reaches key press, as the rules expect.
+    const int passedPress = character != 0 ? mirror_.KeyPress(character) : keyCode;
+    Render();
+    return passedDown != 0 && passedPress != 0 && keyCode != KeyCode::Control;
+}
+
+void MirrorWindow::ReadBack(MirrorControl control) {
+    auto* box = static_cast<GuardedTextBox*>(Widget(control));
+    QString shown = box->toPlainText();
+    const int position = box->textCursor().position();
+    const QString before = shown.left(position);
+    shown.replace(QLatin1Char('\n'), QStringLiteral("\r\n"));
+    const auto text = Utf16ToCp1252(std::u16string(shown.toStdU16String()));
+    if (!text) {
+        return;
+    }
+    const long caret = static_cast<long>(position + before.count(QLatin1Char('\n')));
+    if (*text != mirror_.Controls()[control].Text) {
+        mirror_.TextEdited(control, *text, caret);
+    } else {
+        const auto cursor = box->textCursor();
+        mirror_.CaretMoved(control, caret,
+                           static_cast<long>(cursor.selectionEnd() - cursor.selectionStart()));
+    }
+    shown_[control].Text = mirror_.Controls()[control].Text;
+    shown_[control].Caret = mirror_.Controls()[control].Caret;
+    shown_[control].SelectionLength = mirror_.Controls()[control].SelectionLength;
+}
+
+void MirrorWindow::Render() {
+    if (rendering_) {
+        return;
+    }
+    rendering_ = true;
+    const bool force = !rendered_;
+    for (int index = 0; index < MirrorControlCount; ++index) {
+        RenderControl(static_cast<MirrorControl>(index), force);
+    }
+    const auto& controls = mirror_.Controls();
+    if (force || controls.Title != shown_.Title) {
+        setWindowTitle(ToDisplayText(controls.Title));
+        shown_.Title = controls.Title;
+    }
+    QWidget* focus = Widget(controls.Focus);
+    if (IsTextBox(controls.Focus) && focus->isVisible() && focus->isEnabled() &&
+        !focus->hasFocus()) {
+        focus->setFocus(Qt::OtherFocusReason);
+    }
+    shown_.Focus = controls.Focus;
+    rendered_ = true;
+    rendering_ = false;
+}
+
+void MirrorWindow::RenderControl(MirrorControl control, bool force) {
+    if (control == MirrorControl::Window) {
+        return;
+    }
+    const Control& now = mirror_.Controls()[control];
+    Control& was = shown_[control];
+    QWidget* widget = Widget(control);
+
+    if (force || now.Left != was.Left || now.Top != was.Top || now.Width != was.Width ||
+        now.Height != was.Height) {
+        widget->setGeometry(Pixels(now.Left), Pixels(now.Top), Pixels(now.Width),
+                            Pixels(now.Height));
+    }
+    if (force || now.Enabled != was.Enabled) {
+        widget->setEnabled(now.Enabled);
+    }
+    if (force || now.FontSize != was.FontSize || now.FontBold != was.FontBold) {
+        QFont font = IsTextBox(control) ? QFont(ToDisplayText(app_.Fonts.Main)) : this->font();
+        if (now.FontSize > 0) {
+            font.setPointSizeF(now.FontSize);
+        }
+        font.setBold(now.FontBold);
+        widget->setFont(font);
+        if (IsTextBox(control)) {
+            auto* box = static_cast<GuardedTextBox*>(widget);
+            box->setTabStopDistance(QFontMetricsF(font).horizontalAdvance(QLatin1Char(' ')) * 3);
+        }
+    }
+
+    if (IsTextBox(control)) {
+        RenderText(control, now);
+        if (force || now.Background != was.Background) {
+            widget->setStyleSheet(
+                QStringLiteral("QPlainTextEdit { background: %1; }").arg(Css(now.Background)));
+        }
+    } else if (IsLabel(control)) {
+        auto* label = static_cast<QLabel*>(widget);
+        if (force || now.Text != was.Text) {
+            label->setText(ToDisplayText(now.Text));
+        }
+        if (control == MirrorControl::txtNote && (force || now.Ink != was.Ink)) {
+            label->setStyleSheet(QStringLiteral("color: %1;").arg(Css(now.Ink)));
+        }
+    } else if (auto* button = qobject_cast<QPushButton*>(widget)) {
+        if (force || now.Text != was.Text) {
+            button->setText(ToDisplayText(now.Text));
+        }
+        if (force || now.PressedIn != was.PressedIn || now.Ink != was.Ink ||
+            now.Underlined != was.Underlined) {
+            button->setProperty("pressedIn", now.PressedIn);
+            button->setProperty("hoverMark", now.Underlined || now.Ink == Colour::HoverInk);
+            button->style()->unpolish(button);
+            button->style()->polish(button);
+        }
+    }
+    if (force || now.Visible != was.Visible) {
+        widget->setVisible(now.Visible);
+    }
+    was = now;
+}
+
+void MirrorWindow::RenderText(MirrorControl control, const Control& now) {
+    auto* box = static_cast<GuardedTextBox*>(Widget(control));
+    Control& was = shown_[control];
+    const bool textChanged = !rendered_ || now.Text != was.Text;
+    if (textChanged) {
+        box->setPlainText(ToDisplayText(now.Text));
+    }
+    if (textChanged || now.Caret != was.Caret || now.SelectionLength != was.SelectionLength) {
+        QTextCursor cursor = box->textCursor();
+        cursor.setPosition(BoxPosition(now.Text, now.Caret));
+        if (now.SelectionLength > 0) {
+            cursor.setPosition(BoxPosition(now.Text, now.Caret + now.SelectionLength),
+                               QTextCursor::KeepAnchor);
+        }
+        box->setTextCursor(cursor);
+        box->ensureCursorVisible();
+    }
+    was.Text = now.Text;
+    was.Caret = now.Caret;
+    was.SelectionLength = now.SelectionLength;
+}
+
+bool MirrorWindow::eventFilter(QObject* watched, QEvent* event) {
+    const QVariant property = watched->property("mirrorControl");
+    if (!property.isValid()) {
+        return QWidget::eventFilter(watched, event);
+    }
+    const auto control = static_cast<MirrorControl>(property.toInt());
+    switch (event->type()) {
+    case QEvent::MouseMove:
+        mirror_.MouseMove(control);
+        Render();
+        // A button or label would pass the move on to the window behind it, whose own move
+        // ends the help just begun.
+        if (!IsTextBox(control) && control != MirrorControl::Window &&
+            static_cast<QMouseEvent*>(event)->buttons() == Qt::NoButton) {
+            return true;
+        }
+        break;
+    case QEvent::MouseButtonPress:
+        if (!IsTextBox(control) && static_cast<QMouseEvent*>(event)->button() != Qt::LeftButton) {
+            mirror_.MouseDown(control, ButtonOf(static_cast<QMouseEvent*>(event)));
+            Render();
+        }
+        break;
+    case QEvent::FocusIn:
+        if (IsTextBox(control) && !rendering_) {
+            mirror_.FocusGained(control);
+            Render();
+        }
+        break;
+    case QEvent::FocusOut: {
+        const auto reason = static_cast<QFocusEvent*>(event)->reason();
+        if (control == MirrorControl::txtMirror && !rendering_ &&
+            reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason) {
+            mirror_.FocusLost(control);
+            Render();
+        }
+        break;
+    }
+    case QEvent::KeyPress:
+        if (watched == this) {
+            KeyFromScreen(MirrorControl::Window, static_cast<QKeyEvent*>(event));
+            return true;
+        }
+        break;
+    default:
+        break;
+    }
+    return QWidget::eventFilter(watched, event);
 }
 
 void MirrorWindow::closeEvent(QCloseEvent* event) {

@@ -1,57 +1,59 @@
 #pragma once
 
-// The Write window's Qt form: its controls, created and placed for the display scale in the
-// Opening arrangement. The Write window's logic drives them through the accessors.
+// The Write window on the screen. The logic (Mirror) holds every rule and the state of every
+// control; this window copies that state onto its widgets after each event, and turns the
+// widgets' events into the logic's handlers.
 
+#include "dialogue/Mirror.h"
 #include "shell/Application.h"
 
 #include <QWidget>
+#include <array>
 #include <functional>
 
-class QFrame;
 class QLabel;
-class QPlainTextEdit;
 class QPushButton;
 
 namespace veyrant {
 
-struct MirrorControls {
-    QFrame* Panel1 = nullptr;
-    QPushButton* cmdConverse = nullptr;
-    QPushButton* cmdSuppose = nullptr;
-    QPushButton* cmdNotate = nullptr;
-    QPushButton* cmdKnow = nullptr;
-    QPushButton* cmdRetrieve = nullptr;
-    QPushButton* cmdHelp = nullptr;
-    QPushButton* cmdClear = nullptr;
-    QPushButton* cmdRemove = nullptr;
-    QPushButton* cmdDisplay = nullptr;
-    QPushButton* cmdPrint = nullptr;
-    QPushButton* cmdSave = nullptr;
-    QPushButton* cmdNew = nullptr;
-    QPlainTextEdit* txtMirror = nullptr;
-    QPlainTextEdit* txtResponse = nullptr;
-    QPlainTextEdit* txtAnalyze = nullptr;
-    QPlainTextEdit* txtSaved = nullptr;
-    QLabel* txtNote = nullptr;
-    QLabel* lblRem = nullptr;
-    QLabel* lblRemS = nullptr;
-};
+class GuardedTextBox;
 
 class MirrorWindow final : public QWidget {
 public:
-    explicit MirrorWindow(const Application& app);
+    MirrorWindow(Application& app, Mirror& mirror);
 
-    const MirrorControls& Controls() const { return controls_; }
+    // Copies the logic's state onto the widgets, touching only what changed.
+    void Render();
+
+    QWidget* Widget(MirrorControl control) const { return widgets_[Index(control)]; }
 
     // Runs when the user closes the window; the window itself stays until the logic hides it.
     std::function<void()> OnClose;
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    MirrorControls controls_;
+    static std::size_t Index(MirrorControl control) { return static_cast<std::size_t>(control); }
+
+    void Build();
+    GuardedTextBox* MakeBox(MirrorControl control);
+    QPushButton* MakeButton(MirrorControl control, QWidget* parent);
+    QLabel* MakeLabel(MirrorControl control);
+    void Watch(QWidget* widget, MirrorControl control);
+
+    bool KeyFromScreen(MirrorControl control, QKeyEvent* event);
+    void ReadBack(MirrorControl control);
+    void RenderControl(MirrorControl control, bool force);
+    void RenderText(MirrorControl control, const Control& now);
+
+    Application& app_;
+    Mirror& mirror_;
+    std::array<QWidget*, MirrorControlCount> widgets_{};
+    MirrorControls shown_;
+    bool rendered_ = false;
+    bool rendering_ = false;
 };
 
 } // namespace veyrant

@@ -1,0 +1,32 @@
+#pragma once
+
+// The message engine as the Write window asks for it: the entry parser, the random series that
+// the typing feeds, and the requests, each handing back the text it composed.
+
+#include "dialogue/DialogueEngine.h"
+
+namespace veyrant {
+
+class Engine;
+class Clock;
+
+class EngineDialogue final : public DialogueEngine {
+public:
+    explicit EngineDialogue(Engine& engine) : engine_(engine) {}
+
+    EntryJudgement CheckEntry(const std::string& entryText, int activeMethod,
+                              int pairCount) override;
+    void RecordKey(float time, int characterCode) override;
+    void StretchSeeds(float seriesSeed) override;
+    int RollAnswer(int percent) override;
+    std::string RequestAnswer(int entryType) override;
+    std::string RequestRemark(int entryType) override;
+    std::string RequestInterjection() override;
+    std::string RequestInspiration() override;
+    std::string PickGuidance() override;
+
+private:
+    Engine& engine_;
+};
+
+} // namespace veyrant

@@ -1,0 +1,185 @@
+#pragma once
+
+// The Write window's logic: its controls, its state variables and its event handlers. It never
+// touches the screen itself; the Qt window renders Controls() after every handler and turns its
+// events into the calls below.
+
+#include "core/WindowLayer.h"
+#include "dialogue/MirrorControls.h"
+#include "dialogue/MirrorState.h"
+#include "storage/WorkBuffers.h"
+
+#include <functional>
+#include <optional>
+#include <string>
+
+namespace veyrant {
+
+struct Application;
+class DialogueEngine;
+class DialogueLibrary;
+
+enum class MouseButton { Left, Right, Middle };
+
+class Mirror {
+public:
+    Mirror(Application& app, DialogueEngine& engine, WorkBuffers& buffers,
+           DialogueLibrary& library);
+
+    const MirrorControls& Controls() const { return controls_; }
+    const MirrorState& State() const { return state_; }
+
+    // Called before each yield and each modal box, so that the screen shows the state.
+    void SetPainter(std::function<void()> painter) { painter_ = std::move(painter); }
+
+    // The delayed start of the window: shows the controls and resets the Dialogue.
+    void StartWindow();
+
+    // Key down: returns the key code to go on with, 0 when the key is dropped.
+    int KeyDown(int keyCode);
+    // Key press: returns the character code to go on with, 0 when the key is dropped.
+    int KeyPress(int keyAscii);
+
+    void Click(MirrorControl control);
+    void MouseDown(MirrorControl control, MouseButton button);
+    void MouseUp(MirrorControl control, MouseButton button);
+    void MouseMove(MirrorControl control);
+    void FocusLost(MirrorControl control);
+    void FocusGained(MirrorControl control);
+    void TimerFired(TimerId timer);
+
+    // The screen applied a key the logic let through, or the user moved the caret.
+    void TextEdited(MirrorControl control, const std::string& text, long caret);
+    void CaretMoved(MirrorControl control, long caret, long selectionLength);
+
+    // The outer size of the window in twips, frame included.
+    int WindowWidth() const;
+    int WindowHeight() const;
+
+    // The visible state as short stable lines, for tests and diagnosis.
+    std::string Dump() const;
+
+    // The window closes: a running Dialogue goes into the work buffers, to reopen next time.
+    void Unload();
+
+private:
+    // Dialogue cycle.
+    void ClickMethod(int kind);
+    void StartMethod(int kind);
+    void StartEntry(int kind);
+    void ProcessEntry();
+    void ProcessComment();
+    void TakeEntry();
+    void JudgeEntry();
+    void RejectLength();
+    void RejectEntry(bool comment);
+    void ShowResult();
+    void SetEntryLimits(int kind);
+    void UpdateTitle();
+    void AdvanceCycle();
+    void ClickRemove();
+    void ClickNew();
+    void PressMethodButton(MirrorControl pressed);
+    void ShowInstruction();
+    void EnterInEntryBox();
+    void DeliverNotice();
+    void SetFinishOrCancel();
+    std::string DirectionFor(int kind) const;
+    std::string CommentInstruction() const;
+
+    // Suppose: the list of ideas and the ends of the method.
+    void OpenIdeaList();
+    void PromptIdea();
+    void DeclineSupposition();
+
+    // Entry box rules.
+    int MirrorKeyDown(int keyCode);
+    int MirrorKeyPress(int keyAscii);
+    bool CountEntry(int keyAscii);
+    void ClickEntryBox();
+    void RecordKey(int characterCode);
+
+    // Transcript.
+    void BuildPairText();
+    void CheckDialogueLimit();
+    void ShowDialogueFull();
+    void ShowDialogueSmall();
+    void ClickDisplay();
+    void ClickSaved();
+    void ShowSmallView();
+
+    // Instruction panel.
+    void MarkHover(MirrorControl control, const std::string& text);
+    void ClearHover();
+    void EndHover();
+    void HoverTick();
+    std::string HelpFor(MirrorControl control) const;
+    void ResponseHover();
+    void NoteHover();
+    void ClickResponse();
+    void SetResponse(const std::string& text, Colour background);
+
+    // Layout and window keys.
+    void ScaleAtCreation();
+    void ArrangeOpening();
+    void ArrangeEntry();
+    void ArrangeResult();
+    void Place(MirrorControl control, int top, int height);
+    int WindowKeyDown(int keyCode);
+    void PressFunctionKey(int number);
+    void ToggleWriteFont();
+    void ApplyWriteFont();
+    void BackgroundMove();
+
+    // Start, finish and reopen.
+    void ResetDialogue();
+    bool LoadPriorDialogue();
+    void BeginDialogue();
+    void FinishDialogue();
+    void ContinueDialogue();
+    void SaveDialogue();
+    void ClickNewCaption();
+    DialogueBuffers Record() const;
+    bool GuestMode() const;
+    std::string LibraryStatusText(const std::string& suggestionText) const;
+
+    // Platform.
+    MessageAnswer Message(const std::string& title, const std::string& text,
+                          MessageIcon icon = MessageIcon::None,
+                          MessageButtons buttons = MessageButtons::Ok);
+    void Yield();
+    void Paint();
+
+    Control& C(MirrorControl control) { return controls_[control]; }
+
+    Application& app_;
+    DialogueEngine& engine_;
+    WorkBuffers& buffers_;
+    DialogueLibrary& library_;
+    std::function<void()> painter_;
+
+    MirrorControls controls_;
+    MirrorState state_;
+
+    // The hover help of txtNote: a tick every 1250 milliseconds, the instruction back at the
+    // eighth.
+    static constexpr int HoverInterval = 1250;
+    static constexpr int HoverLastTick = 7;
+    std::string hoverText_;
+    int hoverTicks_ = 0;
+    std::optional<MirrorControl> hoverControl_;
+
+    // What the full view hides and gives back.
+    struct FullViewNotes {
+        bool RemVisible = false;
+        bool RemSVisible = false;
+        bool RemoveEnabled = false;
+        bool NewEnabled = false;
+        bool AnalyzeVisible = false;
+        bool MirrorEnabled = false;
+        std::string InstructionText;
+        Colour InstructionColour = Colour::Black;
+    } notes_;
+};
+
+} // namespace veyrant

@@ -1,0 +1,515 @@
+// The dialogue cycle: starting a method, starting an entry, judging and answering it, comments,
+// and Keep and Remove on the result.
+
+#include "core/Clock.h"
+#include "core/DateFormat.h"
+#include "core/Text.h"
+#include "dialogue/DialogueEngine.h"
+#include "dialogue/KeyCodes.h"
+#include "dialogue/Mirror.h"
+#include "dialogue/MirrorTexts.h"
+#include "shell/Application.h"
+
+namespace veyrant {
+
+namespace {
+
+const std::string EntryPrefix{Tab, OpenQuote};
+
+MirrorControl MethodButton(int kind) {
+    switch (kind) {
+    case 2:
+        return MirrorControl::cmdSuppose;
+    case 4:
+        return MirrorControl::cmdNotate;
+    default:
+        return MirrorControl::cmdConverse;
+    }
+}
+
+} // namespace
+
+void Mirror::ClickMethod(int kind) {
+    if (C(MirrorControl::cmdNew).Text == "New") {
+        Message(std::string(MirrorText::HelpTitle),
+                "To reset and append the finished Dialogue, click 'Continue'.\r\n\r\nClick 'New' "
+                "to erase the finished Dialogue and begin another. If you close the program "
+                "without clicking 'New', the finished Dialogue will be saved, then displayed "
+                "when you next open the program.");
+        return;
+    }
+    ClearHover();
+    StartMethod(kind);
+    PressMethodButton(MethodButton(kind));
+}
+
+void Mirror::PressMethodButton(MirrorControl pressed) {
+    for (auto button :
+         {MirrorControl::cmdConverse, MirrorControl::cmdSuppose, MirrorControl::cmdNotate}) {
+        C(button).PressedIn = button == pressed;
+    }
+}
+
+void Mirror::StartMethod(int kind) {
+    state_.SupposeStage = 0;
+    state_.AwaitingEnter = 1;
+    state_.IdeaIndex = 0;
+    state_.EntryType = 0;
+    state_.EntryFailed = 0;
+    state_.IdeaLimit = 98;
+
+    C(MirrorControl::cmdSave).Enabled = false;
+    C(MirrorControl::cmdClear).Enabled = false;
+    C(MirrorControl::cmdRemove).Text = "Edit";
+    C(MirrorControl::cmdRemove).Enabled = false;
+    C(MirrorControl::cmdNew).Enabled = true;
+
+    state_.DisplayFull = 0;
+    Place(MirrorControl::txtSaved, 3000, 2175);
+    C(MirrorControl::txtAnalyze).Enabled = false;
+    C(MirrorControl::txtAnalyze).Visible = false;
+    C(MirrorControl::txtMirror).Text.clear();
+    C(MirrorControl::txtMirror).Caret = 0;
+    C(MirrorControl::txtMirror).Enabled = true;
+    controls_.Focus = MirrorControl::txtMirror;
+
+    for (auto button :
+         {MirrorControl::cmdClear, MirrorControl::cmdRemove, MirrorControl::cmdDisplay,
+          MirrorControl::cmdNew, MirrorControl::cmdPrint, MirrorControl::cmdSave}) {
+        C(button).Visible = true;
+    }
+    C(MirrorControl::cmdDisplay).Text = "Display";
+    C(MirrorControl::lblRem).Visible = false;
+    C(MirrorControl::lblRemS).Visible = false;
+    ArrangeEntry();
+
+    switch (kind) {
+    case 1:
+        state_.ActiveMethod = 1;
+        state_.TitleMethod = "Conversation";
+        UpdateTitle();
+        StartEntry(1);
+        state_.InstructionText = "Type your question or statement. Click 'Rewrite' to erase the "
+                                 "text. Press 'Enter' for the Sagrel response.";
+        C(MirrorControl::cmdNotate).Enabled = true;
+        C(MirrorControl::cmdNew).Text = state_.DialogueText.empty() ? "Cancel" : "Finish";
+        break;
+    case 2:
+        state_.ActiveMethod = 2;
+        state_.TitleMethod = "Supposition";
+        UpdateTitle();
+        StartEntry(2);
+        state_.InstructionText =
+            "Type your question. Click 'Rewrite' to erase the text. Press 'Enter' to continue.";
+        C(MirrorControl::cmdNew).Text = "Cancel";
+        break;
+    default:
+        state_.ActiveMethod = 4;
+        state_.TitleMethod = "Notation";
+        UpdateTitle();
+        StartEntry(4);
+        state_.InstructionText = CommentInstruction();
+        C(MirrorControl::cmdNew).Text = "Cancel";
+        break;
+    }
+    state_.InstructionColour = Colour::Black;
+    ShowInstruction();
+}
+
+// A comment that opens a Dialogue begins the Conversation; one in its course returns to it.
+std::string Mirror::CommentInstruction() const {
+    return state_.DialogueText.empty() ? "Type your comment. Click 'Rewrite' to erase the text. "
+                                         "Press 'Enter' to begin the Conversation."
+                                       : "Type your comment. Click 'Rewrite' to erase the text. "
+                                         "Press 'Enter' to restore the Conversation.";
+}
+
+std::string Mirror::DirectionFor(int kind) const {
+    switch (kind) {
+    case 1:
+        return MirrorText::DirectionConversation();
+    case 2:
+        return MirrorText::DirectionSupposition();
+    default:
+        return state_.DialogueText.empty() ? MirrorText::DirectionBeginningNotation()
+                                           : MirrorText::DirectionNotation();
+    }
+}
+
+void Mirror::StartEntry(int kind) {
+    state_.PairState = 0;
+    state_.EntryFailed = 0;
+    state_.AwaitingEnter = 0;
+    state_.EntryStartTime = app_.Clock.Timer();
+
+    auto& mirror = C(MirrorControl::txtMirror);
+    mirror.Background = Colour::EntryYellow;
+    mirror.Text = EntryPrefix;
+    mirror.Caret = 2;
+    mirror.SelectionLength = 0;
+
+    state_.DirectionText = DirectionFor(kind);
+    if (kind == 1) {
+        ArrangeEntry();
+        SetResponse(state_.DialogueText.empty() ? state_.DirectionText : state_.InspirationView,
+                    Colour::ColourReady);
+        SetEntryLimits(1);
+    } else {
+        SetResponse(state_.DirectionText, Colour::ColourReady);
+        SetEntryLimits(kind == 2 ? 1 : 3);
+    }
+
+    UpdateTitle();
+    ShowSmallView();
+    C(MirrorControl::txtSaved).Background = Colour::PanelGrey;
+
+    state_.ResponseText.clear();
+    state_.EntryBackup = EntryPrefix;
+
+    C(MirrorControl::lblRemS).Visible = false;
+    C(MirrorControl::lblRem).Visible = true;
+    C(MirrorControl::lblRem).Text = "X";
+    state_.EntryFit = -1;
+    C(MirrorControl::cmdClear).Enabled = false;
+    C(MirrorControl::cmdRemove).Enabled = false;
+    C(MirrorControl::cmdRemove).Text = "Edit";
+    C(MirrorControl::cmdRemove).Ink = Colour::Black;
+
+    state_.NoticeNotDue = 1;
+
+    if ((kind == 1 || kind == 2) && state_.CycleCount >= state_.CycleGoal) {
+        state_.AnswerFlag = engine_.RollAnswer(20);
+        if (state_.AnswerFlag == 0) {
+            DeliverNotice();
+        }
+    }
+}
+
+// The message regarding the conversation arrives through the same road as an entry: a
+// synthesised Enter on the entry box, with NoticeNotDue telling ProcessEntry what it carries.
+void Mirror::DeliverNotice() {
+    state_.NoticeNotDue = 0;
+    SetResponse(std::string(MirrorText::Processing), Colour::ColourReady);
+    Yield();
+    state_.ReplyText = engine_.RequestInterjection();
+    MirrorKeyPress(KeyCode::Enter);
+    C(MirrorControl::txtMirror).Caret = 0;
+}
+
+void Mirror::SetEntryLimits(int kind) {
+    switch (kind) {
+    case 3:
+        state_.EntryMin = 4;
+        state_.EntryNear = 200;
+        state_.EntryMax = 280;
+        break;
+    case 4:
+        state_.EntryMin = 3;
+        state_.EntryNear = 90;
+        state_.EntryMax = 140;
+        break;
+    default:
+        state_.EntryMin = 17;
+        state_.EntryNear = 90;
+        state_.EntryMax = 140;
+        break;
+    }
+}
+
+void Mirror::UpdateTitle() {
+    controls_.Title = std::string(MirrorText::TitleLead) + state_.TitleMethod + " -- " +
+                      FormatDate(app_.Clock.Now(), MirrorText::TitleDateFormat);
+}
+
+void Mirror::ShowInstruction() {
+    C(MirrorControl::txtNote).Text = state_.InstructionText;
+    C(MirrorControl::txtNote).Ink = state_.InstructionColour;
+}
+
+void Mirror::SetFinishOrCancel() {
+    if (state_.PairCount < 1) {
+        C(MirrorControl::cmdNew).Text = "Cancel";
+        C(MirrorControl::cmdDisplay).Enabled = false;
+    } else {
+        C(MirrorControl::cmdNew).Text = "Finish";
+        C(MirrorControl::cmdDisplay).Enabled = true;
+    }
+}
+
+// Enter while the result of the last Enter is on show: the cycle moves on.
+void Mirror::AdvanceCycle() {
+    switch (state_.ActiveMethod) {
+    case 1:
+        state_.InstructionText =
+            "Type your question or statement. Then press 'Enter' for the Sagrel response.";
+        StartEntry(1);
+        break;
+    case 2:
+        if (state_.SupposeStage == 3) {
+            Click(MirrorControl::cmdConverse);
+        } else {
+            state_.InstructionText = "Type your question. Click 'Rewrite' to erase the text. "
+                                     "Press 'Enter' to continue.";
+            StartEntry(2);
+        }
+        break;
+    case 4:
+        if (state_.EntryFailed == 1) {
+            StartEntry(4);
+            state_.InstructionText = CommentInstruction();
+        } else {
+            Click(MirrorControl::cmdConverse);
+        }
+        break;
+    default:
+        break;
+    }
+    state_.InstructionColour = Colour::Black;
+    ShowInstruction();
+}
+
+void Mirror::EnterInEntryBox() {
+    if (state_.AwaitingEnter == 1) {
+        AdvanceCycle();
+    } else if (state_.ActiveMethod == 4) {
+        ProcessComment();
+    } else if (state_.ActiveMethod == 1 || state_.ActiveMethod == 2) {
+        ProcessEntry();
+    }
+}
+
+void Mirror::ProcessEntry() {
+    SetResponse(std::string(MirrorText::Processing), Colour::ColourReady);
+    Yield();
+    if (state_.NoticeNotDue == 0) {
+        state_.AwaitingEnter = 1;
+        state_.ReplyText = Trim(Mid(state_.ReplyText, 3));
+        SetResponse(">> Regarding the conversation. To continue, press 'Enter'.\r\n\t" +
+                        state_.ReplyText,
+                    Colour::ColourNotice);
+        state_.InstructionText = "Review the message regarding the conversation. Press 'Enter', "
+                                 "then continue typing. Or click 'Finish'.";
+        state_.InstructionColour = Colour::Black;
+        state_.NoticeNotDue = 1;
+        return;
+    }
+
+    auto& mirror = C(MirrorControl::txtMirror);
+    TakeEntry();
+    if (state_.EntryFit != 0) {
+        RejectLength();
+        state_.EntryFailed = 1;
+        return;
+    }
+
+    JudgeEntry();
+    if (state_.ActiveMethod == 2) {
+        if (state_.EntryStatus == 2) {
+            state_.EntryStatus = -101;
+        }
+        if (state_.EntryType == 1) {
+            state_.EntryStatus = -100;
+        }
+    }
+    if (state_.EntryStatus < 1) {
+        state_.EntryText = state_.EntryBackup;
+        RejectEntry(false);
+        return;
+    }
+
+    state_.EntryFailed = 0;
+    ++state_.CycleCount;
+    mirror.Text += CloseQuote;
+    Yield();
+    state_.SeriesSeed = app_.Clock.Timer();
+    engine_.StretchSeeds(state_.SeriesSeed);
+    state_.AnswerFlag = engine_.RollAnswer(25);
+
+    if (state_.ActiveMethod == 2) {
+        state_.EntryType = 9;
+        if (state_.AnswerFlag == 1) {
+            OpenIdeaList();
+            return;
+        }
+        DeclineSupposition();
+    }
+
+    if (state_.AnswerFlag == 1) {
+        state_.ReplyText = engine_.RequestAnswer(state_.EntryType);
+    } else {
+        state_.ReplyText = engine_.RequestRemark(state_.EntryType);
+        state_.EntryType = 0;
+    }
+    state_.ReplyText = Trim(Mid(state_.ReplyText, 3));
+
+    state_.EntryText = mirror.Text;
+    state_.EntryBackup = state_.EntryText;
+    state_.ResponseText = std::string(1, Tab) + state_.ReplyText;
+    UpperAt(state_.EntryText, 3);
+    state_.DialogueBackup = state_.DialogueText;
+    BuildPairText();
+    ArrangeResult();
+    ShowResult();
+
+    if (state_.PairState == 1) {
+        state_.DialogueText += state_.PairText;
+        ++state_.PairCount;
+    }
+    C(MirrorControl::cmdRemove).Enabled = true;
+    SetFinishOrCancel();
+    mirror.Text = state_.EntryText;
+    mirror.Caret = static_cast<long>(mirror.Text.size());
+    SetResponse(state_.ResponseText, C(MirrorControl::txtResponse).Background);
+    C(MirrorControl::cmdNotate).Enabled = true;
+    UpdateTitle();
+    ShowSmallView();
+    ShowInstruction();
+}
+
+// Whether the result on show is in the Dialogue, and the button that offers the other choice.
+void Mirror::ShowResult() {
+    auto& response = C(MirrorControl::txtResponse);
+    if (state_.EntryType != 0) {
+        C(MirrorControl::cmdRemove).Text = "Remove";
+        state_.PairState = 1;
+        response.Background = Colour::ColourAdded;
+        state_.InstructionText = MirrorText::Added;
+        state_.InstructionColour = Colour::Black;
+    } else {
+        C(MirrorControl::cmdRemove).Text = "Keep";
+        state_.PairState = 2;
+        response.Background = Colour::ColourOut;
+        state_.InstructionText = MirrorText::NotAdded;
+        state_.InstructionColour = Colour::InkWarn;
+    }
+}
+
+void Mirror::TakeEntry() {
+    state_.EntryText = C(MirrorControl::txtMirror).Text;
+    state_.EntryCount = static_cast<int>(state_.EntryText.size()) - 2;
+    state_.AwaitingEnter = 1;
+}
+
+// The parser's judgement first, then the limit on kept items, which no other refusal outranks.
+void Mirror::JudgeEntry() {
+    const auto judgement =
+        engine_.CheckEntry(state_.EntryText, state_.ActiveMethod, state_.PairCount);
+    state_.EntryStatus = judgement.Status;
+    state_.EntryType = judgement.Type;
+    CheckDialogueLimit();
+}
+
+// Length is judged from the status the last key left, before the parser sees the entry.
+void Mirror::RejectLength() {
+    const bool tooShort = state_.EntryFit == -1;
+    state_.AwaitingEnter = 0;
+    SetResponse(std::string(tooShort ? MirrorText::TooShort : MirrorText::TooLong),
+                Colour::ColourError);
+    state_.InstructionText =
+        tooShort ? MirrorText::TooShortInstruction : MirrorText::TooLongInstruction;
+    state_.InstructionColour = Colour::Black;
+    C(MirrorControl::lblRem).Visible = true;
+    C(MirrorControl::cmdClear).Enabled = true;
+}
+
+void Mirror::RejectEntry(bool comment) {
+    const int status = state_.EntryStatus;
+    SetResponse(MirrorText::RejectionMessage(status, state_.ActiveMethod), Colour::ColourError);
+    if (status == -1) {
+        state_.InstructionText = "Backspace out the quote, then press 'Enter' to continue.";
+        state_.AwaitingEnter = 0;
+    } else if (status == 0) {
+        state_.InstructionText = "Enter your punctuation, then press 'Enter' to continue.";
+        state_.AwaitingEnter = 0;
+    } else {
+        state_.InstructionText = comment && status == -99
+                                     ? "Press 'Enter' to begin this entry again."
+                                     : "Press 'Enter' to start again.";
+        state_.AwaitingEnter = 1;
+        C(MirrorControl::txtMirror).Caret = 0;
+    }
+    state_.InstructionColour = Colour::Black;
+    ShowInstruction();
+    state_.EntryFailed = 1;
+}
+
+void Mirror::ProcessComment() {
+    auto& mirror = C(MirrorControl::txtMirror);
+    TakeEntry();
+    // A comment of the wrong length leaves EntryFailed as it was.
+    if (state_.EntryFit != 0) {
+        RejectLength();
+        return;
+    }
+
+    JudgeEntry();
+    if (state_.EntryStatus <= 0) {
+        state_.EntryText = state_.EntryBackup;
+        RejectEntry(true);
+        return;
+    }
+
+    state_.EntryFailed = 0;
+    state_.EntryText = mirror.Text;
+    state_.EntryBackup = state_.EntryText;
+    UpperAt(state_.EntryText, 3);
+    const std::string comment =
+        std::string{Tab, OpenQuote} + Mid(state_.EntryText, 3) + std::string(1, CloseQuote);
+    state_.DialogueBackup = state_.DialogueText;
+    state_.PairText = std::string(CrLf) + std::string(CrLf) + comment;
+    state_.DialogueText += state_.PairText;
+
+    mirror.Text = comment;
+    mirror.Caret = static_cast<long>(comment.size());
+    SetResponse("Comment\r\n" + comment, Colour::ColourAdded);
+    ArrangeResult();
+    ShowSmallView();
+    C(MirrorControl::cmdDisplay).Enabled = true;
+    C(MirrorControl::cmdRemove).Enabled = true;
+    C(MirrorControl::cmdRemove).Text = "Remove";
+    ++state_.PairCount;
+    state_.PairState = 1;
+    state_.InstructionText = "Text was added into the Dialogue. Click 'Remove' to erase it. Press "
+                             "'Enter' to continue. Or click 'Finish'.";
+    state_.InstructionColour = Colour::Black;
+    C(MirrorControl::cmdNew).Text = "Finish";
+    state_.ActiveMethod = 1;
+    state_.TitleMethod = "Conversation";
+    UpdateTitle();
+    C(MirrorControl::cmdNotate).Enabled = true;
+    PressMethodButton(MirrorControl::cmdConverse);
+}
+
+void Mirror::ClickRemove() {
+    const auto& caption = C(MirrorControl::cmdRemove).Text;
+    if (caption == "Continue") {
+        ContinueDialogue();
+        return;
+    }
+    if (state_.PairState == 1) {
+        state_.DialogueText = state_.DialogueBackup;
+        --state_.PairCount;
+        state_.PairState = 2;
+        C(MirrorControl::cmdRemove).Text = "Keep";
+        C(MirrorControl::txtResponse).Background = Colour::ColourOut;
+        state_.InstructionText = "Text was removed from the Dialogue. Click 'Keep' to retain it, "
+                                 "before continuing. Press 'Enter' to continue.";
+        state_.InstructionColour = Colour::InkWarn;
+    } else if (state_.PairState == 2) {
+        state_.DialogueText += state_.PairText;
+        ++state_.PairCount;
+        state_.PairState = 1;
+        C(MirrorControl::cmdRemove).Text = "Remove";
+        C(MirrorControl::txtResponse).Background = Colour::ColourAdded;
+        state_.InstructionText = "Text was kept in the Dialogue. Click 'Remove' to erase it, "
+                                 "before continuing. Press 'Enter' to continue.";
+        state_.InstructionColour = Colour::Black;
+    } else {
+        return;
+    }
+    SetFinishOrCancel();
+    ShowSmallView();
+    ShowInstruction();
+}
+
+} // namespace veyrant

@@ -1,0 +1,190 @@
+// The window's events as the screen reports them, sent to the routine that owns each control,
+// and the few platform calls that must show the state first.
+
+#include "dialogue/Mirror.h"
+#include "dialogue/MirrorTexts.h"
+#include "shell/Application.h"
+
+namespace veyrant {
+
+namespace {
+
+bool IsButton(MirrorControl control) {
+    switch (control) {
+    case MirrorControl::cmdConverse:
+    case MirrorControl::cmdSuppose:
+    case MirrorControl::cmdNotate:
+    case MirrorControl::cmdKnow:
+    case MirrorControl::cmdRetrieve:
+    case MirrorControl::cmdHelp:
+    case MirrorControl::cmdClear:
+    case MirrorControl::cmdRemove:
+    case MirrorControl::cmdDisplay:
+    case MirrorControl::cmdPrint:
+    case MirrorControl::cmdSave:
+    case MirrorControl::cmdNew:
+        return true;
+    default:
+        return false;
+    }
+}
+
+bool IsTextBox(MirrorControl control) {
+    return control == MirrorControl::txtMirror || control == MirrorControl::txtAnalyze ||
+           control == MirrorControl::txtResponse || control == MirrorControl::txtSaved;
+}
+
+} // namespace
+
+Mirror::Mirror(Application& app, DialogueEngine& engine, WorkBuffers& buffers,
+               DialogueLibrary& library)
+    : app_(app), engine_(engine), buffers_(buffers), library_(library) {
+    ScaleAtCreation();
+    // Nothing shows until the delayed start has reset the Dialogue.
+    for (auto& control : controls_.Items) {
+        control.Visible = false;
+    }
+    C(MirrorControl::Window).Visible = true;
+    C(MirrorControl::cmdClear).Text = "Rewrite";
+    C(MirrorControl::cmdConverse).Text = "Converse";
+    C(MirrorControl::cmdSuppose).Text = "Suppose";
+    C(MirrorControl::cmdNotate).Text = "Comment";
+    C(MirrorControl::cmdKnow).Text = "Know";
+    C(MirrorControl::cmdRetrieve).Text = "Retrieve";
+    C(MirrorControl::cmdHelp).Text = "Help";
+    C(MirrorControl::cmdRemove).Text = "Edit";
+    C(MirrorControl::cmdDisplay).Text = "Display";
+    C(MirrorControl::cmdPrint).Text = "Print";
+    C(MirrorControl::cmdSave).Text = "Save";
+    C(MirrorControl::cmdNew).Text = "Cancel";
+    C(MirrorControl::txtSaved).Background = Colour::PanelGrey;
+    C(MirrorControl::txtResponse).Background = Colour::ColourAdded;
+    C(MirrorControl::txtNote).Background = Colour::White;
+}
+
+void Mirror::StartWindow() {
+    ApplyWriteFont();
+    C(MirrorControl::txtMirror).Enabled = true;
+    for (auto control :
+         {MirrorControl::txtNote, MirrorControl::cmdKnow, MirrorControl::cmdConverse,
+          MirrorControl::cmdSuppose, MirrorControl::cmdNotate, MirrorControl::cmdRetrieve,
+          MirrorControl::cmdHelp, MirrorControl::cmdRemove, MirrorControl::cmdClear,
+          MirrorControl::cmdDisplay, MirrorControl::cmdPrint, MirrorControl::cmdSave,
+          MirrorControl::cmdNew, MirrorControl::Panel1, MirrorControl::txtSaved}) {
+        C(control).Visible = true;
+    }
+    ResetDialogue();
+    C(MirrorControl::txtMirror).Visible = true;
+    C(MirrorControl::txtResponse).Visible = true;
+    Yield();
+}
+
+void Mirror::Click(MirrorControl control) {
+    if (IsButton(control)) {
+        // The effect of a click is not hidden behind old help.
+        ClearHover();
+        hoverTicks_ = HoverLastTick;
+    }
+    switch (control) {
+    case MirrorControl::cmdConverse:
+        ClickMethod(1);
+        break;
+    case MirrorControl::cmdSuppose:
+        ClickMethod(2);
+        break;
+    case MirrorControl::cmdNotate:
+        ClickMethod(4);
+        break;
+    case MirrorControl::cmdClear:
+    case MirrorControl::txtMirror:
+        ClickEntryBox();
+        break;
+    case MirrorControl::cmdRemove:
+        ClickRemove();
+        break;
+    case MirrorControl::cmdDisplay:
+        ClickDisplay();
+        break;
+    case MirrorControl::cmdNew:
+        ClickNewCaption();
+        break;
+    case MirrorControl::cmdSave:
+        SaveDialogue();
+        break;
+    case MirrorControl::txtResponse:
+        ClickResponse();
+        break;
+    case MirrorControl::txtSaved:
+        ClickSaved();
+        break;
+    default:
+        break;
+    }
+}
+
+void Mirror::MouseDown(MirrorControl control, MouseButton button) {
+    if (control == MirrorControl::txtMirror && button == MouseButton::Right) {
+        Message("Change Font Size", "There are two font sizes available in the Write window.");
+        ToggleWriteFont();
+    } else if (control == MirrorControl::cmdSuppose && button == MouseButton::Left) {
+        PressMethodButton(MirrorControl::cmdSuppose);
+    }
+}
+
+void Mirror::MouseUp(MirrorControl control, MouseButton) {
+    if (IsTextBox(control)) {
+        C(control).SelectionLength = 0;
+    }
+}
+
+void Mirror::MouseMove(MirrorControl control) {
+    if (IsButton(control)) {
+        if (C(control).Enabled) {
+            MarkHover(control, HelpFor(control));
+        } else {
+            EndHover();
+        }
+        return;
+    }
+    switch (control) {
+    case MirrorControl::txtResponse:
+        ResponseHover();
+        break;
+    case MirrorControl::txtNote:
+        NoteHover();
+        break;
+    default:
+        EndHover();
+        break;
+    }
+}
+
+void Mirror::TimerFired(TimerId timer) {
+    if (timer == TimerId::MirrorHover) {
+        HoverTick();
+    }
+}
+
+MessageAnswer Mirror::Message(const std::string& title, const std::string& text, MessageIcon icon,
+                              MessageButtons buttons) {
+    Paint();
+    MessageBoxRequest request;
+    request.Title = title;
+    request.Text = text;
+    request.Icon = icon;
+    request.Buttons = buttons;
+    return app_.Windows.ShowMessage(request);
+}
+
+void Mirror::Yield() {
+    Paint();
+    app_.Windows.Yield();
+}
+
+void Mirror::Paint() {
+    if (painter_) {
+        painter_();
+    }
+}
+
+} // namespace veyrant

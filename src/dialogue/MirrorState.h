@@ -1,0 +1,62 @@
+#pragma once
+
+// The state variables of the Write window, named as the program names them. One value each for
+// the whole program: there is one Write window.
+
+#include "dialogue/Colour.h"
+
+#include <string>
+
+namespace veyrant {
+
+struct MirrorState {
+    int ActiveMethod = -1; // -1 before the first reset, 0 none, 1 Converse, 2 Suppose, 4 Comment
+    int AwaitingEnter = 0;
+    int EntryFit = -1; // -1 too short, 0 acceptable, 1 too long
+    int EntryCount = 0;
+    int EntryMin = 17;
+    int EntryNear = 90;
+    int EntryMax = 140;
+    int EntryStatus = 0;
+    int EntryFailed = 0;
+    int PairState = 0; // 0 nothing on show, 1 on show and kept, 2 on show and left out
+    int EntryType = 0;
+    int AnswerFlag = 1;
+    int NoticeNotDue = 1;
+    int CycleCount = 0;
+    int CycleGoal = 3;
+    float EntryStartTime = 0;
+    float SeriesSeed = 0;
+    std::string EntryText;
+    std::string EntryBackup;
+    std::string ReplyText;
+    std::string ResponseText;
+    std::string PairText;
+    std::string DialogueText;
+    std::string DialogueBackup;
+    int PairCount = 0;
+    std::string InspirationText;
+    std::string InspirationView;
+    std::string SuggestionText;
+    std::string DirectionText;
+    std::string InstructionText;
+    Colour InstructionColour = Colour::Black;
+    std::string TitleMethod;
+    int DisplayFull = 0;
+    int DialogueSaved = 0;
+    int SupposeStage = 0;
+    int EnterHintDue = 0;
+    int IdeaIndex = 0;
+    int IdeaCount = 0;
+    std::string SupposeQuestion;
+    std::string ListText;
+    std::string IdeaVerdict;
+    std::string ConclusionView;
+    int IdeaLimit = 98;
+    int LimitWarnCount = 0;
+    std::string DialogueView;
+    int ReadLibrary = 0; // which library the Reader shows; 0 none
+    bool TitleShownOnce = false;
+};
+
+} // namespace veyrant

@@ -1,0 +1,170 @@
+#include "dialogue/MirrorDriver.h"
+
+#include "core/Text.h"
+#include "dialogue/KeyCodes.h"
+#include "engine/EngineFiles.h"
+
+#include <stdexcept>
+
+namespace veyrant::testing {
+
+EntryJudgement ScriptedEngine::CheckEntry(const std::string& entryText, int, int) {
+    CheckedEntries.push_back(entryText);
+    if (Judgements.empty()) {
+        return {1, 2};
+    }
+    const auto judgement = Judgements.front();
+    Judgements.pop_front();
+    return judgement;
+}
+
+void ScriptedEngine::RecordKey(float time, int characterCode) {
+    KeyTimes.push_back(time);
+    KeyCodes.push_back(characterCode);
+}
+
+int ScriptedEngine::RollAnswer(int percent) {
+    RollPercents.push_back(percent);
+    if (Rolls.empty()) {
+        return 1;
+    }
+    const int flag = Rolls.front();
+    Rolls.pop_front();
+    return flag;
+}
+
+// As the program's engine does, a type with no message composes nothing and the last text comes
+// back again.
+std::string ScriptedEngine::RequestAnswer(int entryType) {
+    if (entryType <= 0 || entryType == 9) {
+        return Last;
+    }
+    ++Compositions;
+    Last = "\t Answer " + std::to_string(Compositions) + " to type " + std::to_string(entryType) +
+           ".  ";
+    return Last;
+}
+
+std::string ScriptedEngine::RequestRemark(int entryType) {
+    if (entryType <= 0) {
+        return Last;
+    }
+    ++Compositions;
+    Last =
+        "\t Remark " + std::to_string(Compositions) + " on type " + std::to_string(entryType) + ".";
+    return Last;
+}
+
+std::string ScriptedEngine::RequestInspiration() {
+    ++Inspirations;
+    return "\tInspiration number " + std::to_string(Inspirations) + ".";
+}
+
+std::string ScriptedEngine::PickGuidance() {
+    ++Guidances;
+    return "Suggestion " + std::to_string(Guidances);
+}
+
+float ScriptedRandom::Draw() {
+    if (Draws.empty()) {
+        return Random::Draw();
+    }
+    const float draw = Draws.front();
+    Draws.pop_front();
+    return draw;
+}
+
+MirrorDriver::MirrorDriver(int displayOption, Replies replies)
+    : App(AppFolder{Temp.Path()}, Temp / "program", Clock, Draws, Layer),
+      Library(App.Folder, App.UserSettings, Clock, Layer),
+      Buffers(App.Folder, App.UserSettings, Clock, Layer) {
+    std::filesystem::create_directories(App.Folder.Exe());
+    App.UserSettings.DisplayOption = static_cast<std::int16_t>(displayOption);
+    SetDisplayScale(displayOption, App.Scale);
+    DialogueEngine* engine = &Engine;
+    if (replies == Replies::Composed) {
+        InstallEngineFiles(App.Folder);
+        RealEngine = std::make_unique<veyrant::Engine>(Draws, Clock, Layer);
+        if (!RealEngine->LoadSystem(App.Folder)) {
+            throw std::runtime_error("the engine data did not load");
+        }
+        RealEngine->SeedSeries();
+        Composer = std::make_unique<EngineDialogue>(*RealEngine);
+        engine = Composer.get();
+    }
+    mirror = std::make_unique<Mirror>(App, *engine, Buffers, Library);
+}
+
+void MirrorDriver::LeavePriorDialogue(int pairCount) {
+    std::string dialogue;
+    for (int item = 1; item <= pairCount; ++item) {
+        dialogue += "\r\n\r\n\t\x93"
+                    "Entry " +
+                    std::to_string(item) + ".\x94\r\n\tResponse.";
+    }
+    Buffers.WriteWorkBuffers({"\tAn old inspiration.", dialogue, "An old suggestion.", pairCount});
+}
+
+void MirrorDriver::Key(int keyCode, int keyAscii) {
+    const bool passedDown = mirror->KeyDown(keyCode) != 0;
+    int passed = keyAscii;
+    if (keyAscii != 0) {
+        passed = mirror->KeyPress(keyAscii);
+    }
+    if (!passedDown || passed == 0) {
+        return;
+    }
+    // Applied as the text widget would: at the caret, or a Backspace before it.
+    const auto focus = mirror->Controls().Focus;
+    std::string text = Box(focus).Text;
+    long caret = Box(focus).Caret;
+    if (passed == KeyCode::Backspace) {
+        if (caret > 0) {
+            text.erase(static_cast<std::size_t>(caret - 1), 1);
+            --caret;
+        }
+    } else if (passed != KeyCode::Enter) {
+        text.insert(static_cast<std::size_t>(caret), 1, static_cast<char>(passed));
+        ++caret;
+    }
+    mirror->TextEdited(focus, text, caret);
+}
+
+void MirrorDriver::Type(const std::string& text) {
+    for (char c : text) {
+        const auto code = static_cast<unsigned char>(c);
+        // Punctuation has its own key codes, which must not read as the arrows and Delete that
+        // share their character numbers.
+        int keyCode = 0xBE;
+        if (code >= 'a' && code <= 'z') {
+            keyCode = code - 32;
+        } else if ((code >= 'A' && code <= 'Z') || (code >= '0' && code <= '9') || code == ' ') {
+            keyCode = code;
+        }
+        Key(keyCode, code);
+    }
+}
+
+void MirrorDriver::Enter() {
+    Key(KeyCode::Enter, KeyCode::Enter);
+}
+
+void MirrorDriver::Backspace() {
+    Key(KeyCode::Backspace, KeyCode::Backspace);
+}
+
+void MirrorDriver::Press(int keyCode) {
+    Key(keyCode, 0);
+}
+
+void MirrorDriver::StartConverse() {
+    mirror->StartWindow();
+    mirror->Click(MirrorControl::cmdConverse);
+}
+
+void MirrorDriver::Converse(const std::string& entry) {
+    Type(entry);
+    Enter();
+}
+
+} // namespace veyrant::testing

@@ -1,0 +1,98 @@
+#pragma once
+
+// Drives the Write window's logic the way the screen does: each key as key down then key press,
+// and a key neither stage dropped applied to the box, as the text widget would apply it.
+
+#include "core/Random.h"
+#include "dialogue/DialogueEngine.h"
+#include "dialogue/EngineDialogue.h"
+#include "dialogue/Mirror.h"
+#include "engine/Engine.h"
+#include "shell/Application.h"
+#include "storage/DialogueLibrary.h"
+#include "storage/WorkBuffers.h"
+#include "support/FakeClock.h"
+#include "support/FakeWindowLayer.h"
+#include "support/TempFolder.h"
+
+#include <deque>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace veyrant::testing {
+
+// Judges entries and composes replies from a script, so a test chooses the outcome.
+class ScriptedEngine : public DialogueEngine {
+public:
+    EntryJudgement CheckEntry(const std::string& entryText, int activeMethod,
+                              int pairCount) override;
+    void RecordKey(float time, int characterCode) override;
+    void StretchSeeds(float seriesSeed) override { Stretched.push_back(seriesSeed); }
+    int RollAnswer(int percent) override;
+    std::string RequestAnswer(int entryType) override;
+    std::string RequestRemark(int entryType) override;
+    std::string RequestInterjection() override { return "\t The talk has turned inward."; }
+    std::string RequestInspiration() override;
+    std::string PickGuidance() override;
+
+    std::deque<EntryJudgement> Judgements; // Enter by Enter; a statement when empty
+    std::deque<int> Rolls;                 // answer flags; 1 when empty
+    std::vector<int> RollPercents;
+    std::vector<std::string> CheckedEntries;
+    std::vector<int> KeyCodes;
+    std::vector<float> KeyTimes;
+    std::vector<float> Stretched;
+    int Compositions = 0;
+    std::string Last;
+    int Inspirations = 0;
+    int Guidances = 0;
+};
+
+// Draws from a script while it lasts, then as the program's own generator does.
+class ScriptedRandom : public Random {
+public:
+    float Draw() override;
+    std::deque<float> Draws;
+};
+
+class MirrorDriver {
+public:
+    // With the program's engine and its starter content in place of the scripted one.
+    enum class Replies { Scripted, Composed };
+
+    explicit MirrorDriver(int displayOption = 1, Replies replies = Replies::Scripted);
+
+    // Types each character of text (Windows-1252) into the focused box.
+    void Type(const std::string& text);
+    void Key(int keyCode, int keyAscii = 0);
+    void Enter();
+    void Backspace();
+    // A key with no character, such as an arrow or a function key.
+    void Press(int keyCode);
+    // Starts the window and begins a Converse entry.
+    void StartConverse();
+    // Types and enters one accepted entry.
+    void Converse(const std::string& entry);
+
+    const Control& Box(MirrorControl control) const { return mirror->Controls()[control]; }
+    std::string Text(MirrorControl control) const { return Box(control).Text; }
+    const MirrorState& State() const { return mirror->State(); }
+
+    // Leaves work buffers that reopen as a Prior Dialogue of that many items.
+    void LeavePriorDialogue(int pairCount);
+
+    TempFolder Temp;
+    FakeWindowLayer Layer;
+    FakeClock Clock;
+    ScriptedRandom Draws;
+    ScriptedEngine Engine;
+    Application App;
+    DialogueLibrary Library;
+    WorkBuffers Buffers;
+    std::unique_ptr<veyrant::Engine> RealEngine;
+    std::unique_ptr<EngineDialogue> Composer;
+    std::unique_ptr<Mirror> mirror;
+};
+
+} // namespace veyrant::testing

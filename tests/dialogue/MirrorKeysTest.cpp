@@ -1,0 +1,205 @@
+#include "core/Text.h"
+#include "dialogue/KeyCodes.h"
+#include "dialogue/MirrorDriver.h"
+
+#include <gtest/gtest.h>
+
+namespace veyrant::testing {
+namespace {
+
+const std::string Prefix{Tab, OpenQuote};
+
+struct CountCase {
+    int Method; // 1 Converse, 4 Comment
+    int Typed;  // characters typed
+    bool Mark;  // lblRem visible
+    std::string MarkText;
+    Colour Ink;
+    int EntryFit;
+};
+
+class MirrorCount : public ::testing::TestWithParam<CountCase> {};
+
+// The count lags one key behind the text: it is taken before the key lands.
+TEST_P(MirrorCount, MarkAndInstructionFollowTheLaggingCount) {
+    const auto& c = GetParam();
+    MirrorDriver driver;
+    driver.mirror->StartWindow();
+    driver.mirror->Click(c.Method == 4 ? MirrorControl::cmdNotate : MirrorControl::cmdConverse);
+    driver.Type(std::string(static_cast<std::size_t>(c.Typed), 'a'));
+    EXPECT_EQ(driver.Box(MirrorControl::lblRem).Visible, c.Mark);
+    if (c.Mark) {
+        EXPECT_EQ(driver.Text(MirrorControl::lblRem), c.MarkText);
+    }
+    EXPECT_EQ(driver.Box(MirrorControl::txtNote).Ink, c.Ink);
+    EXPECT_EQ(driver.State().EntryFit, c.EntryFit);
+}
+
+INSTANTIATE_TEST_SUITE_P(Thresholds, MirrorCount,
+                         ::testing::Values(CountCase{1, 1, true, "X", Colour::InkWarn, -1},
+                                           CountCase{1, 18, true, "X", Colour::InkWarn, -1},
+                                           CountCase{1, 19, false, "", Colour::Black, 0},
+                                           CountCase{1, 91, false, "", Colour::Black, 0},
+                                           CountCase{1, 92, true, "8", Colour::InkNear, 0},
+                                           CountCase{1, 135, true, "1", Colour::InkNear, 0},
+                                           CountCase{1, 142, true, "X", Colour::InkOver, 1},
+                                           CountCase{4, 5, true, "X", Colour::InkWarn, -1},
+                                           CountCase{4, 6, false, "", Colour::Black, 0},
+                                           CountCase{4, 201, false, "", Colour::Black, 0},
+                                           CountCase{4, 202, true, "13", Colour::InkNear, 0},
+                                           CountCase{4, 282, true, "X", Colour::InkOver, 1}));
+
+TEST(MirrorKeys, InstructionsOfTheCountByMethod) {
+    MirrorDriver driver;
+    driver.StartConverse();
+    driver.Type("a");
+    EXPECT_EQ(driver.Text(MirrorControl::txtNote),
+              "Type to reach the minimum number of words. Then press 'Enter' when your question "
+              "or statement is ready.");
+    driver.Type(std::string(18, 'a'));
+    EXPECT_EQ(driver.Text(MirrorControl::txtNote),
+              "Ready to enter your question or statement. Continue typing, or press 'Enter' to "
+              "advance the cycle of conversation.");
+    driver.Type(std::string(73, 'a'));
+    EXPECT_EQ(driver.Text(MirrorControl::txtNote),
+              "Limit on word count is near. There is space for about 8 more words. Press 'Enter' "
+              "when ready.");
+    driver.Type(std::string(50, 'a'));
+    EXPECT_EQ(driver.Text(MirrorControl::txtNote),
+              "Over the maximum text limit. Delete words until this display status changes. Or "
+              "click 'Rewrite' to erase the text.");
+}
+
+TEST(MirrorKeys, OverTheLimitOnlyBackspaceWorks) {
+    MirrorDriver driver;
+    driver.StartConverse();
+    driver.Type(std::string(160, 'a'));
+    // 141 typed: the 142nd press counts 140 and is the first one dropped.
+    EXPECT_EQ(driver.Text(MirrorControl::txtMirror).size(), 2u + 141u);
+    driver.Backspace();
+    driver.Backspace();
+    EXPECT_EQ(driver.Text(MirrorControl::txtMirror).size(), 2u + 139u);
+    EXPECT_EQ(driver.State().EntryFit, 0);
+    // The count of a Backspace is one less than the next typed key will take.
+    EXPECT_EQ(driver.State().EntryCount, 137);
+}
+
+TEST(MirrorKeys, ProtectedHeadAndCaretMoves) {
+    MirrorDriver driver;
+    driver.StartConverse();
+    driver.Type("abcdefghij"); // caret at 12, length 12
+    driver.Press(KeyCode::Home);
+    EXPECT_EQ(driver.Box(MirrorControl::txtMirror).Caret, 2);
+    driver.Backspace();
+    driver.Press(KeyCode::Left);
+    EXPECT_EQ(driver.Text(MirrorControl::txtMirror), Prefix + "abcdefghij");
+    EXPECT_EQ(driver.Box(MirrorControl::txtMirror).Caret, 2);
+    driver.Press(KeyCode::Down);
+    EXPECT_EQ(driver.Box(MirrorControl::txtMirror).Caret, 7);
+    driver.Press(KeyCode::Down);
+    EXPECT_EQ(driver.Box(MirrorControl::txtMirror).Caret, 9);
+    driver.Press(KeyCode::Up);
+    EXPECT_EQ(driver.Box(MirrorControl::txtMirror).Caret, 5);
+    driver.Press(KeyCode::End);
+    EXPECT_EQ(driver.Box(MirrorControl::txtMirror).Caret, 12);
+    driver.Type("\t");
+    EXPECT_EQ(driver.Text(MirrorControl::txtMirror), Prefix + "abcdefghij");
+}
+
+TEST(MirrorKeys, ControlKeyIsRefusedWithABox) {
+    MirrorDriver driver;
+    driver.StartConverse();
+    driver.Press(KeyCode::Control);
+    ASSERT_EQ(driver.Layer.Boxes.size(), 1u);
+    EXPECT_EQ(driver.Layer.Boxes[0].Title, "Invalid Key");
+    EXPECT_EQ(driver.Layer.Boxes[0].Text, "Use of the control key is not allowed.");
+}
+
+TEST(MirrorKeys, TypingWhileAResultIsOnShowGivesTheEnterHint) {
+    MirrorDriver driver;
+    driver.StartConverse();
+    driver.Converse("What would change if I said no this time?");
+    const std::string shown = driver.Text(MirrorControl::txtMirror);
+    driver.Type("x");
+    EXPECT_EQ(driver.Text(MirrorControl::txtMirror), shown);
+    ASSERT_EQ(driver.Layer.Boxes.size(), 1u);
+    EXPECT_EQ(driver.Layer.Boxes[0].Title, "Veyrant Sagrel Help");
+    EXPECT_EQ(driver.Layer.Boxes[0].Text.substr(0, 29), "Press 'Enter' to continue. In");
+    EXPECT_EQ(driver.Box(MirrorControl::txtMirror).Caret, 0);
+    driver.Enter();
+    EXPECT_EQ(driver.Text(MirrorControl::txtMirror), Prefix);
+}
+
+TEST(MirrorKeys, TheKeyRecordTakesTimeAndCodeOfEveryKeyButEnterAndBackspace) {
+    MirrorDriver driver;
+    driver.StartConverse();
+    driver.Clock.Seconds = 100.5f;
+    driver.Type("Hi");
+    driver.Backspace();
+    driver.Clock.Seconds = 101.25f;
+    driver.Type("\xe9");
+    EXPECT_EQ(driver.Engine.KeyCodes, (std::vector<int>{'H', 'i', 0xe9}));
+    EXPECT_EQ(driver.Engine.KeyTimes, (std::vector<float>{100.5f, 100.5f, 101.25f}));
+    driver.Enter();
+    EXPECT_EQ(driver.Engine.KeyCodes.size(), 3u);
+}
+
+TEST(MirrorKeys, RewriteAndAClickOnTheTextEraseTheEntry) {
+    MirrorDriver driver;
+    driver.StartConverse();
+    EXPECT_FALSE(driver.Box(MirrorControl::cmdClear).Enabled);
+    driver.Type("Something I meant");
+    EXPECT_TRUE(driver.Box(MirrorControl::cmdClear).Enabled);
+    driver.mirror->Click(MirrorControl::cmdClear);
+    EXPECT_EQ(driver.Text(MirrorControl::txtMirror), Prefix);
+    EXPECT_FALSE(driver.Box(MirrorControl::cmdClear).Enabled);
+    EXPECT_EQ(driver.Text(MirrorControl::txtNote),
+              "Type your entry again. Then press 'Enter' to continue.");
+    driver.Type("Another start");
+    driver.mirror->Click(MirrorControl::txtMirror);
+    EXPECT_EQ(driver.Text(MirrorControl::txtMirror), Prefix);
+
+    // Once the entry is answered a click only explains how to go on.
+    driver.Converse("What do I owe the people who raised me?");
+    driver.mirror->Click(MirrorControl::txtMirror);
+    EXPECT_EQ(driver.State().PairCount, 1);
+    ASSERT_EQ(driver.Layer.Boxes.size(), 1u);
+    EXPECT_EQ(driver.Layer.Boxes[0].Text.substr(0, 40), "In this part of the cycle, you must pres");
+}
+
+TEST(MirrorKeys, FocusReturnsToTheEntryBox) {
+    MirrorDriver driver;
+    driver.StartConverse();
+    driver.mirror->FocusGained(MirrorControl::txtSaved);
+    EXPECT_EQ(driver.mirror->Controls().Focus, MirrorControl::txtMirror);
+    driver.mirror->FocusLost(MirrorControl::txtMirror);
+    EXPECT_EQ(driver.mirror->Controls().Focus, MirrorControl::txtMirror);
+    // The rule stands down while the program is ending.
+    driver.App.ClosingState = ClosingStates::Exiting;
+    driver.mirror->FocusGained(MirrorControl::txtSaved);
+    EXPECT_EQ(driver.mirror->Controls().Focus, MirrorControl::txtSaved);
+}
+
+TEST(MirrorKeys, MouseReleaseLeavesNothingSelected) {
+    MirrorDriver driver;
+    driver.StartConverse();
+    driver.Type("select me");
+    driver.mirror->CaretMoved(MirrorControl::txtMirror, 4, 5);
+    driver.mirror->MouseUp(MirrorControl::txtMirror, MouseButton::Left);
+    EXPECT_EQ(driver.Box(MirrorControl::txtMirror).SelectionLength, 0);
+}
+
+TEST(MirrorKeys, RightPressOnTheEntryBoxTogglesTheWriteFont) {
+    MirrorDriver driver(1);
+    driver.StartConverse();
+    EXPECT_EQ(driver.Box(MirrorControl::txtMirror).FontSize, 12);
+    EXPECT_TRUE(driver.Box(MirrorControl::txtMirror).FontBold);
+    driver.mirror->MouseDown(MirrorControl::txtMirror, MouseButton::Right);
+    EXPECT_EQ(driver.Layer.Boxes.back().Title, "Change Font Size");
+    EXPECT_EQ(driver.App.UserSettings.WriteFontStep, 2);
+    EXPECT_EQ(driver.Box(MirrorControl::txtSaved).FontSize, 13.5);
+    EXPECT_FALSE(driver.Box(MirrorControl::txtResponse).FontBold);
+}
+
+} // namespace
+} // namespace veyrant::testing

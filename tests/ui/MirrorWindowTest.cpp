@@ -1,0 +1,184 @@
+// The Write window on a real (offscreen) screen: keys typed into its widgets go through the
+// rules and show as the user would see them.
+
+#include "ui/MirrorWindow.h"
+
+#include "core/Random.h"
+#include "dialogue/EngineDialogue.h"
+#include "dialogue/Mirror.h"
+#include "engine/Engine.h"
+#include "engine/EngineFiles.h"
+#include "shell/Application.h"
+#include "storage/DialogueLibrary.h"
+#include "storage/WorkBuffers.h"
+#include "support/FakeClock.h"
+#include "support/FakeWindowLayer.h"
+#include "support/TempFolder.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QtTest>
+#include <memory>
+
+using namespace veyrant;
+
+namespace {
+
+// A whole Write window over the program's engine in a fresh folder.
+struct WriteWindow {
+    WriteWindow()
+        : App(AppFolder{Temp.Path()}, Temp / "program", Clock, Draws, Layer),
+          Composer(Draws, Clock, Layer), Replies(Composer),
+          Library(App.Folder, App.UserSettings, Clock, Layer),
+          Buffers(App.Folder, App.UserSettings, Clock, Layer) {
+        SetDisplayScale(1, App.Scale);
+        InstallEngineFiles(App.Folder);
+        Composer.LoadSystem(App.Folder);
+        Composer.SeedSeries();
+        Logic = std::make_unique<Mirror>(App, Replies, Buffers, Library);
+        Window = std::make_unique<MirrorWindow>(App, *Logic);
+        Window->show();
+        Logic->StartWindow();
+        Window->Render();
+    }
+
+    QPlainTextEdit* Box(MirrorControl control) const {
+        return static_cast<QPlainTextEdit*>(Window->Widget(control));
+    }
+    QString Caption(MirrorControl control) const {
+        return static_cast<QPushButton*>(Window->Widget(control))->text();
+    }
+    void Click(MirrorControl control) const {
+        QTest::mouseClick(Window->Widget(control), Qt::LeftButton);
+    }
+
+    testing::TempFolder Temp;
+    testing::FakeWindowLayer Layer;
+    testing::FakeClock Clock;
+    Random Draws;
+    Application App;
+    Engine Composer;
+    EngineDialogue Replies;
+    DialogueLibrary Library;
+    WorkBuffers Buffers;
+    std::unique_ptr<Mirror> Logic;
+    std::unique_ptr<MirrorWindow> Window;
+};
+
+const QString Prefix = QStringLiteral("\t\u201C");
+
+} // namespace
+
+class MirrorWindowTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void TypedEntryIsAnsweredOnScreen() {
+        WriteWindow write;
+        write.Click(MirrorControl::cmdConverse);
+        auto* entry = write.Box(MirrorControl::txtMirror);
+        QVERIFY(entry->isVisible());
+        QCOMPARE(entry->toPlainText(), Prefix);
+        auto* mark = static_cast<QLabel*>(write.Window->Widget(MirrorControl::lblRem));
+        QCOMPARE(mark->text(), QStringLiteral("X"));
+
+        QTest::keyClicks(entry, QStringLiteral("Why do I keep the old letters in a box?"));
+        QCOMPARE(entry->toPlainText(),
+                 Prefix + QStringLiteral("Why do I keep the old letters in a box?"));
+        QVERIFY(!mark->isVisible());
+        QVERIFY(write.Window->Widget(MirrorControl::cmdClear)->isEnabled());
+
+        QTest::keyClick(entry, Qt::Key_Return);
+        QCOMPARE(entry->toPlainText(),
+                 Prefix + QStringLiteral("Why do I keep the old letters in a box?\u201D"));
+        const QString response = write.Box(MirrorControl::txtResponse)->toPlainText();
+        QVERIFY(response.startsWith(QLatin1Char('\t')));
+        QVERIFY(response.size() > 10);
+        const QString choice = write.Caption(MirrorControl::cmdRemove);
+        QVERIFY(choice == QStringLiteral("Remove") || choice == QStringLiteral("Keep"));
+        QVERIFY(write.Box(MirrorControl::txtSaved)
+                    ->toPlainText()
+                    .startsWith(QStringLiteral("Dialogue")));
+        // The entry now stands above the response.
+        QVERIFY(entry->y() < write.Box(MirrorControl::txtResponse)->y());
+    }
+
+    void HeadIsProtectedAndRefusedKeysLeaveNoTrace() {
+        WriteWindow write;
+        write.Click(MirrorControl::cmdConverse);
+        auto* entry = write.Box(MirrorControl::txtMirror);
+        QTest::keyClicks(entry, QStringLiteral("abc"));
+        QTest::keyClick(entry, Qt::Key_Home);
+        QTest::keyClick(entry, Qt::Key_Backspace);
+        QTest::keyClick(entry, Qt::Key_Left);
+        QTest::keyClicks(entry, QStringLiteral("X"));
+        QCOMPARE(entry->toPlainText(), Prefix + QStringLiteral("Xabc"));
+
+        // A character with no place in the program's character set is refused.
+        QKeyEvent omega(QEvent::KeyPress, 0x3A9, Qt::NoModifier, QString(QChar(0x3A9)));
+        QApplication::sendEvent(entry, &omega);
+        QTest::keyClick(entry, Qt::Key_Tab);
+        QCOMPARE(entry->toPlainText(), Prefix + QStringLiteral("Xabc"));
+    }
+
+    void PasteDropAndShortcutsAreRefused() {
+        WriteWindow write;
+        write.Click(MirrorControl::cmdConverse);
+        auto* entry = write.Box(MirrorControl::txtMirror);
+        QApplication::clipboard()->setText(QStringLiteral("pasted text"));
+        QTest::keyClick(entry, Qt::Key_V, Qt::ControlModifier);
+        QTest::keyClick(entry, Qt::Key_A, Qt::ControlModifier);
+        QCOMPARE(entry->toPlainText(), Prefix);
+        QCOMPARE(entry->contextMenuPolicy(), Qt::NoContextMenu);
+        QVERIFY(!entry->acceptDrops());
+        QTest::mouseClick(entry->viewport(), Qt::MiddleButton);
+        QCOMPARE(entry->toPlainText(), Prefix);
+        // The control key itself is named in the program's box.
+        QTest::keyClick(entry, Qt::Key_Control);
+        QVERIFY(!write.Layer.Boxes.empty());
+        QCOMPARE(write.Layer.Boxes.back().Title, std::string("Invalid Key"));
+    }
+
+    void RestingOnAButtonMarksItAndItsHelpFollows() {
+        WriteWindow write;
+        write.Click(MirrorControl::cmdConverse);
+        QWidget* cancel = write.Window->Widget(MirrorControl::cmdNew);
+        QTest::mouseMove(cancel, QPoint(10, 10));
+        QTest::mouseMove(cancel, QPoint(12, 11));
+        QCOMPARE(int(write.Logic->Controls()[MirrorControl::cmdNew].Ink), int(Colour::HoverInk));
+        QVERIFY(cancel->property("hoverMark").toBool());
+        QCOMPARE(write.Layer.Timers.count(TimerId::MirrorHover), 1u);
+        write.Logic->TimerFired(TimerId::MirrorHover);
+        write.Window->Render();
+        auto* note = static_cast<QLabel*>(write.Window->Widget(MirrorControl::txtNote));
+        QCOMPARE(note->text(),
+                 QStringLiteral("Cancel your interaction and return to New Dialogue."));
+    }
+
+    void FullViewCoversTheBoxesAndComesBack() {
+        WriteWindow write;
+        write.Click(MirrorControl::cmdConverse);
+        auto* entry = write.Box(MirrorControl::txtMirror);
+        QTest::keyClicks(entry, QStringLiteral("I want to understand why Sundays feel heavy."));
+        QTest::keyClick(entry, Qt::Key_Return);
+        if (write.Caption(MirrorControl::cmdRemove) == QStringLiteral("Keep")) {
+            write.Click(MirrorControl::cmdRemove);
+        }
+        QTest::keyClick(entry, Qt::Key_F11);
+        QCOMPARE(write.Caption(MirrorControl::cmdDisplay), QStringLiteral("Write"));
+        auto* saved = write.Box(MirrorControl::txtSaved);
+        QVERIFY(saved->toPlainText().startsWith(QStringLiteral("Inspiration\n\n\t")));
+        // The panel rises to the top of the boxes' area and covers them.
+        QCOMPARE(saved->y(), 960 / 15);
+        auto* note = static_cast<QLabel*>(write.Window->Widget(MirrorControl::txtNote));
+        QVERIFY(note->text().startsWith(QStringLiteral("Your Dialogue is less than 1 page long.")));
+        QTest::mouseClick(saved->viewport(), Qt::LeftButton);
+        QCOMPARE(write.Caption(MirrorControl::cmdDisplay), QStringLiteral("Display"));
+    }
+};
+
+QTEST_MAIN(MirrorWindowTest)
+#include "MirrorWindowTest.moc"
