@@ -9,6 +9,8 @@
 #include "engine/Engine.h"
 #include "engine/EngineFiles.h"
 #include "shell/Application.h"
+#include "shell/DisplayScale.h"
+#include "shell/MirrorLayout.h"
 #include "storage/DialogueLibrary.h"
 #include "storage/WorkBuffers.h"
 #include "support/FakeClock.h"
@@ -21,6 +23,7 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QtTest>
+#include <cmath>
 #include <memory>
 
 using namespace veyrant;
@@ -29,12 +32,12 @@ namespace {
 
 // A whole Write window over the program's engine in a fresh folder.
 struct WriteWindow {
-    WriteWindow()
+    explicit WriteWindow(int displayOption = 1)
         : App(AppFolder{Temp.Path()}, Temp / "program", Clock, Draws, Layer),
           Composer(Draws, Clock, Layer), Replies(Composer),
           Library(App.Folder, App.UserSettings, Clock, Layer),
           Buffers(App.Folder, App.UserSettings, Clock, Layer) {
-        SetDisplayScale(1, App.Scale);
+        SetDisplayScale(displayOption, App.Scale);
         InstallEngineFiles(App.Folder);
         Composer.LoadSystem(App.Folder);
         Composer.SeedSeries();
@@ -76,6 +79,25 @@ class MirrorWindowTest : public QObject {
     Q_OBJECT
 
 private slots:
+    void WindowAndBoxesGrowWithTheDisplayOption() {
+        const auto pixels = [](double twips) { return static_cast<int>(std::lround(twips / 15)); };
+        const MirrorLayout design = MirrorDesign();
+        for (const int option : {0, 1, 2, 3}) {
+            WriteWindow write(option);
+            const double factor = write.App.Scale.ScaleFactor;
+            QCOMPARE(write.Window->width(), pixels((design.WindowWidth - 90) * factor));
+            QCOMPARE(write.Window->height(), pixels((design.WindowHeight - 405) * factor));
+            // The New Dialogue state shows the Opening arrangement.
+            QCOMPARE(write.Box(MirrorControl::txtResponse)->y(), pixels(960 * factor));
+            QCOMPARE(write.Box(MirrorControl::txtSaved)->y(), pixels(2760 * factor));
+            const QFont saved = write.Box(MirrorControl::txtSaved)->font();
+            QCOMPARE(saved.pointSizeF(), write.App.Scale.TextSize[1]);
+            QCOMPARE(saved.bold(), option < 2);
+            QCOMPARE(write.Window->Widget(MirrorControl::cmdClear)->font().pointSizeF(),
+                     write.App.Scale.ButtonFontSize);
+        }
+    }
+
     void TypedEntryIsAnsweredOnScreen() {
         WriteWindow write;
         write.Click(MirrorControl::cmdConverse);
