@@ -14,6 +14,9 @@ namespace veyrant {
 class FieldReader {
 public:
     explicit FieldReader(std::string_view text) : text_(text) {}
+    // The reader keeps a view of the text: a temporary would be gone before the first field.
+    explicit FieldReader(std::string&&) = delete;
+    explicit FieldReader(const char* text) : text_(text) {}
 
     std::int16_t ReadInt16();
     std::int32_t ReadInt32();
