@@ -66,6 +66,7 @@ struct MessageRequest {
     const char* Name;
 };
 
+// Every message the stocks and plans serve, with the request that asks for it.
 const MessageRequest Messages[] = {
     {1, Request::Answer, 1, "YesNoAnswer"},
 };
@@ -98,7 +99,8 @@ std::string Compose(Engine& engine, const MessageRequest& request) {
 class ContentVariety : public testing::EngineFixture,
                        public ::testing::WithParamInterface<MessageRequest> {
 protected:
-    // Every plan of the shipped plan file, messages first, then sections.
+    // The replies a message allows: each section counted over its components' rows, then the
+    // message over its sections. The plan file holds the messages first, then the sections.
     std::uint64_t MessageVariety(std::int16_t message) {
         const EngineTables& tables = TheEngine.Tables();
         const std::string planFile(ShippedPlanFile());
