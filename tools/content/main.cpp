@@ -49,6 +49,8 @@ std::string TwoDigits(int n) {
 
 ContentSources ReadSources(const fs::path& data) {
     ContentSources sources;
+    const fs::path order = data / "stocks" / "order.txt";
+    ReadGroupOrder(order.string(), ReadSource(order), sources);
     for (int b = 1; b <= StockCount; ++b) {
         const fs::path file = data / "stocks" / (TwoDigits(b) + ".txt");
         sources.Stocks[static_cast<std::size_t>(b)] =
