@@ -7,7 +7,6 @@
 #include "core/WholeFile.h"
 #include "support/TempFolder.h"
 
-#include <algorithm>
 #include <cstdlib>
 #include <filesystem>
 #include <gtest/gtest.h>
@@ -78,17 +77,15 @@ void AddLines(const fs::path& content, const std::string& relative,
     }
 }
 
+// The stocks are the files 01.txt to 14.txt; the folder holds their group order as well.
 std::vector<PhraseLine> PhraseLines(const fs::path& content) {
-    std::vector<std::string> stocks;
-    for (const auto& entry : fs::directory_iterator(content / "stocks")) {
-        if (entry.path().extension() == ".txt") {
-            stocks.push_back("stocks/" + entry.path().filename().string());
-        }
-    }
-    std::sort(stocks.begin(), stocks.end());
     std::vector<PhraseLine> lines;
-    for (const auto& stock : stocks) {
-        AddLines(content, stock, StockPhrase, lines);
+    for (int stock = 1; stock <= content::StockCount; ++stock) {
+        const std::string name =
+            std::string("stocks/") + (stock < 10 ? "0" : "") + std::to_string(stock) + ".txt";
+        if (fs::exists(content / name)) {
+            AddLines(content, name, StockPhrase, lines);
+        }
     }
     AddLines(content, "suggestions.txt", SuggestionPhrase, lines);
     return lines;
@@ -172,6 +169,7 @@ TEST(Spelling, NamesEachUnknownWordWithItsFileAndLine) {
     WriteWholeFile(content / "stocks" / "02.txt", "[Open]\n"
                                                   "An honest, open question\n"
                                                   "Your parents’ wishes\n");
+    WriteWholeFile(content / "stocks" / "order.txt", "1: Quiet-mornnig Cond-lead\n"); // no phrases
     WriteWholeFile(content / "suggestions.txt", "= Reveal What Is Hiden\n"
                                                 "Use the Converse method to create new ideas.\n"
                                                 "Click ‘Keep’ and let it setle.\n");
