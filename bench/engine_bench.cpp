@@ -20,19 +20,23 @@
 namespace veyrant {
 namespace {
 
-// One program folder with the engine files laid down, for the whole run.
-const AppFolder& BenchFolder() {
-    static const AppFolder folder = [] {
+// One program folder with the engine files laid down, for the whole run, removed at its end.
+struct BenchFolderOwner {
+    AppFolder Folder;
+    BenchFolderOwner() {
         char name[] = "/tmp/engine-bench-XXXXXX";
         if (mkdtemp(name) == nullptr) {
             std::abort();
         }
-        AppFolder made{name};
-        InstallEngineFiles(made);
-        std::atexit([] { std::filesystem::remove_all(BenchFolder().Root); });
-        return made;
-    }();
-    return folder;
+        Folder.Root = name;
+        InstallEngineFiles(Folder);
+    }
+    ~BenchFolderOwner() { std::filesystem::remove_all(Folder.Root); }
+};
+
+const AppFolder& BenchFolder() {
+    static const BenchFolderOwner owner;
+    return owner.Folder;
 }
 
 struct LoadedEngine {

@@ -23,6 +23,8 @@ public:
     void SetBusyPointer(bool) override {}
     void StartTimer(TimerId, int) override {}
     void StopTimer(TimerId) override {}
+    void LoadWindow(WindowId) override {}
+    void UnloadWindow(WindowId) override {}
     void ShowWindow(WindowId) override {}
     void HideWindow(WindowId) override {}
     void MinimiseWindow(WindowId) override {}
