@@ -34,6 +34,10 @@ public:
     virtual void StartTimer(TimerId timer, int milliseconds) = 0;
     virtual void StopTimer(TimerId timer) = 0;
 
+    // Creates a window without showing it; showing a window that is not loaded loads it first.
+    virtual void LoadWindow(WindowId window) = 0;
+    // Hides and destroys a window; it is built afresh at its next load.
+    virtual void UnloadWindow(WindowId window) = 0;
     virtual void ShowWindow(WindowId window) = 0;
     virtual void HideWindow(WindowId window) = 0;
     virtual void MinimiseWindow(WindowId window) = 0;

@@ -50,6 +50,31 @@ std::vector<Value> Allocated(int lastIndex) {
     return std::vector<Value>(static_cast<std::size_t>(lastIndex) + 1);
 }
 
+// Entries 1 to count; entry 0 idle.
+std::vector<std::int16_t> ReadList(FieldReader& reader, int count) {
+    auto list = Allocated<std::int16_t>(count);
+    for (std::size_t i = 1; i < list.size(); ++i) {
+        list[i] = reader.ReadInt16();
+    }
+    return list;
+}
+
+// Pairs from first to last, each an identifying number and its value.
+template <typename Value>
+void ReadPairs(FieldReader& reader, int first, int last, std::vector<std::int16_t>& ids,
+               std::vector<Value>& values) {
+    ids = Allocated<std::int16_t>(last);
+    values = Allocated<Value>(last);
+    for (auto i = static_cast<std::size_t>(first); i < ids.size(); ++i) {
+        ids[i] = reader.ReadInt16();
+        if constexpr (sizeof(Value) == 4) {
+            values[i] = reader.ReadInt32();
+        } else {
+            values[i] = reader.ReadInt16();
+        }
+    }
+}
+
 // The order of the fields is the whole format: a slip in any count shifts every later value,
 // and the closing mark then reads as something else.
 void ReadTables(FieldReader& reader, EngineTables& t) {
@@ -66,36 +91,12 @@ void ReadTables(FieldReader& reader, EngineTables& t) {
     const std::int16_t tightJoinerCount = reader.ReadInt16();
     t.SysBlockCount = reader.ReadInt16();
 
-    t.MessageId = Allocated<std::int16_t>(t.MessageCount);
-    t.MessageCombos = Allocated<std::int32_t>(t.MessageCount);
-    for (int i = 1; i <= t.MessageCount; ++i) {
-        t.MessageId[static_cast<std::size_t>(i)] = reader.ReadInt16();
-        t.MessageCombos[static_cast<std::size_t>(i)] = reader.ReadInt32();
-    }
-    t.SectionId = Allocated<std::int16_t>(t.SectionCount);
-    t.SectionCombos = Allocated<std::int32_t>(t.SectionCount);
-    for (int i = 1; i <= t.SectionCount; ++i) {
-        t.SectionId[static_cast<std::size_t>(i)] = reader.ReadInt16();
-        t.SectionCombos[static_cast<std::size_t>(i)] = reader.ReadInt32();
-    }
-    t.CaseKeepers = Allocated<std::int16_t>(caseKeeperCount);
-    for (int i = 1; i <= caseKeeperCount; ++i) {
-        t.CaseKeepers[static_cast<std::size_t>(i)] = reader.ReadInt16();
-    }
-    t.TightJoiners = Allocated<std::int16_t>(tightJoinerCount);
-    for (int i = 1; i <= tightJoinerCount; ++i) {
-        t.TightJoiners[static_cast<std::size_t>(i)] = reader.ReadInt16();
-    }
-    t.ComponentId = Allocated<std::int16_t>(t.ComponentCount);
-    t.ComponentRows = Allocated<std::int16_t>(t.ComponentCount);
-    for (int c = 0; c <= t.ComponentCount; ++c) {
-        t.ComponentId[static_cast<std::size_t>(c)] = reader.ReadInt16();
-        t.ComponentRows[static_cast<std::size_t>(c)] = reader.ReadInt16();
-    }
-    t.BlockRows = Allocated<std::int16_t>(t.SysBlockCount);
-    for (int b = 1; b <= t.SysBlockCount; ++b) {
-        t.BlockRows[static_cast<std::size_t>(b)] = reader.ReadInt16();
-    }
+    ReadPairs(reader, 1, t.MessageCount, t.MessageId, t.MessageCombos);
+    ReadPairs(reader, 1, t.SectionCount, t.SectionId, t.SectionCombos);
+    t.CaseKeepers = ReadList(reader, caseKeeperCount);
+    t.TightJoiners = ReadList(reader, tightJoinerCount);
+    ReadPairs(reader, 0, t.ComponentCount, t.ComponentId, t.ComponentRows);
+    t.BlockRows = ReadList(reader, t.SysBlockCount);
     t.ComponentBlock = Allocated<std::int16_t>(t.ComponentCount);
     t.Map.Allocate(t.SysBlockCount, t.ComponentCount, t.RowCap);
     for (int c = 0; c <= t.ComponentCount; ++c) {

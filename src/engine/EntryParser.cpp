@@ -36,40 +36,46 @@ struct HitCell {
 
 using HitGrid = std::array<std::array<HitCell, 5>, 3>; // rows 1-2, columns 1-4
 
-bool StandsAt(std::string_view text, std::string_view phrase, long position) {
-    return FindNoCase(text, phrase, position) == position;
+// Every search of the classifier ignores case: it runs on a lower-cased copy of the text with
+// lower-case needles, which is the same and spares folding the text at each search.
+bool StandsAt(std::string_view folded, std::string_view phrase, long position) {
+    const auto at = static_cast<std::size_t>(position - 1);
+    return position >= 1 && at + phrase.size() <= folded.size() &&
+           folded.compare(at, phrase.size(), phrase) == 0;
 }
 
-void BlankOut(std::string& text, long position, std::size_t length) {
+void BlankOut(std::string& text, std::string& folded, long position, std::size_t length) {
     if (position > 1) {
         std::fill_n(text.begin() + (position - 1), length, ' ');
+        std::fill_n(folded.begin() + (position - 1), length, ' ');
     }
 }
 
 // "I will" and its kin are the user speaking of himself, not asking: they must not count as
 // the auxiliary of a question.
 void BlankFirstPerson(std::string& text, const EntryWords& words) {
+    std::string folded = Lower(text);
     for (std::size_t j = 1; j < words.AuxWords.size(); ++j) {
         const std::string aux(words.AuxWords[j]);
-        const std::string spaced = " I " + aux;
-        const std::string comma = ",I " + aux;
-        const std::string closing = " I " + aux.substr(0, aux.size() - 1) + ",";
+        const std::string spaced = " i " + aux;
+        const std::string comma = ",i " + aux;
+        const std::string closing = " i " + aux.substr(0, aux.size() - 1) + ",";
         long third = 0;
         do {
-            BlankOut(text, FindNoCase(text, spaced), spaced.size());
-            BlankOut(text, FindNoCase(text, comma), comma.size());
-            third = FindNoCase(text, closing);
-            BlankOut(text, third, closing.size());
+            BlankOut(text, folded, Find(folded, spaced), spaced.size());
+            BlankOut(text, folded, Find(folded, comma), comma.size());
+            third = Find(folded, closing);
+            BlankOut(text, folded, third, closing.size());
         } while (third != 0);
     }
 }
 
-std::int16_t CommaBefore(std::string_view text, std::string_view word, long found) {
+std::int16_t CommaBefore(std::string_view folded, std::string_view word, long found) {
     if (found <= 4) {
         return 0;
     }
-    const bool spaced = FindNoCase(text, ", " + std::string(word), found - 2) > 0;
-    const bool tight = FindNoCase(text, "," + std::string(word), found - 1) > 0;
+    const bool spaced = Find(folded, ", " + std::string(word), found - 2) > 0;
+    const bool tight = Find(folded, "," + std::string(word), found - 1) > 0;
     return spaced || tight ? 1 : 0;
 }
 
@@ -80,7 +86,7 @@ struct ClassifyPass {
 };
 
 // Returns false when the pass overflowed.
-bool QueryPass(std::string_view text, const EntryWords& words, ClassifyPass& pass) {
+bool QueryPass(std::string_view folded, const EntryWords& words, ClassifyPass& pass) {
     int count = 0;
     long atStart = 0;
     for (int q = 1; q < static_cast<int>(words.QueryWords.size()); ++q) {
@@ -88,7 +94,7 @@ bool QueryPass(std::string_view text, const EntryWords& words, ClassifyPass& pas
         long start = 1;
         for (;;) {
             HitCell cell;
-            const long found = FindNoCase(text, " " + word, start);
+            const long found = Find(folded, " " + word, start);
             if (found > 0) {
                 start = found;
                 if (atStart != 1) {
@@ -96,16 +102,16 @@ bool QueryPass(std::string_view text, const EntryWords& words, ClassifyPass& pas
                 }
                 cell.QueryWord = q;
                 ++count;
-                cell.AfterComma = CommaBefore(text, word, found);
+                cell.AfterComma = CommaBefore(folded, word, found);
                 for (std::size_t j = 1; j < words.AuxWords.size(); ++j) {
                     const std::string aux(words.AuxWords[j]);
                     std::string phrase = " " + word + std::string(words.ElseWord) + aux;
-                    if (!StandsAt(text, phrase, found)) {
+                    if (!StandsAt(folded, phrase, found)) {
                         phrase = " " + word + aux;
                     }
-                    if (StandsAt(text, phrase, found)) {
+                    if (StandsAt(folded, phrase, found)) {
                         cell.AuxWord = static_cast<int>(j);
-                        if (StandsAt(text, phrase + "I ", found)) {
+                        if (StandsAt(folded, phrase + "i ", found)) {
                             cell.SubjectI = 1;
                         }
                         break;
@@ -135,20 +141,20 @@ bool QueryPass(std::string_view text, const EntryWords& words, ClassifyPass& pas
     return true;
 }
 
-bool AuxPass(std::string_view text, const EntryWords& words, ClassifyPass& pass) {
+bool AuxPass(std::string_view folded, const EntryWords& words, ClassifyPass& pass) {
     int count = 0;
     for (int j = 1; j < static_cast<int>(words.AuxWords.size()); ++j) {
         const std::string aux(words.AuxWords[static_cast<std::size_t>(j)]);
         long start = 1;
         for (;;) {
             HitCell cell;
-            const long found = FindNoCase(text, " " + aux, start);
+            const long found = Find(folded, " " + aux, start);
             if (found > 0) {
                 start = found;
                 cell.AuxWord = j;
                 ++count;
-                cell.AfterComma = CommaBefore(text, aux, found);
-                if (FindNoCase(text, " " + aux + "I ", found) > 0) {
+                cell.AfterComma = CommaBefore(folded, aux, found);
+                if (Find(folded, " " + aux + "i ", found) > 0) {
                     cell.SubjectI = 1;
                 }
             }
@@ -281,7 +287,8 @@ void ClassifyEntry(std::string& text, std::int16_t& EntryType) {
     ClassifyPass pass;
     BlankFirstPerson(text, words);
     text = " " + Trim(text);
-    pass.Overflow = !QueryPass(text, words, pass) || !AuxPass(text, words, pass);
+    const std::string folded = Lower(text);
+    pass.Overflow = !QueryPass(folded, words, pass) || !AuxPass(folded, words, pass);
     EntryType = Decide(pass);
 }
 

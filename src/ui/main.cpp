@@ -1,6 +1,36 @@
+#include "core/Clock.h"
+#include "core/Random.h"
+#include "shell/AppFolder.h"
+#include "shell/Application.h"
+#include "shell/StartUp.h"
+#include "ui/BannerWindow.h"
+#include "ui/MirrorWindow.h"
+#include "ui/QtWindowLayer.h"
+
 #include <QApplication>
 
 int main(int argc, char** argv) {
-    QApplication application(argc, argv);
-    return 0;
+    using namespace veyrant;
+    QApplication qt(argc, argv);
+    QApplication::setStyle(QStringLiteral("Fusion"));
+
+    QtWindowLayer windows;
+    SystemClock clock;
+    Random random;
+    Application app(AppFolder::FromEnvironment(), "/proc/self/exe", clock, random, windows);
+
+    windows.RegisterWindow(WindowId::Banner, [&] { return new BannerWindow(windows); });
+    windows.RegisterWindow(WindowId::Mirror, [&] {
+        auto* mirror = new MirrorWindow(app);
+        mirror->OnClose = [&] { UnloadMirror(app); };
+        return mirror;
+    });
+    windows.SetTimerHandler(TimerId::MirrorTimer1, [&] { Timer1(app); });
+    windows.SetTimerHandler(TimerId::BannerTimer, [&] { BannerTimer(app); });
+
+    Main(app);
+    if (windows.Ended()) {
+        return 0;
+    }
+    return QApplication::exec();
 }

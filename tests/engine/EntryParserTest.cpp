@@ -2,15 +2,32 @@
 
 #include "core/Text.h"
 
+#include <cctype>
 #include <gtest/gtest.h>
 
 namespace veyrant {
 namespace {
 
+// A test name from the case's sentence, which ctest lists.
+std::string NameOf(const std::string& sentence, std::size_t index) {
+    std::string name;
+    for (const char c : sentence) {
+        if (std::isalnum(static_cast<unsigned char>(c))) {
+            name += c;
+        }
+    }
+    return name + "_" + std::to_string(index);
+}
+
 struct ClassifyCase {
     const char* Sentence;
     std::int16_t EntryType;
 };
+
+// ctest lists a case by what this prints.
+void PrintTo(const ClassifyCase& c, std::ostream* out) {
+    *out << c.Sentence;
+}
 
 class ClassifyEntryTable : public ::testing::TestWithParam<ClassifyCase> {};
 
@@ -67,7 +84,8 @@ INSTANTIATE_TEST_SUITE_P(
         // A fourth question word overflows.
         ClassifyCase{"Who knew who said who did who went?", -1},
         // Overflow on unstored hits alone leaves the grid empty, which is looked at first.
-        ClassifyCase{"How far how near how deep how wide?", 0}));
+        ClassifyCase{"How far how near how deep how wide?", 0}),
+    [](const auto& info) { return NameOf(info.param.Sentence, info.index); });
 
 TEST(ClassifyEntry, LeavesThePreparedFormInTheText) {
     std::string text = "  Do you think I will go?  ";
@@ -83,6 +101,11 @@ struct CheckCase {
     std::int16_t EntryStatus;
     std::int16_t EntryType; // 77 when it must stay as it was
 };
+
+// ctest lists a case by what this prints.
+void PrintTo(const CheckCase& c, std::ostream* out) {
+    *out << c.ActiveMethod << " " << c.Sentence;
+}
 
 class CheckEntryTable : public ::testing::TestWithParam<CheckCase> {};
 
@@ -127,7 +150,11 @@ INSTANTIATE_TEST_SUITE_P(
         CheckCase{1, 1, "Who knows; what matters now?", -12, -2},
         CheckCase{1, 1, "I wondered who really knew it?", -13, -3},
         CheckCase{1, 1, "Is it, is it, is it, is it, is it?", -11, -1},
-        CheckCase{1, 1, "Tell me about the weather?", -10, 0}));
+        CheckCase{1, 1, "Tell me about the weather?", -10, 0}),
+    [](const auto& info) {
+        return "Method" + std::to_string(info.param.ActiveMethod) + "_" +
+               NameOf(info.param.Sentence, info.index);
+    });
 
 TEST(LoadEntryWords, HoldsTheNumberedTables) {
     const EntryWords words = LoadEntryWords();

@@ -41,6 +41,11 @@ struct DamageCase {
     std::string Text;
 };
 
+// ctest lists a case by what this prints.
+void PrintTo(const DamageCase& c, std::ostream* out) {
+    *out << c.Name;
+}
+
 class LoadSystemBoxes : public ::testing::TestWithParam<DamageCase> {};
 
 TEST_P(LoadSystemBoxes, EndTheStartWithTheProgramsBox) {

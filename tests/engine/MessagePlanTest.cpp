@@ -47,6 +47,11 @@ struct FaultCase {
     int Error;
 };
 
+// ctest lists a case by what this prints.
+void PrintTo(const FaultCase& c, std::ostream* out) {
+    *out << c.Name;
+}
+
 class ReadPlanFaults : public ::testing::TestWithParam<FaultCase> {};
 
 TEST_P(ReadPlanFaults, RaiseTheirNumber) {
@@ -73,6 +78,11 @@ struct SequenceCase {
     const char* Sequence;
 };
 
+// ctest lists a case by what this prints.
+void PrintTo(const SequenceCase& c, std::ostream* out) {
+    *out << c.Target;
+}
+
 class GenMatrixSeqTable : public ::testing::TestWithParam<SequenceCase> {};
 
 TEST_P(GenMatrixSeqTable, CountsBlocksInOrderWithSlotSixFastest) {
@@ -92,7 +102,8 @@ INSTANTIATE_TEST_SUITE_P(
         SequenceCase{9, "30 31, 10"},
         // All slots empty give an empty text.
         SequenceCase{10, "30 31"}, SequenceCase{11, "30 31, 40"}, SequenceCase{12, ""},
-        SequenceCase{0, ""}));
+        SequenceCase{0, ""}),
+    [](const auto& info) { return "Target" + std::to_string(info.param.Target); });
 
 TEST(GenMatrixSeq, AllEmptySlotsGiveAnEmptySequence) {
     const MessagePlan plan = ReadOne("1, 1, 1\r\n\"b\"\r\n\"s\", 1, 1\r\n\"s\", 1, 1\r\n"
@@ -127,6 +138,11 @@ struct LoadCase {
     const char* Sequence;
 };
 
+// ctest lists a case by what this prints.
+void PrintTo(const LoadCase& c, std::ostream* out) {
+    *out << c.Kind << " " << c.Number;
+}
+
 class LoadPlanTable : public ::testing::TestWithParam<LoadCase> {};
 
 TEST_P(LoadPlanTable, ScansMessagesThenSections) {
@@ -153,7 +169,8 @@ INSTANTIATE_TEST_SUITE_P(
                       LoadCase{"Section", 1, "300"}, LoadCase{"Section", 2, "400"},
                       // A scan that never meets its plan ends on the last.
                       LoadCase{"Section", 3, "400"}, LoadCase{"Message", 0, "400"},
-                      LoadCase{"message", 1, "400"}));
+                      LoadCase{"message", 1, "400"}),
+    [](const auto& info) { return info.param.Kind + std::to_string(info.param.Number); });
 
 TEST(KeptPlans, AgreeWithCountingForEveryTarget) {
     EngineTables tables;

@@ -56,19 +56,15 @@ INSTANTIATE_TEST_SUITE_P(
                                 false}),
     [](const auto& info) { return std::string(info.param.Name); });
 
-TEST(StockTargets, HoldEveryStockOfTheDesign) {
-    const auto& targets = StockTargets();
+TEST(StockTargets, TakeTheNamedGroupsOfEachStockInListOrder) {
+    ContentSources sources;
+    ReadGroupOrder("order.txt", "9: Consider-yes Can-change\n7: Not-experience\n", sources);
+    const auto targets = StockTargets(sources);
     ASSERT_EQ(targets.size(), static_cast<std::size_t>(StockCount + 1));
-    int rows = 0;
-    std::size_t labels = 0;
-    for (int b = 1; b <= StockCount; ++b) {
-        rows += targets[static_cast<std::size_t>(b)].Rows;
-        labels += targets[static_cast<std::size_t>(b)].Labels.size();
-    }
-    EXPECT_EQ(rows, 22225);
-    EXPECT_EQ(targets[11].Labels.back(), "Inspiration6");
-    EXPECT_EQ(targets[12].Labels.front(), "Inspiration7");
-    EXPECT_EQ(labels, 222u);
+    EXPECT_EQ(targets[9].Labels, (std::vector<std::string>{"Consider-yes", "Can-change"}));
+    EXPECT_EQ(targets[7].Labels, std::vector<std::string>{"Not-experience"});
+    EXPECT_EQ(targets[7].Rows, 1273);
+    EXPECT_TRUE(targets[8].Labels.empty());
 }
 
 } // namespace

@@ -40,7 +40,19 @@ MessageAnswer FakeWindowLayer::ShowMessage(const MessageBoxRequest& request) {
     return answer;
 }
 
+void FakeWindowLayer::LoadWindow(WindowId window) {
+    Loaded.insert(window);
+    WindowEvents.push_back(std::string("load ") + WindowName(window));
+}
+
+void FakeWindowLayer::UnloadWindow(WindowId window) {
+    Loaded.erase(window);
+    Visible.erase(window);
+    WindowEvents.push_back(std::string("unload ") + WindowName(window));
+}
+
 void FakeWindowLayer::ShowWindow(WindowId window) {
+    Loaded.insert(window);
     Visible.insert(window);
     WindowEvents.push_back(std::string("show ") + WindowName(window));
 }

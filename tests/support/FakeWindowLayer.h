@@ -19,6 +19,8 @@ public:
     void SetBusyPointer(bool busy) override { Busy = busy; }
     void StartTimer(TimerId timer, int milliseconds) override { Timers[timer] = milliseconds; }
     void StopTimer(TimerId timer) override { Timers.erase(timer); }
+    void LoadWindow(WindowId window) override;
+    void UnloadWindow(WindowId window) override;
     void ShowWindow(WindowId window) override;
     void HideWindow(WindowId window) override;
     void MinimiseWindow(WindowId window) override { Minimised.insert(window); }
@@ -36,9 +38,10 @@ public:
     std::vector<MessageBoxRequest> Boxes;
     std::deque<MessageAnswer> Answers;
     std::map<TimerId, int> Timers;
+    std::set<WindowId> Loaded;
     std::set<WindowId> Visible;
     std::set<WindowId> Minimised;
-    std::vector<std::string> WindowEvents; // "show Mirror", "hide Banner", ...
+    std::vector<std::string> WindowEvents; // "load Mirror", "show Banner", "unload Banner", ...
     std::set<std::string> MissingFaces;
     int ScreenWidth = 1920 * TwipsPerPixel;
     int ScreenHeight = 1080 * TwipsPerPixel;

@@ -30,6 +30,8 @@ std::string ReadSource(const fs::path& path) {
 ContentSources ReadContentFolder(const std::string& dataFolder) {
     const fs::path data = dataFolder;
     ContentSources sources;
+    const fs::path order = data / "stocks" / "order.txt";
+    ReadGroupOrder(order.string(), ReadSource(order), sources);
     for (int b = 1; b <= StockCount; ++b) {
         const fs::path file = data / "stocks" / (StockNumberText(b) + ".txt");
         sources.Stocks[static_cast<std::size_t>(b)] =

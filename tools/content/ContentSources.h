@@ -5,6 +5,7 @@
 // already Windows-1252 here; every item remembers where it was written.
 
 #include <array>
+#include <map>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -44,6 +45,7 @@ using PlanChoice = std::vector<std::string>;
 
 struct PlanBlockSource {
     std::array<std::vector<PlanChoice>, 7> Slots; // slots 1 to 6
+    std::array<SourcePlace, 7> SlotPlaces;
     SourcePlace Place;
 };
 
@@ -59,6 +61,12 @@ struct NameList {
     SourcePlace Place;
 };
 
+// Where a named group belongs: its stock, and its place among the named groups of that stock.
+struct GroupPlace {
+    int Stock = 0;
+    int Order = 0;
+};
+
 struct ContentSources {
     std::array<StockSource, StockCount + 1> Stocks; // 1 to 14
     std::vector<PlanDefinition> Messages;
@@ -69,18 +77,20 @@ struct ContentSources {
     NameList CaseKeepers;
     NameList TightJoiners;
     std::vector<std::string> Suggestions;
+    std::map<std::string, GroupPlace> GroupOrder;
 };
 
 // Each raises ContentError.
 StockSource ReadStockSource(const std::string& fileName, std::string_view utf8);
 void ReadPlanSource(const std::string& fileName, std::string_view utf8, ContentSources& sources);
+void ReadGroupOrder(const std::string& fileName, std::string_view utf8, ContentSources& sources);
 std::vector<std::string> ReadSuggestionSource(const std::string& fileName, std::string_view utf8);
 
 // A stock's number as its files are named: "07".
 std::string StockNumberText(int stock);
 
-// Every source under a data folder: stocks/01.txt to 14.txt, plans/*.txt in name order, and
-// suggestions.txt.
+// Every source under a data folder: stocks/order.txt, stocks/01.txt to 14.txt, plans/*.txt in
+// name order, and suggestions.txt.
 ContentSources ReadContentFolder(const std::string& dataFolder);
 
 // The text lines of a source file in Windows-1252, with comments and outer blanks removed;

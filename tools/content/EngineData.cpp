@@ -59,6 +59,7 @@ private:
         for (int b = 1; b <= StockCount; ++b) {
             auto& rows = stockRows_[static_cast<std::size_t>(b)];
             rows.assign(1, std::string());
+            const PhraseGroup* lastPlaced = nullptr;
             for (const PhraseGroup& group : sources_.Stocks[static_cast<std::size_t>(b)].Groups) {
                 if (componentByLabel_.count(group.Label) > 0) {
                     throw ContentError(group.Place,
@@ -68,6 +69,7 @@ private:
                     throw ContentError(group.Place,
                                        "the group " + group.Label + " has too many rows");
                 }
+                CheckPlace(b, group, lastPlaced);
                 componentByLabel_[group.Label] = static_cast<int>(components_.size());
                 components_.push_back(
                     {b, static_cast<int>(rows.size()), static_cast<int>(group.Rows.size())});
@@ -82,6 +84,24 @@ private:
         if (components_.empty()) {
             throw ContentError({"data/stocks", 0}, "the stocks hold no group");
         }
+    }
+
+    // Named groups keep the stock and the order of the group order list.
+    void CheckPlace(int stock, const PhraseGroup& group, const PhraseGroup*& lastPlaced) const {
+        const auto place = sources_.GroupOrder.find(group.Label);
+        if (place == sources_.GroupOrder.end()) {
+            return;
+        }
+        if (place->second.Stock != stock) {
+            throw ContentError(group.Place, "the group " + group.Label + " belongs in stock " +
+                                                std::to_string(place->second.Stock));
+        }
+        if (lastPlaced != nullptr &&
+            sources_.GroupOrder.at(lastPlaced->Label).Order > place->second.Order) {
+            throw ContentError(group.Place,
+                               "the group " + group.Label + " belongs before " + lastPlaced->Label);
+        }
+        lastPlaced = &group;
     }
 
     static bool IsPunctuation(const std::string& label) {
@@ -119,19 +139,21 @@ private:
             std::array<std::vector<int>, 7> slots;
             std::int64_t combos = 1;
             for (std::size_t s = 1; s <= 6; ++s) {
+                const SourcePlace& place =
+                    block.SlotPlaces[s].Line > 0 ? block.SlotPlaces[s] : block.Place;
                 std::vector<PlanChoice> choices = block.Slots[s];
                 if (choices.empty()) {
                     choices.emplace_back(); // an unwritten slot holds the empty choice
                 }
                 if (choices.size() > MaxSlotChoices) {
-                    throw ContentError(block.Place, "slot " + std::to_string(s) + " holds " +
-                                                        std::to_string(choices.size()) +
-                                                        " choices, more than 250");
+                    throw ContentError(place, "slot " + std::to_string(s) + " holds " +
+                                                  std::to_string(choices.size()) +
+                                                  " choices, more than 250");
                 }
                 for (const PlanChoice& choice : choices) {
                     std::vector<int> numbers;
                     for (const std::string& name : choice) {
-                        numbers.push_back(partsOf(block.Place, name));
+                        numbers.push_back(partsOf(place, name));
                     }
                     const std::string text = Joined(numbers, ", ");
                     auto [found, added] =

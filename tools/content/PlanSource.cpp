@@ -99,7 +99,7 @@ struct PlanReader {
             if (Plan == nullptr) {
                 throw ContentError(place, "a block stands outside a plan");
             }
-            Plan->Blocks.push_back({{}, place});
+            Plan->Blocks.push_back({{}, {}, place});
             LastSlot = 0;
         } else if (text.front() == '|') {
             if (Plan == nullptr || Plan->Blocks.empty() || LastSlot == 0) {
@@ -125,6 +125,7 @@ struct PlanReader {
             throw ContentError(place, "slots of a block stand in order 1 to 6, each once");
         }
         LastSlot = slot;
+        Plan->Blocks.back().SlotPlaces[static_cast<std::size_t>(slot)] = place;
         const std::string choices = Trim(text.substr(2));
         if (choices.empty()) {
             throw ContentError(place, "slot " + std::to_string(slot) + " has no choice");

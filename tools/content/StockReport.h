@@ -1,7 +1,7 @@
 #pragma once
 
 // How far the phrase stocks have grown against the engine's design: the rows each stock is
-// allocated and the labels it must hold, in order.
+// allocated, and the named groups of the group order list that it must hold, in that order.
 
 #include "ContentSources.h"
 
@@ -15,8 +15,9 @@ struct StockTarget {
     std::vector<std::string> Labels; // in row order; a stock may hold others between them
 };
 
-// The design's table for stocks 1 to 14; entry 0 is idle.
-const std::vector<StockTarget>& StockTargets();
+// The targets of stocks 1 to 14, their labels taken from the group order list; entry 0 is
+// idle.
+std::vector<StockTarget> StockTargets(const ContentSources& sources);
 
 struct StockTally {
     int Rows = 0; // label rows and phrase rows, repeats included

@@ -2,6 +2,7 @@
 #include "core/Text.h"
 
 #include <cctype>
+#include <sstream>
 
 namespace veyrant::content {
 
@@ -120,6 +121,30 @@ StockSource ReadStockSource(const std::string& fileName, std::string_view utf8) 
                            "the group " + stock.Groups.back().Label + " has no rows");
     }
     return stock;
+}
+
+void ReadGroupOrder(const std::string& fileName, std::string_view utf8, ContentSources& sources) {
+    const auto lines = SourceLines(fileName, utf8);
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        const SourcePlace place{fileName, static_cast<int>(i) + 1};
+        if (lines[i].empty()) {
+            continue;
+        }
+        const auto colon = lines[i].find(':');
+        const std::string number = Trim(lines[i].substr(0, colon));
+        if (colon == std::string::npos || number.empty() || number.size() > 2 ||
+            number.find_first_not_of("0123456789") != std::string::npos || std::stoi(number) < 1 ||
+            std::stoi(number) > StockCount) {
+            throw ContentError(place, "a line of the group order is \"stock: Label Label ...\"");
+        }
+        std::istringstream labels(lines[i].substr(colon + 1));
+        int order = 0;
+        for (std::string label; labels >> label;) {
+            if (!sources.GroupOrder.emplace(label, GroupPlace{std::stoi(number), ++order}).second) {
+                throw ContentError(place, "the group " + label + " is placed twice");
+            }
+        }
+    }
 }
 
 std::vector<std::string> ReadSuggestionSource(const std::string& fileName, std::string_view utf8) {

@@ -1,9 +1,10 @@
 // content-report [DATA_DIR]
 //
 // Prints, for each phrase stock, its rows (labels and repeats counted), distinct rows, repeats,
-// groups and the labels of the design's table that it holds, against the size it is allocated.
-// Exits with 1 when a stock lies outside a tenth of its size, or a table label is missing or
-// out of order; with 2 on a bad call. Without DATA_DIR it reads the data/ of this source tree.
+// groups and the named groups of stocks/order.txt that it holds, against the size it is
+// allocated. Exits with 1 when a stock lies outside a tenth of its size, or a named group is
+// missing or out of order; with 2 on a bad call. Without DATA_DIR it reads the data/ of this source
+// tree.
 
 #include "ContentSources.h"
 #include "StockReport.h"
@@ -41,7 +42,7 @@ int main(int argc, char** argv) {
         std::cerr << "content-report: " << error.what() << "\n";
         return 1;
     }
-    const auto& targets = StockTargets();
+    const auto targets = StockTargets(sources);
     std::printf("%5s %6s %6s %13s %8s %7s %6s %7s  %s\n", "Stock", "Rows", "Target", "Allowed",
                 "Distinct", "Repeats", "Groups", "Labels", "Verdict");
     int totalRows = 0;

@@ -3,6 +3,7 @@
 // Prints composed replies for every message number, or for one, as the program would show
 // them, from a given clock reading. Content authors run it after each change to data/.
 
+#include "common/ConsoleSeams.h"
 #include "core/Clock.h"
 #include "core/Cp1252.h"
 #include "core/Random.h"
@@ -20,41 +21,8 @@
 namespace {
 
 using namespace veyrant;
-
-// Boxes go to the error stream; nothing else of a window is needed here.
-class ConsoleWindowLayer final : public WindowLayer {
-public:
-    MessageAnswer ShowMessage(const MessageBoxRequest& request) override {
-        std::cerr << "[" << Cp1252ToUtf8(request.Title) << "] " << Cp1252ToUtf8(request.Text)
-                  << "\n";
-        return MessageAnswer::Ok;
-    }
-    void Yield() override {}
-    void SetBusyPointer(bool) override {}
-    void StartTimer(TimerId, int) override {}
-    void StopTimer(TimerId) override {}
-    void ShowWindow(WindowId) override {}
-    void HideWindow(WindowId) override {}
-    void MinimiseWindow(WindowId) override {}
-    void RestoreWindow(WindowId) override {}
-    bool IsWindowVisible(WindowId) const override { return false; }
-    int ScreenWidthTwips() const override { return 1920 * TwipsPerPixel; }
-    int ScreenHeightTwips() const override { return 1080 * TwipsPerPixel; }
-    int TextWidthTwips(const std::string&, double, bool, bool,
-                       const std::string& text) const override {
-        return static_cast<int>(text.size()) * 100;
-    }
-    bool HasFontFace(const std::string&, bool) const override { return true; }
-    void EndProcessAfter(int) override {}
-    void EndProcess() override {}
-};
-
-class SampleClock final : public Clock {
-public:
-    float Timer() const override { return Seconds; }
-    DateTime Now() const override { return {}; }
-    float Seconds = 0;
-};
+using tools::ConsoleWindowLayer;
+using tools::SettableClock;
 
 const char* const MessageNames[] = {"",
                                     "answer to a yes-or-no question",
@@ -140,7 +108,7 @@ int main(int argc, char** argv) {
     }
     const AppFolder folder{folderName};
     ConsoleWindowLayer windows;
-    SampleClock clock;
+    SettableClock clock;
     Random random;
     Engine engine(random, clock, windows);
     int status = 0;

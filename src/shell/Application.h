@@ -1,0 +1,53 @@
+#pragma once
+
+// The process-wide values of the program, owned by one object that is passed by reference to
+// whatever needs them. A test builds a whole application in a temporary folder.
+
+#include "core/Clock.h"
+#include "core/Random.h"
+#include "core/WindowLayer.h"
+#include "shell/AppFolder.h"
+#include "shell/DisplayScale.h"
+#include "shell/Settings.h"
+
+#include <cstdint>
+#include <filesystem>
+#include <string>
+#include <utility>
+
+namespace veyrant {
+
+namespace ClosingStates {
+inline constexpr std::int16_t Running = 0;
+inline constexpr std::int16_t Exiting = 1;
+// The Write window is hidden behind the Utilities or Library Options window.
+inline constexpr std::int16_t UtilitiesUp = 2;
+} // namespace ClosingStates
+
+struct Application {
+    Application(AppFolder folder, std::filesystem::path programFile, veyrant::Clock& clock,
+                veyrant::Random& random, WindowLayer& windows)
+        : Folder(std::move(folder)), ProgramFile(std::move(programFile)), Clock(clock),
+          Random(random), Windows(windows) {}
+
+    AppFolder Folder;
+    // The executable whose file date makes the version text.
+    std::filesystem::path ProgramFile;
+
+    veyrant::Settings UserSettings;
+    veyrant::ReadSettings ReaderSettings;
+    veyrant::FontNames Fonts;
+    veyrant::DisplayScale Scale;
+
+    std::int16_t ClosingState = ClosingStates::Running;
+    std::string ProgramYear;
+    std::string VersionString;
+    // Seconds since midnight, taken as the start-up goes; the random series grows from it.
+    float SeriesSeed = 0;
+
+    veyrant::Clock& Clock;
+    veyrant::Random& Random;
+    WindowLayer& Windows;
+};
+
+} // namespace veyrant

@@ -1,0 +1,15 @@
+#pragma once
+
+// The first run lays the application folder down as an installer would: exe/, dlg/ and isp/,
+// and in exe/ the font table naming the faces this machine has. A file already there is left
+// alone, so the user's own corrections survive.
+
+#include "core/WindowLayer.h"
+#include "shell/AppFolder.h"
+
+namespace veyrant {
+
+// Raises ProgramError when a folder or file cannot be made.
+void InstallAppFolder(const AppFolder& folder, const WindowLayer& windows);
+
+} // namespace veyrant

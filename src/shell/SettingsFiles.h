@@ -1,0 +1,24 @@
+#pragma once
+
+// Tolmira.ini, Read.ini and Qdrfonts.ini under exe/. A value is known by its place; values are
+// parted by blanks, commas or line ends, and a damaged Tolmira.ini or Read.ini repairs itself
+// without a word to the user.
+
+#include "shell/Application.h"
+
+namespace veyrant {
+
+// On any failure every value takes its default, the display option is chosen from the screen,
+// and the file is written afresh.
+void LoadSettings(Application& app);
+// A failure goes to the caller's handler.
+void SaveSettings(const Application& app);
+
+// Keeps an open request the caller set in memory when the file holds 0 for that flag.
+void LoadReadSettings(Application& app);
+void SaveReadSettings(const Application& app);
+
+// On a failure the user is told, and the faces this machine has stand in.
+void LoadFontNames(Application& app);
+
+} // namespace veyrant

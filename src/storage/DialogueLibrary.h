@@ -1,0 +1,59 @@
+#pragma once
+
+// The Dialogue Library on disk: one pair of files per saved Dialogue, the same name in isp/ and
+// dlg/. Only isp/ is ever listed: it decides what the Library holds. Retention is no background
+// task: every scan applies it, at start, when the Library Options open, after a save and after a
+// clean.
+
+#include "core/Clock.h"
+#include "core/WindowLayer.h"
+#include "shell/AppFolder.h"
+#include "shell/Settings.h"
+#include "storage/LibraryListing.h"
+
+#include <string>
+#include <vector>
+
+namespace veyrant {
+
+class DialogueLibrary {
+public:
+    DialogueLibrary(const AppFolder& folder, const Settings& settings, const Clock& clock,
+                    WindowLayer& windows);
+
+    const LibraryListing& Listing() const { return listing_; }
+
+    // Lists isp/, deletes the oldest pair while the Library is over either limit (never the last
+    // Dialogue), and fills the listing. A missing isp/ or dlg/ is made anew. On a failure it
+    // shows the box "Error n Dialogue Library File Names", leaves the listing as it stands and
+    // returns false.
+    bool ScanLibrary();
+
+    // Saves the Dialogue under the date of the work buffer savei.tmp, isp/ first, then scans.
+    // A second save in the same minute replaces the first. False when a file could not be
+    // written: the box has been shown and the Library is as it was, so the caller must keep
+    // the Dialogue and its work buffers.
+    bool AddToLibrary(const std::string& inspirationText, const std::string& dialogueText);
+
+    // The Reader's Delete: asks, then deletes the pair of that name, isp/ first. True when the
+    // pair is gone, and the Reader then lists the Library anew and refreshes the status.
+    bool DeleteDialogue(const std::string& fileName);
+
+    // Deletes isp/ then dlg/ of the name; raises ProgramError 53 if either is missing.
+    void DeletePair(const std::string& fileName) const;
+
+private:
+    void ScanAndRetain();
+    void MakeRoom(std::size_t count);
+    void FillLabels(const std::vector<std::string>& ranked);
+    std::vector<std::string> ListInspirations() const;
+    void MakeLibraryFolders() const;
+
+    const AppFolder& folder_;
+    const Settings& settings_;
+    const Clock& clock_;
+    WindowLayer& windows_;
+    LibraryListing listing_;
+};
+
+} // namespace veyrant

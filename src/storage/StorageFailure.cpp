@@ -1,0 +1,78 @@
+#include "storage/StorageFailure.h"
+
+#include "core/Cp1252.h"
+#include "core/ProgramError.h"
+#include "core/Text.h"
+
+#include <string>
+#include <utility>
+
+namespace veyrant {
+
+namespace {
+
+std::string FolderText(const std::filesystem::path& file) {
+    const std::string folder = file.parent_path().string();
+    const auto converted = Utf8ToCp1252(folder);
+    return converted.Ok ? converted.Text : folder;
+}
+
+std::string Cause(int number, const std::filesystem::path& file) {
+    switch (number) {
+    case ErrorNumber::DiskFull:
+        return "The disk is full.";
+    case ErrorNumber::PermissionDenied:
+        return "The program is not allowed to write in the folder " + FolderText(file) + ".";
+    default:
+        return "The folder " + FolderText(file) + " cannot be written.";
+    }
+}
+
+std::string Remedy(int number) {
+    switch (number) {
+    case ErrorNumber::DiskFull:
+        return "Make room on the disk";
+    case ErrorNumber::PermissionDenied:
+        return "Allow the program to write there";
+    default:
+        return "Check the folder and the disk";
+    }
+}
+
+std::string Paragraphs(const std::string& first, const std::string& second) {
+    return first + std::string(CrLf) + std::string(CrLf) + second;
+}
+
+} // namespace
+
+MessageBoxRequest WarningBox(std::string title, std::string text) {
+    MessageBoxRequest box;
+    box.Title = std::move(title);
+    box.Text = std::move(text);
+    box.Icon = MessageIcon::Warning;
+    return box;
+}
+
+MessageBoxRequest SaveFailureBox(int number, const std::filesystem::path& file) {
+    return WarningBox(
+        "Error " + std::to_string(number) + " Saving the Dialogue",
+        Paragraphs("Error " + std::to_string(number) +
+                       " attempting to save your Dialogue in the Dialogue Library. " +
+                       Cause(number, file),
+                   "Your Dialogue is not lost. It stays on the screen and in the work "
+                   "buffers, and the Library is as it was. " +
+                       Remedy(number) + ", then click 'Save' again."));
+}
+
+MessageBoxRequest KeepFailureBox(int number, const std::filesystem::path& file) {
+    return WarningBox(
+        "Error " + std::to_string(number) + " Keeping the Dialogue",
+        Paragraphs("Error " + std::to_string(number) +
+                       " attempting to keep your Dialogue in the work buffers. " +
+                       Cause(number, file),
+                   "The work buffers still hold the Dialogue as it was last kept, and the "
+                   "Dialogue on the screen is unchanged. " +
+                       Remedy(number) + ", or click 'Print' or 'File' to keep a copy of it."));
+}
+
+} // namespace veyrant

@@ -1,0 +1,22 @@
+#pragma once
+
+// The storage's failure boxes. A write that fails leaves the old file whole, so its box can
+// promise that nothing was lost, and it says what the user can do about it.
+
+#include "core/WindowLayer.h"
+
+#include <filesystem>
+#include <string>
+
+namespace veyrant {
+
+// A box with the warning icon and only OK, as the program's failures show.
+MessageBoxRequest WarningBox(std::string title, std::string text);
+
+// Adding the Dialogue to the Library failed; the Library is as it was.
+MessageBoxRequest SaveFailureBox(int number, const std::filesystem::path& file);
+
+// Writing the work buffers failed; they still hold what they held before.
+MessageBoxRequest KeepFailureBox(int number, const std::filesystem::path& file);
+
+} // namespace veyrant

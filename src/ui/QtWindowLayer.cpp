@@ -1,0 +1,259 @@
+#include "ui/QtWindowLayer.h"
+
+#include "core/Cp1252.h"
+
+#include <QApplication>
+#include <QCoreApplication>
+#include <QFont>
+#include <QFontDatabase>
+#include <QFontMetricsF>
+#include <QGuiApplication>
+#include <QMessageBox>
+#include <QScreen>
+#include <QTimer>
+#include <algorithm>
+#include <cmath>
+#include <vector>
+
+namespace veyrant {
+
+namespace {
+
+QMessageBox::Icon IconFor(MessageIcon icon) {
+    switch (icon) {
+    case MessageIcon::Stop:
+        return QMessageBox::Critical;
+    case MessageIcon::Question:
+        return QMessageBox::Question;
+    case MessageIcon::Warning:
+        return QMessageBox::Warning;
+    case MessageIcon::Information:
+        return QMessageBox::Information;
+    case MessageIcon::None:
+        break;
+    }
+    return QMessageBox::NoIcon;
+}
+
+std::vector<QMessageBox::StandardButton> ButtonsFor(MessageButtons buttons) {
+    switch (buttons) {
+    case MessageButtons::Ok:
+        return {QMessageBox::Ok};
+    case MessageButtons::OkCancel:
+        return {QMessageBox::Ok, QMessageBox::Cancel};
+    case MessageButtons::YesNo:
+        return {QMessageBox::Yes, QMessageBox::No};
+    case MessageButtons::YesNoCancel:
+        return {QMessageBox::Yes, QMessageBox::No, QMessageBox::Cancel};
+    }
+    return {QMessageBox::Ok};
+}
+
+MessageAnswer AnswerFor(int button) {
+    switch (button) {
+    case QMessageBox::Cancel:
+        return MessageAnswer::Cancel;
+    case QMessageBox::Yes:
+        return MessageAnswer::Yes;
+    case QMessageBox::No:
+        return MessageAnswer::No;
+    default:
+        return MessageAnswer::Ok;
+    }
+}
+
+QScreen* PrimaryScreen() {
+    return QGuiApplication::primaryScreen();
+}
+
+} // namespace
+
+QString ToDisplayText(const std::string& text) {
+    const std::u16string wide = Cp1252ToUtf16(text);
+    QString shown = QString::fromUtf16(wide.data(), static_cast<qsizetype>(wide.size()));
+    shown.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+    return shown;
+}
+
+std::unique_ptr<QMessageBox> BuildMessageBox(const MessageBoxRequest& request) {
+    auto box = std::make_unique<QMessageBox>();
+    box->setWindowTitle(ToDisplayText(request.Title));
+    box->setText(ToDisplayText(request.Text));
+    box->setTextFormat(Qt::PlainText);
+    box->setIcon(IconFor(request.Icon));
+    const auto buttons = ButtonsFor(request.Buttons);
+    for (const auto button : buttons) {
+        box->addButton(button);
+    }
+    const auto index = static_cast<std::size_t>(request.DefaultButton - 1);
+    box->setDefaultButton(index < buttons.size() ? buttons[index] : buttons.front());
+    // Closing the box answers as its last button does: Cancel where there is one.
+    box->setEscapeButton(box->button(buttons.back()));
+    return box;
+}
+
+QtWindowLayer::QtWindowLayer() = default;
+
+QtWindowLayer::~QtWindowLayer() {
+    for (auto& [id, window] : windows_) {
+        delete window.data();
+    }
+}
+
+void QtWindowLayer::RegisterWindow(WindowId window, WindowFactory factory) {
+    factories_[window] = std::move(factory);
+}
+
+void QtWindowLayer::SetTimerHandler(TimerId timer, std::function<void()> handler) {
+    handlers_[timer] = std::move(handler);
+}
+
+QWidget* QtWindowLayer::Window(WindowId window) const {
+    const auto found = windows_.find(window);
+    return found == windows_.end() ? nullptr : found->second.data();
+}
+
+MessageAnswer QtWindowLayer::ShowMessage(const MessageBoxRequest& request) {
+    const auto box = BuildMessageBox(request);
+    // A box over a busy pointer would show the hourglass over its buttons.
+    const bool wasBusy = busy_;
+    SetBusyPointer(false);
+    const int button = box->exec();
+    SetBusyPointer(wasBusy);
+    return AnswerFor(button);
+}
+
+void QtWindowLayer::Yield() {
+    QCoreApplication::processEvents();
+}
+
+void QtWindowLayer::SetBusyPointer(bool busy) {
+    if (busy == busy_) {
+        return;
+    }
+    busy_ = busy;
+    if (busy) {
+        QApplication::setOverrideCursor(Qt::WaitCursor);
+    } else {
+        QApplication::restoreOverrideCursor();
+    }
+}
+
+QTimer& QtWindowLayer::TimerFor(TimerId timer) {
+    auto& slot = timers_[timer];
+    if (!slot) {
+        slot = std::make_unique<QTimer>();
+        QObject::connect(slot.get(), &QTimer::timeout, [this, timer] {
+            if (const auto handler = handlers_.find(timer); handler != handlers_.end()) {
+                handler->second();
+            }
+        });
+    }
+    return *slot;
+}
+
+void QtWindowLayer::StartTimer(TimerId timer, int milliseconds) {
+    TimerFor(timer).start(milliseconds);
+}
+
+void QtWindowLayer::StopTimer(TimerId timer) {
+    TimerFor(timer).stop();
+}
+
+void QtWindowLayer::LoadWindow(WindowId window) {
+    if (Window(window) != nullptr) {
+        return;
+    }
+    // A window with no Qt form of its own yet stays unloaded; the logic goes on without it.
+    if (const auto factory = factories_.find(window); factory != factories_.end()) {
+        windows_[window] = factory->second();
+    }
+}
+
+void QtWindowLayer::UnloadWindow(WindowId window) {
+    if (QWidget* widget = Window(window)) {
+        widget->hide();
+        widget->deleteLater();
+    }
+    windows_.erase(window);
+}
+
+void QtWindowLayer::ShowWindow(WindowId window) {
+    LoadWindow(window);
+    if (QWidget* widget = Window(window)) {
+        widget->show();
+        widget->raise();
+        widget->activateWindow();
+    }
+}
+
+void QtWindowLayer::HideWindow(WindowId window) {
+    if (QWidget* widget = Window(window)) {
+        widget->hide();
+    }
+}
+
+void QtWindowLayer::MinimiseWindow(WindowId window) {
+    if (QWidget* widget = Window(window)) {
+        widget->showMinimized();
+    }
+}
+
+void QtWindowLayer::RestoreWindow(WindowId window) {
+    if (QWidget* widget = Window(window)) {
+        widget->showNormal();
+    }
+}
+
+bool QtWindowLayer::IsWindowVisible(WindowId window) const {
+    const QWidget* widget = Window(window);
+    return widget != nullptr && widget->isVisible();
+}
+
+int QtWindowLayer::ScreenWidthTwips() const {
+    return PrimaryScreen()->size().width() * TwipsPerPixel;
+}
+
+int QtWindowLayer::ScreenHeightTwips() const {
+    return PrimaryScreen()->size().height() * TwipsPerPixel;
+}
+
+int QtWindowLayer::TextWidthTwips(const std::string& face, double points, bool bold, bool italic,
+                                  const std::string& text) const {
+    QFont font(ToDisplayText(face));
+    font.setPointSizeF(points);
+    font.setBold(bold);
+    font.setItalic(italic);
+    const QFontMetricsF metrics(font);
+    return static_cast<int>(
+        std::lround(metrics.horizontalAdvance(ToDisplayText(text)) * TwipsPerPixel));
+}
+
+bool QtWindowLayer::HasFontFace(const std::string& face, bool italic) const {
+    // The font database lists what is really installed; a QFont would quietly take a stand-in.
+    const QString family = ToDisplayText(face);
+    const QStringList families = QFontDatabase::families();
+    const auto found = std::find_if(families.begin(), families.end(), [&](const QString& known) {
+        return known.compare(family, Qt::CaseInsensitive) == 0;
+    });
+    if (found == families.end()) {
+        return false;
+    }
+    if (!italic) {
+        return true;
+    }
+    const QStringList styles = QFontDatabase::styles(*found);
+    return std::any_of(styles.begin(), styles.end(),
+                       [&](const QString& style) { return QFontDatabase::italic(*found, style); });
+}
+
+void QtWindowLayer::EndProcessAfter(int milliseconds) {
+    QTimer::singleShot(milliseconds, [this] { EndProcess(); });
+}
+
+void QtWindowLayer::EndProcess() {
+    ended_ = true;
+    QCoreApplication::exit(0);
+}
+
+} // namespace veyrant

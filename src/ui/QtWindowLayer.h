@@ -1,0 +1,75 @@
+#pragma once
+
+// The window seam over Qt: message boxes, the event loop, the pointer, timers, windows by their
+// id, the screen, text measure and the machine's real font faces.
+
+#include "core/WindowLayer.h"
+
+#include <QPointer>
+#include <QString>
+#include <QWidget>
+#include <functional>
+#include <map>
+#include <memory>
+
+class QMessageBox;
+class QTimer;
+
+namespace veyrant {
+
+class QtWindowLayer final : public WindowLayer {
+public:
+    using WindowFactory = std::function<QWidget*()>;
+
+    QtWindowLayer();
+    ~QtWindowLayer() override;
+    QtWindowLayer(const QtWindowLayer&) = delete;
+    QtWindowLayer& operator=(const QtWindowLayer&) = delete;
+
+    // How a window is built when it is loaded; the layer owns it from then on.
+    void RegisterWindow(WindowId window, WindowFactory factory);
+    // What runs each time a timer fires.
+    void SetTimerHandler(TimerId timer, std::function<void()> handler);
+    // The loaded window, or nullptr.
+    QWidget* Window(WindowId window) const;
+    // True once the program has asked to end; the event loop must then not be entered.
+    bool Ended() const { return ended_; }
+
+    MessageAnswer ShowMessage(const MessageBoxRequest& request) override;
+    void Yield() override;
+    void SetBusyPointer(bool busy) override;
+    void StartTimer(TimerId timer, int milliseconds) override;
+    void StopTimer(TimerId timer) override;
+    void LoadWindow(WindowId window) override;
+    void UnloadWindow(WindowId window) override;
+    void ShowWindow(WindowId window) override;
+    void HideWindow(WindowId window) override;
+    void MinimiseWindow(WindowId window) override;
+    void RestoreWindow(WindowId window) override;
+    bool IsWindowVisible(WindowId window) const override;
+    int ScreenWidthTwips() const override;
+    int ScreenHeightTwips() const override;
+    int TextWidthTwips(const std::string& face, double points, bool bold, bool italic,
+                       const std::string& text) const override;
+    bool HasFontFace(const std::string& face, bool italic) const override;
+    void EndProcessAfter(int milliseconds) override;
+    void EndProcess() override;
+
+private:
+    QTimer& TimerFor(TimerId timer);
+
+    std::map<WindowId, WindowFactory> factories_;
+    std::map<WindowId, QPointer<QWidget>> windows_;
+    std::map<TimerId, std::unique_ptr<QTimer>> timers_;
+    std::map<TimerId, std::function<void()>> handlers_;
+    bool busy_ = false;
+    bool ended_ = false;
+};
+
+// The program's Windows-1252 text as Qt shows it, with its CR LF line ends as plain breaks.
+QString ToDisplayText(const std::string& text);
+
+// The box for a request, built but not shown.
+std::unique_ptr<QMessageBox> BuildMessageBox(const MessageBoxRequest& request);
+
+} // namespace veyrant

@@ -1,0 +1,201 @@
+#include "EngineFixture.h"
+#include "core/Text.h"
+#include "core/WholeFile.h"
+#include "engine/Suggestions.h"
+
+#include <gtest/gtest.h>
+
+namespace veyrant {
+namespace {
+
+class Requests : public testing::EngineFixture {
+protected:
+    void SetUp() override {
+        EngineFixture::SetUp();
+        TheEngine.SeedSeries();
+        TheEngine.SeriesSeed = 50000.5f;
+        TheEngine.StretchSeeds();
+    }
+
+    // The text that composing the message itself gives from the same pool.
+    std::string Composed(std::int16_t message) {
+        TheEngine.Compose(message);
+        return TheEngine.MessageComposer().ComposedText;
+    }
+};
+
+TEST_F(Requests, AnswerAndRemarkPickTheirMessageByEntryType) {
+    const struct {
+        bool Answer;
+        std::int16_t Type;
+        std::int16_t Message;
+    } cases[] = {{true, 1, 1},   {true, 10, 2},   {true, 20, 3},   {true, 30, 4},
+                 {true, 40, 5},  {true, 50, 6},   {true, 60, 7},   {true, 2, 8},
+                 {false, 1, 11}, {false, 10, 12}, {false, 60, 12}, {false, 1000, 12},
+                 {false, 2, 13}, {false, 9, 14}};
+    for (const auto& c : cases) {
+        const std::string expected = Composed(c.Message);
+        Composed(c.Message == 15 ? 16 : 15); // something else in between
+        if (c.Answer) {
+            TheEngine.RequestAnswer(c.Type);
+        } else {
+            TheEngine.RequestRemark(c.Type);
+        }
+        EXPECT_EQ(TheEngine.ReplyText, expected) << "type " << c.Type;
+        EXPECT_EQ(TheEngine.ReplyText.substr(0, 2), "\t ");
+    }
+}
+
+TEST_F(Requests, ATypeWithNoMessageRepeatsTheLastComposition) {
+    for (const std::int16_t type : {0, -1, -4, 3, 9}) {
+        const std::string last = Composed(16);
+        TheEngine.RequestAnswer(type);
+        EXPECT_EQ(TheEngine.ReplyText, last) << type;
+    }
+    for (const std::int16_t type : {0, -3, 5}) {
+        const std::string last = Composed(15);
+        TheEngine.RequestRemark(type);
+        EXPECT_EQ(TheEngine.ReplyText, last) << type;
+    }
+}
+
+class BusyRecorder : public testing::FakeWindowLayer {
+public:
+    void SetBusyPointer(bool busy) override { Changes.push_back(busy); }
+    std::vector<bool> Changes;
+};
+
+TEST(RequestAnswer, ShowsTheBusyPointerWhileItComposes) {
+    testing::TempFolder temp;
+    const AppFolder folder{temp.Path()};
+    InstallEngineFiles(folder);
+    BusyRecorder windows;
+    testing::FakeClock clock;
+    Random random;
+    Engine engine(random, clock, windows);
+    ASSERT_TRUE(engine.LoadSystem(folder));
+    engine.SeedSeries();
+    engine.SeriesSeed = clock.Timer();
+    engine.StretchSeeds();
+    engine.RequestAnswer(20);
+    EXPECT_EQ(windows.Changes, (std::vector<bool>{true, false}));
+    engine.RequestRemark(20);
+    EXPECT_EQ(windows.Changes.size(), 2u);
+}
+
+TEST_F(Requests, IdeaVerdictContinuesTheSentenceOnlyWhenChosen) {
+    const std::string chosen = Composed(9);
+    TheEngine.RequestIdeaVerdict(1);
+    std::string expected = Mid(chosen, 3);
+    LowerAt(expected, 1);
+    EXPECT_EQ(TheEngine.IdeaVerdict, expected);
+    EXPECT_NE(TheEngine.IdeaVerdict.front(), ' ');
+    EXPECT_EQ(TheEngine.IdeaVerdict.front(), LowerChar(TheEngine.IdeaVerdict.front()));
+
+    const std::string declined = Composed(10);
+    TheEngine.RequestIdeaVerdict(0);
+    EXPECT_EQ(TheEngine.IdeaVerdict, declined);
+}
+
+TEST_F(Requests, InspirationAndInterjectionKeepTheFirstCapital) {
+    const std::string inspiration = Composed(15);
+    TheEngine.RequestInspiration();
+    EXPECT_EQ(TheEngine.InspirationText, "\t" + Mid(inspiration, 3));
+    EXPECT_NE(UpperChar(TheEngine.InspirationText[1]), LowerChar(TheEngine.InspirationText[1]));
+    EXPECT_EQ(TheEngine.InspirationText[1], UpperChar(TheEngine.InspirationText[1]));
+
+    const std::string interjection = Composed(16);
+    TheEngine.RequestInterjection();
+    EXPECT_EQ(TheEngine.ReplyText, interjection);
+    EXPECT_TRUE(Windows.Boxes.empty());
+}
+
+TEST_F(Requests, RollAnswerGivesARemarkForDrawsUpToThePercent) {
+    const struct {
+        float Draw;
+        std::int16_t Percent;
+        std::int16_t Flag;
+    } cases[] = {{0.0f, 25, 0},  {0.24f, 25, 0}, {0.25f, 25, 1}, {0.99f, 25, 1},
+                 {0.19f, 20, 0}, {0.2f, 20, 1},  {0.5f, 0, 1},   {0.99f, 100, 0}};
+    for (const auto& c : cases) {
+        TheClock.Seconds = 1234.5f;
+        TheRandom.Seeds.clear();
+        TheRandom.Script = {c.Draw};
+        TheEngine.RollAnswer(c.Percent);
+        EXPECT_EQ(TheEngine.AnswerFlag, c.Flag) << c.Draw << " of " << c.Percent;
+        EXPECT_EQ(TheRandom.Seeds, std::vector<float>{1234.5f});
+    }
+}
+
+TEST_F(Requests, SeedSeriesRoundsTheScalesHalvesToEven) {
+    TheClock.Seconds = 40000.0f;
+    TheRandom.Script = {0.5f, 0.125f, 0.25f, 0.375f, 0.0f, 0.625f, 0.75f, 0.875f};
+    TheEngine.SeedSeries();
+    EXPECT_EQ(TheEngine.SeriesSeed, 40000.0f);
+    EXPECT_FLOAT_EQ(TheEngine.SeriesBase[0], 40000.0f * 0.5f + 4000.0f);
+    EXPECT_EQ(TheEngine.SeriesScale[0], 14); // 13.5
+    EXPECT_EQ(TheEngine.SeriesScale[1], 38); // 38.5
+    EXPECT_FLOAT_EQ(TheEngine.SeriesBase[2], 4000.0f);
+    EXPECT_EQ(TheEngine.SeriesScale[2], 64); // 63.5
+    EXPECT_EQ(TheEngine.SeriesScale[3], 88); // 88.5
+}
+
+TEST_F(Requests, StretchSeedsFillsThePoolToItsLastIndex) {
+    const auto& tables = TheEngine.Tables();
+    const int size = tables.MaxSections + tables.MaxComponents + 15;
+    TheEngine.SeriesSeed = 777.0f;
+    TheRandom.Draws = 0;
+    TheRandom.Script = {0.0f};
+    TheRandom.Script.insert(TheRandom.Script.end(), 40, 0.5f);
+    TheEngine.StretchSeeds();
+    ASSERT_EQ(TheEngine.SeedPool.size(), static_cast<std::size_t>(size) + 1);
+    // One multiplier per run of fifteen; the last run is left incomplete.
+    EXPECT_EQ(TheRandom.Draws, (size + 14) / 15);
+    const auto seed = [&](int i, float multiplier) {
+        return static_cast<float>(TheEngine.SeriesScale[static_cast<std::size_t>(i)]) *
+               (TheEngine.SeriesBase[static_cast<std::size_t>(i)] / 100.0f) * multiplier;
+    };
+    EXPECT_FLOAT_EQ(TheEngine.SeedPool[1], seed(1, 0.4239f));
+    EXPECT_FLOAT_EQ(TheEngine.SeedPool[15], seed(15, 0.4239f));
+    EXPECT_FLOAT_EQ(TheEngine.SeedPool[16], seed(1, 0.6739f));
+    EXPECT_FLOAT_EQ(TheEngine.SeedPool[static_cast<std::size_t>(size)],
+                    seed((size - 1) % 15 + 1, 0.6739f));
+}
+
+TEST_F(Requests, PickGuidanceDrawsOverTheSuggestionsThatStand) {
+    const auto suggestions = SuggestionTexts();
+    ASSERT_GT(suggestions.size(), 10u);
+    EXPECT_TRUE(suggestions[0].empty());
+    TheRandom.Script = {0.0f};
+    TheEngine.PickGuidance();
+    EXPECT_EQ(TheEngine.SuggestionText, suggestions[1]);
+    TheRandom.Script = {0.99999f};
+    TheEngine.PickGuidance();
+    EXPECT_EQ(TheEngine.SuggestionText, suggestions.back());
+    EXPECT_NE(TheEngine.SuggestionText.find("\r\n\t"), std::string::npos);
+}
+
+TEST_F(Requests, ADamagedPlanFileGivesItsBoxAndTheProgramGoesOn) {
+    WriteWholeFile(Folder.Exe() / "qdr41.mtx", "1, 2, x\r\n");
+    Engine engine(TheRandom, TheClock, Windows);
+    ASSERT_TRUE(engine.LoadSystem(Folder));
+    engine.SeriesSeed = 100.0f;
+    engine.StretchSeeds();
+    engine.RequestAnswer(1);
+    ASSERT_EQ(Windows.Boxes.size(), 1u);
+    EXPECT_EQ(Windows.Boxes[0].Title, "Error LoadPlan");
+    EXPECT_EQ(Windows.Boxes[0].Text, "Error 13 reading the message plans in qdr41.mtx. The "
+                                     "Sagrel cannot compose a response until the file is "
+                                     "restored.");
+    EXPECT_EQ(engine.ReplyText, "\t");
+    EXPECT_EQ(Trim(Mid(engine.ReplyText, 3)), "");
+
+    // Restored, the file is read at the next request.
+    WriteWholeFile(Folder.Exe() / "qdr41.mtx", ShippedPlanFile());
+    engine.RequestAnswer(1);
+    EXPECT_EQ(Windows.Boxes.size(), 1u);
+    EXPECT_GT(engine.ReplyText.size(), 3u);
+}
+
+} // namespace
+} // namespace veyrant

@@ -1,0 +1,96 @@
+#include "shell/DisplayScale.h"
+
+#include "shell/FontCheck.h"
+#include "shell/ShellFixture.h"
+
+#include <gtest/gtest.h>
+
+namespace veyrant::testing {
+namespace {
+
+TEST(DisplayScale, EachOptionSetsItsRow) {
+    struct Row {
+        int Option;
+        double Factor;
+        double Size1, Size2, Size3;
+        bool Bold;
+        double Small, Large;
+    };
+    const Row rows[] = {
+        {0, 0.9, 11, 12, 13.5, true, 8.25, 9.75},
+        {1, 1.0, 12, 13.5, 15, true, 8.25, 9.75},
+        {2, 1.21, 14, 16, 18, false, 9.75, 12},
+        {3, 1.45, 16.5, 19, 22, false, 12, 13.5},
+    };
+    for (const Row& row : rows) {
+        DisplayScale scale;
+        SetDisplayScale(row.Option, scale);
+        EXPECT_DOUBLE_EQ(scale.ScaleFactor, row.Factor) << row.Option;
+        EXPECT_DOUBLE_EQ(scale.TextSize[1], row.Size1) << row.Option;
+        EXPECT_DOUBLE_EQ(scale.TextSize[2], row.Size2) << row.Option;
+        EXPECT_DOUBLE_EQ(scale.TextSize[3], row.Size3) << row.Option;
+        EXPECT_EQ(scale.TextSize1Bold, row.Bold) << row.Option;
+        EXPECT_DOUBLE_EQ(scale.ControlFontSmall, row.Small) << row.Option;
+        EXPECT_DOUBLE_EQ(scale.ControlFontLarge, row.Large) << row.Option;
+        EXPECT_DOUBLE_EQ(scale.ButtonFontSize, row.Small) << row.Option;
+    }
+}
+
+TEST(DisplayScale, AnOptionWithNoRowLeavesTheFactorAtZero) {
+    for (const int option : {7, -1, 4}) {
+        DisplayScale scale;
+        SetDisplayScale(option, scale);
+        EXPECT_EQ(scale.ScaleFactor, 0) << option;
+        EXPECT_EQ(scale.ButtonFontSize, 0) << option;
+    }
+}
+
+TEST(FontCheck, InstalledFacesPassWithoutAWord) {
+    ShellFixture fixture;
+    fixture.PutExeFile("Qdrfonts.ini", "Liberation Serif\r\nLiberation Serif Italic\r\n");
+    EXPECT_TRUE(CheckFonts(fixture.App));
+    EXPECT_TRUE(fixture.Windows.Boxes.empty());
+    EXPECT_FALSE(fixture.Windows.Ended);
+}
+
+TEST(FontCheck, EachFaceThatCannotBeSelectedIsNamedAndTheProgramEnds) {
+    const std::string romanSlot = "Error 380 accessing your font named {Garamond} associated "
+                                  "with the file <times.ttf> usually named {Times New "
+                                  "Roman}.\r\n\r\n";
+    const std::string italicSlot = "Error 380 accessing your font named {Garamond Italic} "
+                                   "associated with the file <timesi.ttf> usually named {Times "
+                                   "New Roman Italic}.\r\n\r\n";
+    struct Case {
+        const char* Missing;
+        std::string Slots;
+    };
+    const Case cases[] = {
+        {"Garamond", romanSlot + italicSlot},
+        {"Garamond/italic", italicSlot},
+    };
+    for (const Case& c : cases) {
+        ShellFixture fixture;
+        fixture.PutExeFile("Qdrfonts.ini", "Garamond\r\nGaramond Italic\r\n");
+        fixture.Windows.MissingFaces.insert(c.Missing);
+        EXPECT_FALSE(CheckFonts(fixture.App));
+        EXPECT_TRUE(fixture.Windows.Ended);
+        const auto& boxes = fixture.Windows.Boxes;
+        ASSERT_FALSE(boxes.empty());
+        const MessageBoxRequest& last = boxes.back();
+        EXPECT_EQ(last.Title, "Fonts Not Functioning");
+        EXPECT_EQ(last.Icon, MessageIcon::Stop);
+        EXPECT_EQ(last.Text, "The Veyrant Sagrel font system is not functioning, probably "
+                             "because one or more fonts have been changed since "
+                             "installation.\r\n\r\nThese required font(s) cannot be "
+                             "accessed:\r\n\r\n" +
+                                 c.Slots +
+                                 " Details on how to resolve font problems are given in the "
+                                 "User's Manual.");
+        // One stop box per failed step before the summary.
+        EXPECT_EQ(boxes.size(), c.Slots == italicSlot ? 2u : 3u);
+        EXPECT_EQ(boxes.front().Icon, MessageIcon::Stop);
+    }
+}
+
+} // namespace
+} // namespace veyrant::testing

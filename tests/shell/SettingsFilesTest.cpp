@@ -1,0 +1,238 @@
+#include "shell/SettingsFiles.h"
+
+#include "shell/ShellFixture.h"
+
+#include <filesystem>
+#include <gtest/gtest.h>
+#include <vector>
+
+namespace veyrant::testing {
+namespace {
+
+std::vector<int> Values(const Settings& s) {
+    return {s.WriteFontStep, s.ReaderFontStep, s.WindowMode[1],   s.WindowMode[2],
+            s.WindowMode[3], s.WindowMode[4],  s.IntroDone,       s.IntroDone2,
+            s.DisplayOption, s.MaxLibraryDays, s.MaxLibraryFiles, s.GuestMode};
+}
+
+const char* const DefaultFileOnMiddleScreen =
+    " 1 \r\n 1 \r\n 0  0  0  0 \r\n 1  1 \r\n 1 \r\n 21  30 \r\n 0 \r\n";
+
+TEST(SettingsFiles, ReadTheSameInAnySpacingOrSeparator) {
+    const std::vector<int> expected{2, 3, 1, 0, 1, 0, 1, 1, 2, 14, 99, 1};
+    const char* const forms[] = {
+        " 2 \r\n 3 \r\n 1  0  1  0 \r\n 1  1 \r\n 2 \r\n 14  99 \r\n 1 \r\n",
+        "2,3,1,0,1,0,1,1,2,14,99,1\r\n",
+        "2\n3\n1\n0\n1\n0\n1\n1\n2\n14\n99\n1\n",
+        "2 3 1 0 1 0 1 1 2 14 99 1",
+        "  2 ,\t3\r\n\r\n1 0,1 0\r\n1,1\r\n2\r\n14 , 99\r\n1",
+    };
+    for (const char* form : forms) {
+        ShellFixture fixture;
+        fixture.PutExeFile("Tolmira.ini", form);
+        LoadSettings(fixture.App);
+        EXPECT_EQ(Values(fixture.App.UserSettings), expected) << form;
+        EXPECT_EQ(fixture.ExeFile("Tolmira.ini"), form) << "a readable file is not rewritten";
+    }
+}
+
+TEST(SettingsFiles, DamagedFileRepairsItselfWithDefaultsAndScreenOption) {
+    struct Case {
+        const char* Text; // nullptr: no file
+        int ScreenPixels;
+        int DisplayOption;
+    };
+    const Case cases[] = {
+        // Six lines: GuestMode is missing, so every value read so far is dropped too.
+        {" 2 \r\n 3 \r\n 1  1  1  1 \r\n 1  1 \r\n 3 \r\n 5  6 \r\n", 1024, 1},
+        {nullptr, 799, 0},
+        {nullptr, 800, 1},
+        {nullptr, 1279, 1},
+        {nullptr, 1280, 2},
+        {" 2 \r\n x \r\n 0  0  0  0 \r\n 1  1 \r\n 1 \r\n 21  30 \r\n 0 \r\n", 1920, 2},
+        {" 2 \r\n 40000 \r\n 0  0  0  0 \r\n 1  1 \r\n 1 \r\n 21  30 \r\n 0 \r\n", 1920, 2},
+        {"", 1920, 2},
+    };
+    for (const Case& c : cases) {
+        ShellFixture fixture;
+        if (c.Text != nullptr) {
+            fixture.PutExeFile("Tolmira.ini", c.Text);
+        }
+        fixture.Windows.ScreenWidth = c.ScreenPixels * TwipsPerPixel;
+        LoadSettings(fixture.App);
+        const std::vector<int> expected{1, 1, 0, 0, 0, 0, 1, 1, c.DisplayOption, 21, 30, 0};
+        EXPECT_EQ(Values(fixture.App.UserSettings), expected) << c.ScreenPixels;
+        const std::string option = std::to_string(c.DisplayOption);
+        EXPECT_EQ(fixture.ExeFile("Tolmira.ini"), " 1 \r\n 1 \r\n 0  0  0  0 \r\n 1  1 \r\n " +
+                                                      option + " \r\n 21  30 \r\n 0 \r\n");
+        EXPECT_TRUE(fixture.Windows.Boxes.empty()) << "the repair is silent";
+    }
+}
+
+TEST(SettingsFiles, OutOfRangeValuesAreUsedAsTheyStand) {
+    ShellFixture fixture;
+    const std::string text = " 1 \r\n 1 \r\n 0  0  0  0 \r\n 1  1 \r\n 7 \r\n 21  0 \r\n 0 \r\n";
+    fixture.PutExeFile("Tolmira.ini", text);
+    LoadSettings(fixture.App);
+    EXPECT_EQ(fixture.App.UserSettings.DisplayOption, 7);
+    EXPECT_EQ(fixture.App.UserSettings.MaxLibraryFiles, 0);
+    EXPECT_EQ(fixture.ExeFile("Tolmira.ini"), text);
+}
+
+TEST(SettingsFiles, SavedFileReadsBackAndDefaultsLookAsDocumented) {
+    ShellFixture fixture;
+    fixture.App.UserSettings = Settings{};
+    SaveSettings(fixture.App);
+    EXPECT_EQ(fixture.ExeFile("Tolmira.ini"), DefaultFileOnMiddleScreen);
+
+    fixture.App.UserSettings.WindowMode = {0, 1, 0, 1, 1};
+    fixture.App.UserSettings.MaxLibraryDays = -3;
+    SaveSettings(fixture.App);
+    EXPECT_EQ(fixture.ExeFile("Tolmira.ini"),
+              " 1 \r\n 1 \r\n 1  0  1  1 \r\n 1  1 \r\n 1 \r\n-3  30 \r\n 0 \r\n");
+    const Settings saved = fixture.App.UserSettings;
+    fixture.App.UserSettings = Settings{};
+    LoadSettings(fixture.App);
+    EXPECT_EQ(Values(fixture.App.UserSettings), Values(saved));
+}
+
+TEST(SettingsFiles, SavingReplacesTheFileWholeInsteadOfWritingIntoIt) {
+    // A second name for the old file keeps seeing the old bytes only if the new text went to a
+    // new file that was renamed over it; a crash midway then leaves the old file intact.
+    ShellFixture fixture;
+    fixture.PutExeFile("Tolmira.ini", "old settings");
+    fixture.PutExeFile("Read.ini", "old positions");
+    std::filesystem::create_hard_link(fixture.Folder.Exe() / "Tolmira.ini",
+                                      fixture.Temp / "Tolmira.old");
+    std::filesystem::create_hard_link(fixture.Folder.Exe() / "Read.ini", fixture.Temp / "Read.old");
+    SaveSettings(fixture.App);
+    SaveReadSettings(fixture.App);
+    EXPECT_EQ(ReadWholeFile(fixture.Temp / "Tolmira.old"), "old settings");
+    EXPECT_EQ(ReadWholeFile(fixture.Temp / "Read.old"), "old positions");
+    EXPECT_EQ(fixture.ExeFile("Tolmira.ini"), DefaultFileOnMiddleScreen);
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(fixture.Folder.Exe()),
+                            std::filesystem::directory_iterator()),
+              2)
+        << "no temporary file is left behind";
+}
+
+TEST(SettingsFiles, NegativeMarkIsWrittenWithItsMinusSign) {
+    ShellFixture fixture;
+    fixture.App.ReaderSettings.OpenFlagInfo = 1;
+    fixture.App.ReaderSettings.MarkRowInfo = 12;
+    fixture.App.ReaderSettings.MarkRowDialogue = -1;
+    fixture.App.ReaderSettings.MarkRowAdv = -250;
+    SaveReadSettings(fixture.App);
+    EXPECT_EQ(fixture.ExeFile("Read.ini"), " 1  12 \r\n 0 -1 \r\n 0  0 \r\n 0 -250 \r\n");
+}
+
+TEST(SettingsFiles, ReadFlagsKeepTheRequestMadeInMemory) {
+    struct Case {
+        std::int16_t Requested;
+        std::int16_t InFile;
+        std::int16_t Result;
+    };
+    const Case cases[] = {{1, 0, 1}, {0, 0, 0}, {0, 1, 1}, {1, 2, 2}};
+    for (const Case& c : cases) {
+        ShellFixture fixture;
+        const std::string flag = std::to_string(c.InFile);
+        fixture.PutExeFile("Read.ini",
+                           flag + " 5\r\n" + flag + " -1\r\n" + flag + " 7\r\n" + flag + " 8\r\n");
+        ReadSettings& read = fixture.App.ReaderSettings;
+        read.OpenFlagInfo = read.OpenFlagDialogue = read.OpenFlagKnow = read.OpenFlagAdv =
+            c.Requested;
+        read.MarkRowInfo = 99;
+        LoadReadSettings(fixture.App);
+        for (const std::int16_t value :
+             {read.OpenFlagInfo, read.OpenFlagDialogue, read.OpenFlagKnow, read.OpenFlagAdv}) {
+            EXPECT_EQ(value, c.Result) << c.Requested << " over " << c.InFile;
+        }
+        EXPECT_EQ(read.MarkRowInfo, 5);
+        EXPECT_EQ(read.MarkRowDialogue, -1);
+        EXPECT_EQ(read.MarkRowKnow, 7);
+        EXPECT_EQ(read.MarkRowAdv, 8);
+    }
+}
+
+TEST(SettingsFiles, DamagedReadFileIsLaidDownAsZerosAndTheRequestStands) {
+    for (const char* text : {static_cast<const char*>(nullptr), "1 2 3", "1 2 3 4 5 6 7 x"}) {
+        ShellFixture fixture;
+        if (text != nullptr) {
+            fixture.PutExeFile("Read.ini", text);
+        }
+        fixture.App.ReaderSettings.OpenFlagKnow = 1;
+        fixture.App.ReaderSettings.MarkRowKnow = 40;
+        LoadReadSettings(fixture.App);
+        EXPECT_EQ(fixture.App.ReaderSettings.OpenFlagKnow, 1);
+        EXPECT_EQ(fixture.App.ReaderSettings.MarkRowKnow, 0);
+        EXPECT_EQ(fixture.App.ReaderSettings.OpenFlagInfo, 0);
+        EXPECT_EQ(fixture.ExeFile("Read.ini"), " 0  0 \r\n 0  0 \r\n 0  0 \r\n 0  0 \r\n");
+        EXPECT_TRUE(fixture.Windows.Boxes.empty());
+    }
+}
+
+TEST(SettingsFiles, FontNamesReadAsTextValues) {
+    struct Case {
+        const char* Text;
+        const char* Main;
+        const char* Italic;
+    };
+    const Case cases[] = {
+        {"Liberation Serif\r\nLiberation Serif Italic\r\n", "Liberation Serif",
+         "Liberation Serif Italic"},
+        {"  Book Antiqua \r\n\"Book, Antiqua Italic\" x\r\n", "Book Antiqua",
+         "Book, Antiqua Italic"},
+        // A comma ends a value; what follows it is the next value, as with any field.
+        {"Book Antiqua,Book Antiqua Italic,Bold\r\n", "Book Antiqua", "Book Antiqua Italic"},
+    };
+    for (const Case& c : cases) {
+        ShellFixture fixture;
+        fixture.PutExeFile("Qdrfonts.ini", c.Text);
+        LoadFontNames(fixture.App);
+        EXPECT_EQ(fixture.App.Fonts.Main, c.Main);
+        EXPECT_EQ(fixture.App.Fonts.Italic, c.Italic);
+        EXPECT_TRUE(fixture.Windows.Boxes.empty());
+    }
+}
+
+TEST(SettingsFiles, BrokenFontTableIsReportedAndTheInstalledFacesStandIn) {
+    struct Case {
+        const char* Text; // nullptr: no file
+        bool TimesInstalled;
+        int Error;
+        const char* Main;
+        const char* Italic;
+    };
+    const Case cases[] = {
+        {"Garamond\r\n", false, 62, "Liberation Serif", "Liberation Serif Italic"},
+        {"Garamond\r\n", true, 62, "Times New Roman", "Times New Roman Italic"},
+        {nullptr, false, 53, "Liberation Serif", "Liberation Serif Italic"},
+    };
+    for (const Case& c : cases) {
+        ShellFixture fixture;
+        if (c.Text != nullptr) {
+            fixture.PutExeFile("Qdrfonts.ini", c.Text);
+        }
+        if (!c.TimesInstalled) {
+            fixture.Windows.MissingFaces.insert("Times New Roman");
+        }
+        LoadFontNames(fixture.App);
+        EXPECT_EQ(fixture.App.Fonts.Main, c.Main);
+        EXPECT_EQ(fixture.App.Fonts.Italic, c.Italic);
+        ASSERT_EQ(fixture.Windows.Boxes.size(), 1u);
+        const MessageBoxRequest& box = fixture.Windows.Boxes[0];
+        const std::string n = std::to_string(c.Error);
+        EXPECT_EQ(box.Title, "Error " + n + " Loading Font Names");
+        EXPECT_EQ(box.Icon, MessageIcon::Warning);
+        EXPECT_EQ(box.Text,
+                  "Error " + n + " loading file " +
+                      (fixture.Folder.Exe() / "Qdrfonts.ini").string() +
+                      ". This file is either missing or corrupted.\r\n\r\nTo correct this "
+                      "problem, you must re-install the Veyrant Sagrel. For now, a workaround will "
+                      "be attempted by the program. If it does not work, then you must repair the "
+                      "font installation to open the Veyrant Sagrel.");
+    }
+}
+
+} // namespace
+} // namespace veyrant::testing

@@ -1,0 +1,171 @@
+#include "shell/StartUp.h"
+
+#include "shell/ShellFixture.h"
+#include "shell/Version.h"
+
+#include <gtest/gtest.h>
+#include <vector>
+
+namespace veyrant::testing {
+namespace {
+
+const char* const DefaultSettings =
+    " 1 \r\n 1 \r\n 0  0  0  0 \r\n 1  1 \r\n 1 \r\n 21  30 \r\n 0 \r\n";
+
+TEST(StartUp, Timer1WaitsOutThreeSecondsOfBanner) {
+    struct Case {
+        float Start;
+        float End;
+        int Interval;
+    };
+    const Case cases[] = {
+        {100, 100, 3000}, {100, 101, 2000},       {100, 102.5f, 500}, {100, 103, 100},
+        {100, 140, 100},  {86399.5f, 0.5f, 1000}, {86000, 10, 1000},  {100, 102.9996f, 100},
+    };
+    for (const Case& c : cases) {
+        EXPECT_EQ(Timer1Interval(c.Start, c.End), c.Interval) << c.Start << " to " << c.End;
+    }
+}
+
+TEST(StartUp, VersionComesFromTheExecutablesFileDate) {
+    const ProgramVersion version = VersionFromDate({2005, 7, 19, 23, 59, 0});
+    EXPECT_EQ(version.ProgramYear, "2005");
+    EXPECT_EQ(version.VersionString, "4.1.05.07.19");
+    EXPECT_EQ(VersionFromDate({2031, 12, 1}).VersionString, "4.1.31.12.01");
+}
+
+TEST(StartUp, MainLoadsTheWriteWindowBehindTheBanner) {
+    ShellFixture fixture;
+    fixture.PutExeFile("Qdrfonts.ini", "Liberation Serif\r\nLiberation Serif Italic\r\n");
+    Main(fixture.App);
+    EXPECT_TRUE(fixture.Windows.Boxes.empty());
+    EXPECT_FALSE(fixture.Windows.Ended);
+    EXPECT_EQ(fixture.Windows.WindowEvents,
+              (std::vector<std::string>{"show Banner", "load Mirror"}));
+    EXPECT_EQ(fixture.Windows.Timers.at(TimerId::MirrorTimer1), 3000);
+    EXPECT_TRUE(fixture.Windows.Busy);
+    EXPECT_EQ(fixture.App.ProgramYear, "2026");
+    EXPECT_EQ(fixture.App.VersionString, "4.1.26.03.09");
+    EXPECT_DOUBLE_EQ(fixture.App.Scale.ScaleFactor, 1.21);
+    EXPECT_EQ(fixture.ExeFile("Tolmira.ini"),
+              " 1 \r\n 1 \r\n 0  0  0  0 \r\n 1  1 \r\n 2 \r\n 21  30 \r\n 0 \r\n");
+    EXPECT_TRUE(std::filesystem::is_directory(fixture.Folder.Dlg()));
+}
+
+TEST(StartUp, Timer1RevealsTheWriteWindowAndTheBackdropOnWideScreens) {
+    struct Case {
+        int ScreenPixels;
+        std::vector<std::string> Events;
+    };
+    const Case cases[] = {
+        {800, {"unload Banner", "show Back", "show Mirror"}},
+        {640, {"unload Banner", "show Mirror"}},
+    };
+    for (const Case& c : cases) {
+        ShellFixture fixture;
+        fixture.PutExeFile("Tolmira.ini", " 1 \r\n 1 \r\n 0  0  0  0 \r\n 1  1 \r\n 0 \r\n"
+                                          " 21  30 \r\n 0 \r\n");
+        fixture.Windows.ScreenWidth = c.ScreenPixels * TwipsPerPixel;
+        Main(fixture.App);
+        ASSERT_TRUE(fixture.Windows.Boxes.empty()) << fixture.Windows.Boxes[0].Title;
+        fixture.Windows.WindowEvents.clear();
+        Timer1(fixture.App);
+        EXPECT_EQ(fixture.Windows.WindowEvents, c.Events) << c.ScreenPixels;
+        EXPECT_EQ(fixture.Windows.Timers.count(TimerId::MirrorTimer1), 0u);
+        EXPECT_FALSE(fixture.Windows.Busy);
+    }
+}
+
+TEST(StartUp, MissingExecutableGivesSystemError53BeforeTheBanner) {
+    ShellFixture fixture;
+    fixture.App.ProgramFile = fixture.Temp / "gone";
+    Main(fixture.App);
+    ASSERT_EQ(fixture.Windows.Boxes.size(), 1u);
+    EXPECT_EQ(fixture.Windows.Boxes[0].Title,
+              "Unknown System Error 53 -- Please Notify Veyrant Technology");
+    EXPECT_EQ(fixture.Windows.Boxes[0].Icon, MessageIcon::Warning);
+    EXPECT_EQ(fixture.Windows.Boxes[0].Buttons, MessageButtons::Ok);
+    EXPECT_TRUE(fixture.Windows.Ended);
+    EXPECT_TRUE(fixture.Windows.WindowEvents.empty());
+}
+
+TEST(StartUp, LargeOptionOnASmallScreenIsLoweredAndTheNextStartRuns) {
+    ShellFixture fixture;
+    fixture.PutExeFile("Tolmira.ini", " 2 \r\n 1 \r\n 0  0  0  0 \r\n 1  1 \r\n 2 \r\n"
+                                      " 21  30 \r\n 0 \r\n");
+    fixture.Windows.ScreenWidth = 640 * TwipsPerPixel;
+    Main(fixture.App);
+    ASSERT_EQ(fixture.Windows.Boxes.size(), 1u);
+    EXPECT_EQ(fixture.Windows.Boxes[0].Title, "Veyrant Sagrel Window Size Adjustment");
+    EXPECT_EQ(fixture.Windows.Boxes[0].Icon, MessageIcon::Warning);
+    EXPECT_TRUE(fixture.Windows.Ended);
+    EXPECT_EQ(fixture.Windows.Loaded.count(WindowId::Mirror), 0u);
+    EXPECT_EQ(fixture.ExeFile("Tolmira.ini"),
+              " 2 \r\n 1 \r\n 0  0  0  0 \r\n 1  1 \r\n 0 \r\n 21  30 \r\n 0 \r\n");
+
+    FakeWindowLayer nextRun;
+    nextRun.ScreenWidth = 640 * TwipsPerPixel;
+    Application again(fixture.Folder, fixture.Program, fixture.Clock, fixture.Series, nextRun);
+    Main(again);
+    EXPECT_TRUE(nextRun.Boxes.empty());
+    EXPECT_EQ(nextRun.Loaded.count(WindowId::Mirror), 1u);
+    EXPECT_DOUBLE_EQ(again.Scale.ScaleFactor, 0.9);
+}
+
+TEST(StartUp, ClosingTheWriteWindowStoresTheSettingsAndEndsBehindTheBanner) {
+    ShellFixture fixture;
+    Main(fixture.App);
+    Timer1(fixture.App);
+    fixture.App.UserSettings.WriteFontStep = 2;
+    fixture.Windows.WindowEvents.clear();
+    UnloadMirror(fixture.App);
+    EXPECT_EQ(fixture.App.ClosingState, ClosingStates::Exiting);
+    EXPECT_EQ(fixture.Windows.WindowEvents,
+              (std::vector<std::string>{"hide Mirror", "unload Back", "show Banner"}));
+    EXPECT_EQ(fixture.ExeFile("Tolmira.ini").substr(0, 5), " 2 \r\n");
+    EXPECT_EQ(fixture.Windows.Timers.at(TimerId::BannerTimer), 700);
+    EXPECT_FALSE(fixture.Windows.Ended);
+    BannerTimer(fixture.App);
+    EXPECT_TRUE(fixture.Windows.Ended);
+}
+
+TEST(StartUp, ExitThatCannotStoreTheSettingsSaysSoAndEnds) {
+    ShellFixture fixture;
+    Main(fixture.App);
+    std::filesystem::remove_all(fixture.Folder.Exe());
+    ExitProgram(fixture.App);
+    ASSERT_EQ(fixture.Windows.Boxes.size(), 1u);
+    EXPECT_EQ(fixture.Windows.Boxes[0].Title,
+              "Unknown System Error 53 -- Please Notify Veyrant Technology");
+    EXPECT_TRUE(fixture.Windows.Ended);
+}
+
+TEST(StartUp, SystemErrorBoxesByNumber) {
+    struct Case {
+        int Number;
+        const char* Title;
+        const char* Opening;
+    };
+    const Case cases[] = {
+        {7, "Cannot Load -- Out of Memory",
+         "Windows cannot load the Veyrant Sagrel because it has insufficient available "
+         "memory.\r\n\r\nThe immediate solution"},
+        {35, "System Conflict, Error 35 -- Close Programs and Restart Windows",
+         "A system conflict has occurred between Windows and the Veyrant Sagrel "
+         "program.\r\n\r\nThis is probably"},
+        {1001, "Unknown System Error 1001 -- Please Notify Veyrant Technology",
+         "A system error has occurred in the Veyrant Sagrel program.\r\n\r\nPlease notify "
+         "Veyrant Technology at support@veyrant-sagrel.org that you encountered System Error "
+         "1001, and please"},
+    };
+    for (const Case& c : cases) {
+        const MessageBoxRequest box = SystemErrorBox(c.Number);
+        EXPECT_EQ(box.Title, c.Title);
+        EXPECT_EQ(box.Text.rfind(c.Opening, 0), 0u) << box.Text;
+        EXPECT_EQ(box.Icon, MessageIcon::Warning);
+        EXPECT_EQ(box.Buttons, MessageButtons::Ok);
+    }
+}
+
+} // namespace
+} // namespace veyrant::testing

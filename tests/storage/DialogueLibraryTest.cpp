@@ -1,0 +1,268 @@
+#include "LibraryFixture.h"
+#include "core/ProgramError.h"
+
+namespace veyrant::testing {
+namespace {
+
+using DialogueLibraryTest = LibraryFixture;
+
+std::vector<std::string> Titles(const FakeWindowLayer& windows) {
+    std::vector<std::string> titles;
+    for (const auto& box : windows.Boxes) {
+        titles.push_back(box.Title);
+    }
+    return titles;
+}
+
+TEST_F(DialogueLibraryTest, RetentionKeepsBothLimitsAndNeverTheLastDialogue) {
+    struct Case {
+        const char* What;
+        std::vector<double> Ages; // days before now, one saved Dialogue each
+        int MaxFiles;
+        int MaxDays;
+        int Kept;
+        int OldestAge;
+    };
+    const Case cases[] = {
+        {"35 with room for 30: the five oldest go in one scan",
+         [] {
+             std::vector<double> ages;
+             for (int i = 0; i < 35; ++i) {
+                 ages.push_back(i * 0.5);
+             }
+             return ages;
+         }(),
+         30, 21, 30, 14},
+        {"one Dialogue 500 days old stays", {500}, 30, 21, 1, 500},
+        {"the last one stays with a maximum of 0 files", {1, 2, 3, 4}, 0, 21, 1, 1},
+        {"older than the days go, newest first to stay", {1, 5, 22, 30, 40}, 30, 21, 2, 5},
+        {"within both limits nothing goes", {1, 2, 21}, 3, 21, 3, 21},
+        {"an age of 21.5 rounds to 22 and goes", {1, 21.5}, 30, 21, 1, 1},
+        {"an age of 20.5 rounds to 20 and stays", {1, 20.5}, 30, 20, 2, 20},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.What);
+        std::filesystem::remove_all(Folder.Root);
+        UserSettings.MaxLibraryFiles = static_cast<std::int16_t>(c.MaxFiles);
+        UserSettings.MaxLibraryDays = static_cast<std::int16_t>(c.MaxDays);
+        std::vector<std::string> names;
+        for (const double age : c.Ages) {
+            names.push_back(SaveAt(DaysAgo(age)));
+        }
+        ASSERT_TRUE(Library.ScanLibrary());
+        const auto& listing = Library.Listing();
+        EXPECT_EQ(listing.LibraryCount, c.Kept);
+        EXPECT_EQ(listing.OldestAge, c.OldestAge);
+        // The newest ones are kept, in both folders alike.
+        std::sort(names.begin(), names.end());
+        const std::vector<std::string> kept(names.end() - c.Kept, names.end());
+        EXPECT_EQ(Names(Folder.Isp()), kept);
+        EXPECT_EQ(Names(Folder.Dlg()), kept);
+        EXPECT_TRUE(Windows.Boxes.empty());
+    }
+}
+
+TEST_F(DialogueLibraryTest, ListingHoldsDateOrderAndLabels) {
+    const auto earliest = SaveAt({2026, 11, 3, 9, 5, 0});
+    const auto prior = SaveAt({2026, 11, 20, 23, 45, 0});
+    const auto latest = SaveAt({2026, 11, 22, 0, 1, 0});
+    ASSERT_TRUE(Library.ScanLibrary());
+    const auto& listing = Library.Listing();
+    ASSERT_EQ(listing.LibraryCount, 3);
+    EXPECT_EQ(listing.LibraryFiles[1], earliest);
+    EXPECT_EQ(listing.LibraryFiles[2], prior);
+    EXPECT_EQ(listing.LibraryFiles[3], latest);
+    EXPECT_EQ(listing.OldestFile, earliest);
+    EXPECT_EQ(listing.OldestAge, 19);
+    EXPECT_EQ(listing.LibraryLabels[1], "Earliest, Nov 3");
+    EXPECT_EQ(listing.LibraryLabels[2], "Prior, Nov 20");
+    EXPECT_EQ(listing.LibraryLabels[3], "Latest, Nov 22");
+    EXPECT_EQ(listing.LibraryDates[1], "Tuesday, 9:05 am, November 3, 2026");
+    EXPECT_EQ(listing.LibraryDates[2], "Friday, 11:45 pm, November 20, 2026");
+    EXPECT_EQ(listing.LibrarySortDates[3], "26-11-22");
+    EXPECT_EQ(listing.LibraryListOrder[1], 3);
+    EXPECT_EQ(listing.LibraryListOrder[3], 1);
+
+    // One Dialogue alone has a short label of the date only.
+    UserSettings.MaxLibraryFiles = 1;
+    ASSERT_TRUE(Library.ScanLibrary());
+    EXPECT_EQ(listing.LibraryCount, 1);
+    EXPECT_EQ(listing.LibraryLabels[1], "Nov 22");
+    EXPECT_EQ(listing.LibraryDates[1], "Sunday, 12:01 am, November 22, 2026");
+}
+
+TEST_F(DialogueLibraryTest, EqualKeysLeaveTheOneListedFirstAsTheLater) {
+    SaveAt({2026, 11, 20, 10, 0, 0});
+    std::filesystem::copy_file(Folder.Isp() / "76112010.000", Folder.Isp() / "76112010.001");
+    std::filesystem::copy_file(Folder.Dlg() / "76112010.000", Folder.Dlg() / "76112010.001");
+    ASSERT_TRUE(Library.ScanLibrary());
+    EXPECT_EQ(Library.Listing().LibraryFiles[1], "76112010.001");
+    EXPECT_EQ(Library.Listing().LibraryFiles[2], "76112010.000");
+}
+
+TEST_F(DialogueLibraryTest, MissingFoldersAreMadeAnewAndAnEmptyLibraryKeepsOldTables) {
+    SaveAt(DaysAgo(1));
+    ASSERT_TRUE(Library.ScanLibrary());
+    const std::string name = Library.Listing().LibraryFiles[1];
+    std::filesystem::remove_all(Folder.Isp());
+    std::filesystem::remove_all(Folder.Dlg());
+    ASSERT_TRUE(Library.ScanLibrary());
+    EXPECT_EQ(Library.Listing().LibraryCount, 0);
+    EXPECT_EQ(Library.Listing().LibraryFiles[1], name);
+    EXPECT_TRUE(std::filesystem::is_directory(Folder.Isp()));
+    EXPECT_TRUE(std::filesystem::is_directory(Folder.Dlg()));
+    EXPECT_TRUE(Windows.Boxes.empty());
+}
+
+TEST_F(DialogueLibraryTest, AMissingDialogueFileStopsTheRetentionWithTheLibraryBox) {
+    UserSettings.MaxLibraryFiles = 1;
+    const auto oldest = SaveAt(DaysAgo(3));
+    const auto middle = SaveAt(DaysAgo(2));
+    SaveAt(DaysAgo(1));
+    std::filesystem::remove(Folder.Dlg() / oldest);
+    EXPECT_FALSE(Library.ScanLibrary());
+    ASSERT_EQ(Windows.Boxes.size(), 1u);
+    EXPECT_EQ(Windows.Boxes[0].Title, "Error 53 Dialogue Library File Names");
+    EXPECT_EQ(Windows.Boxes[0].Icon, MessageIcon::Warning);
+    EXPECT_EQ(Windows.Boxes[0].Text.rfind("The Dialogue Library retrieval system has failed.", 0),
+              0u);
+    // Its inspiration is already gone; the next scan goes on from there.
+    EXPECT_FALSE(std::filesystem::exists(Folder.Isp() / oldest));
+    EXPECT_TRUE(Library.ScanLibrary());
+    EXPECT_EQ(Library.Listing().LibraryCount, 1);
+    EXPECT_FALSE(std::filesystem::exists(Folder.Isp() / middle));
+}
+
+TEST_F(DialogueLibraryTest, StrayNamesInTheInspirationFolderCountAsDialogues) {
+    const auto saved = SaveAt(DaysAgo(1));
+    // Hidden files are no Dialogues: among them a write of ours cut short.
+    WriteWholeFile(Folder.Isp() / ".76112010.000.new", "\tcut short");
+    // A name whose fields make a date counts with that date.
+    WriteWholeFile(Folder.Isp() / "76112012.30x", "no tab at all");
+    ASSERT_TRUE(Library.ScanLibrary());
+    EXPECT_EQ(Library.Listing().LibraryCount, 2);
+    EXPECT_EQ(Library.Listing().LibraryFiles[1], "76112012.30x");
+    EXPECT_EQ(Library.Listing().LibraryLabels[1], "Earliest, Nov 20");
+
+    // One whose fields make no date counts too, as the oldest, and the scan says it cannot
+    // read it; the program goes on.
+    WriteWholeFile(Folder.Isp() / "notes.txt", "\tnotes");
+    EXPECT_FALSE(Library.ScanLibrary());
+    EXPECT_EQ(Library.Listing().LibraryCount, 3);
+    EXPECT_EQ(Library.Listing().OldestFile, "notes.txt");
+    EXPECT_EQ(Titles(Windows), std::vector<std::string>{"Error 13 Dialogue Library File Names"});
+    EXPECT_TRUE(std::filesystem::exists(Folder.Isp() / saved));
+}
+
+TEST_F(DialogueLibraryTest, AFolderInThePlaceOfTheLibraryGivesTheBox) {
+    std::filesystem::create_directories(Folder.Root);
+    WriteWholeFile(Folder.Isp(), "a file where the folder should be");
+    EXPECT_FALSE(Library.ScanLibrary());
+    EXPECT_EQ(Titles(Windows), std::vector<std::string>{"Error 76 Dialogue Library File Names"});
+}
+
+TEST_F(DialogueLibraryTest, SavingTakesTheDateOfTheWorkBuffersAndWritesBothFilesExactly) {
+    const std::string inspiration = "\tEvery door you open \x93leads\x94 somewhere.";
+    const std::string dialogue = "\r\n\r\n\t\x93Why now?\x94\r\n\tBecause the hour has come.";
+    std::filesystem::create_directories(Folder.Exe());
+    WriteWholeFile(Folder.Exe() / "savei.tmp", inspiration);
+    SetFileDate(Folder.Exe() / "savei.tmp", {2026, 11, 21, 18, 7, 42});
+
+    ASSERT_TRUE(Library.AddToLibrary(inspiration, dialogue));
+    EXPECT_EQ(ReadWholeFile(Folder.Isp() / "76112118.070"), inspiration);
+    EXPECT_EQ(ReadWholeFile(Folder.Dlg() / "76112118.070"), dialogue);
+    EXPECT_EQ(Library.Listing().LibraryCount, 1);
+
+    // A second save in the same minute replaces the pair.
+    SetFileDate(Folder.Exe() / "savei.tmp", {2026, 11, 21, 18, 7, 5});
+    ASSERT_TRUE(Library.AddToLibrary(inspiration, dialogue + " More."));
+    EXPECT_EQ(Library.Listing().LibraryCount, 1);
+    EXPECT_EQ(ReadWholeFile(Folder.Dlg() / "76112118.070"), dialogue + " More.");
+    EXPECT_EQ(Names(Folder.Isp()), std::vector<std::string>{"76112118.070"});
+
+    // An inspiration without its tab is kept as it stands.
+    SetFileDate(Folder.Exe() / "savei.tmp", {2026, 11, 21, 18, 8, 0});
+    ASSERT_TRUE(Library.AddToLibrary("no tab here", dialogue));
+    EXPECT_EQ(ReadWholeFile(Folder.Isp() / "76112118.080"), "no tab here");
+    EXPECT_EQ(Library.Listing().LibraryCount, 2);
+    EXPECT_TRUE(Windows.Boxes.empty());
+}
+
+TEST_F(DialogueLibraryTest, ASaveIn2050IsWrittenButTheLibraryCannotReadIt) {
+    std::filesystem::create_directories(Folder.Exe());
+    WriteWholeFile(Folder.Exe() / "savei.tmp", "\tlate");
+    SetFileDate(Folder.Exe() / "savei.tmp", {2050, 7, 19, 14, 30, 0});
+    EXPECT_TRUE(Library.AddToLibrary("\tlate", "\r\n\r\n\tlate"));
+    EXPECT_EQ(Names(Folder.Isp()), std::vector<std::string>{"100071914.300"});
+    EXPECT_EQ(Titles(Windows), std::vector<std::string>{"Error 13 Dialogue Library File Names"});
+}
+
+TEST_F(DialogueLibraryTest, WithoutItsWorkBufferASaveTakesThePresentMinute) {
+    ASSERT_TRUE(Library.AddToLibrary("\tinspiration", "\r\n\r\n\tdialogue"));
+    EXPECT_EQ(Names(Folder.Dlg()), std::vector<std::string>{"76112212.000"});
+}
+
+TEST_F(DialogueLibraryTest, AFailedSaveLeavesTheOldPairAndSaysWhy) {
+    std::filesystem::create_directories(Folder.Exe());
+    WriteWholeFile(Folder.Exe() / "savei.tmp", "\told");
+    SetFileDate(Folder.Exe() / "savei.tmp", {2026, 11, 21, 18, 7, 0});
+    ASSERT_TRUE(Library.AddToLibrary("\told", "old dialogue"));
+
+    const bool added =
+        WithDiskNearlyFull([&] { return Library.AddToLibrary("\tnew", std::string(100000, 'x')); });
+
+    EXPECT_FALSE(added);
+    EXPECT_EQ(ReadWholeFile(Folder.Isp() / "76112118.070"), "\told");
+    EXPECT_EQ(ReadWholeFile(Folder.Dlg() / "76112118.070"), "old dialogue");
+    EXPECT_EQ(Names(Folder.Isp()), std::vector<std::string>{"76112118.070"});
+    EXPECT_EQ(Names(Folder.Dlg()), std::vector<std::string>{"76112118.070"});
+    ASSERT_EQ(Windows.Boxes.size(), 1u);
+    EXPECT_EQ(Windows.Boxes[0].Title, "Error 61 Saving the Dialogue");
+    EXPECT_EQ(Windows.Boxes[0].Text,
+              "Error 61 attempting to save your Dialogue in the Dialogue Library. The disk is "
+              "full.\r\n\r\nYour Dialogue is not lost. It stays on the screen and in the work "
+              "buffers, and the Library is as it was. Make room on the disk, then click 'Save' "
+              "again.");
+}
+
+TEST_F(DialogueLibraryTest, ASaveIntoAFileWhereTheFolderShouldBeFails) {
+    std::filesystem::create_directories(Folder.Isp());
+    WriteWholeFile(Folder.Dlg(), "not a folder");
+    EXPECT_FALSE(Library.AddToLibrary("\tinspiration", "dialogue"));
+    EXPECT_TRUE(Names(Folder.Isp()).empty());
+    ASSERT_EQ(Titles(Windows), std::vector<std::string>{"Error 76 Saving the Dialogue"});
+    EXPECT_NE(
+        Windows.Boxes[0].Text.find("The folder " + Folder.Dlg().string() + " cannot be written."),
+        std::string::npos);
+}
+
+TEST_F(DialogueLibraryTest, DeletingAsksFirstAndReportsAMissingFile) {
+    const auto first = SaveAt(DaysAgo(2));
+    const auto second = SaveAt(DaysAgo(1));
+
+    Windows.Answers = {MessageAnswer::No, MessageAnswer::Cancel, MessageAnswer::Yes};
+    EXPECT_FALSE(Library.DeleteDialogue(first));
+    EXPECT_FALSE(Library.DeleteDialogue(first));
+    EXPECT_TRUE(std::filesystem::exists(Folder.Isp() / first));
+    EXPECT_TRUE(Library.DeleteDialogue(first));
+    EXPECT_EQ(Names(Folder.Isp()), std::vector<std::string>{second});
+    EXPECT_EQ(Names(Folder.Dlg()), std::vector<std::string>{second});
+    const auto& question = Windows.Boxes[0];
+    EXPECT_EQ(question.Title, "Delete Dialogue");
+    EXPECT_EQ(question.Text, "Are you certain you want to delete this Dialogue?");
+    EXPECT_EQ(question.Buttons, MessageButtons::YesNoCancel);
+    EXPECT_EQ(question.DefaultButton, 2);
+
+    Windows.Boxes.clear();
+    std::filesystem::remove(Folder.Dlg() / second);
+    EXPECT_FALSE(Library.DeleteDialogue(second));
+    ASSERT_EQ(Windows.Boxes.size(), 2u);
+    EXPECT_EQ(Windows.Boxes[1].Title, "Dialogue Library Corrupted");
+    EXPECT_EQ(Windows.Boxes[1].Text.rfind(
+                  "Error 53 attempting to delete the file from the Dialogue Library.", 0),
+              0u);
+    EXPECT_FALSE(std::filesystem::exists(Folder.Isp() / second));
+}
+
+} // namespace
+} // namespace veyrant::testing

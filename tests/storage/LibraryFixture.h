@@ -1,0 +1,90 @@
+#pragma once
+
+#include "core/DateTime.h"
+#include "core/WholeFile.h"
+#include "shell/AppFolder.h"
+#include "shell/Settings.h"
+#include "storage/DialogueLibrary.h"
+#include "storage/LibraryFileName.h"
+#include "storage/WorkBuffers.h"
+#include "support/FakeClock.h"
+#include "support/FakeWindowLayer.h"
+#include "support/TempFolder.h"
+
+#include <algorithm>
+#include <chrono>
+#include <csignal>
+#include <ctime>
+#include <filesystem>
+#include <gtest/gtest.h>
+#include <string>
+#include <sys/resource.h>
+#include <vector>
+
+namespace veyrant::testing {
+
+// A program's worth of storage in a fresh folder, with the clock at noon on 22 November 2026.
+class LibraryFixture : public ::testing::Test {
+protected:
+    TempFolder Temp;
+    AppFolder Folder{Temp.Path()};
+    Settings UserSettings;
+    FakeClock Clock;
+    FakeWindowLayer Windows;
+    DialogueLibrary Library{Folder, UserSettings, Clock, Windows};
+    WorkBuffers Buffers{Folder, UserSettings, Clock, Windows};
+
+    // Puts a saved Dialogue into the Library as a save at that date would.
+    std::string SaveAt(const DateTime& when, const std::string& dialogue = "\r\n\r\n\t\x93Hi\x94") {
+        std::filesystem::create_directories(Folder.Isp());
+        std::filesystem::create_directories(Folder.Dlg());
+        const std::string name = MakeFileName(when);
+        WriteWholeFile(Folder.Isp() / name, "\tInspiration of " + name);
+        WriteWholeFile(Folder.Dlg() / name, dialogue);
+        return name;
+    }
+
+    // A date the given number of days (and hours) before the clock's.
+    DateTime DaysAgo(double days) const { return FromDayNumber(DayNumber(Clock.Date) - days); }
+
+    std::vector<std::string> Names(const std::filesystem::path& folder) const {
+        std::vector<std::string> names;
+        for (const auto& entry : std::filesystem::directory_iterator(folder)) {
+            names.push_back(entry.path().filename().string());
+        }
+        std::sort(names.begin(), names.end());
+        return names;
+    }
+
+    // Sets a file's date to a local date and time, as the clock seam reads it back.
+    static void SetFileDate(const std::filesystem::path& path, const DateTime& when) {
+        std::tm parts{};
+        parts.tm_year = when.Year - 1900;
+        parts.tm_mon = when.Month - 1;
+        parts.tm_mday = when.Day;
+        parts.tm_hour = when.Hour;
+        parts.tm_min = when.Minute;
+        parts.tm_sec = when.Second;
+        parts.tm_isdst = -1;
+        const auto stamp = std::chrono::system_clock::from_time_t(std::mktime(&parts));
+        std::filesystem::last_write_time(path, std::chrono::file_clock::from_sys(stamp));
+    }
+};
+
+// Runs the action with files limited to 4 KiB: the kernel then refuses a write part way, as a
+// full disk would.
+template <typename Action>
+auto WithDiskNearlyFull(Action action) {
+    rlimit saved{};
+    getrlimit(RLIMIT_FSIZE, &saved);
+    const auto previousHandler = std::signal(SIGXFSZ, SIG_IGN);
+    rlimit small = saved;
+    small.rlim_cur = 4096;
+    setrlimit(RLIMIT_FSIZE, &small);
+    const auto result = action();
+    setrlimit(RLIMIT_FSIZE, &saved);
+    std::signal(SIGXFSZ, previousHandler);
+    return result;
+}
+
+} // namespace veyrant::testing

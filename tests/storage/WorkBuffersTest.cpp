@@ -1,0 +1,150 @@
+#include "LibraryFixture.h"
+
+namespace veyrant::testing {
+namespace {
+
+using WorkBuffersTest = LibraryFixture;
+
+const DialogueBuffers Running{"\tA quiet river carves the stone.",
+                              "\r\n\r\n\t\x93What is next?\x94\r\n\tWhat you choose.",
+                              "Begin with what is nearest to you.", 3};
+
+TEST_F(WorkBuffersTest, TheFourFilesHoldTheDialogueExactly) {
+    ASSERT_TRUE(Buffers.WriteWorkBuffers(Running));
+    EXPECT_EQ(ReadWholeFile(Folder.Exe() / "savei.tmp"), Running.InspirationText);
+    EXPECT_EQ(ReadWholeFile(Folder.Exe() / "savem.tmp"), Running.DialogueText);
+    EXPECT_EQ(ReadWholeFile(Folder.Exe() / "saves.tmp"), Running.SuggestionText);
+    EXPECT_EQ(ReadWholeFile(Folder.Exe() / "savep.tmp"), " 3 \r\n");
+    EXPECT_EQ(Names(Folder.Exe()),
+              (std::vector<std::string>{"savei.tmp", "savem.tmp", "savep.tmp", "saves.tmp"}));
+
+    const auto prior = Buffers.ReadWorkBuffers();
+    ASSERT_TRUE(prior.has_value());
+    EXPECT_EQ(prior->Buffers.InspirationText, Running.InspirationText);
+    EXPECT_EQ(prior->Buffers.DialogueText, Running.DialogueText);
+    EXPECT_EQ(prior->Buffers.SuggestionText, Running.SuggestionText);
+    EXPECT_EQ(prior->Buffers.PairCount, 3);
+}
+
+TEST_F(WorkBuffersTest, ThePriorAgeComesFromTheDateOfTheInspirationBuffer) {
+    struct Case {
+        DateTime Written;
+        int Age;
+    };
+    // The clock stands at noon on 22 November 2026; halves go to the even day.
+    const Case cases[] = {
+        {{2026, 11, 22, 11, 59, 0}, 0}, {{2026, 11, 21, 0, 0, 0}, 2},
+        {{2026, 11, 21, 0, 0, 1}, 1},   {{2026, 11, 20, 0, 0, 0}, 2},
+        {{2026, 11, 19, 23, 59, 0}, 3}, {{2025, 11, 22, 12, 0, 0}, 365},
+    };
+    ASSERT_TRUE(Buffers.WriteWorkBuffers(Running));
+    for (const auto& c : cases) {
+        SetFileDate(Folder.Exe() / "savei.tmp", c.Written);
+        const auto prior = Buffers.ReadWorkBuffers();
+        ASSERT_TRUE(prior.has_value());
+        EXPECT_EQ(prior->PriorAge, c.Age) << c.Written.Day << " " << c.Written.Hour;
+        EXPECT_EQ(prior->BufferDate, c.Written);
+    }
+}
+
+TEST_F(WorkBuffersTest, GuestModeHidesTheBuffersAndLeavesThemUntouched) {
+    ASSERT_TRUE(Buffers.WriteWorkBuffers(Running));
+    SetFileDate(Folder.Exe() / "savei.tmp", DaysAgo(4));
+
+    UserSettings.GuestMode = 1;
+    EXPECT_FALSE(Buffers.ReadWorkBuffers().has_value());
+    ASSERT_TRUE(Buffers.WriteWorkBuffers({"\tguest", "\r\n\r\n\tguest", "guest", 1}));
+    Buffers.DeleteWorkBuffers();
+    EXPECT_EQ(ReadWholeFile(Folder.Exe() / "savem.tmp"), Running.DialogueText);
+
+    UserSettings.GuestMode = 0;
+    const auto prior = Buffers.ReadWorkBuffers();
+    ASSERT_TRUE(prior.has_value());
+    EXPECT_EQ(prior->Buffers.DialogueText, Running.DialogueText);
+    EXPECT_EQ(prior->PriorAge, 4);
+}
+
+TEST_F(WorkBuffersTest, AnyMissingBufferMeansNoPriorDialogue) {
+    for (const char* missing : {"savei.tmp", "savem.tmp", "saves.tmp", "savep.tmp"}) {
+        SCOPED_TRACE(missing);
+        ASSERT_TRUE(Buffers.WriteWorkBuffers(Running));
+        std::filesystem::remove(Folder.Exe() / missing);
+        EXPECT_FALSE(Buffers.ReadWorkBuffers().has_value());
+        // The others stay until they are written over.
+        EXPECT_EQ(Names(Folder.Exe()).size(), 3u);
+    }
+    WriteWholeFile(Folder.Exe() / "savep.tmp", "three\r\n");
+    EXPECT_FALSE(Buffers.ReadWorkBuffers().has_value());
+    EXPECT_TRUE(Windows.Boxes.empty());
+}
+
+TEST_F(WorkBuffersTest, DeletingLeavesTheSuggestionBehindWhichAloneIsNoPriorDialogue) {
+    ASSERT_TRUE(Buffers.WriteWorkBuffers(Running));
+    Buffers.DeleteWorkBuffers();
+    EXPECT_EQ(Names(Folder.Exe()), std::vector<std::string>{"saves.tmp"});
+    EXPECT_FALSE(Buffers.ReadWorkBuffers().has_value());
+
+    // A delete that cannot go stops there silently and leaves the later files.
+    ASSERT_TRUE(Buffers.WriteWorkBuffers(Running));
+    std::filesystem::remove(Folder.Exe() / "savem.tmp");
+    Buffers.DeleteWorkBuffers();
+    EXPECT_EQ(Names(Folder.Exe()), (std::vector<std::string>{"savep.tmp", "saves.tmp"}));
+    EXPECT_TRUE(Windows.Boxes.empty());
+}
+
+TEST_F(WorkBuffersTest, AFailedWriteLeavesTheOldSetWhole) {
+    ASSERT_TRUE(Buffers.WriteWorkBuffers(Running));
+    SetFileDate(Folder.Exe() / "savei.tmp", DaysAgo(1));
+
+    const bool written = WithDiskNearlyFull([&] {
+        return Buffers.WriteWorkBuffers({"\tnew", std::string(100000, 'x'), "new suggestion", 9});
+    });
+
+    EXPECT_FALSE(written);
+    const auto prior = Buffers.ReadWorkBuffers();
+    ASSERT_TRUE(prior.has_value());
+    EXPECT_EQ(prior->Buffers.InspirationText, Running.InspirationText);
+    EXPECT_EQ(prior->Buffers.DialogueText, Running.DialogueText);
+    EXPECT_EQ(prior->Buffers.PairCount, 3);
+    EXPECT_EQ(prior->PriorAge, 1);
+    EXPECT_EQ(Names(Folder.Exe()).size(), 4u);
+    ASSERT_EQ(Windows.Boxes.size(), 1u);
+    EXPECT_EQ(Windows.Boxes[0].Title, "Error 61 Keeping the Dialogue");
+    EXPECT_EQ(Windows.Boxes[0].Text,
+              "Error 61 attempting to keep your Dialogue in the work buffers. The disk is "
+              "full.\r\n\r\nThe work buffers still hold the Dialogue as it was last kept, and the "
+              "Dialogue on the screen is unchanged. Make room on the disk, or click 'Print' or "
+              "'File' to keep a copy of it.");
+}
+
+TEST_F(WorkBuffersTest, AFileWhereTheProgramFolderShouldBeGivesTheBox) {
+    std::filesystem::create_directories(Folder.Root);
+    WriteWholeFile(Folder.Exe(), "not a folder");
+    EXPECT_FALSE(Buffers.WriteWorkBuffers(Running));
+    ASSERT_EQ(Windows.Boxes.size(), 1u);
+    EXPECT_EQ(Windows.Boxes[0].Title, "Error 76 Keeping the Dialogue");
+}
+
+// The moments at which the Write window calls on the buffers and the Library, in the order a
+// user meets them: finish, close, reopen, save, New.
+TEST_F(WorkBuffersTest, ADialogueSurvivesClosingAndIsSavedUnderTheDateItWasKept) {
+    // Finished on Friday evening: the buffers are written.
+    ASSERT_TRUE(Buffers.WriteWorkBuffers(Running));
+    SetFileDate(Folder.Exe() / "savei.tmp", {2026, 11, 20, 19, 45, 0});
+
+    // Next start, two days later: the Prior Dialogue reopens with its age.
+    const auto prior = Buffers.ReadWorkBuffers();
+    ASSERT_TRUE(prior.has_value());
+    EXPECT_EQ(prior->PriorAge, 2);
+
+    // Save: the Library names it by the buffers' date, not the click's.
+    ASSERT_TRUE(Library.AddToLibrary(prior->Buffers.InspirationText, prior->Buffers.DialogueText));
+    EXPECT_EQ(Names(Folder.Isp()), std::vector<std::string>{"76112019.450"});
+    // Then the click on New deletes the buffers, and the next reset begins a new Dialogue.
+    Buffers.DeleteWorkBuffers();
+    EXPECT_FALSE(Buffers.ReadWorkBuffers().has_value());
+    EXPECT_EQ(ReadWholeFile(Folder.Dlg() / "76112019.450"), Running.DialogueText);
+}
+
+} // namespace
+} // namespace veyrant::testing
