@@ -86,6 +86,13 @@ void ReadPlanSource(const std::string& fileName, std::string_view utf8, ContentS
 void ReadGroupOrder(const std::string& fileName, std::string_view utf8, ContentSources& sources);
 std::vector<std::string> ReadSuggestionSource(const std::string& fileName, std::string_view utf8);
 
+// A stock's number as its files are named: "07".
+std::string StockNumberText(int stock);
+
+// Every source under a data folder: stocks/order.txt, stocks/01.txt to 14.txt, plans/*.txt in
+// name order, and suggestions.txt.
+ContentSources ReadContentFolder(const std::string& dataFolder);
+
 // The text lines of a source file in Windows-1252, with comments and outer blanks removed;
 // blank lines are kept as empty strings so that line numbers hold.
 std::vector<std::string> SourceLines(const std::string& fileName, std::string_view utf8);

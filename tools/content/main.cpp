@@ -5,7 +5,6 @@
 #include "ContentSources.h"
 #include "EngineData.h"
 
-#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
@@ -15,16 +14,6 @@ namespace fs = std::filesystem;
 using namespace veyrant::content;
 
 namespace {
-
-std::string ReadSource(const fs::path& path) {
-    std::ifstream file(path, std::ios::binary);
-    if (!file) {
-        throw ContentError({path.string(), 0}, "cannot be read");
-    }
-    std::ostringstream text;
-    text << file.rdbuf();
-    return text.str();
-}
 
 // Leaves a file alone when its text has not changed, so the build recompiles only what moved.
 void WriteIfChanged(const fs::path& path, const std::string& text) {
@@ -43,34 +32,6 @@ void WriteIfChanged(const fs::path& path, const std::string& text) {
     }
 }
 
-std::string TwoDigits(int n) {
-    return (n < 10 ? "0" : "") + std::to_string(n);
-}
-
-ContentSources ReadSources(const fs::path& data) {
-    ContentSources sources;
-    const fs::path order = data / "stocks" / "order.txt";
-    ReadGroupOrder(order.string(), ReadSource(order), sources);
-    for (int b = 1; b <= StockCount; ++b) {
-        const fs::path file = data / "stocks" / (TwoDigits(b) + ".txt");
-        sources.Stocks[static_cast<std::size_t>(b)] =
-            ReadStockSource(file.string(), ReadSource(file));
-    }
-    std::vector<fs::path> planFiles;
-    for (const auto& entry : fs::directory_iterator(data / "plans")) {
-        if (entry.path().extension() == ".txt") {
-            planFiles.push_back(entry.path());
-        }
-    }
-    std::sort(planFiles.begin(), planFiles.end());
-    for (const fs::path& file : planFiles) {
-        ReadPlanSource(file.string(), ReadSource(file), sources);
-    }
-    const fs::path suggestions = data / "suggestions.txt";
-    sources.Suggestions = ReadSuggestionSource(suggestions.string(), ReadSource(suggestions));
-    return sources;
-}
-
 } // namespace
 
 int main(int argc, char** argv) {
@@ -81,11 +42,11 @@ int main(int argc, char** argv) {
     try {
         const fs::path out = argv[2];
         fs::create_directories(out);
-        const EngineData data = CompileEngine(ReadSources(argv[1]));
+        const EngineData data = CompileEngine(ReadContentFolder(argv[1]));
         WriteIfChanged(out / "qdr41.sys", data.SystemFile);
         WriteIfChanged(out / "qdr41.mtx", data.PlanFile);
         for (int b = 1; b <= StockCount; ++b) {
-            WriteIfChanged(out / ("Stock" + TwoDigits(b) + ".cpp"),
+            WriteIfChanged(out / ("Stock" + StockNumberText(b) + ".cpp"),
                            StockUnit(b, data.StockRows[static_cast<std::size_t>(b)]));
         }
         WriteIfChanged(out / "EngineFiles.cpp", EngineFilesUnit(data.SystemFile, data.PlanFile));
