@@ -31,6 +31,9 @@ public:
     // Composed texts as the composer leaves them: a tab, a lead blank, then the rows.
     virtual std::string RequestAnswer(int entryType) = 0;
     virtual std::string RequestRemark(int entryType) = 0;
+    // The verdict on the chosen idea (flag 1), cut to continue a sentence, or the refusal to
+    // choose (flag 0) as composed.
+    virtual std::string RequestIdeaVerdict(int answerFlag) = 0;
     virtual std::string RequestInterjection() = 0;
     // The Inspiration as the Dialogue keeps it: a tab and the body.
     virtual std::string RequestInspiration() = 0;

@@ -51,6 +51,11 @@ std::string EngineDialogue::RequestRemark(int entryType) {
     return engine_.ReplyText;
 }
 
+std::string EngineDialogue::RequestIdeaVerdict(int answerFlag) {
+    engine_.RequestIdeaVerdict(Short(answerFlag));
+    return engine_.IdeaVerdict;
+}
+
 std::string EngineDialogue::RequestInterjection() {
     engine_.RequestInterjection();
     return engine_.ReplyText;

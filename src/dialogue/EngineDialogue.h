@@ -21,6 +21,7 @@ public:
     int RollAnswer(int percent) override;
     std::string RequestAnswer(int entryType) override;
     std::string RequestRemark(int entryType) override;
+    std::string RequestIdeaVerdict(int answerFlag) override;
     std::string RequestInterjection() override;
     std::string RequestInspiration() override;
     std::string PickGuidance() override;

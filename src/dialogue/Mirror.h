@@ -90,12 +90,32 @@ private:
     // Suppose: the list of ideas and the ends of the method.
     void OpenIdeaList();
     void PromptIdea();
-    void DeclineSupposition();
+    void AcceptIdea();
+    void CheckIdea(const std::string& idea);
+    void RankIdeas();
+    void ConcludeSupposition(int flag);
+    void EndSupposition();
+
+    // The list box's rules: its head ends at ListHead, and Enter files an idea.
+    int AnalyzeKeyDown(int keyCode);
+    int AnalyzeKeyPress(int keyAscii);
+    bool CountIdea(int keyAscii);
+    void EnterInList();
+    void ClickAnalyzeBox();
 
     // Entry box rules.
+    struct CountWording {
+        std::string BelowMinimum;
+        std::string Ready;
+        std::string NearEnd; // follows the number of words left
+        std::string Over;
+    };
     int MirrorKeyDown(int keyCode);
     int MirrorKeyPress(int keyAscii);
+    int RefuseControlKey(int keyCode);
+    int KeepCaretOffHead(MirrorControl control, long head, int keyCode);
     bool CountEntry(int keyAscii);
+    bool JudgeCount(MirrorControl mark, const CountWording& wording, int keyAscii);
     void ClickEntryBox();
     void RecordKey(int characterCode);
 

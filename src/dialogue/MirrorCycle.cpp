@@ -331,7 +331,7 @@ void Mirror::ProcessEntry() {
             OpenIdeaList();
             return;
         }
-        DeclineSupposition();
+        ConcludeSupposition(0);
     }
 
     if (state_.AnswerFlag == 1) {

@@ -96,8 +96,18 @@ void Mirror::Click(MirrorControl control) {
         ClickMethod(4);
         break;
     case MirrorControl::cmdClear:
+        // Rewrite is a click on the box in use.
+        if (C(MirrorControl::txtAnalyze).Visible) {
+            ClickAnalyzeBox();
+        } else {
+            ClickEntryBox();
+        }
+        break;
     case MirrorControl::txtMirror:
         ClickEntryBox();
+        break;
+    case MirrorControl::txtAnalyze:
+        ClickAnalyzeBox();
         break;
     case MirrorControl::cmdRemove:
         ClickRemove();

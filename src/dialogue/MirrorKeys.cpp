@@ -52,6 +52,9 @@ int Mirror::KeyDown(int keyCode) {
     if (controls_.Focus == MirrorControl::txtMirror) {
         return MirrorKeyDown(keyCode);
     }
+    if (controls_.Focus == MirrorControl::txtAnalyze) {
+        return AnalyzeKeyDown(keyCode);
+    }
     return keyCode;
 }
 
@@ -65,6 +68,9 @@ int Mirror::KeyPress(int keyAscii) {
     if (controls_.Focus == MirrorControl::txtMirror) {
         return MirrorKeyPress(keyAscii);
     }
+    if (controls_.Focus == MirrorControl::txtAnalyze) {
+        return AnalyzeKeyPress(keyAscii);
+    }
     return keyAscii;
 }
 
@@ -75,40 +81,52 @@ void Mirror::RecordKey(int characterCode) {
 }
 
 int Mirror::MirrorKeyDown(int keyCode) {
-    auto& box = C(MirrorControl::txtMirror);
+    if (state_.ActiveMethod == 0) {
+        return 0;
+    }
+    if (keyCode == KeyCode::Control) {
+        return RefuseControlKey(keyCode);
+    }
+    if (state_.AwaitingEnter == 1 && keyCode != KeyCode::Enter) {
+        state_.EnterHintDue = 1;
+        auto& box = C(MirrorControl::txtMirror);
+        box.Caret = 0;
+        box.SelectionLength = 0;
+        return 0;
+    }
+    return KeepCaretOffHead(MirrorControl::txtMirror, HeadLength, keyCode);
+}
+
+int Mirror::RefuseControlKey(int keyCode) {
+    Message("Invalid Key", "Use of the control key is not allowed.");
+    return keyCode;
+}
+
+// The caret never enters the protected head, and the box has no line movement: the vertical
+// arrows halve the distance to the end or back to the head.
+int Mirror::KeepCaretOffHead(MirrorControl control, long head, int keyCode) {
+    auto& box = C(control);
     const long length = static_cast<long>(box.Text.size());
     const auto moveCaret = [&box](long caret) {
         box.Caret = caret;
         box.SelectionLength = 0;
         return 0;
     };
-    if (state_.ActiveMethod == 0) {
-        return 0;
-    }
-    if (keyCode == KeyCode::Control) {
-        Message("Invalid Key", "Use of the control key is not allowed.");
-        return keyCode;
-    }
-    if (state_.AwaitingEnter == 1 && keyCode != KeyCode::Enter) {
-        state_.EnterHintDue = 1;
-        return moveCaret(0);
-    }
     switch (keyCode) {
     case KeyCode::Home:
-        return moveCaret(HeadLength);
+        return moveCaret(head);
     case KeyCode::Left:
     case KeyCode::Backspace:
-        if (box.Caret < HeadLength + 1) {
-            return moveCaret(HeadLength);
+        if (box.Caret <= head) {
+            return moveCaret(head);
         }
         return keyCode;
     case KeyCode::End:
         return moveCaret(length);
     case KeyCode::Down:
-        // No line movement in the box: the vertical arrows halve the distance.
         return moveCaret(box.Caret + (length - box.Caret) / 2);
     case KeyCode::Up:
-        return moveCaret((box.Caret - HeadLength) / 2 + HeadLength);
+        return moveCaret(head + (box.Caret - head) / 2);
     default:
         return keyCode;
     }
@@ -160,43 +178,16 @@ int Mirror::MirrorKeyPress(int keyAscii) {
 // The count runs one key behind the text: the key being pressed is not in the box yet. The
 // thresholds were set with that lag, so it stays. Returns false when the key must be dropped.
 bool Mirror::CountEntry(int keyAscii) {
-    const auto& box = C(MirrorControl::txtMirror);
-    auto& mark = C(MirrorControl::lblRem);
-    state_.EntryCount = static_cast<int>(box.Text.size()) - 3;
+    state_.EntryCount = static_cast<int>(C(MirrorControl::txtMirror).Text.size()) - 3;
     if (keyAscii == KeyCode::Backspace) {
         state_.EntryCount -= 2;
     }
-
-    bool keep = true;
-    if (state_.EntryCount < state_.EntryMin) {
-        state_.InstructionText = BelowMinimum(state_.ActiveMethod);
-        state_.InstructionColour = Colour::InkWarn;
-        mark.Visible = true;
-        mark.Text = "X";
-        state_.EntryFit = -1;
-    } else if (state_.EntryCount < state_.EntryNear) {
-        state_.InstructionText = Ready(state_.ActiveMethod);
-        state_.InstructionColour = Colour::Black;
-        mark.Visible = false;
-        state_.EntryFit = 0;
-    } else if (state_.EntryCount < state_.EntryMax) {
-        const int wordsLeft = (state_.EntryMax - state_.EntryCount) / 6;
-        state_.InstructionText = "Limit on word count is near. There is space for about " +
-                                 std::to_string(wordsLeft) +
-                                 " more words. Press 'Enter' when ready.";
-        state_.InstructionColour = Colour::InkNear;
-        mark.Visible = true;
-        mark.Text = std::to_string(wordsLeft);
-        state_.EntryFit = 0;
-    } else {
-        state_.InstructionText = "Over the maximum text limit. Delete words until this display "
-                                 "status changes. Or click 'Rewrite' to erase the text.";
-        state_.InstructionColour = Colour::InkOver;
-        mark.Visible = true;
-        mark.Text = "X";
-        state_.EntryFit = 1;
-        keep = keyAscii == KeyCode::Backspace;
-    }
+    const bool keep = JudgeCount(MirrorControl::lblRem,
+                                 {BelowMinimum(state_.ActiveMethod), Ready(state_.ActiveMethod),
+                                  " more words. Press 'Enter' when ready.",
+                                  "Over the maximum text limit. Delete words until this display "
+                                  "status changes. Or click 'Rewrite' to erase the text."},
+                                 keyAscii);
 
     // Typing clears a ">>" message: the box goes back to what it showed before.
     if (C(MirrorControl::txtResponse).Background != Colour::ColourReady && state_.EntryFit != 1) {
@@ -205,6 +196,40 @@ bool Mirror::CountEntry(int keyAscii) {
         SetResponse(direction ? state_.DirectionText : state_.InspirationView, Colour::ColourReady);
     }
     return keep;
+}
+
+// EntryCount against the three thresholds sets EntryFit, the status mark and the instruction.
+// Over the maximum only Backspace is let through.
+bool Mirror::JudgeCount(MirrorControl markControl, const CountWording& wording, int keyAscii) {
+    auto& mark = C(markControl);
+    if (state_.EntryCount < state_.EntryMin) {
+        state_.InstructionText = wording.BelowMinimum;
+        state_.InstructionColour = Colour::InkWarn;
+        mark.Visible = true;
+        mark.Text = "X";
+        state_.EntryFit = -1;
+    } else if (state_.EntryCount < state_.EntryNear) {
+        state_.InstructionText = wording.Ready;
+        state_.InstructionColour = Colour::Black;
+        mark.Visible = false;
+        state_.EntryFit = 0;
+    } else if (state_.EntryCount < state_.EntryMax) {
+        const int wordsLeft = (state_.EntryMax - state_.EntryCount) / 6;
+        state_.InstructionText = "Limit on word count is near. There is space for about " +
+                                 std::to_string(wordsLeft) + wording.NearEnd;
+        state_.InstructionColour = Colour::InkNear;
+        mark.Visible = true;
+        mark.Text = std::to_string(wordsLeft);
+        state_.EntryFit = 0;
+    } else {
+        state_.InstructionText = wording.Over;
+        state_.InstructionColour = Colour::InkOver;
+        mark.Visible = true;
+        mark.Text = "X";
+        state_.EntryFit = 1;
+        return keyAscii == KeyCode::Backspace;
+    }
+    return true;
 }
 
 // Rewrite and a click on the entry box: while typing, either erases the entry.

@@ -64,6 +64,12 @@ void Mirror::ResetDialogue() {
 
     app_.Random.Seed(app_.Clock.Timer());
     state_.CycleGoal = static_cast<int>(10 * app_.Random.Draw()) + 3;
+    // A list of ideas cancelled in an empty Dialogue closes and gives the entry box back,
+    // whichever Dialogue comes next.
+    C(MirrorControl::txtAnalyze).Visible = false;
+    C(MirrorControl::txtAnalyze).Enabled = false;
+    C(MirrorControl::lblRemS).Visible = false;
+    C(MirrorControl::txtMirror).Enabled = true;
 
     if (LoadPriorDialogue()) {
         return;
@@ -245,6 +251,11 @@ void Mirror::ClickNewCaption() {
         } else {
             ResetDialogue();
         }
+    } else if (caption == "Select") {
+        if (state_.DisplayFull == 1) {
+            Click(MirrorControl::cmdDisplay);
+        }
+        ConcludeSupposition(1);
     } else if (caption == "New") {
         if (!state_.DialogueText.empty() && !GuestMode() && state_.DialogueSaved == 0) {
             const auto answer =

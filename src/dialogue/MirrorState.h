@@ -6,6 +6,7 @@
 #include "dialogue/Colour.h"
 
 #include <string>
+#include <vector>
 
 namespace veyrant {
 
@@ -46,10 +47,16 @@ struct MirrorState {
     int DialogueSaved = 0;
     int SupposeStage = 0;
     int EnterHintDue = 0;
-    int IdeaIndex = 0;
+    int IdeaIndex = 0; // the idea being typed, from 1; 0 with no list open
     int IdeaCount = 0;
     std::string SupposeQuestion;
-    std::string ListText;
+    std::string SupposeHeading;
+    std::string ListText;           // the list box without its open prompt
+    std::vector<std::string> Ideas; // slot 0 the box with the open prompt, then the ideas
+    std::vector<int> IdeaWeight;    // 1 to 1000, drawn as each idea is accepted
+    std::vector<int> IdeaOrder;     // idea numbers by falling weight
+    int IdeaFit = 0;                // 0 accepted, 1 too short, 2 too long
+    long ListHead = 2;              // the protected head of the list box ends here
     std::string IdeaVerdict;
     std::string ConclusionView;
     int IdeaLimit = 98;

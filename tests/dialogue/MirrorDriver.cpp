@@ -55,6 +55,14 @@ std::string ScriptedEngine::RequestRemark(int entryType) {
     return Last;
 }
 
+// A chosen idea's verdict continues the sentence that names the idea; a refusal stands alone.
+std::string ScriptedEngine::RequestIdeaVerdict(int answerFlag) {
+    ++Compositions;
+    Last = answerFlag == 1 ? "is verdict " + std::to_string(Compositions) + "."
+                           : "\t Refusal " + std::to_string(Compositions) + ".";
+    return Last;
+}
+
 std::string ScriptedEngine::RequestInspiration() {
     ++Inspirations;
     return "\tInspiration number " + std::to_string(Inspirations) + ".";
