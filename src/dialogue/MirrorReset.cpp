@@ -70,6 +70,7 @@ void Mirror::ResetDialogue() {
     C(MirrorControl::txtAnalyze).Enabled = false;
     C(MirrorControl::lblRemS).Visible = false;
     C(MirrorControl::txtMirror).Enabled = true;
+    controls_.Focus = MirrorControl::txtMirror;
 
     if (LoadPriorDialogue()) {
         return;
