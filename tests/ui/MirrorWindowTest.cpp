@@ -200,6 +200,53 @@ private slots:
         QTest::mouseClick(saved->viewport(), Qt::LeftButton);
         QCOMPARE(write.Caption(MirrorControl::cmdDisplay), QStringLiteral("Display"));
     }
+
+    void IdeasAreTypedIntoTheListAndSelectChoosesOne() {
+        WriteWindow write;
+        write.Click(MirrorControl::cmdSuppose);
+        auto* entry = write.Box(MirrorControl::txtMirror);
+        QTest::keyClicks(entry, QStringLiteral("What could make the mornings easier for us?"));
+        QTest::keyClick(entry, Qt::Key_Return);
+        auto* list = write.Box(MirrorControl::txtAnalyze);
+        QVERIFY(list->isVisible());
+        QVERIFY(!entry->isEnabled());
+        QCOMPARE(write.Window->focusWidget(), list);
+        QVERIFY(list->toPlainText().endsWith(QStringLiteral("\n\nEntry 1 >> ")));
+        auto* mark = static_cast<QLabel*>(write.Window->Widget(MirrorControl::lblRemS));
+        QCOMPARE(mark->text(), QStringLiteral("X"));
+
+        // The prompt is out of reach of the caret; the idea is not.
+        QTest::keyClicks(list, QStringLiteral("pack lunches the night before"));
+        QTest::keyClick(list, Qt::Key_Home);
+        QTest::keyClick(list, Qt::Key_Backspace);
+        QTest::keyClicks(list, QStringLiteral("We "));
+        QVERIFY(list->toPlainText().endsWith(
+            QStringLiteral("Entry 1 >> We pack lunches the night before")));
+        QVERIFY(!mark->isVisible());
+        QTest::keyClick(list, Qt::Key_End);
+        QTest::keyClick(list, Qt::Key_Return);
+        QVERIFY(list->toPlainText().endsWith(QStringLiteral(
+            "\n\tEntry 1: \u201CWe pack lunches the night before.\u201D\n\nEntry 2 >> ")));
+
+        // A click in the list erases the idea being typed, and nothing else.
+        QTest::keyClicks(list, QStringLiteral("walk"));
+        QTest::mouseClick(list->viewport(), Qt::LeftButton);
+        QVERIFY(list->toPlainText().endsWith(QStringLiteral("Entry 2 >> ")));
+
+        QTest::keyClicks(list, QStringLiteral("leave ten minutes earlier"));
+        QTest::keyClick(list, Qt::Key_Return);
+        QCOMPARE(write.Caption(MirrorControl::cmdNew), QStringLiteral("Select"));
+        write.Click(MirrorControl::cmdNew);
+        QVERIFY(!list->isVisible());
+        QCOMPARE(write.Caption(MirrorControl::cmdNew), QStringLiteral("Finish"));
+        QVERIFY(static_cast<QPushButton*>(write.Window->Widget(MirrorControl::cmdConverse))
+                    ->property("pressedIn")
+                    .toBool());
+        const QString outcome = write.Box(MirrorControl::txtResponse)->toPlainText();
+        QVERIFY(outcome.startsWith(QLatin1Char('\t')));
+        QVERIFY(outcome.size() > 20);
+        QCOMPARE(write.Window->focusWidget(), entry);
+    }
 };
 
 QTEST_MAIN(MirrorWindowTest)
