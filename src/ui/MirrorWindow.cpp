@@ -408,6 +408,11 @@ void MirrorWindow::RenderControl(MirrorControl control, bool force) {
     }
     if (force || now.Visible != was.Visible) {
         widget->setVisible(now.Visible);
+        // A hidden box cannot scroll; one that appears shows its caret, as the list of ideas
+        // must show its open prompt.
+        if (now.Visible && IsTextBox(control)) {
+            static_cast<GuardedTextBox*>(widget)->ensureCursorVisible();
+        }
     }
     was = now;
 }
