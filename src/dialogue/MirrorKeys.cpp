@@ -275,7 +275,7 @@ void Mirror::CaretMoved(MirrorControl control, long caret, long selectionLength)
 }
 
 void Mirror::FocusLost(MirrorControl control) {
-    if (control == MirrorControl::txtMirror) {
+    if (control == MirrorControl::txtMirror || control == MirrorControl::txtAnalyze) {
         FocusGained(MirrorControl::Window);
     }
 }

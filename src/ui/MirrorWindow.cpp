@@ -470,8 +470,9 @@ bool MirrorWindow::eventFilter(QObject* watched, QEvent* event) {
         break;
     case QEvent::FocusOut: {
         const auto reason = static_cast<QFocusEvent*>(event)->reason();
-        if (control == MirrorControl::txtMirror && !rendering_ &&
-            reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason) {
+        if ((control == MirrorControl::txtMirror || control == MirrorControl::txtAnalyze) &&
+            !rendering_ && reason != Qt::ActiveWindowFocusReason &&
+            reason != Qt::PopupFocusReason) {
             mirror_.FocusLost(control);
             Render();
         }
