@@ -71,7 +71,7 @@ private:
     void ProcessComment();
     void TakeEntry();
     void JudgeEntry();
-    void RejectLength();
+    void RejectLength(MirrorControl mark);
     void RejectEntry(bool comment);
     void ShowResult();
     void SetEntryLimits(int kind);

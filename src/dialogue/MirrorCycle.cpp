@@ -297,7 +297,8 @@ void Mirror::ProcessEntry() {
     auto& mirror = C(MirrorControl::txtMirror);
     TakeEntry();
     if (state_.EntryFit != 0) {
-        RejectLength();
+        state_.AwaitingEnter = 0;
+        RejectLength(MirrorControl::lblRem);
         state_.EntryFailed = 1;
         return;
     }
@@ -399,16 +400,16 @@ void Mirror::JudgeEntry() {
     CheckDialogueLimit();
 }
 
-// Length is judged from the status the last key left, before the parser sees the entry.
-void Mirror::RejectLength() {
+// Length is judged from the status the last key left, before the parser sees the entry or the
+// list takes the idea; the mark is the one beside the box in use.
+void Mirror::RejectLength(MirrorControl mark) {
     const bool tooShort = state_.EntryFit == -1;
-    state_.AwaitingEnter = 0;
     SetResponse(std::string(tooShort ? MirrorText::TooShort : MirrorText::TooLong),
                 Colour::ColourError);
     state_.InstructionText =
         tooShort ? MirrorText::TooShortInstruction : MirrorText::TooLongInstruction;
     state_.InstructionColour = Colour::Black;
-    C(MirrorControl::lblRem).Visible = true;
+    C(mark).Visible = true;
     C(MirrorControl::cmdClear).Enabled = true;
 }
 
@@ -438,7 +439,8 @@ void Mirror::ProcessComment() {
     TakeEntry();
     // A comment of the wrong length leaves EntryFailed as it was.
     if (state_.EntryFit != 0) {
-        RejectLength();
+        state_.AwaitingEnter = 0;
+        RejectLength(MirrorControl::lblRem);
         return;
     }
 

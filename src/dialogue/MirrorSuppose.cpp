@@ -125,15 +125,8 @@ void Mirror::CheckIdea(const std::string& idea) {
     if (state_.EntryFit == 0) {
         return;
     }
-    const bool tooShort = state_.EntryFit == -1;
-    state_.IdeaFit = tooShort ? 1 : 2;
-    SetResponse(std::string(tooShort ? MirrorText::TooShort : MirrorText::TooLong),
-                Colour::ColourError);
-    state_.InstructionText =
-        tooShort ? MirrorText::TooShortInstruction : MirrorText::TooLongInstruction;
-    state_.InstructionColour = Colour::Black;
-    C(MirrorControl::lblRemS).Visible = true;
-    C(MirrorControl::cmdClear).Enabled = true;
+    state_.IdeaFit = state_.EntryFit == -1 ? 1 : 2;
+    RejectLength(MirrorControl::lblRemS);
     ShowInstruction();
 }
 

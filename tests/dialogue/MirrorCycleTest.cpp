@@ -11,14 +11,6 @@ const std::string Prefix{Tab, OpenQuote};
 const std::string Question = "why do I keep putting off the letter to my brother?";
 const std::string Statement = "I feel calmer about the move than I expected to feel.";
 
-std::string Quoted(const std::string& entry) {
-    std::string text{Tab, OpenQuote};
-    text += entry;
-    text += CloseQuote;
-    UpperAt(text, 3);
-    return text;
-}
-
 TEST(MirrorCycle, NewDialogueOffersTheMethodsAndTheInspiration) {
     MirrorDriver driver;
     driver.mirror->StartWindow();

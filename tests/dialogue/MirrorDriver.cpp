@@ -73,6 +73,14 @@ std::string ScriptedEngine::PickGuidance() {
     return "Suggestion " + std::to_string(Guidances);
 }
 
+std::string Quoted(const std::string& entry) {
+    std::string text{Tab, OpenQuote};
+    text += entry;
+    text += CloseQuote;
+    UpperAt(text, 3);
+    return text;
+}
+
 float ScriptedRandom::Draw() {
     if (Draws.empty()) {
         return Random::Draw();

@@ -57,6 +57,9 @@ public:
     std::deque<float> Draws;
 };
 
+// An entry as the Dialogue keeps it: tab, opening mark, first letter capitalised, closing mark.
+std::string Quoted(const std::string& entry);
+
 class MirrorDriver {
 public:
     // With the program's engine and its starter content in place of the scripted one.

@@ -9,14 +9,6 @@ namespace {
 const std::string Statement = "I want to understand why Sundays feel so heavy.";
 const std::string Question = "what would make Sunday evenings lighter?";
 
-std::string Quoted(const std::string& entry) {
-    std::string text{Tab, OpenQuote};
-    text += entry;
-    text += CloseQuote;
-    UpperAt(text, 3);
-    return text;
-}
-
 // A Dialogue of one answered statement and one Suppose pair, its first idea chosen.
 void WriteTwoPairs(MirrorDriver& driver) {
     driver.Draws.Draws = {0.9f, 0.7f, 0.2f};

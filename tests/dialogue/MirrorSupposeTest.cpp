@@ -15,14 +15,6 @@ const std::string ListHeader =
     "negative as appropriate. Press 'Enter' after each supposition. When your list is complete "
     "with two or more ideas, click 'Select'. To cancel, click another Method.\r\n";
 
-std::string Quoted(const std::string& entry) {
-    std::string text{Tab, OpenQuote};
-    text += entry;
-    text += CloseQuote;
-    UpperAt(text, 3);
-    return text;
-}
-
 std::string Filed(int number, const std::string& idea) {
     return "\r\n\tEntry " + std::to_string(number) + ": " + OpenQuote + idea + CloseQuote;
 }
