@@ -5,9 +5,11 @@
 #include "shell/StartUp.h"
 #include "ui/BannerWindow.h"
 #include "ui/MirrorWindow.h"
+#include "ui/OptionsWindow.h"
 #include "ui/QtWindowLayer.h"
 
 #include <QApplication>
+#include <memory>
 
 int main(int argc, char** argv) {
     using namespace veyrant;
@@ -19,6 +21,7 @@ int main(int argc, char** argv) {
     Random random;
     Application app(AppFolder::FromEnvironment(), "/proc/self/exe", clock, random, windows);
     MirrorWindow* writeWindow = nullptr;
+    std::unique_ptr<Options> libraryOptions;
 
     windows.RegisterWindow(WindowId::Banner, [&] { return new BannerWindow(windows); });
     // The start-up makes the Write window's logic before it loads the window.
@@ -26,6 +29,14 @@ int main(int argc, char** argv) {
         writeWindow = new MirrorWindow(app, *app.Write);
         writeWindow->OnClose = [&] { UnloadMirror(app); };
         return writeWindow;
+    });
+    // Every way out of the Library Options window ends the program, so its changes take effect at
+    // the next start.
+    windows.RegisterWindow(WindowId::Options, [&] {
+        libraryOptions = std::make_unique<Options>(
+            app.Library, app.UserSettings, windows, [&] { ExitProgram(app); },
+            [&] { windows.UnloadWindow(WindowId::Read); });
+        return new OptionsWindow(*libraryOptions);
     });
     windows.SetTimerHandler(TimerId::MirrorTimer1, [&] { Timer1(app); });
     windows.SetTimerHandler(TimerId::MirrorHover, [&] {
