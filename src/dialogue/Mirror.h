@@ -161,6 +161,9 @@ private:
     void ClickNewCaption();
     DialogueBuffers Record() const;
     bool GuestMode() const;
+
+    // Utilities.
+    void OpenLibraryOptions();
     std::string LibraryStatusText(const std::string& suggestionText) const;
 
     // Platform.

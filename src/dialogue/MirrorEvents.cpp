@@ -60,6 +60,10 @@ Mirror::Mirror(Application& app, DialogueEngine& engine, WorkBuffers& buffers,
     C(MirrorControl::txtSaved).Background = Colour::PanelGrey;
     C(MirrorControl::txtResponse).Background = Colour::ColourAdded;
     C(MirrorControl::txtNote).Background = Colour::White;
+    // A guest can neither retrieve Dialogues nor reach the Library's options from here.
+    if (GuestMode()) {
+        C(MirrorControl::cmdRetrieve).Enabled = false;
+    }
 }
 
 void Mirror::StartWindow() {
@@ -138,6 +142,9 @@ void Mirror::MouseDown(MirrorControl control, MouseButton button) {
         ToggleWriteFont();
     } else if (control == MirrorControl::cmdSuppose && button == MouseButton::Left) {
         PressMethodButton(MirrorControl::cmdSuppose);
+    } else if (control == MirrorControl::cmdRetrieve && button == MouseButton::Right &&
+               C(control).Enabled) {
+        OpenLibraryOptions();
     }
 }
 

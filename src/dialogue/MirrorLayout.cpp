@@ -15,9 +15,6 @@ namespace veyrant {
 
 namespace {
 
-constexpr int NoteTop = 5565;
-constexpr int NoteHeight = 450;
-
 int Twips(double scaled) {
     return static_cast<int>(std::lround(scaled));
 }
@@ -64,8 +61,6 @@ void Mirror::ScaleAtCreation() {
         control.Height = Twips(place->Height);
         control.FontSize = app_.Scale.ButtonFontSize;
     }
-    // The instruction box takes two lines of the control font: the longer instructions wrap.
-    Place(MirrorControl::txtNote, NoteTop, NoteHeight);
     C(MirrorControl::Window).Width = Twips(layout.WindowWidth);
     C(MirrorControl::Window).Height = Twips(layout.WindowHeight);
     ApplyWriteFont();

@@ -6,12 +6,18 @@
 #include "core/Clock.h"
 #include "core/Random.h"
 #include "core/WindowLayer.h"
+#include "dialogue/EngineDialogue.h"
+#include "dialogue/Mirror.h"
+#include "engine/Engine.h"
 #include "shell/AppFolder.h"
 #include "shell/DisplayScale.h"
 #include "shell/Settings.h"
+#include "storage/DialogueLibrary.h"
+#include "storage/WorkBuffers.h"
 
 #include <cstdint>
 #include <filesystem>
+#include <memory>
 #include <string>
 #include <utility>
 
@@ -28,7 +34,9 @@ struct Application {
     Application(AppFolder folder, std::filesystem::path programFile, veyrant::Clock& clock,
                 veyrant::Random& random, WindowLayer& windows)
         : Folder(std::move(folder)), ProgramFile(std::move(programFile)), Clock(clock),
-          Random(random), Windows(windows) {}
+          Random(random), Windows(windows), Engine(random, clock, windows), Replies(Engine),
+          Library(Folder, UserSettings, clock, windows),
+          Buffers(Folder, UserSettings, clock, windows) {}
 
     AppFolder Folder;
     // The executable whose file date makes the version text.
@@ -42,12 +50,18 @@ struct Application {
     std::int16_t ClosingState = ClosingStates::Running;
     std::string ProgramYear;
     std::string VersionString;
-    // Seconds since midnight, taken as the start-up goes; the random series grows from it.
-    float SeriesSeed = 0;
 
     veyrant::Clock& Clock;
     veyrant::Random& Random;
     WindowLayer& Windows;
+
+    // The Sagrel's engine, and the Write window's way of asking it.
+    veyrant::Engine Engine;
+    EngineDialogue Replies;
+    DialogueLibrary Library;
+    WorkBuffers Buffers;
+    // The Write window's logic, made when the window loads.
+    std::unique_ptr<Mirror> Write;
 };
 
 } // namespace veyrant

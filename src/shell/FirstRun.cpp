@@ -2,6 +2,7 @@
 
 #include "core/ProgramError.h"
 #include "core/WholeFile.h"
+#include "engine/EngineFiles.h"
 #include "shell/FontCheck.h"
 
 #include <system_error>
@@ -30,6 +31,8 @@ void InstallAppFolder(const AppFolder& folder, const WindowLayer& windows) {
         const FontNames faces = InstalledFaceNames(windows);
         WriteWholeFile(fontFile, faces.Main + "\r\n" + faces.Italic + "\r\n");
     }
+    // The engine files come from the program's image, as an installer would lay them down.
+    InstallEngineFiles(folder);
 }
 
 } // namespace veyrant

@@ -1,8 +1,9 @@
 #pragma once
 
 // The first run lays the application folder down as an installer would: exe/, dlg/ and isp/,
-// and in exe/ the font table naming the faces this machine has. A file already there is left
-// alone, so the user's own corrections survive.
+// and in exe/ the font table naming the faces this machine has and the engine's two data files.
+// A font table already there is left alone, so the user's own corrections survive; the engine
+// files are laid down again only when a newer build ships different ones.
 
 #include "core/WindowLayer.h"
 #include "shell/AppFolder.h"

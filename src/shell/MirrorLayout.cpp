@@ -57,7 +57,8 @@ MirrorLayout MirrorDesign() {
     design.txtSaved = {Margin, 2760, TextWidth, 2745};
     design.txtAnalyze = {Margin, 3000, TextWidth, 2175};
     design.lblRemS = {ColumnLeft, 4950, ColumnWidth, 225};
-    design.txtNote = {Margin, 5640, InsideWidth - 2 * Margin, 300};
+    // Two lines of the control font: the longer instructions wrap.
+    design.txtNote = {Margin, 5565, InsideWidth - 2 * Margin, 450};
     return design;
 }
 

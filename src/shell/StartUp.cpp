@@ -9,6 +9,7 @@
 #include "shell/Version.h"
 
 #include <cmath>
+#include <memory>
 #include <new>
 #include <string>
 
@@ -36,12 +37,23 @@ void ReportSystemError(Application& app, int number) {
     app.Windows.EndProcess();
 }
 
+// Everything the Write window needs is loaded behind the banner, so that it is all in memory
+// when the window appears.
 void LoadMirror(Application& app) {
+    app.Write = std::make_unique<Mirror>(app, app.Replies, app.Buffers, app.Library);
     // The window sizes itself for the display scale and centres itself as it loads.
     app.Windows.LoadWindow(WindowId::Mirror);
-    app.SeriesSeed = app.Clock.Timer();
+    app.Engine.SeedSeries();
     const float loadStart = app.Clock.Timer();
     app.Windows.SetBusyPointer(true);
+    if (!app.Engine.LoadSystem(app.Folder)) {
+        // The engine has said why; it has no partial mode.
+        app.Windows.EndProcess();
+        return;
+    }
+    app.Windows.Yield();
+    app.Library.ScanLibrary();
+    app.Windows.Yield();
     app.Windows.StartTimer(TimerId::MirrorTimer1, Timer1Interval(loadStart, app.Clock.Timer()));
 }
 
@@ -61,7 +73,7 @@ void RunMain(Application& app) {
     if (!CheckFonts(app)) {
         return;
     }
-    app.SeriesSeed = app.Clock.Timer();
+    app.Engine.SeriesSeed = app.Clock.Timer();
     LoadMirror(app);
 }
 
@@ -80,6 +92,7 @@ void Main(Application& app) {
 void Timer1(Application& app) {
     app.Windows.StopTimer(TimerId::MirrorTimer1);
     app.Windows.SetBusyPointer(false);
+    app.Write->StartWindow();
     app.Windows.UnloadWindow(WindowId::Banner);
     app.Windows.Yield();
     if (app.Windows.ScreenWidthTwips() >= SmallScreenTwips) {
@@ -89,6 +102,9 @@ void Timer1(Application& app) {
 }
 
 void UnloadMirror(Application& app) {
+    if (app.Write) {
+        app.Write->Unload();
+    }
     app.Windows.HideWindow(WindowId::Mirror);
     ExitProgram(app);
 }

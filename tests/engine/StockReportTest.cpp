@@ -2,6 +2,7 @@
 
 #include <array>
 #include <gtest/gtest.h>
+#include <ostream>
 
 namespace veyrant::content {
 namespace {
@@ -15,6 +16,10 @@ struct TallyCase {
     std::vector<std::string> OutOfOrder;
     bool Fits;
 };
+
+void PrintTo(const TallyCase& c, std::ostream* out) {
+    *out << c.Name;
+}
 
 class TallyTable : public ::testing::TestWithParam<TallyCase> {};
 

@@ -76,6 +76,38 @@ TEST(StartUp, Timer1RevealsTheWriteWindowAndTheBackdropOnWideScreens) {
     }
 }
 
+TEST(StartUp, TheWriteWindowOpensOnANewDialogueWithItsOwnInspiration) {
+    ShellFixture fixture;
+    Main(fixture.App);
+    Timer1(fixture.App);
+    ASSERT_TRUE(fixture.Windows.Boxes.empty()) << fixture.Windows.Boxes[0].Title;
+    const MirrorState& state = fixture.App.Write->State();
+    EXPECT_EQ(state.ActiveMethod, 0);
+    EXPECT_EQ(state.InspirationText.substr(0, 1), "\t");
+    EXPECT_GT(state.InspirationText.size(), 20u);
+    EXPECT_FALSE(state.SuggestionText.empty());
+    EXPECT_TRUE(std::filesystem::exists(fixture.Folder.Exe() / "qdr41.sys"));
+    EXPECT_TRUE(std::filesystem::exists(fixture.Folder.Exe() / "qdr41.mtx"));
+}
+
+TEST(StartUp, ADamagedEngineFileEndsTheStartWithTheEnginesBox) {
+    ShellFixture first;
+    Main(first.App);
+    // The installed file is kept as it stands, damage and all, until a newer build ships.
+    const std::string tables = first.ExeFile("qdr41.sys");
+    first.PutExeFile("qdr41.sys", tables.substr(0, tables.rfind("\"Parity\"")) + "\"Parit\"");
+
+    FakeWindowLayer nextRun;
+    Application again(first.Folder, first.Program, first.Clock, first.Series, nextRun);
+    Main(again);
+    ASSERT_EQ(nextRun.Boxes.size(), 1u);
+    EXPECT_EQ(nextRun.Boxes[0].Title, "Error LoadSystem");
+    EXPECT_EQ(nextRun.Boxes[0].Text, "Parity error loading the configuration system file. Data "
+                                     "structure is incorrect.");
+    EXPECT_TRUE(nextRun.Ended);
+    EXPECT_EQ(nextRun.Timers.count(TimerId::MirrorTimer1), 0u);
+}
+
 TEST(StartUp, MissingExecutableGivesSystemError53BeforeTheBanner) {
     ShellFixture fixture;
     fixture.App.ProgramFile = fixture.Temp / "gone";
