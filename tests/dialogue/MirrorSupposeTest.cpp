@@ -118,6 +118,7 @@ TEST(MirrorSuppose, ThreeIdeasAndSelectPutTheChosenIdeaAndItsVerdictInTheDialogu
 }
 
 struct Weighing {
+    std::string Name;
     std::deque<float> Draws;
     std::string Chosen;
 };
@@ -136,11 +137,13 @@ TEST_P(MirrorIdeaWeights, TheHeaviestIdeaIsChosenAndTheLaterOfEqualOnes) {
               "\tYour idea \x93" + weighing.Chosen + ".\x94 is verdict 1.");
 }
 
-INSTANTIATE_TEST_SUITE_P(Draws, MirrorIdeaWeights,
-                         ::testing::Values(Weighing{{0.99f, 0.1f}, "Idea number 1"},
-                                           Weighing{{0.5f, 0.5f}, "Idea number 2"},
-                                           Weighing{{0.9f, 0.1f, 0.9f, 0.3f}, "Idea number 3"},
-                                           Weighing{{0.1f, 0.2f, 0.3f, 0.4f}, "Idea number 4"}));
+INSTANTIATE_TEST_SUITE_P(
+    Draws, MirrorIdeaWeights,
+    ::testing::Values(Weighing{"FirstHeavier", {0.99f, 0.1f}, "Idea number 1"},
+                      Weighing{"TwoEqual", {0.5f, 0.5f}, "Idea number 2"},
+                      Weighing{"EqualApart", {0.9f, 0.1f, 0.9f, 0.3f}, "Idea number 3"},
+                      Weighing{"Rising", {0.1f, 0.2f, 0.3f, 0.4f}, "Idea number 4"}),
+    [](const auto& info) { return info.param.Name; });
 
 TEST(MirrorSuppose, SelectRefusedByTheDrawLeavesTheOutcomeOutUntilKept) {
     MirrorDriver driver;
@@ -385,6 +388,27 @@ TEST(MirrorSuppose, CancelInAnEmptyDialogueStartsOverAndAMethodButtonLeavesTheLi
     EXPECT_EQ(driver.mirror->Controls().Title, "Veyrant Sagrel -- New Dialogue");
     EXPECT_EQ(Line(driver, "txtAnalyze"), "");
     EXPECT_EQ(Line(driver, "cmdNew"), "");
+}
+
+TEST(MirrorSuppose, TheFullViewCoversTheListAndWriteGivesItBack) {
+    MirrorDriver driver;
+    driver.StartConverse();
+    driver.Converse("I have been tired every morning this month.");
+    driver.mirror->Click(MirrorControl::cmdSuppose);
+    driver.Engine.Judgements.push_back({1, 20});
+    driver.Converse(Question);
+    driver.Type("earl");
+    const std::string before = driver.mirror->Dump();
+    driver.mirror->Click(MirrorControl::cmdDisplay);
+    EXPECT_EQ(Line(driver, "txtAnalyze"), "");
+    EXPECT_EQ(Line(driver, "cmdDisplay"), "cmdDisplay: \"Write\"");
+    driver.Type("zz"); // no key reaches a box under the full view
+    driver.mirror->Click(MirrorControl::cmdDisplay);
+    EXPECT_EQ(driver.mirror->Dump(), before);
+    driver.Type("ier nights");
+    driver.Enter();
+    EXPECT_EQ(driver.Text(MirrorControl::txtAnalyze),
+              ListHeader + Filed(1, "Earlier nights.") + Prompt(2));
 }
 
 TEST(MirrorSuppose, TheListClosesByItselfAfterNinetyEightIdeas) {
