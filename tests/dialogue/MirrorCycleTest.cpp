@@ -3,6 +3,7 @@
 #include "dialogue/MirrorDriver.h"
 
 #include <gtest/gtest.h>
+#include <ostream>
 
 namespace veyrant::testing {
 namespace {
@@ -154,6 +155,10 @@ struct Rejection {
     std::string Instruction;
     int AwaitingEnter;
 };
+
+void PrintTo(const Rejection& c, std::ostream* out) {
+    *out << "status " << c.Status << " method " << c.Method;
+}
 
 class MirrorRejection : public ::testing::TestWithParam<Rejection> {};
 

@@ -2,6 +2,7 @@
 #include "dialogue/MirrorDriver.h"
 
 #include <gtest/gtest.h>
+#include <ostream>
 
 namespace veyrant::testing {
 namespace {
@@ -83,6 +84,10 @@ struct NewCase {
     bool Reset;
 };
 
+void PrintTo(const NewCase& c, std::ostream* out) {
+    *out << c.Name;
+}
+
 class MirrorNew : public ::testing::TestWithParam<NewCase> {};
 
 TEST_P(MirrorNew, AsksOnlyForAnUnsavedDialogueAndResetsOnNo) {
@@ -148,6 +153,10 @@ struct AgeCase {
     DateTime Written;
     std::string Title;
 };
+
+void PrintTo(const AgeCase& c, std::ostream* out) {
+    *out << c.Title;
+}
 
 class MirrorPrior : public ::testing::TestWithParam<AgeCase> {};
 

@@ -3,6 +3,7 @@
 #include "dialogue/MirrorDriver.h"
 
 #include <gtest/gtest.h>
+#include <ostream>
 
 namespace veyrant::testing {
 namespace {
@@ -17,6 +18,10 @@ struct CountCase {
     Colour Ink;
     int EntryFit;
 };
+
+void PrintTo(const CountCase& c, std::ostream* out) {
+    *out << "method " << c.Method << ", " << c.Typed << " typed";
+}
 
 class MirrorCount : public ::testing::TestWithParam<CountCase> {};
 

@@ -4,6 +4,7 @@
 #include "dialogue/MirrorTexts.h"
 
 #include <gtest/gtest.h>
+#include <ostream>
 
 namespace veyrant::testing {
 namespace {
@@ -123,6 +124,10 @@ struct Weighing {
     std::string Chosen;
 };
 
+void PrintTo(const Weighing& c, std::ostream* out) {
+    *out << c.Name;
+}
+
 class MirrorIdeaWeights : public ::testing::TestWithParam<Weighing> {};
 
 TEST_P(MirrorIdeaWeights, TheHeaviestIdeaIsChosenAndTheLaterOfEqualOnes) {
@@ -214,6 +219,10 @@ struct IdeaCase {
     std::string Typed;
     std::string Filed; // empty when the idea is too short
 };
+
+void PrintTo(const IdeaCase& c, std::ostream* out) {
+    *out << "\"" << c.Typed << "\"";
+}
 
 class MirrorIdeaText : public ::testing::TestWithParam<IdeaCase> {};
 

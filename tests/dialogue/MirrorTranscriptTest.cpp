@@ -2,6 +2,7 @@
 #include "dialogue/Transcript.h"
 
 #include <gtest/gtest.h>
+#include <ostream>
 
 namespace veyrant::testing {
 namespace {
@@ -36,6 +37,10 @@ struct PageCase {
     int PairCount;
     std::string Phrase;
 };
+
+void PrintTo(const PageCase& c, std::ostream* out) {
+    *out << c.PairCount << " items";
+}
 
 class MirrorFullView : public ::testing::TestWithParam<PageCase> {};
 
