@@ -1,6 +1,6 @@
 #include "ui/ResizeWindow.h"
 
-#include "core/Cp1252.h"
+#include "ui/QtText.h"
 #include "ui/UtilityWindow.h"
 
 #include <QDialogButtonBox>
@@ -11,14 +11,6 @@
 #include <QVBoxLayout>
 
 namespace veyrant {
-
-namespace {
-
-QString ToQt(const std::string& text) {
-    return QString::fromStdU16String(Cp1252ToUtf16(text));
-}
-
-} // namespace
 
 ResizeWindow::ResizeWindow(Resize& resize, double scaleFactor, QWidget* parent)
     : QDialog(parent), resize_(resize), scaleFactor_(scaleFactor) {

@@ -1,7 +1,7 @@
 #include "ui/UtilityWindow.h"
 
-#include "core/Cp1252.h"
 #include "shell/WindowPlacement.h"
+#include "ui/QtText.h"
 
 #include <QLabel>
 #include <QPushButton>
@@ -11,10 +11,6 @@
 namespace veyrant {
 
 namespace {
-
-QString ToQt(const std::string& text) {
-    return QString::fromStdU16String(Cp1252ToUtf16(text));
-}
 
 QPushButton* MakeButton(const char* name, const std::string& caption, const QString& mnemonic,
                         QWidget* parent) {
