@@ -163,7 +163,8 @@ private:
     bool GuestMode() const;
 
     // Utilities.
-    void OpenLibraryOptions();
+    // A right-click's window, named in the box that refuses it while the Reader is open.
+    void OpenWindowBehindWrite(WindowId window, const std::string& windowName);
     std::string LibraryStatusText(const std::string& suggestionText) const;
 
     // Platform.

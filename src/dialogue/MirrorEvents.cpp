@@ -142,9 +142,12 @@ void Mirror::MouseDown(MirrorControl control, MouseButton button) {
         ToggleWriteFont();
     } else if (control == MirrorControl::cmdSuppose && button == MouseButton::Left) {
         PressMethodButton(MirrorControl::cmdSuppose);
+    } else if (control == MirrorControl::cmdHelp && button == MouseButton::Right &&
+               C(control).Enabled) {
+        OpenWindowBehindWrite(WindowId::Utility, "Utilities");
     } else if (control == MirrorControl::cmdRetrieve && button == MouseButton::Right &&
                C(control).Enabled) {
-        OpenLibraryOptions();
+        OpenWindowBehindWrite(WindowId::Options, "Library Options");
     }
 }
 

@@ -3,12 +3,13 @@
 
 namespace veyrant {
 
-// The Library Options window needs the Write window out of the way, and every way out of it ends
-// the program, so a running Dialogue goes into the work buffers first.
-void Mirror::OpenLibraryOptions() {
+// The Utilities and Library Options windows need the Write window out of the way, and every way
+// out of them ends the program, so a running Dialogue goes into the work buffers first.
+void Mirror::OpenWindowBehindWrite(WindowId window, const std::string& windowName) {
     if (state_.ReadLibrary != 0) {
         Message("Veyrant Sagrel Help", "You must first close the Read window before you "
-                                       "right-click to open the Library Options window.");
+                                       "right-click to open the " +
+                                           windowName + " window.");
         return;
     }
     app_.ClosingState = ClosingStates::UtilitiesUp;
@@ -18,7 +19,7 @@ void Mirror::OpenLibraryOptions() {
     }
     Paint();
     app_.Windows.HideWindow(WindowId::Mirror);
-    app_.Windows.ShowWindow(WindowId::Options);
+    app_.Windows.ShowWindow(window);
 }
 
 } // namespace veyrant

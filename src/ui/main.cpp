@@ -2,11 +2,15 @@
 #include "core/Random.h"
 #include "shell/AppFolder.h"
 #include "shell/Application.h"
+#include "shell/Resize.h"
 #include "shell/StartUp.h"
+#include "shell/Utility.h"
 #include "ui/BannerWindow.h"
 #include "ui/MirrorWindow.h"
 #include "ui/OptionsWindow.h"
 #include "ui/QtWindowLayer.h"
+#include "ui/ResizeWindow.h"
+#include "ui/UtilityWindow.h"
 
 #include <QApplication>
 #include <memory>
@@ -22,6 +26,12 @@ int main(int argc, char** argv) {
     Application app(AppFolder::FromEnvironment(), "/proc/self/exe", clock, random, windows);
     MirrorWindow* writeWindow = nullptr;
     std::unique_ptr<Options> libraryOptions;
+    std::unique_ptr<Utility> utilities;
+    std::unique_ptr<Resize> displaySize;
+    // The windows reached from the Utilities grow with the display scale, the smallest excepted.
+    const auto utilityScale = [&] {
+        return app.UserSettings.DisplayOption > 0 ? app.Scale.ScaleFactor : 1.0;
+    };
 
     windows.RegisterWindow(WindowId::Banner, [&] { return new BannerWindow(windows); });
     // The start-up makes the Write window's logic before it loads the window.
@@ -37,6 +47,16 @@ int main(int argc, char** argv) {
             app.Library, app.UserSettings, windows, [&] { ExitProgram(app); },
             [&] { windows.UnloadWindow(WindowId::Read); });
         return new OptionsWindow(*libraryOptions);
+    });
+    windows.RegisterWindow(WindowId::Utility, [&] {
+        utilities = std::make_unique<Utility>(windows, app.VersionString, app.ProgramYear,
+                                              [&] { ExitProgram(app); });
+        return new UtilityWindow(*utilities, utilityScale());
+    });
+    windows.RegisterWindow(WindowId::Resize, [&] {
+        displaySize =
+            std::make_unique<Resize>(app.UserSettings, windows, [&] { ExitProgram(app); });
+        return new ResizeWindow(*displaySize, utilityScale());
     });
     windows.SetTimerHandler(TimerId::MirrorTimer1, [&] { Timer1(app); });
     windows.SetTimerHandler(TimerId::MirrorHover, [&] {

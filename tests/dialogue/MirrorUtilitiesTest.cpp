@@ -1,5 +1,5 @@
-// A right-click on the Library button opens the Library Options window with the Write window
-// out of the way, keeping a running Dialogue for the next start.
+// A right-click on the Help or the Library button opens the Utilities or the Library Options
+// window with the Write window out of the way, keeping a running Dialogue for the next start.
 
 #include "MirrorDriver.h"
 #include "core/WholeFile.h"
@@ -9,15 +9,24 @@
 namespace veyrant::testing {
 namespace {
 
-TEST(MirrorUtilities, LibraryOptionsOpenWithTheRunningDialogueKept) {
+TEST(MirrorUtilities, RightClickWindowsOpenWithTheRunningDialogueKept) {
     struct Case {
         const char* Name;
+        MirrorControl Button;
         bool DialogueRunning;
+        WindowId Shown;
+        const char* ShownEvent;
         bool BuffersWritten;
     };
     const Case cases[] = {
-        {"mid-Dialogue", true, true},
-        {"New Dialogue on show", false, false},
+        {"Library, mid-Dialogue", MirrorControl::cmdRetrieve, true, WindowId::Options,
+         "show Options", true},
+        {"Library, New Dialogue on show", MirrorControl::cmdRetrieve, false, WindowId::Options,
+         "show Options", false},
+        {"Help, mid-Dialogue", MirrorControl::cmdHelp, true, WindowId::Utility, "show Utility",
+         true},
+        {"Help, New Dialogue on show", MirrorControl::cmdHelp, false, WindowId::Utility,
+         "show Utility", false},
     };
     for (const Case& c : cases) {
         MirrorDriver driver;
@@ -26,12 +35,13 @@ TEST(MirrorUtilities, LibraryOptionsOpenWithTheRunningDialogueKept) {
             driver.StartConverse();
             driver.Converse("Why do I wait so long before I decide anything?");
         }
-        driver.mirror->MouseDown(MirrorControl::cmdRetrieve, MouseButton::Right);
+        driver.mirror->MouseDown(c.Button, MouseButton::Right);
 
         EXPECT_EQ(driver.App.ClosingState, ClosingStates::UtilitiesUp) << c.Name;
         EXPECT_FALSE(driver.Box(MirrorControl::txtMirror).Enabled) << c.Name;
-        EXPECT_EQ(driver.Layer.Visible.count(WindowId::Options), 1u) << c.Name;
-        EXPECT_EQ(driver.Layer.WindowEvents.back(), "show Options") << c.Name;
+        EXPECT_EQ(driver.Layer.Visible.count(c.Shown), 1u) << c.Name;
+        EXPECT_EQ(driver.Layer.Visible.count(WindowId::Mirror), 0u) << c.Name;
+        EXPECT_EQ(driver.Layer.WindowEvents.back(), c.ShownEvent) << c.Name;
         const auto kept = driver.App.Folder.Exe() / "savem.tmp";
         EXPECT_EQ(std::filesystem::exists(kept), c.BuffersWritten) << c.Name;
         if (c.BuffersWritten) {
@@ -40,7 +50,8 @@ TEST(MirrorUtilities, LibraryOptionsOpenWithTheRunningDialogueKept) {
     }
 }
 
-TEST(MirrorUtilities, GuestModeLeavesTheLibraryButtonDisabled) {
+// A guest leaves Guest Mode through the Utilities window, since the Library button is disabled.
+TEST(MirrorUtilities, GuestModeReachesTheUtilitiesThroughHelpOnly) {
     MirrorDriver driver;
     driver.App.UserSettings.GuestMode = 1;
     Mirror guest(driver.App, driver.Engine, driver.Buffers, driver.Library);
@@ -50,6 +61,9 @@ TEST(MirrorUtilities, GuestModeLeavesTheLibraryButtonDisabled) {
     guest.MouseDown(MirrorControl::cmdRetrieve, MouseButton::Right);
     EXPECT_EQ(driver.Layer.Visible.count(WindowId::Options), 0u);
     EXPECT_EQ(driver.App.ClosingState, ClosingStates::Running);
+    guest.MouseDown(MirrorControl::cmdHelp, MouseButton::Right);
+    EXPECT_EQ(driver.Layer.Visible.count(WindowId::Utility), 1u);
+    EXPECT_EQ(driver.App.ClosingState, ClosingStates::UtilitiesUp);
 }
 
 } // namespace

@@ -1,0 +1,90 @@
+#include "ui/ResizeWindow.h"
+
+#include "ui/QtText.h"
+#include "ui/UtilityWindow.h"
+
+#include <QDialogButtonBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QVBoxLayout>
+
+namespace veyrant {
+
+ResizeWindow::ResizeWindow(Resize& resize, double scaleFactor, QWidget* parent)
+    : QDialog(parent), resize_(resize), scaleFactor_(scaleFactor) {
+    const ResizeControls& controls = resize_.Controls();
+    setObjectName("frmResize");
+    setWindowTitle(ToQt(controls.Title));
+
+    auto* note = new QLabel(tr("Choose the size of the Veyrant Sagrel windows. The new size "
+                               "takes effect when you start the program again."),
+                            this);
+    note->setWordWrap(true);
+
+    auto* sizes = new QGroupBox(tr("&Window size"), this);
+    auto* sizesLayout = new QVBoxLayout(sizes);
+    sizesLayout->setSpacing(8);
+    for (std::size_t index = 0; index < controls.Choices.size(); ++index) {
+        const ResizeOption& choice = controls.Choices[index];
+        // The captions share their first letters, so the keyboard reaches them through the group's
+        // key and the arrow keys.
+        auto* button = new QRadioButton(ToQt(choice.Caption).replace('&', "&&"), sizes);
+        button->setObjectName(QString::fromStdString(choice.Name));
+        sizesLayout->addWidget(button);
+        choices_[index] = button;
+        const int value = choice.Value;
+        connect(button, &QRadioButton::clicked, this, [this, value] {
+            resize_.Option_Click(value);
+            Render();
+        });
+    }
+
+    auto* buttons = new QDialogButtonBox(this);
+    cmdOK_ = buttons->addButton(tr("&OK"), QDialogButtonBox::AcceptRole);
+    cmdOK_->setObjectName("cmdOK");
+    cmdOK_->setDefault(true);
+    cmdCancel_ = buttons->addButton(tr("&Cancel"), QDialogButtonBox::RejectRole);
+    cmdCancel_->setObjectName("cmdCancel");
+
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(18, 18, 18, 14);
+    layout->setSpacing(14);
+    layout->addWidget(note);
+    layout->addWidget(sizes);
+    layout->addWidget(buttons);
+    setMinimumWidth(420);
+
+    connect(cmdOK_, &QPushButton::clicked, this, [this] { resize_.cmdOK_Click(); });
+    connect(cmdCancel_, &QPushButton::clicked, this, [this] { reject(); });
+}
+
+void ResizeWindow::reject() {
+    resize_.cmdCancel_Click();
+    Render();
+}
+
+void ResizeWindow::showEvent(QShowEvent* event) {
+    QDialog::showEvent(event);
+    if (!loaded_) {
+        loaded_ = true;
+        resize_.Form_Load();
+        Render();
+        for (QRadioButton* choice : choices_) {
+            if (choice->isChecked()) {
+                choice->setFocus(Qt::OtherFocusReason);
+            }
+        }
+        PlaceUtilityWindow(*this, scaleFactor_);
+    }
+}
+
+void ResizeWindow::Render() {
+    const ResizeControls& controls = resize_.Controls();
+    for (std::size_t index = 0; index < controls.Choices.size(); ++index) {
+        choices_[index]->setChecked(controls.Choices[index].Checked);
+    }
+}
+
+} // namespace veyrant

@@ -1,0 +1,38 @@
+#pragma once
+
+// The Display Size window (frmResize) over its logic: four scales to choose from, stored at the
+// click, and OK or Cancel, both of which end the program.
+
+#include "shell/Resize.h"
+
+#include <QDialog>
+#include <array>
+
+class QPushButton;
+class QRadioButton;
+
+namespace veyrant {
+
+class ResizeWindow : public QDialog {
+public:
+    ResizeWindow(Resize& resize, double scaleFactor, QWidget* parent = nullptr);
+
+    // Escape and the window's close box are Cancel.
+    void reject() override;
+
+protected:
+    // The window loads the first time it is shown, as the program's windows do.
+    void showEvent(QShowEvent* event) override;
+
+private:
+    void Render();
+
+    Resize& resize_;
+    double scaleFactor_;
+    bool loaded_ = false;
+    std::array<QRadioButton*, 4> choices_{};
+    QPushButton* cmdOK_;
+    QPushButton* cmdCancel_;
+};
+
+} // namespace veyrant
