@@ -1,6 +1,8 @@
 #include "ui/OptionsWindow.h"
 
 #include "core/Cp1252.h"
+#include "ui/OkCancelButtons.h"
+#include "ui/QtText.h"
 
 #include <QCheckBox>
 #include <QDialogButtonBox>
@@ -16,10 +18,6 @@
 namespace veyrant {
 
 namespace {
-
-QString ToQt(const std::string& text) {
-    return QString::fromStdU16String(Cp1252ToUtf16(text));
-}
 
 // The boxes take digits only, so every character has its Windows-1252 code.
 std::string FromQt(const QString& text) {
@@ -93,12 +91,10 @@ OptionsWindow::OptionsWindow(Options& options, QWidget* parent)
     cleanRow->addWidget(Label4_, 1);
     cleanRow->addWidget(cmdClean_, 0, Qt::AlignVCenter);
 
-    auto* buttons = new QDialogButtonBox(this);
-    cmdOK_ = buttons->addButton(tr("&OK"), QDialogButtonBox::AcceptRole);
-    cmdOK_->setObjectName("cmdOK");
-    cmdOK_->setDefault(true);
-    cmdCancel_ = buttons->addButton(tr("&Cancel"), QDialogButtonBox::RejectRole);
-    cmdCancel_->setObjectName("cmdCancel");
+    const OkCancelButtons row = MakeOkCancelButtons(this);
+    QDialogButtonBox* buttons = row.Box;
+    cmdOK_ = row.cmdOK;
+    cmdCancel_ = row.cmdCancel;
 
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(18, 18, 18, 14);

@@ -1,5 +1,6 @@
 #include "ui/ResizeWindow.h"
 
+#include "ui/OkCancelButtons.h"
 #include "ui/QtText.h"
 #include "ui/UtilityWindow.h"
 
@@ -41,12 +42,10 @@ ResizeWindow::ResizeWindow(Resize& resize, double scaleFactor, QWidget* parent)
         });
     }
 
-    auto* buttons = new QDialogButtonBox(this);
-    cmdOK_ = buttons->addButton(tr("&OK"), QDialogButtonBox::AcceptRole);
-    cmdOK_->setObjectName("cmdOK");
-    cmdOK_->setDefault(true);
-    cmdCancel_ = buttons->addButton(tr("&Cancel"), QDialogButtonBox::RejectRole);
-    cmdCancel_->setObjectName("cmdCancel");
+    const OkCancelButtons row = MakeOkCancelButtons(this);
+    QDialogButtonBox* buttons = row.Box;
+    cmdOK_ = row.cmdOK;
+    cmdCancel_ = row.cmdCancel;
 
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(18, 18, 18, 14);
