@@ -68,22 +68,14 @@ struct MessageRequest {
 
 // Every message the stocks and plans serve, with the request that asks for it.
 const MessageRequest Messages[] = {
-    {1, Request::Answer, 1, "YesNoAnswer"},
-    {2, Request::Answer, 10, "WhoAnswer"},
-    {3, Request::Answer, 20, "WhatAnswer"},
-    {4, Request::Answer, 30, "WhenAnswer"},
-    {5, Request::Answer, 40, "WhereAnswer"},
-    {6, Request::Answer, 50, "WhyAnswer"},
-    {7, Request::Answer, 60, "HowAnswer"},
-    {8, Request::Answer, 2, "StatementAnswer"},
-    {9, Request::IdeaVerdict, 1, "IdeaChosen"},
-    {10, Request::IdeaVerdict, 0, "IdeaDeclined"},
-    {11, Request::Remark, 1, "YesNoRemark"},
-    {12, Request::Remark, 10, "QuestionRemark"},
-    {13, Request::Remark, 2, "StatementRemark"},
-    {14, Request::Remark, 9, "SupposeRemark"},
-    {15, Request::Inspiration, 0, "Inspiration"},
-    {16, Request::Interjection, 0, "Interjection"},
+    {1, Request::Answer, 1, "YesNoAnswer"},       {2, Request::Answer, 10, "WhoAnswer"},
+    {3, Request::Answer, 20, "WhatAnswer"},       {4, Request::Answer, 30, "WhenAnswer"},
+    {5, Request::Answer, 40, "WhereAnswer"},      {6, Request::Answer, 50, "WhyAnswer"},
+    {7, Request::Answer, 60, "HowAnswer"},        {8, Request::Answer, 2, "StatementAnswer"},
+    {9, Request::IdeaVerdict, 1, "IdeaChosen"},   {10, Request::IdeaVerdict, 0, "IdeaDeclined"},
+    {11, Request::Remark, 1, "YesNoRemark"},      {12, Request::Remark, 10, "QuestionRemark"},
+    {13, Request::Remark, 2, "StatementRemark"},  {14, Request::Remark, 9, "SupposeRemark"},
+    {15, Request::Inspiration, 0, "Inspiration"}, {16, Request::Interjection, 0, "Interjection"},
 };
 
 void PrintTo(const MessageRequest& request, std::ostream* out) {
