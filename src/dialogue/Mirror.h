@@ -7,6 +7,7 @@
 #include "core/WindowLayer.h"
 #include "dialogue/MirrorControls.h"
 #include "dialogue/MirrorState.h"
+#include "dialogue/MirrorWorld.h"
 #include "storage/WorkBuffers.h"
 
 #include <functional>
@@ -15,7 +16,6 @@
 
 namespace veyrant {
 
-struct Application;
 class DialogueEngine;
 class DialogueLibrary;
 
@@ -23,7 +23,7 @@ enum class MouseButton { Left, Right, Middle };
 
 class Mirror {
 public:
-    Mirror(Application& app, DialogueEngine& engine, WorkBuffers& buffers,
+    Mirror(MirrorWorld world, DialogueEngine& engine, WorkBuffers& buffers,
            DialogueLibrary& library);
 
     const MirrorControls& Controls() const { return controls_; }
@@ -176,7 +176,7 @@ private:
 
     Control& C(MirrorControl control) { return controls_[control]; }
 
-    Application& app_;
+    MirrorWorld world_;
     DialogueEngine& engine_;
     WorkBuffers& buffers_;
     DialogueLibrary& library_;

@@ -8,7 +8,7 @@
 #include "dialogue/KeyCodes.h"
 #include "dialogue/Mirror.h"
 #include "dialogue/MirrorTexts.h"
-#include "shell/Application.h"
+#include "dialogue/MirrorWorld.h"
 
 namespace veyrant {
 
@@ -140,7 +140,7 @@ void Mirror::StartEntry(int kind) {
     state_.PairState = 0;
     state_.EntryFailed = 0;
     state_.AwaitingEnter = 0;
-    state_.EntryStartTime = app_.Clock.Timer();
+    state_.EntryStartTime = world_.Clock.Timer();
 
     auto& mirror = C(MirrorControl::txtMirror);
     mirror.Background = Colour::EntryYellow;
@@ -218,7 +218,7 @@ void Mirror::SetEntryLimits(int kind) {
 
 void Mirror::UpdateTitle() {
     controls_.Title = std::string(MirrorText::TitleLead) + state_.TitleMethod + " -- " +
-                      FormatDate(app_.Clock.Now(), MirrorText::TitleDateFormat);
+                      FormatDate(world_.Clock.Now(), MirrorText::TitleDateFormat);
 }
 
 void Mirror::ShowInstruction() {
@@ -322,7 +322,7 @@ void Mirror::ProcessEntry() {
     ++state_.CycleCount;
     mirror.Text += CloseQuote;
     Yield();
-    state_.SeriesSeed = app_.Clock.Timer();
+    state_.SeriesSeed = world_.Clock.Timer();
     engine_.StretchSeeds(state_.SeriesSeed);
     state_.AnswerFlag = engine_.RollAnswer(25);
 

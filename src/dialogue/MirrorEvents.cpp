@@ -3,7 +3,7 @@
 
 #include "dialogue/Mirror.h"
 #include "dialogue/MirrorTexts.h"
-#include "shell/Application.h"
+#include "dialogue/MirrorWorld.h"
 
 namespace veyrant {
 
@@ -36,9 +36,9 @@ bool IsTextBox(MirrorControl control) {
 
 } // namespace
 
-Mirror::Mirror(Application& app, DialogueEngine& engine, WorkBuffers& buffers,
+Mirror::Mirror(MirrorWorld world, DialogueEngine& engine, WorkBuffers& buffers,
                DialogueLibrary& library)
-    : app_(app), engine_(engine), buffers_(buffers), library_(library) {
+    : world_(world), engine_(engine), buffers_(buffers), library_(library) {
     ScaleAtCreation();
     // Nothing shows until the delayed start has reset the Dialogue.
     for (auto& control : controls_.Items) {
@@ -193,12 +193,12 @@ MessageAnswer Mirror::Message(const std::string& title, const std::string& text,
     request.Text = text;
     request.Icon = icon;
     request.Buttons = buttons;
-    return app_.Windows.ShowMessage(request);
+    return world_.Windows.ShowMessage(request);
 }
 
 void Mirror::Yield() {
     Paint();
-    app_.Windows.Yield();
+    world_.Windows.Yield();
 }
 
 void Mirror::Paint() {

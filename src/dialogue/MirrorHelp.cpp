@@ -6,7 +6,7 @@
 #include "dialogue/DialogueEngine.h"
 #include "dialogue/Mirror.h"
 #include "dialogue/MirrorTexts.h"
-#include "shell/Application.h"
+#include "dialogue/MirrorWorld.h"
 #include "storage/DialogueLibrary.h"
 
 namespace veyrant {
@@ -21,7 +21,7 @@ void Mirror::MarkHover(MirrorControl control, const std::string& text) {
     C(control).Underlined = true;
     hoverText_ = text;
     hoverTicks_ = 0;
-    app_.Windows.StartTimer(TimerId::MirrorHover, HoverInterval);
+    world_.Windows.StartTimer(TimerId::MirrorHover, HoverInterval);
 }
 
 void Mirror::ClearHover() {
@@ -48,7 +48,7 @@ void Mirror::HoverTick() {
         return;
     }
     ShowInstruction();
-    app_.Windows.StopTimer(TimerId::MirrorHover);
+    world_.Windows.StopTimer(TimerId::MirrorHover);
     hoverTicks_ = 0;
 }
 
@@ -194,7 +194,7 @@ void Mirror::ResponseHover() {
     hoverControl_.reset();
     hoverText_ = tip;
     hoverTicks_ = 0;
-    app_.Windows.StartTimer(TimerId::MirrorHover, HoverInterval);
+    world_.Windows.StartTimer(TimerId::MirrorHover, HoverInterval);
 }
 
 void Mirror::NoteHover() {
@@ -207,7 +207,7 @@ void Mirror::NoteHover() {
     ClearHover();
     hoverText_ = MirrorText::TipKeys;
     hoverTicks_ = 0;
-    app_.Windows.StartTimer(TimerId::MirrorHover, HoverInterval);
+    world_.Windows.StartTimer(TimerId::MirrorHover, HoverInterval);
 }
 
 void Mirror::SetResponse(const std::string& text, Colour background) {
@@ -222,7 +222,7 @@ void Mirror::SetResponse(const std::string& text, Colour background) {
 // the Direction, the Inspiration and the Suggestion, and leaves anything else where it is.
 void Mirror::ClickResponse() {
     if (state_.ActiveMethod == 0) {
-        state_.SeriesSeed = app_.Clock.Timer();
+        state_.SeriesSeed = world_.Clock.Timer();
         engine_.StretchSeeds(state_.SeriesSeed);
         state_.InspirationText = engine_.RequestInspiration();
         state_.InspirationView = "Inspiration\r\n" + state_.InspirationText;

@@ -7,7 +7,7 @@
 #include "dialogue/KeyCodes.h"
 #include "dialogue/Mirror.h"
 #include "dialogue/MirrorTexts.h"
-#include "shell/Application.h"
+#include "dialogue/MirrorWorld.h"
 
 namespace veyrant {
 
@@ -77,7 +77,7 @@ int Mirror::KeyPress(int keyAscii) {
 // The newest key goes into the series with the time it was typed, so that the Sagrel's draws
 // follow the rhythm and the letters of the typing.
 void Mirror::RecordKey(int characterCode) {
-    engine_.RecordKey(app_.Clock.Timer(), characterCode);
+    engine_.RecordKey(world_.Clock.Timer(), characterCode);
 }
 
 int Mirror::MirrorKeyDown(int keyCode) {
@@ -240,7 +240,7 @@ void Mirror::ClickEntryBox() {
     ShowInstruction();
     ClearHover();
     hoverTicks_ = 0;
-    app_.Windows.StopTimer(TimerId::MirrorHover);
+    world_.Windows.StopTimer(TimerId::MirrorHover);
     if (state_.AwaitingEnter == 1) {
         C(MirrorControl::txtMirror).Caret = 0;
         Message(std::string(MirrorText::HelpTitle),
@@ -284,7 +284,7 @@ void Mirror::FocusLost(MirrorControl control) {
 // the list box keeps it.
 void Mirror::FocusGained(MirrorControl control) {
     controls_.Focus = control;
-    if (app_.ClosingState == ClosingStates::Exiting) {
+    if (world_.ClosingState == ClosingStates::Exiting) {
         return;
     }
     if (C(MirrorControl::txtMirror).Enabled) {

@@ -6,7 +6,7 @@
 
 #include "dialogue/KeyCodes.h"
 #include "dialogue/Mirror.h"
-#include "shell/Application.h"
+#include "dialogue/MirrorWorld.h"
 
 #include <cmath>
 #include <utility>
@@ -22,15 +22,15 @@ int Twips(double scaled) {
 } // namespace
 
 int Mirror::WindowWidth() const {
-    return Twips(ScaleMirrorLayout(MirrorDesign(), app_.Scale.ScaleFactor).WindowWidth);
+    return Twips(ScaleMirrorLayout(MirrorDesign(), world_.Scale.ScaleFactor).WindowWidth);
 }
 
 int Mirror::WindowHeight() const {
-    return Twips(ScaleMirrorLayout(MirrorDesign(), app_.Scale.ScaleFactor).WindowHeight);
+    return Twips(ScaleMirrorLayout(MirrorDesign(), world_.Scale.ScaleFactor).WindowHeight);
 }
 
 void Mirror::ScaleAtCreation() {
-    const MirrorLayout layout = ScaleMirrorLayout(MirrorDesign(), app_.Scale.ScaleFactor);
+    const MirrorLayout layout = ScaleMirrorLayout(MirrorDesign(), world_.Scale.ScaleFactor);
     const std::pair<MirrorControl, const ControlPlace*> places[] = {
         {MirrorControl::Panel1, &layout.Panel1},
         {MirrorControl::cmdConverse, &layout.cmdConverse},
@@ -59,7 +59,7 @@ void Mirror::ScaleAtCreation() {
         control.Top = Twips(place->Top);
         control.Width = Twips(place->Width);
         control.Height = Twips(place->Height);
-        control.FontSize = app_.Scale.ButtonFontSize;
+        control.FontSize = world_.Scale.ButtonFontSize;
     }
     C(MirrorControl::Window).Width = Twips(layout.WindowWidth);
     C(MirrorControl::Window).Height = Twips(layout.WindowHeight);
@@ -67,9 +67,9 @@ void Mirror::ScaleAtCreation() {
 }
 
 void Mirror::Place(MirrorControl control, int top, int height) {
-    C(control).Top = static_cast<int>(std::lround(top * app_.Scale.ScaleFactor));
+    C(control).Top = static_cast<int>(std::lround(top * world_.Scale.ScaleFactor));
     if (height > 0) {
-        C(control).Height = static_cast<int>(std::lround(height * app_.Scale.ScaleFactor));
+        C(control).Height = static_cast<int>(std::lround(height * world_.Scale.ScaleFactor));
     }
 }
 
@@ -77,7 +77,7 @@ void Mirror::ArrangeOpening() {
     Place(MirrorControl::txtResponse, 960, 1820);
     Place(MirrorControl::txtMirror, 2480, 0);
     Place(MirrorControl::txtSaved, 2760, 2745);
-    C(MirrorControl::lblRem).FontSize = app_.Scale.ButtonFontSize;
+    C(MirrorControl::lblRem).FontSize = world_.Scale.ButtonFontSize;
 }
 
 // While an entry is typed it stands below the response; once answered, above it, so the eye
@@ -87,7 +87,7 @@ void Mirror::ArrangeEntry() {
     Place(MirrorControl::txtMirror, 2280, 0);
     Place(MirrorControl::lblRem, 2760, 0);
     Place(MirrorControl::txtSaved, 3000, 2175);
-    C(MirrorControl::lblRem).FontSize = app_.Scale.ButtonFontSize;
+    C(MirrorControl::lblRem).FontSize = world_.Scale.ButtonFontSize;
 }
 
 void Mirror::ArrangeResult() {
@@ -95,20 +95,20 @@ void Mirror::ArrangeResult() {
     Place(MirrorControl::txtMirror, 960, 0);
     Place(MirrorControl::lblRem, 1440, 0);
     Place(MirrorControl::txtSaved, 3000, 2175);
-    C(MirrorControl::lblRem).FontSize = app_.Scale.ButtonFontSize;
+    C(MirrorControl::lblRem).FontSize = world_.Scale.ButtonFontSize;
 }
 
 void Mirror::ApplyWriteFont() {
-    const bool large = app_.UserSettings.WriteFontStep == 2;
+    const bool large = world_.UserSettings.WriteFontStep == 2;
     for (auto box : {MirrorControl::txtMirror, MirrorControl::txtResponse,
                      MirrorControl::txtAnalyze, MirrorControl::txtSaved}) {
-        C(box).FontSize = large ? app_.Scale.TextSize[2] : app_.Scale.TextSize[1];
-        C(box).FontBold = !large && app_.Scale.TextSize1Bold;
+        C(box).FontSize = large ? world_.Scale.TextSize[2] : world_.Scale.TextSize[1];
+        C(box).FontBold = !large && world_.Scale.TextSize1Bold;
     }
 }
 
 void Mirror::ToggleWriteFont() {
-    app_.UserSettings.WriteFontStep = app_.UserSettings.WriteFontStep == 1 ? 2 : 1;
+    world_.UserSettings.WriteFontStep = world_.UserSettings.WriteFontStep == 1 ? 2 : 1;
     ApplyWriteFont();
 }
 

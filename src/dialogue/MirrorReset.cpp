@@ -7,8 +7,8 @@
 #include "dialogue/DialogueEngine.h"
 #include "dialogue/Mirror.h"
 #include "dialogue/MirrorTexts.h"
+#include "dialogue/MirrorWorld.h"
 #include "dialogue/Transcript.h"
-#include "shell/Application.h"
 #include "storage/DialogueLibrary.h"
 #include "storage/LibraryStatus.h"
 
@@ -29,11 +29,11 @@ std::string AgeText(int days) {
 } // namespace
 
 bool Mirror::GuestMode() const {
-    return app_.UserSettings.GuestMode == 1;
+    return world_.UserSettings.GuestMode == 1;
 }
 
 std::string Mirror::LibraryStatusText(const std::string& suggestionText) const {
-    return suggestionText + "\r\n\r\n" + GenLibStatus(library_.Listing(), app_.UserSettings);
+    return suggestionText + "\r\n\r\n" + GenLibStatus(library_.Listing(), world_.UserSettings);
 }
 
 void Mirror::Unload() {
@@ -62,8 +62,8 @@ void Mirror::ResetDialogue() {
     state_.DialogueText.clear();
     state_.CycleCount = 0;
 
-    app_.Random.Seed(app_.Clock.Timer());
-    state_.CycleGoal = static_cast<int>(10 * app_.Random.Draw()) + 3;
+    world_.Random.Seed(world_.Clock.Timer());
+    state_.CycleGoal = static_cast<int>(10 * world_.Random.Draw()) + 3;
     // A list of ideas cancelled in an empty Dialogue closes and gives the entry box back,
     // whichever Dialogue comes next.
     C(MirrorControl::txtAnalyze).Visible = false;
@@ -161,7 +161,7 @@ bool Mirror::LoadPriorDialogue() {
 }
 
 void Mirror::BeginDialogue() {
-    state_.SeriesSeed = app_.Clock.Timer();
+    state_.SeriesSeed = world_.Clock.Timer();
     engine_.StretchSeeds(state_.SeriesSeed);
     state_.InspirationText = engine_.RequestInspiration();
     state_.InspirationView = "Inspiration\r\n" + state_.InspirationText;
@@ -225,17 +225,17 @@ void Mirror::ContinueDialogue() {
 
 void Mirror::SaveDialogue() {
     C(MirrorControl::cmdSave).Enabled = false;
-    app_.Windows.SetBusyPointer(true);
+    world_.Windows.SetBusyPointer(true);
     if (!library_.AddToLibrary(state_.InspirationText, state_.DialogueText)) {
         // The box has told why; the Dialogue stays as it is, to be saved again or kept.
         C(MirrorControl::cmdSave).Enabled = true;
-        app_.Windows.SetBusyPointer(false);
+        world_.Windows.SetBusyPointer(false);
         return;
     }
     state_.DialogueSaved = 1;
     C(MirrorControl::cmdNew).Text = "New";
     Click(MirrorControl::cmdNew);
-    app_.Windows.SetBusyPointer(false);
+    world_.Windows.SetBusyPointer(false);
 }
 
 void Mirror::ClickNewCaption() {

@@ -8,7 +8,7 @@
 #include "dialogue/KeyCodes.h"
 #include "dialogue/Mirror.h"
 #include "dialogue/MirrorTexts.h"
-#include "shell/Application.h"
+#include "dialogue/MirrorWorld.h"
 
 namespace veyrant {
 
@@ -102,8 +102,8 @@ void Mirror::AcceptIdea() {
     auto& list = C(MirrorControl::txtAnalyze);
     list.Text = state_.ListText;
     list.Caret = static_cast<long>(list.Text.size());
-    app_.Random.Seed(app_.Clock.Timer());
-    state_.IdeaWeight[index] = static_cast<int>(1000 * app_.Random.Draw()) + 1;
+    world_.Random.Seed(world_.Clock.Timer());
+    state_.IdeaWeight[index] = static_cast<int>(1000 * world_.Random.Draw()) + 1;
     state_.IdeaCount = state_.IdeaIndex;
     ++state_.IdeaIndex;
     if (state_.IdeaIndex <= state_.IdeaLimit) {

@@ -4,8 +4,8 @@
 #include "core/Text.h"
 #include "dialogue/DialogueEngine.h"
 #include "dialogue/Mirror.h"
+#include "dialogue/MirrorWorld.h"
 #include "dialogue/Transcript.h"
-#include "shell/Application.h"
 
 namespace veyrant {
 

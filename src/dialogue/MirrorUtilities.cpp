@@ -1,5 +1,5 @@
 #include "dialogue/Mirror.h"
-#include "shell/Application.h"
+#include "dialogue/MirrorWorld.h"
 
 namespace veyrant {
 
@@ -12,14 +12,14 @@ void Mirror::OpenWindowBehindWrite(WindowId window, const std::string& windowNam
                                            windowName + " window.");
         return;
     }
-    app_.ClosingState = ClosingStates::UtilitiesUp;
+    world_.ClosingState = ClosingStates::UtilitiesUp;
     C(MirrorControl::txtMirror).Enabled = false;
     if (state_.ActiveMethod != 0 && !state_.DialogueText.empty()) {
         buffers_.WriteWorkBuffers(Record());
     }
     Paint();
-    app_.Windows.HideWindow(WindowId::Mirror);
-    app_.Windows.ShowWindow(window);
+    world_.Windows.HideWindow(WindowId::Mirror);
+    world_.Windows.ShowWindow(window);
 }
 
 } // namespace veyrant

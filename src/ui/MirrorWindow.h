@@ -5,7 +5,7 @@
 // widgets' events into the logic's handlers.
 
 #include "dialogue/Mirror.h"
-#include "shell/Application.h"
+#include "app/Application.h"
 
 #include <QWidget>
 #include <array>

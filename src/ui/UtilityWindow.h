@@ -3,7 +3,7 @@
 // The Utilities window (frmUtility) over its logic: three buttons, each leading to one other
 // window, and the close box, which ends the program.
 
-#include "shell/Utility.h"
+#include "app/Utility.h"
 
 #include <QDialog>
 

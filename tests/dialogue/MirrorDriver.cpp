@@ -108,7 +108,7 @@ MirrorDriver::MirrorDriver(int displayOption, Replies replies)
         Composer = std::make_unique<EngineDialogue>(*RealEngine);
         engine = Composer.get();
     }
-    mirror = std::make_unique<Mirror>(App, *engine, Buffers, Library);
+    mirror = std::make_unique<Mirror>(App.WriteWorld(), *engine, Buffers, Library);
 }
 
 void MirrorDriver::LeavePriorDialogue(int pairCount) {

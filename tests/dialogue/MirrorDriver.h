@@ -8,7 +8,7 @@
 #include "dialogue/EngineDialogue.h"
 #include "dialogue/Mirror.h"
 #include "engine/Engine.h"
-#include "shell/Application.h"
+#include "app/Application.h"
 #include "storage/DialogueLibrary.h"
 #include "storage/WorkBuffers.h"
 #include "support/FakeClock.h"

@@ -54,7 +54,7 @@ TEST(MirrorUtilities, RightClickWindowsOpenWithTheRunningDialogueKept) {
 TEST(MirrorUtilities, GuestModeReachesTheUtilitiesThroughHelpOnly) {
     MirrorDriver driver;
     driver.App.UserSettings.GuestMode = 1;
-    Mirror guest(driver.App, driver.Engine, driver.Buffers, driver.Library);
+    Mirror guest(driver.App.WriteWorld(), driver.Engine, driver.Buffers, driver.Library);
     guest.StartWindow();
     EXPECT_FALSE(guest.Controls()[MirrorControl::cmdRetrieve].Enabled);
     EXPECT_TRUE(guest.Controls()[MirrorControl::cmdKnow].Enabled);

@@ -8,7 +8,7 @@
 #include "dialogue/Mirror.h"
 #include "engine/Engine.h"
 #include "engine/EngineFiles.h"
-#include "shell/Application.h"
+#include "app/Application.h"
 #include "shell/DisplayScale.h"
 #include "shell/MirrorLayout.h"
 #include "storage/DialogueLibrary.h"
@@ -41,7 +41,7 @@ struct WriteWindow {
         InstallEngineFiles(App.Folder);
         Composer.LoadSystem(App.Folder);
         Composer.SeedSeries();
-        Logic = std::make_unique<Mirror>(App, Replies, Buffers, Library);
+        Logic = std::make_unique<Mirror>(App.WriteWorld(), Replies, Buffers, Library);
         Window = std::make_unique<MirrorWindow>(App, *Logic);
         Window->show();
         Logic->StartWindow();

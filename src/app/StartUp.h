@@ -3,8 +3,8 @@
 // The frame of the program: the start behind the banner, the Write window's first timer, and the
 // way out. Every other routine runs inside the window events that these start.
 
+#include "app/Application.h"
 #include "core/WindowLayer.h"
-#include "shell/Application.h"
 
 namespace veyrant {
 

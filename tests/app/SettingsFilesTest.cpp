@@ -1,6 +1,6 @@
-#include "shell/SettingsFiles.h"
+#include "app/SettingsFiles.h"
 
-#include "shell/ShellFixture.h"
+#include "app/AppFixture.h"
 
 #include <filesystem>
 #include <gtest/gtest.h>
@@ -28,7 +28,7 @@ TEST(SettingsFiles, ReadTheSameInAnySpacingOrSeparator) {
         "  2 ,\t3\r\n\r\n1 0,1 0\r\n1,1\r\n2\r\n14 , 99\r\n1",
     };
     for (const char* form : forms) {
-        ShellFixture fixture;
+        AppFixture fixture;
         fixture.PutExeFile("Tolmira.ini", form);
         LoadSettings(fixture.App);
         EXPECT_EQ(Values(fixture.App.UserSettings), expected) << form;
@@ -54,7 +54,7 @@ TEST(SettingsFiles, DamagedFileRepairsItselfWithDefaultsAndScreenOption) {
         {"", 1920, 2},
     };
     for (const Case& c : cases) {
-        ShellFixture fixture;
+        AppFixture fixture;
         if (c.Text != nullptr) {
             fixture.PutExeFile("Tolmira.ini", c.Text);
         }
@@ -70,7 +70,7 @@ TEST(SettingsFiles, DamagedFileRepairsItselfWithDefaultsAndScreenOption) {
 }
 
 TEST(SettingsFiles, OutOfRangeValuesAreUsedAsTheyStand) {
-    ShellFixture fixture;
+    AppFixture fixture;
     const std::string text = " 1 \r\n 1 \r\n 0  0  0  0 \r\n 1  1 \r\n 7 \r\n 21  0 \r\n 0 \r\n";
     fixture.PutExeFile("Tolmira.ini", text);
     LoadSettings(fixture.App);
@@ -80,7 +80,7 @@ TEST(SettingsFiles, OutOfRangeValuesAreUsedAsTheyStand) {
 }
 
 TEST(SettingsFiles, SavedFileReadsBackAndDefaultsLookAsDocumented) {
-    ShellFixture fixture;
+    AppFixture fixture;
     fixture.App.UserSettings = Settings{};
     SaveSettings(fixture.App);
     EXPECT_EQ(fixture.ExeFile("Tolmira.ini"), DefaultFileOnMiddleScreen);
@@ -99,7 +99,7 @@ TEST(SettingsFiles, SavedFileReadsBackAndDefaultsLookAsDocumented) {
 TEST(SettingsFiles, SavingReplacesTheFileWholeInsteadOfWritingIntoIt) {
     // A second name for the old file keeps seeing the old bytes only if the new text went to a
     // new file that was renamed over it; a crash midway then leaves the old file intact.
-    ShellFixture fixture;
+    AppFixture fixture;
     fixture.PutExeFile("Tolmira.ini", "old settings");
     fixture.PutExeFile("Read.ini", "old positions");
     std::filesystem::create_hard_link(fixture.Folder.Exe() / "Tolmira.ini",
@@ -117,7 +117,7 @@ TEST(SettingsFiles, SavingReplacesTheFileWholeInsteadOfWritingIntoIt) {
 }
 
 TEST(SettingsFiles, NegativeMarkIsWrittenWithItsMinusSign) {
-    ShellFixture fixture;
+    AppFixture fixture;
     fixture.App.ReaderSettings.OpenFlagInfo = 1;
     fixture.App.ReaderSettings.MarkRowInfo = 12;
     fixture.App.ReaderSettings.MarkRowDialogue = -1;
@@ -134,7 +134,7 @@ TEST(SettingsFiles, ReadFlagsKeepTheRequestMadeInMemory) {
     };
     const Case cases[] = {{1, 0, 1}, {0, 0, 0}, {0, 1, 1}, {1, 2, 2}};
     for (const Case& c : cases) {
-        ShellFixture fixture;
+        AppFixture fixture;
         const std::string flag = std::to_string(c.InFile);
         fixture.PutExeFile("Read.ini",
                            flag + " 5\r\n" + flag + " -1\r\n" + flag + " 7\r\n" + flag + " 8\r\n");
@@ -156,7 +156,7 @@ TEST(SettingsFiles, ReadFlagsKeepTheRequestMadeInMemory) {
 
 TEST(SettingsFiles, DamagedReadFileIsLaidDownAsZerosAndTheRequestStands) {
     for (const char* text : {static_cast<const char*>(nullptr), "1 2 3", "1 2 3 4 5 6 7 x"}) {
-        ShellFixture fixture;
+        AppFixture fixture;
         if (text != nullptr) {
             fixture.PutExeFile("Read.ini", text);
         }
@@ -186,7 +186,7 @@ TEST(SettingsFiles, FontNamesReadAsTextValues) {
         {"Book Antiqua,Book Antiqua Italic,Bold\r\n", "Book Antiqua", "Book Antiqua Italic"},
     };
     for (const Case& c : cases) {
-        ShellFixture fixture;
+        AppFixture fixture;
         fixture.PutExeFile("Qdrfonts.ini", c.Text);
         LoadFontNames(fixture.App);
         EXPECT_EQ(fixture.App.Fonts.Main, c.Main);
@@ -209,7 +209,7 @@ TEST(SettingsFiles, BrokenFontTableIsReportedAndTheInstalledFacesStandIn) {
         {nullptr, false, 53, "Liberation Serif", "Liberation Serif Italic"},
     };
     for (const Case& c : cases) {
-        ShellFixture fixture;
+        AppFixture fixture;
         if (c.Text != nullptr) {
             fixture.PutExeFile("Qdrfonts.ini", c.Text);
         }

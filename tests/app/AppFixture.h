@@ -1,8 +1,8 @@
 #pragma once
 
+#include "app/Application.h"
 #include "core/Random.h"
 #include "core/WholeFile.h"
-#include "shell/Application.h"
 #include "support/FakeClock.h"
 #include "support/FakeWindowLayer.h"
 #include "support/TempFolder.h"
@@ -13,8 +13,8 @@
 namespace veyrant::testing {
 
 // A whole application in a fresh folder, with an executable of a known date.
-struct ShellFixture {
-    ShellFixture() {
+struct AppFixture {
+    AppFixture() {
         std::filesystem::create_directories(Folder.Exe());
         WriteWholeFile(Program, "program");
         Clock.FileDates[Program] = DateTime{2026, 3, 9, 10, 30, 0};

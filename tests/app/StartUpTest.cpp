@@ -1,6 +1,6 @@
-#include "shell/StartUp.h"
+#include "app/StartUp.h"
 
-#include "shell/ShellFixture.h"
+#include "app/AppFixture.h"
 #include "shell/Version.h"
 
 #include <gtest/gtest.h>
@@ -35,7 +35,7 @@ TEST(StartUp, VersionComesFromTheExecutablesFileDate) {
 }
 
 TEST(StartUp, MainLoadsTheWriteWindowBehindTheBanner) {
-    ShellFixture fixture;
+    AppFixture fixture;
     fixture.PutExeFile("Qdrfonts.ini", "Liberation Serif\r\nLiberation Serif Italic\r\n");
     Main(fixture.App);
     EXPECT_TRUE(fixture.Windows.Boxes.empty());
@@ -62,7 +62,7 @@ TEST(StartUp, Timer1RevealsTheWriteWindowAndTheBackdropOnWideScreens) {
         {640, {"unload Banner", "show Mirror"}},
     };
     for (const Case& c : cases) {
-        ShellFixture fixture;
+        AppFixture fixture;
         fixture.PutExeFile("Tolmira.ini", " 1 \r\n 1 \r\n 0  0  0  0 \r\n 1  1 \r\n 0 \r\n"
                                           " 21  30 \r\n 0 \r\n");
         fixture.Windows.ScreenWidth = c.ScreenPixels * TwipsPerPixel;
@@ -77,7 +77,7 @@ TEST(StartUp, Timer1RevealsTheWriteWindowAndTheBackdropOnWideScreens) {
 }
 
 TEST(StartUp, TheWriteWindowOpensOnANewDialogueWithItsOwnInspiration) {
-    ShellFixture fixture;
+    AppFixture fixture;
     Main(fixture.App);
     Timer1(fixture.App);
     ASSERT_TRUE(fixture.Windows.Boxes.empty()) << fixture.Windows.Boxes[0].Title;
@@ -91,7 +91,7 @@ TEST(StartUp, TheWriteWindowOpensOnANewDialogueWithItsOwnInspiration) {
 }
 
 TEST(StartUp, ADamagedEngineFileEndsTheStartWithTheEnginesBox) {
-    ShellFixture first;
+    AppFixture first;
     Main(first.App);
     // The installed file is kept as it stands, damage and all, until a newer build ships.
     const std::string tables = first.ExeFile("qdr41.sys");
@@ -109,7 +109,7 @@ TEST(StartUp, ADamagedEngineFileEndsTheStartWithTheEnginesBox) {
 }
 
 TEST(StartUp, MissingExecutableGivesSystemError53BeforeTheBanner) {
-    ShellFixture fixture;
+    AppFixture fixture;
     fixture.App.ProgramFile = fixture.Temp / "gone";
     Main(fixture.App);
     ASSERT_EQ(fixture.Windows.Boxes.size(), 1u);
@@ -122,7 +122,7 @@ TEST(StartUp, MissingExecutableGivesSystemError53BeforeTheBanner) {
 }
 
 TEST(StartUp, LargeOptionOnASmallScreenIsLoweredAndTheNextStartRuns) {
-    ShellFixture fixture;
+    AppFixture fixture;
     fixture.PutExeFile("Tolmira.ini", " 2 \r\n 1 \r\n 0  0  0  0 \r\n 1  1 \r\n 2 \r\n"
                                       " 21  30 \r\n 0 \r\n");
     fixture.Windows.ScreenWidth = 640 * TwipsPerPixel;
@@ -145,7 +145,7 @@ TEST(StartUp, LargeOptionOnASmallScreenIsLoweredAndTheNextStartRuns) {
 }
 
 TEST(StartUp, ClosingTheWriteWindowStoresTheSettingsAndEndsBehindTheBanner) {
-    ShellFixture fixture;
+    AppFixture fixture;
     Main(fixture.App);
     Timer1(fixture.App);
     fixture.App.UserSettings.WriteFontStep = 2;
@@ -162,7 +162,7 @@ TEST(StartUp, ClosingTheWriteWindowStoresTheSettingsAndEndsBehindTheBanner) {
 }
 
 TEST(StartUp, ExitThatCannotStoreTheSettingsSaysSoAndEnds) {
-    ShellFixture fixture;
+    AppFixture fixture;
     Main(fixture.App);
     std::filesystem::remove_all(fixture.Folder.Exe());
     ExitProgram(fixture.App);

@@ -10,6 +10,7 @@
 #include "dialogue/Mirror.h"
 #include "engine/Engine.h"
 #include "shell/AppFolder.h"
+#include "shell/ClosingState.h"
 #include "shell/DisplayScale.h"
 #include "shell/Settings.h"
 #include "storage/DialogueLibrary.h"
@@ -22,13 +23,6 @@
 #include <utility>
 
 namespace veyrant {
-
-namespace ClosingStates {
-inline constexpr std::int16_t Running = 0;
-inline constexpr std::int16_t Exiting = 1;
-// The Write window is hidden behind the Utilities or Library Options window.
-inline constexpr std::int16_t UtilitiesUp = 2;
-} // namespace ClosingStates
 
 struct Application {
     Application(AppFolder folder, std::filesystem::path programFile, veyrant::Clock& clock,
@@ -62,6 +56,9 @@ struct Application {
     WorkBuffers Buffers;
     // The Write window's logic, made when the window loads.
     std::unique_ptr<Mirror> Write;
+
+    // The part of the program the Write window's logic may reach.
+    MirrorWorld WriteWorld() { return {Clock, Random, Windows, Scale, UserSettings, ClosingState}; }
 };
 
 } // namespace veyrant

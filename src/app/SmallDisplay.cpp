@@ -1,6 +1,6 @@
-#include "shell/SmallDisplay.h"
+#include "app/SmallDisplay.h"
 
-#include "shell/SettingsFiles.h"
+#include "app/SettingsFiles.h"
 
 namespace veyrant {
 

@@ -3,8 +3,8 @@
 // The program's two faces, a roman and its italic. They are named in Qdrfonts.ini and proved at
 // every start; a face the machine does not really have ends the program with a word on why.
 
+#include "app/Application.h"
 #include "core/WindowLayer.h"
-#include "shell/Application.h"
 #include "shell/Settings.h"
 
 namespace veyrant {

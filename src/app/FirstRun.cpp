@@ -1,9 +1,9 @@
-#include "shell/FirstRun.h"
+#include "app/FirstRun.h"
 
+#include "app/FontCheck.h"
 #include "core/ProgramError.h"
 #include "core/WholeFile.h"
 #include "engine/EngineFiles.h"
-#include "shell/FontCheck.h"
 
 #include <system_error>
 

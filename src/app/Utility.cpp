@@ -1,4 +1,4 @@
-#include "shell/Utility.h"
+#include "app/Utility.h"
 
 #include "core/Text.h"
 

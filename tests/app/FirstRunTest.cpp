@@ -1,7 +1,7 @@
-#include "shell/FirstRun.h"
+#include "app/FirstRun.h"
 
+#include "app/AppFixture.h"
 #include "core/ProgramError.h"
-#include "shell/ShellFixture.h"
 
 #include <gtest/gtest.h>
 
@@ -31,14 +31,14 @@ TEST(FirstRun, LaysDownTheFoldersAndTheFacesThisMachineHas) {
 }
 
 TEST(FirstRun, LeavesAnInstalledFolderAlone) {
-    ShellFixture fixture;
+    AppFixture fixture;
     fixture.PutExeFile("Qdrfonts.ini", "Garamond\r\n");
     InstallAppFolder(fixture.Folder, fixture.Windows);
     EXPECT_EQ(fixture.ExeFile("Qdrfonts.ini"), "Garamond\r\n");
 }
 
 TEST(FirstRun, AFolderThatCannotBeMadeRaisesTheProgramsError) {
-    ShellFixture fixture;
+    AppFixture fixture;
     WriteWholeFile(fixture.Temp / "blocked", "a file where a folder should be");
     const AppFolder folder{fixture.Temp / "blocked" / "veyrant-sagrel"};
     try {

@@ -1,7 +1,7 @@
 // The Utilities window passes the user on to one other window, or shows the About box; the Display
 // Size window stores the chosen scale. Every way out of either ends the program.
 
-#include "shell/Utility.h"
+#include "app/Utility.h"
 
 #include "shell/Resize.h"
 #include "support/FakeWindowLayer.h"

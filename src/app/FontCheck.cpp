@@ -1,6 +1,6 @@
-#include "shell/FontCheck.h"
+#include "app/FontCheck.h"
 
-#include "shell/SettingsFiles.h"
+#include "app/SettingsFiles.h"
 
 #include <string>
 

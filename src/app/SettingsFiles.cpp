@@ -1,11 +1,11 @@
-#include "shell/SettingsFiles.h"
+#include "app/SettingsFiles.h"
 
+#include "app/FontCheck.h"
 #include "core/Cp1252.h"
 #include "core/FieldReader.h"
 #include "core/ProgramError.h"
 #include "core/WholeFile.h"
 #include "core/WindowLayer.h"
-#include "shell/FontCheck.h"
 
 #include <initializer_list>
 

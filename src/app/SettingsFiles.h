@@ -4,7 +4,7 @@
 // parted by blanks, commas or line ends, and a damaged Tolmira.ini or Read.ini repairs itself
 // without a word to the user.
 
-#include "shell/Application.h"
+#include "app/Application.h"
 
 namespace veyrant {
 

@@ -1,7 +1,7 @@
 #include "shell/DisplayScale.h"
 
-#include "shell/FontCheck.h"
-#include "shell/ShellFixture.h"
+#include "app/AppFixture.h"
+#include "app/FontCheck.h"
 
 #include <gtest/gtest.h>
 
@@ -46,7 +46,7 @@ TEST(DisplayScale, AnOptionWithNoRowLeavesTheFactorAtZero) {
 }
 
 TEST(FontCheck, InstalledFacesPassWithoutAWord) {
-    ShellFixture fixture;
+    AppFixture fixture;
     fixture.PutExeFile("Qdrfonts.ini", "Liberation Serif\r\nLiberation Serif Italic\r\n");
     EXPECT_TRUE(CheckFonts(fixture.App));
     EXPECT_TRUE(fixture.Windows.Boxes.empty());
@@ -69,7 +69,7 @@ TEST(FontCheck, EachFaceThatCannotBeSelectedIsNamedAndTheProgramEnds) {
         {"Garamond/italic", italicSlot},
     };
     for (const Case& c : cases) {
-        ShellFixture fixture;
+        AppFixture fixture;
         fixture.PutExeFile("Qdrfonts.ini", "Garamond\r\nGaramond Italic\r\n");
         fixture.Windows.MissingFaces.insert(c.Missing);
         EXPECT_FALSE(CheckFonts(fixture.App));

@@ -1,11 +1,11 @@
-#include "shell/StartUp.h"
+#include "app/StartUp.h"
 
+#include "app/FirstRun.h"
+#include "app/FontCheck.h"
+#include "app/SettingsFiles.h"
+#include "app/SmallDisplay.h"
 #include "core/ProgramError.h"
 #include "shell/DisplayScale.h"
-#include "shell/FirstRun.h"
-#include "shell/FontCheck.h"
-#include "shell/SettingsFiles.h"
-#include "shell/SmallDisplay.h"
 #include "shell/Version.h"
 
 #include <cmath>
@@ -40,7 +40,7 @@ void ReportSystemError(Application& app, int number) {
 // Everything the Write window needs is loaded behind the banner, so that it is all in memory
 // when the window appears.
 void LoadMirror(Application& app) {
-    app.Write = std::make_unique<Mirror>(app, app.Replies, app.Buffers, app.Library);
+    app.Write = std::make_unique<Mirror>(app.WriteWorld(), app.Replies, app.Buffers, app.Library);
     // The window sizes itself for the display scale and centres itself as it loads.
     app.Windows.LoadWindow(WindowId::Mirror);
     app.Engine.SeedSeries();

@@ -1,0 +1,57 @@
+#include "core/Text.h"
+#include "reader/FixedLibrary.h"
+
+namespace veyrant {
+
+namespace {
+
+bool IsSectionTitle(const std::string& title) {
+    return title.find(Tab) == std::string::npos;
+}
+
+} // namespace
+
+void BuildLibraryIndex(FixedLibrary& library) {
+    const int rows = library.LastRow + 1;
+    library.RowKind.assign(static_cast<std::size_t>(rows), RowKinds::Topic);
+    library.SectionTitle.clear();
+    library.SectionRow.clear();
+    for (int row = 0; row < rows; ++row) {
+        const std::string& title = library.Titles[static_cast<std::size_t>(row)];
+        if (IsSectionTitle(title)) {
+            library.RowKind[static_cast<std::size_t>(row)] = RowKinds::Section;
+            library.SectionTitle.push_back(title);
+            library.SectionRow.push_back(static_cast<std::int16_t>(row));
+        }
+    }
+    library.LastSection = static_cast<std::int16_t>(library.SectionRow.size()) - 1;
+    // Rows ahead of the first Section keep 0; the authored content always opens with one.
+    library.SectionEnd.assign(static_cast<std::size_t>(rows), 0);
+    for (std::size_t k = 0; k < library.SectionRow.size(); ++k) {
+        const int first = library.SectionRow[k];
+        const int last =
+            k + 1 < library.SectionRow.size() ? library.SectionRow[k + 1] - 1 : library.LastRow;
+        for (int row = first; row <= last; ++row) {
+            library.SectionEnd[static_cast<std::size_t>(row)] = static_cast<std::int16_t>(last);
+        }
+    }
+}
+
+std::string CleanTitle(const std::string& title) {
+    std::string clean = Trim(title);
+    for (auto tab = clean.find(Tab); tab != std::string::npos; tab = clean.find(Tab)) {
+        clean.erase(0, tab + 1);
+    }
+    return clean;
+}
+
+std::string ComposeRowText(const FixedLibrary& library, int row) {
+    const auto index = static_cast<std::size_t>(row);
+    // A record longer than its width is cut, as a fixed-width record would cut it.
+    const std::string record =
+        library.Texts[index].substr(0, static_cast<std::size_t>(library.RecordWidth));
+    return CleanTitle(library.Titles[index]) + std::string(CrLf) + std::string(CrLf) +
+           RTrim(record);
+}
+
+} // namespace veyrant
