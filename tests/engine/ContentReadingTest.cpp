@@ -8,7 +8,9 @@
 
 #include <algorithm>
 #include <cctype>
+#include <gmock/gmock.h>
 #include <map>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -125,18 +127,23 @@ TEST_P(ContentReading, NoDoubledWordNoUnframedFirstPersonAndVariedOpenings) {
     const MessageRequest& request = GetParam();
     TheEngine.SeedSeries();
     std::map<std::string, int> openings;
+    std::set<std::string> doubled;
+    std::set<std::string> unframed;
     for (int k = 0; k < DrawnReplies; ++k) {
         TheClock.Seconds = 300.0f + 8.25f * static_cast<float>(k);
         TheEngine.SeriesSeed = TheClock.Timer();
         TheEngine.StretchSeeds();
         const std::string text = Compose(TheEngine, request);
-        const std::string shown = Cp1252ToUtf8(text);
-        ASSERT_EQ(DoubledWord(text), "") << shown;
-        if (KeepsFirstPersonFramed(request.Message)) {
-            ASSERT_EQ(UnframedFirstPerson(text), "") << shown;
+        if (!DoubledWord(text).empty()) {
+            doubled.insert(Cp1252ToUtf8(text));
+        }
+        if (KeepsFirstPersonFramed(request.Message) && !UnframedFirstPerson(text).empty()) {
+            unframed.insert(Cp1252ToUtf8(text));
         }
         ++openings[Opening(text)];
     }
+    EXPECT_THAT(doubled, ::testing::IsEmpty());
+    EXPECT_THAT(unframed, ::testing::IsEmpty());
     if (MustVaryOpening(request.Message)) {
         const auto most =
             std::max_element(openings.begin(), openings.end(),
