@@ -109,9 +109,10 @@ std::string Opening(const std::string& text) {
 }
 
 // The verdicts on an idea, the remarks and the interjection open with the set verdicts their
-// groups are made of, so only the other messages must vary their openings.
+// groups are made of ("That question ..."), so only the answers and the Inspiration must vary
+// their openings.
 bool MustVaryOpening(std::int16_t message) {
-    return message <= 8 || message == 12 || message == 15;
+    return message <= 8 || message == 15;
 }
 
 // The first person is the user's own only in the answers and in the remark on a question;
