@@ -136,6 +136,7 @@ private:
     std::string HelpFor(MirrorControl control) const;
     void ResponseHover();
     void NoteHover();
+    void StartAreaHelp(MirrorControl area, const std::string& text);
     void ClickResponse();
     void SetResponse(const std::string& text, Colour background);
 
@@ -149,7 +150,6 @@ private:
     void PressFunctionKey(int number);
     void ToggleWriteFont();
     void ApplyWriteFont();
-    void BackgroundMove();
 
     // Start, finish and reopen.
     void ResetDialogue();
@@ -192,6 +192,8 @@ private:
     std::string hoverText_;
     int hoverTicks_ = 0;
     std::optional<MirrorControl> hoverControl_;
+    // The text area whose help is pending or on show: further moves over it leave the count be.
+    std::optional<MirrorControl> hoverArea_;
 
     // What the full view hides and gives back.
     struct FullViewNotes {
