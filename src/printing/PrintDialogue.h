@@ -10,6 +10,9 @@
 
 namespace veyrant {
 
+// What the user is told when the printer failed.
+MessageBoxRequest PrintErrorBox();
+
 // The dialogue text comes without the blank line that leads every saved Dialogue; the heading
 // shows shownDate.
 void PrintDialogue(WindowLayer& windows, const DateTime& shownDate, const std::string& inspiration,
