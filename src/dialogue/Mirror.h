@@ -128,6 +128,10 @@ private:
     void ClickSaved();
     void ShowSmallView();
 
+    // Print and file.
+    void PrintFinishedDialogue();
+    void FileFinishedDialogue();
+
     // Instruction panel.
     void MarkHover(MirrorControl control, const std::string& text);
     void ClearHover();

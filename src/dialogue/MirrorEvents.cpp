@@ -117,7 +117,14 @@ void Mirror::Click(MirrorControl control) {
         ClickRemove();
         break;
     case MirrorControl::cmdDisplay:
-        ClickDisplay();
+        if (C(control).Text == "File") {
+            FileFinishedDialogue();
+        } else {
+            ClickDisplay();
+        }
+        break;
+    case MirrorControl::cmdPrint:
+        PrintFinishedDialogue();
         break;
     case MirrorControl::cmdNew:
         ClickNewCaption();

@@ -1,10 +1,10 @@
+#include "app/Application.h"
+#include "app/StartUp.h"
+#include "app/Utility.h"
 #include "core/Clock.h"
 #include "core/Random.h"
 #include "shell/AppFolder.h"
-#include "app/Application.h"
 #include "shell/Resize.h"
-#include "app/StartUp.h"
-#include "app/Utility.h"
 #include "ui/BannerWindow.h"
 #include "ui/MirrorWindow.h"
 #include "ui/OptionsWindow.h"
@@ -24,6 +24,7 @@ int main(int argc, char** argv) {
     SystemClock clock;
     Random random;
     Application app(AppFolder::FromEnvironment(), "/proc/self/exe", clock, random, windows);
+    windows.SetPrintFace([&] { return app.Fonts.Main; });
     MirrorWindow* writeWindow = nullptr;
     std::unique_ptr<Options> libraryOptions;
     std::unique_ptr<Utility> utilities;
