@@ -13,7 +13,7 @@ inline constexpr std::string_view PrintedMotto =
     "The Power of your Inspiration Is in the Worth that You Give It";
 inline constexpr std::string_view ExportedMotto =
     "The Power of Your Inspiration is in the Worth that You Give It";
-inline constexpr std::string_view MakerLine = "Veyrant Sagrel for Linux";
+inline constexpr std::string_view MakerLine = "Veyrant Technology, veyrant-sagrel.org";
 inline constexpr std::string_view WriteWindowTitle = "Veyrant Dialogue";
 
 } // namespace veyrant::PrintTexts

@@ -70,7 +70,7 @@ TEST(MirrorPrint, FileOpensTheFullViewInTheEditor) {
                   "\r\n\tAnswer 1 to type 2.\r\n\r\n\r\n"
                   "Psychological Self-Reflection with the Veyrant Sagrel Dovrin\r\n"
                   "\"The Power of Your Inspiration is in the Worth that You Give It\"\r\n"
-                  "Veyrant Sagrel for Linux\r\n");
+                  "Veyrant Technology, veyrant-sagrel.org\r\n");
     EXPECT_EQ(driver.Layer.EditorTexts[0].ProposedFileName, "Dialogue 2026-11-23 8.15 AM.txt");
     // The window stays as it was.
     EXPECT_EQ(driver.Text(MirrorControl::cmdDisplay), "File");

@@ -17,7 +17,7 @@ TEST(ExportText, HeadingTextAndClosingLines) {
               "\r\n"
               "Psychological Self-Reflection with the Veyrant Sagrel Dovrin\r\n"
               "\"The Power of Your Inspiration is in the Worth that You Give It\"\r\n"
-              "Veyrant Sagrel for Linux\r\n");
+              "Veyrant Technology, veyrant-sagrel.org\r\n");
     EXPECT_EQ(ExportFileName({2026, 11, 22, 21, 40, 0}), "Dialogue 2026-11-22 9.40 PM.txt");
 }
 

@@ -94,7 +94,7 @@ TEST(PrintLayout, FirstPageHeadAndFoot) {
                                             "You Give It") +
                                 CloseQuote);
     EXPECT_TRUE(foot[2].Font.Italic);
-    EXPECT_EQ(foot[3].Text, "Veyrant Sagrel for Linux");
+    EXPECT_EQ(foot[3].Text, "Veyrant Technology, veyrant-sagrel.org");
 }
 
 TEST(PrintLayout, LaterPagesCarryOnThirtyTwoLinesEach) {
