@@ -41,6 +41,7 @@ void ReportSystemError(Application& app, int number) {
 // when the window appears.
 void LoadMirror(Application& app) {
     app.Write = std::make_unique<Mirror>(app.WriteWorld(), app.Replies, app.Buffers, app.Library);
+    app.Write->ConnectLibraries(app.Links, app.Back);
     // The window sizes itself for the display scale and centres itself as it loads.
     app.Windows.LoadWindow(WindowId::Mirror);
     app.Engine.SeedSeries();
