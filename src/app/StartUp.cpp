@@ -106,6 +106,7 @@ void UnloadMirror(Application& app) {
     if (app.Write) {
         app.Write->Unload();
     }
+    app.Links.CloseLibrary();
     app.Windows.HideWindow(WindowId::Mirror);
     ExitProgram(app);
 }
