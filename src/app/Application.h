@@ -59,10 +59,11 @@ struct Application {
     EngineDialogue Replies;
     DialogueLibrary Library;
     WorkBuffers Buffers;
+    // The Information, Knowledge and Advanced Knowledge Libraries, filled behind the banner.
+    FixedLibraries Libraries;
     // The Write window's logic, made when the window loads.
     std::unique_ptr<Mirror> Write;
 
-    FixedLibraries Libraries;
     ReaderValues Reading;
     // The backdrop behind the windows.
     Backdrop Back;

@@ -1,5 +1,6 @@
 #include "core/DateTime.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace veyrant {
@@ -72,6 +73,10 @@ bool IsValidDate(int year, int month, int day) {
 
 int RoundDays(double days) {
     return static_cast<int>(std::nearbyint(days));
+}
+
+int AgeInDays(const DateTime& now, const DateTime& then) {
+    return std::max(0, RoundDays(DayNumber(now) - DayNumber(then)));
 }
 
 } // namespace veyrant

@@ -28,4 +28,8 @@ bool IsValidDate(int year, int month, int day);
 // Whole days from a difference, halves to even, as the program rounds ages.
 int RoundDays(double days);
 
+// Whole days from then to now, rounded as above. A date later than now (the clock was set back,
+// or the file came from another time zone) is 0 days old, never a negative age.
+int AgeInDays(const DateTime& now, const DateTime& then);
+
 } // namespace veyrant

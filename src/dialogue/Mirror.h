@@ -144,6 +144,7 @@ private:
     std::string HelpFor(MirrorControl control) const;
     void ResponseHover();
     void NoteHover();
+    void StartAreaHelp(MirrorControl area, const std::string& text);
     void ClickResponse();
     void SetResponse(const std::string& text, Colour background);
 
@@ -157,7 +158,6 @@ private:
     void PressFunctionKey(int number);
     void ToggleWriteFont();
     void ApplyWriteFont();
-    void BackgroundMove();
 
     // Start, finish and reopen.
     void ResetDialogue();
@@ -209,6 +209,8 @@ private:
     std::string hoverText_;
     int hoverTicks_ = 0;
     std::optional<MirrorControl> hoverControl_;
+    // The text area whose help is pending or on show: further moves over it leave the count be.
+    std::optional<MirrorControl> hoverArea_;
 
     // What the full view hides and gives back.
     struct FullViewNotes {

@@ -177,10 +177,11 @@ void Mirror::MouseUp(MirrorControl control, MouseButton) {
 
 void Mirror::MouseMove(MirrorControl control) {
     if (IsButton(control)) {
-        if (C(control).Enabled) {
-            MarkHover(control, HelpFor(control));
-        } else {
+        const std::string help = C(control).Enabled ? HelpFor(control) : std::string{};
+        if (help.empty()) {
             EndHover();
+        } else {
+            MarkHover(control, help);
         }
         return;
     }

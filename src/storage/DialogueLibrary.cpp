@@ -89,8 +89,7 @@ void DialogueLibrary::ScanAndRetain() {
         }
         const auto ranked = RankByDate(names);
         listing_.OldestFile = ranked.front();
-        listing_.OldestAge =
-            RoundDays(DayNumber(clock_.Now()) - DayNumber(FileNameDate(listing_.OldestFile)));
+        listing_.OldestAge = AgeInDays(clock_.Now(), FileNameDate(listing_.OldestFile));
         // The last Dialogue stays, however old.
         const bool overLimit = listing_.LibraryCount > settings_.MaxLibraryFiles ||
                                listing_.OldestAge > settings_.MaxLibraryDays;

@@ -90,7 +90,7 @@ std::optional<PriorDialogue> WorkBuffers::ReadWorkBuffers() const {
             return std::nullopt;
         }
         prior.BufferDate = *written;
-        prior.PriorAge = RoundDays(DayNumber(clock_.Now()) - DayNumber(*written));
+        prior.PriorAge = AgeInDays(clock_.Now(), *written);
         return prior;
     } catch (const ProgramError&) {
         return std::nullopt;

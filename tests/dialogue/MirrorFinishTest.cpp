@@ -192,7 +192,11 @@ INSTANTIATE_TEST_SUITE_P(
                               "November 21, 2026"},
                       AgeCase{{2026, 11, 17, 9, 5, 0},
                               "Veyrant Sagrel -- Dialogue, 1 Page, 5 Days Old -- Tuesday, 9:05 "
-                              "am, November 17, 2026"}));
+                              "am, November 17, 2026"},
+                      // Buffers dated after now, as when the clock was set back.
+                      AgeCase{{2026, 11, 25, 19, 0, 0},
+                              "Veyrant Sagrel -- Dialogue, 1 Page, 0 Days -- Wednesday, 7:00 pm, "
+                              "November 25, 2026"}));
 
 TEST(MirrorFinish, SaveOnAPriorDialogueFilesItAndStartsANewOneWithoutAsking) {
     MirrorDriver driver;

@@ -39,6 +39,7 @@ TEST_F(DialogueLibraryTest, RetentionKeepsBothLimitsAndNeverTheLastDialogue) {
         {"within both limits nothing goes", {1, 2, 21}, 3, 21, 3, 21},
         {"an age of 21.5 rounds to 22 and goes", {1, 21.5}, 30, 21, 1, 1},
         {"an age of 20.5 rounds to 20 and stays", {1, 20.5}, 30, 20, 2, 20},
+        {"dated after now, as when the clock was set back, is new", {-3, -0.2}, 30, 0, 2, 0},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.What);

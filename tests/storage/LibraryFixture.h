@@ -56,18 +56,9 @@ protected:
         return names;
     }
 
-    // Sets a file's date to a local date and time, as the clock seam reads it back.
-    static void SetFileDate(const std::filesystem::path& path, const DateTime& when) {
-        std::tm parts{};
-        parts.tm_year = when.Year - 1900;
-        parts.tm_mon = when.Month - 1;
-        parts.tm_mday = when.Day;
-        parts.tm_hour = when.Hour;
-        parts.tm_min = when.Minute;
-        parts.tm_sec = when.Second;
-        parts.tm_isdst = -1;
-        const auto stamp = std::chrono::system_clock::from_time_t(std::mktime(&parts));
-        std::filesystem::last_write_time(path, std::chrono::file_clock::from_sys(stamp));
+    // Dates a file through the fake clock, the one clock every test reads.
+    void SetFileDate(const std::filesystem::path& path, const DateTime& when) {
+        Clock.FileDates[path] = when;
     }
 };
 

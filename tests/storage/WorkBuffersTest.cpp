@@ -33,9 +33,14 @@ TEST_F(WorkBuffersTest, ThePriorAgeComesFromTheDateOfTheInspirationBuffer) {
     };
     // The clock stands at noon on 22 November 2026; halves go to the even day.
     const Case cases[] = {
-        {{2026, 11, 22, 11, 59, 0}, 0}, {{2026, 11, 21, 0, 0, 0}, 2},
-        {{2026, 11, 21, 0, 0, 1}, 1},   {{2026, 11, 20, 0, 0, 0}, 2},
-        {{2026, 11, 19, 23, 59, 0}, 3}, {{2025, 11, 22, 12, 0, 0}, 365},
+        {{2026, 11, 22, 11, 59, 0}, 0},
+        {{2026, 11, 21, 0, 0, 0}, 2},
+        {{2026, 11, 21, 0, 0, 1}, 1},
+        {{2026, 11, 20, 0, 0, 0}, 2},
+        {{2026, 11, 19, 23, 59, 0}, 3},
+        {{2025, 11, 22, 12, 0, 0}, 365},
+        // Written after now: the clock was set back, or the file came from another zone.
+        {{2026, 11, 25, 12, 0, 0}, 0},
     };
     ASSERT_TRUE(Buffers.WriteWorkBuffers(Running));
     for (const auto& c : cases) {

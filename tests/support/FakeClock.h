@@ -6,8 +6,9 @@
 
 namespace veyrant::testing {
 
-// A clock that stands still until a test moves it. File dates are the real ones unless a test
-// names a date for a path.
+// A clock that stands still until a test moves it. It answers every file date too, so that no test
+// meets the real clock: a file a test named has that date, any other file that exists was written
+// "now", at the fake clock's date.
 class FakeClock : public Clock {
 public:
     float Timer() const override { return Seconds; }
@@ -16,7 +17,11 @@ public:
         if (const auto named = FileDates.find(path); named != FileDates.end()) {
             return named->second;
         }
-        return Clock::FileDate(path);
+        std::error_code error;
+        if (!std::filesystem::exists(path, error)) {
+            return std::nullopt;
+        }
+        return Date;
     }
 
     float Seconds = 43200.0f;

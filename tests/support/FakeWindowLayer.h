@@ -17,7 +17,11 @@ public:
     MessageAnswer ShowMessage(const MessageBoxRequest& request) override;
     void Yield() override { ++Yields; }
     void SetBusyPointer(bool busy) override { Busy = busy; }
-    void StartTimer(TimerId timer, int milliseconds) override { Timers[timer] = milliseconds; }
+    // A start of a running timer begins its count again, as the screen's timer does.
+    void StartTimer(TimerId timer, int milliseconds) override {
+        Timers[timer] = milliseconds;
+        ++TimerStarts[timer];
+    }
     void StopTimer(TimerId timer) override { Timers.erase(timer); }
     void LoadWindow(WindowId window) override;
     void UnloadWindow(WindowId window) override;
@@ -39,6 +43,7 @@ public:
     std::vector<MessageBoxRequest> Boxes;
     std::deque<MessageAnswer> Answers;
     std::map<TimerId, int> Timers;
+    std::map<TimerId, int> TimerStarts;
     std::set<WindowId> Loaded;
     std::set<WindowId> Visible;
     std::set<WindowId> Minimised;
