@@ -141,8 +141,9 @@ void Reader::ShowLibrary() {
         SelectRow(MarkRow(library));
     }
     flag = OpenFlags::None;
-    world_.Windows.ShowWindow(WindowId::Read);
     controls_.Focus = ReaderControl::txtCursor;
+    Paint();
+    world_.Windows.ShowWindow(WindowId::Read);
 }
 
 void Reader::FillFixedList(const FixedLibrary& library) {
