@@ -3,6 +3,7 @@
 // The process-wide values of the program, owned by one object that is passed by reference to
 // whatever needs them. A test builds a whole application in a temporary folder.
 
+#include "app/LibraryLink.h"
 #include "core/Clock.h"
 #include "core/Random.h"
 #include "core/WindowLayer.h"
@@ -10,7 +11,10 @@
 #include "dialogue/Mirror.h"
 #include "engine/Engine.h"
 #include "reader/FixedLibrary.h"
+#include "reader/Reader.h"
+#include "reader/ReaderValues.h"
 #include "shell/AppFolder.h"
+#include "shell/Backdrop.h"
 #include "shell/ClosingState.h"
 #include "shell/DisplayScale.h"
 #include "shell/Settings.h"
@@ -31,7 +35,7 @@ struct Application {
         : Folder(std::move(folder)), ProgramFile(std::move(programFile)), Clock(clock),
           Random(random), Windows(windows), Engine(random, clock, windows), Replies(Engine),
           Library(Folder, UserSettings, clock, windows),
-          Buffers(Folder, UserSettings, clock, windows) {}
+          Buffers(Folder, UserSettings, clock, windows), Back(windows), Links(*this) {}
 
     AppFolder Folder;
     // The executable whose file date makes the version text.
@@ -60,8 +64,22 @@ struct Application {
     // The Write window's logic, made when the window loads.
     std::unique_ptr<Mirror> Write;
 
+    ReaderValues Reading;
+    // The backdrop behind the windows.
+    Backdrop Back;
+    // The Read window's logic, made afresh at each opening.
+    std::unique_ptr<Reader> Read;
+    // How the Write window and the Reader reach each other.
+    LibraryLink Links;
+
     // The part of the program the Write window's logic may reach.
     MirrorWorld WriteWorld() { return {Clock, Random, Windows, Scale, UserSettings, ClosingState}; }
+
+    // The part of the program the Reader's logic may reach.
+    ReaderWorld ReadWorld() {
+        return {Clock,          Windows, Scale,     Fonts,   Folder, UserSettings,
+                ReaderSettings, Reading, Libraries, Library, Back,   Links};
+    }
 };
 
 } // namespace veyrant

@@ -51,6 +51,7 @@ void LoadFixedLibraries(FixedLibraries& libraries) {
 // when the window appears.
 void LoadMirror(Application& app) {
     app.Write = std::make_unique<Mirror>(app.WriteWorld(), app.Replies, app.Buffers, app.Library);
+    app.Write->ConnectLibraries(app.Links, app.Back);
     // The window sizes itself for the display scale and centres itself as it loads.
     app.Windows.LoadWindow(WindowId::Mirror);
     app.Engine.SeedSeries();
@@ -117,6 +118,7 @@ void UnloadMirror(Application& app) {
     if (app.Write) {
         app.Write->Unload();
     }
+    app.Links.CloseLibrary();
     app.Windows.HideWindow(WindowId::Mirror);
     ExitProgram(app);
 }

@@ -56,6 +56,7 @@ public:
     virtual void MinimiseWindow(WindowId window) = 0;
     virtual void RestoreWindow(WindowId window) = 0;
     virtual bool IsWindowVisible(WindowId window) const = 0;
+    virtual bool IsWindowMinimised(WindowId window) const = 0;
 
     // Logical pixels times 15.
     virtual int ScreenWidthTwips() const = 0;

@@ -4,6 +4,8 @@
 // txtResponse says what is on show, and the logic reads it back), so they are kept by name and
 // turned into values only at the screen.
 
+#include "core/Rgb.h"
+
 #include <string_view>
 
 namespace veyrant {
@@ -23,12 +25,6 @@ enum class Colour {
     InkOver,      // over the word limit
     HoverInk,     // the caption of the button the mouse rests on
     HelpInk,      // a help text in txtNote
-};
-
-struct Rgb {
-    int Red = 0;
-    int Green = 0;
-    int Blue = 0;
 };
 
 Rgb ColourValue(Colour colour);

@@ -4,6 +4,7 @@
 // touches the screen itself; the Qt window renders Controls() after every handler and turns its
 // events into the calls below.
 
+#include "core/MouseButton.h"
 #include "core/WindowLayer.h"
 #include "dialogue/MirrorControls.h"
 #include "dialogue/MirrorState.h"
@@ -16,10 +17,10 @@
 
 namespace veyrant {
 
+class Backdrop;
 class DialogueEngine;
 class DialogueLibrary;
-
-enum class MouseButton { Left, Right, Middle };
+class LibraryDoor;
 
 class Mirror {
 public:
@@ -61,6 +62,13 @@ public:
 
     // The window closes: a running Dialogue goes into the work buffers, to reopen next time.
     void Unload();
+
+    // The Reader and the backdrop, which the composition root wires in after both exist.
+    void ConnectLibraries(LibraryDoor& door, Backdrop& back);
+    // The Reader has closed: the library buttons come up and this window comes back.
+    void ReaderClosed();
+    // The window was minimised, or came back from minimised; coming back ends the reading.
+    void WindowStateChanged(bool minimised);
 
 private:
     // Dialogue cycle.
@@ -166,6 +174,11 @@ private:
     DialogueBuffers Record() const;
     bool GuestMode() const;
 
+    // The library buttons and the backdrop.
+    void OpenLibrary(int library);
+    void PressLibraryButton(MirrorControl pressed);
+    void BackgroundPress();
+
     // Utilities.
     // A right-click's window, named in the box that refuses it while the Reader is open.
     void OpenWindowBehindWrite(WindowId window, const std::string& windowName);
@@ -185,6 +198,10 @@ private:
     WorkBuffers& buffers_;
     DialogueLibrary& library_;
     std::function<void()> painter_;
+    LibraryDoor* door_ = nullptr;
+    Backdrop* back_ = nullptr;
+    // The button last pressed on cmdKnow: the left opens Knowledge, the right Advanced Knowledge.
+    MouseButton knowButton_ = MouseButton::Left;
 
     MirrorControls controls_;
     MirrorState state_;

@@ -3,7 +3,7 @@
 // refused idea can only be mended in the direction that cures it.
 
 #include "core/Text.h"
-#include "dialogue/KeyCodes.h"
+#include "core/KeyCodes.h"
 #include "dialogue/Mirror.h"
 #include "dialogue/MirrorTexts.h"
 

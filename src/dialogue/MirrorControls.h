@@ -4,6 +4,7 @@
 // window's state: click handlers branch on a caption, and the background of txtResponse says
 // what is on show. The Qt window only copies this onto its widgets.
 
+#include "core/ControlState.h"
 #include "dialogue/Colour.h"
 
 #include <array>
@@ -40,25 +41,7 @@ inline constexpr int MirrorControlCount = static_cast<int>(MirrorControl::Window
 
 std::string_view ControlName(MirrorControl control);
 
-// Text is Windows-1252. Caret and selection count characters from 0, as the program's SelStart
-// does; geometry is in twips, already scaled.
-struct Control {
-    std::string Text;
-    long Caret = 0;
-    long SelectionLength = 0;
-    bool Visible = true;
-    bool Enabled = true;
-    bool PressedIn = false;
-    bool Underlined = false;
-    Colour Ink = Colour::Black;
-    Colour Background = Colour::White;
-    int Left = 0;
-    int Top = 0;
-    int Width = 0;
-    int Height = 0;
-    double FontSize = 0; // points
-    bool FontBold = false;
-};
+using Control = ControlState<Colour>;
 
 struct MirrorControls {
     std::array<Control, MirrorControlCount> Items{};

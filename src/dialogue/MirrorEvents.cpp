@@ -135,6 +135,15 @@ void Mirror::Click(MirrorControl control) {
     case MirrorControl::txtResponse:
         ClickResponse();
         break;
+    case MirrorControl::cmdHelp:
+        OpenLibrary(2);
+        break;
+    case MirrorControl::cmdRetrieve:
+        OpenLibrary(1);
+        break;
+    case MirrorControl::cmdKnow:
+        OpenLibrary(knowButton_ == MouseButton::Right ? 4 : 3);
+        break;
     case MirrorControl::txtSaved:
         ClickSaved();
         break;
@@ -155,6 +164,15 @@ void Mirror::MouseDown(MirrorControl control, MouseButton button) {
     } else if (control == MirrorControl::cmdRetrieve && button == MouseButton::Right &&
                C(control).Enabled) {
         OpenWindowBehindWrite(WindowId::Options, "Library Options");
+    } else if (control == MirrorControl::cmdKnow) {
+        knowButton_ = button;
+        PressLibraryButton(control);
+    } else if ((control == MirrorControl::cmdHelp || control == MirrorControl::cmdRetrieve) &&
+               button == MouseButton::Left) {
+        PressLibraryButton(control);
+    } else if ((control == MirrorControl::Window || control == MirrorControl::Panel1) &&
+               button == MouseButton::Left) {
+        BackgroundPress();
     }
 }
 

@@ -4,7 +4,7 @@
 #include "core/Clock.h"
 #include "core/Text.h"
 #include "dialogue/DialogueEngine.h"
-#include "dialogue/KeyCodes.h"
+#include "core/KeyCodes.h"
 #include "dialogue/Mirror.h"
 #include "dialogue/MirrorTexts.h"
 #include "dialogue/MirrorWorld.h"

@@ -4,7 +4,7 @@
 
 #include "shell/MirrorLayout.h"
 
-#include "dialogue/KeyCodes.h"
+#include "core/KeyCodes.h"
 #include "dialogue/Mirror.h"
 #include "dialogue/MirrorWorld.h"
 

@@ -5,7 +5,7 @@
 #include "core/Random.h"
 #include "core/Text.h"
 #include "dialogue/DialogueEngine.h"
-#include "dialogue/KeyCodes.h"
+#include "core/KeyCodes.h"
 #include "dialogue/Mirror.h"
 #include "dialogue/MirrorTexts.h"
 #include "dialogue/MirrorWorld.h"

@@ -1,7 +1,7 @@
 #include "ui/MirrorWindow.h"
 
 #include "core/Cp1252.h"
-#include "dialogue/KeyCodes.h"
+#include "core/KeyCodes.h"
 #include "shell/MirrorLayout.h"
 #include "shell/WindowPlacement.h"
 #include "ui/GuardedTextBox.h"
@@ -462,6 +462,15 @@ bool MirrorWindow::eventFilter(QObject* watched, QEvent* event) {
             Render();
         }
         break;
+    case QEvent::MouseButtonRelease:
+        // A right-click on Know opens the Advanced Knowledge Library; a button clicks only on
+        // the left.
+        if (control == MirrorControl::cmdKnow &&
+            static_cast<QMouseEvent*>(event)->button() == Qt::RightButton) {
+            mirror_.Click(control);
+            Render();
+        }
+        break;
     case QEvent::FocusIn:
         if (IsTextBox(control) && !rendering_) {
             mirror_.FocusGained(control);
@@ -488,6 +497,20 @@ bool MirrorWindow::eventFilter(QObject* watched, QEvent* event) {
         break;
     }
     return QWidget::eventFilter(watched, event);
+}
+
+void MirrorWindow::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::WindowStateChange) {
+        mirror_.WindowStateChanged(isMinimized());
+        Render();
+    } else if (event->type() == QEvent::ActivationChange && isActiveWindow() &&
+               app_.Windows.IsWindowMinimised(WindowId::Mirror)) {
+        // Where a window cannot really be minimised, coming to the front is coming back.
+        app_.Windows.RestoreWindow(WindowId::Mirror);
+        mirror_.WindowStateChanged(false);
+        Render();
+    }
+    QWidget::changeEvent(event);
 }
 
 void MirrorWindow::closeEvent(QCloseEvent* event) {

@@ -4,8 +4,8 @@
 // control; this window copies that state onto its widgets after each event, and turns the
 // widgets' events into the logic's handlers.
 
-#include "dialogue/Mirror.h"
 #include "app/Application.h"
+#include "dialogue/Mirror.h"
 
 #include <QWidget>
 #include <array>
@@ -32,6 +32,7 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    void changeEvent(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:

@@ -97,7 +97,8 @@ std::unique_ptr<QMessageBox> BuildMessageBox(const MessageBoxRequest& request) {
     return box;
 }
 
-QtWindowLayer::QtWindowLayer() = default;
+QtWindowLayer::QtWindowLayer()
+    : wayland_(QGuiApplication::platformName().startsWith(QStringLiteral("wayland"))) {}
 
 QtWindowLayer::~QtWindowLayer() {
     for (auto& [id, window] : windows_) {
@@ -120,6 +121,10 @@ QWidget* QtWindowLayer::Window(WindowId window) const {
 
 MessageAnswer QtWindowLayer::ShowMessage(const MessageBoxRequest& request) {
     const auto box = BuildMessageBox(request);
+    // Owned by the window in use, so the box closes back onto it.
+    if (QWidget* owner = QApplication::activeWindow()) {
+        box->setParent(owner, box->windowFlags());
+    }
     // A box over a busy pointer would show the hourglass over its buttons.
     const bool wasBusy = busy_;
     SetBusyPointer(false);
@@ -186,6 +191,9 @@ void QtWindowLayer::UnloadWindow(WindowId window) {
 void QtWindowLayer::ShowWindow(WindowId window) {
     LoadWindow(window);
     if (QWidget* widget = Window(window)) {
+        if (wayland_ && widget->isVisible()) {
+            widget->hide();
+        }
         widget->show();
         widget->raise();
         widget->activateWindow();
@@ -199,15 +207,31 @@ void QtWindowLayer::HideWindow(WindowId window) {
 }
 
 void QtWindowLayer::MinimiseWindow(WindowId window) {
+    if (wayland_) {
+        setAside_.insert(window);
+        return;
+    }
     if (QWidget* widget = Window(window)) {
         widget->showMinimized();
     }
 }
 
 void QtWindowLayer::RestoreWindow(WindowId window) {
+    if (wayland_) {
+        setAside_.erase(window);
+        return;
+    }
     if (QWidget* widget = Window(window)) {
         widget->showNormal();
     }
+}
+
+bool QtWindowLayer::IsWindowMinimised(WindowId window) const {
+    if (wayland_) {
+        return setAside_.count(window) > 0;
+    }
+    const QWidget* widget = Window(window);
+    return widget != nullptr && widget->isMinimized();
 }
 
 bool QtWindowLayer::IsWindowVisible(WindowId window) const {

@@ -11,6 +11,7 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <set>
 
 class QMessageBox;
 class QTimer;
@@ -49,6 +50,7 @@ public:
     void MinimiseWindow(WindowId window) override;
     void RestoreWindow(WindowId window) override;
     bool IsWindowVisible(WindowId window) const override;
+    bool IsWindowMinimised(WindowId window) const override;
     int ScreenWidthTwips() const override;
     int ScreenHeightTwips() const override;
     int TextWidthTwips(const std::string& face, double points, bool bold, bool italic,
@@ -69,6 +71,11 @@ private:
     std::function<std::string()> printFace_;
     bool busy_ = false;
     bool ended_ = false;
+    // A Wayland client can neither learn that it was brought back from minimised nor raise
+    // itself. There a window is only marked as set aside, staying where it is behind the newer
+    // window, and bringing an already shown window to the front maps it afresh.
+    bool wayland_ = false;
+    std::set<WindowId> setAside_;
 };
 
 // The program's Windows-1252 text as Qt shows it, with its CR LF line ends as plain breaks.

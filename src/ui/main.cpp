@@ -5,14 +5,17 @@
 #include "core/Random.h"
 #include "shell/AppFolder.h"
 #include "shell/Resize.h"
+#include "ui/BackWindow.h"
 #include "ui/BannerWindow.h"
 #include "ui/MirrorWindow.h"
 #include "ui/OptionsWindow.h"
 #include "ui/QtWindowLayer.h"
+#include "ui/ReaderWindow.h"
 #include "ui/ResizeWindow.h"
 #include "ui/UtilityWindow.h"
 
 #include <QApplication>
+#include <QPointer>
 #include <memory>
 
 int main(int argc, char** argv) {
@@ -58,6 +61,31 @@ int main(int argc, char** argv) {
         displaySize =
             std::make_unique<Resize>(app.UserSettings, windows, [&] { ExitProgram(app); });
         return new ResizeWindow(*displaySize, utilityScale());
+    });
+    // The Reader's logic is made afresh at each opening, before its window loads.
+    QPointer<ReaderWindow> readWindow;
+    windows.RegisterWindow(WindowId::Read, [&] {
+        readWindow = new ReaderWindow(app, *app.Read);
+        readWindow->OnClose = [&] { app.Links.CloseLibrary(); };
+        return readWindow.data();
+    });
+    QPointer<BackWindow> backWindow;
+    windows.RegisterWindow(WindowId::Back, [&] {
+        app.Back.Load();
+        backWindow = new BackWindow(app.Back);
+        return backWindow.data();
+    });
+    windows.SetTimerHandler(TimerId::ReadHover, [&] {
+        if (app.Read && readWindow) {
+            app.Read->TimerFired(TimerId::ReadHover);
+            readWindow->Render();
+        }
+    });
+    windows.SetTimerHandler(TimerId::BackTimer, [&] {
+        app.Back.TimerFired();
+        if (backWindow) {
+            backWindow->Render();
+        }
     });
     windows.SetTimerHandler(TimerId::MirrorTimer1, [&] { Timer1(app); });
     windows.SetTimerHandler(TimerId::MirrorHover, [&] {

@@ -1,4 +1,4 @@
-#include "dialogue/KeyCodes.h"
+#include "core/KeyCodes.h"
 #include "dialogue/MirrorDriver.h"
 
 #include <cmath>

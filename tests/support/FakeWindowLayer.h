@@ -30,6 +30,7 @@ public:
     void MinimiseWindow(WindowId window) override { Minimised.insert(window); }
     void RestoreWindow(WindowId window) override { Minimised.erase(window); }
     bool IsWindowVisible(WindowId window) const override { return Visible.count(window) > 0; }
+    bool IsWindowMinimised(WindowId window) const override { return Minimised.count(window) > 0; }
     int ScreenWidthTwips() const override { return ScreenWidth; }
     int ScreenHeightTwips() const override { return ScreenHeight; }
     int TextWidthTwips(const std::string& face, double points, bool bold, bool italic,

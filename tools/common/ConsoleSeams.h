@@ -30,6 +30,7 @@ public:
     void MinimiseWindow(WindowId) override {}
     void RestoreWindow(WindowId) override {}
     bool IsWindowVisible(WindowId) const override { return false; }
+    bool IsWindowMinimised(WindowId) const override { return false; }
     int ScreenWidthTwips() const override { return 1920 * TwipsPerPixel; }
     int ScreenHeightTwips() const override { return 1080 * TwipsPerPixel; }
     int TextWidthTwips(const std::string&, double, bool, bool,

@@ -11,6 +11,7 @@ inline constexpr int Enter = 13;
 inline constexpr int Shift = 16;
 inline constexpr int Control = 17;
 inline constexpr int Escape = 27;
+inline constexpr int Space = 32;
 inline constexpr int PageUp = 33;
 inline constexpr int PageDown = 34;
 inline constexpr int End = 35;

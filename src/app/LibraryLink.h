@@ -1,0 +1,31 @@
+#pragma once
+
+// The wiring between the Write window and the Reader, which never include each other: the
+// Write window opens libraries through the door, the Reader reaches Read.ini and tells the
+// Write window it has closed through the host.
+
+#include "dialogue/LibraryDoor.h"
+#include "reader/ReaderHost.h"
+
+namespace veyrant {
+
+struct Application;
+
+class LibraryLink final : public LibraryDoor, public ReaderHost {
+public:
+    explicit LibraryLink(Application& app) : app_(app) {}
+
+    void BeginOpening() override;
+    int OpenLibrary(int library) override;
+    void CloseLibrary() override;
+    int ReaderOpen() const override;
+
+    void LoadReadSettings() override;
+    void SaveReadSettings() override;
+    void LibraryClosed() override;
+
+private:
+    Application& app_;
+};
+
+} // namespace veyrant

@@ -1,0 +1,151 @@
+// The Dialogue Library in the Reader: the list of saved Dialogues, latest first, each row cut
+// to the list's width, and one Dialogue read from its two files.
+
+#include "core/DateFormat.h"
+#include "core/ProgramError.h"
+#include "core/Text.h"
+#include "core/WholeFile.h"
+#include "reader/Reader.h"
+#include "reader/ReaderTexts.h"
+#include "storage/LibraryFileName.h"
+
+#include <algorithm>
+
+namespace veyrant {
+
+namespace {
+
+constexpr long LongestListText = 110;
+constexpr long ShortestCut = 10;
+
+// What follows the first tab of an inspiration file.
+std::string ListedInspiration(const std::string& file) {
+    const auto tab = file.find('\t');
+    return tab == std::string::npos ? "< format error >" : file.substr(tab + 1);
+}
+
+} // namespace
+
+std::string Reader::FitToList(const std::string& text) const {
+    const auto& list = C(ReaderControl::List1);
+    const auto width = [&](const std::string& shown) {
+        return world_.Windows.TextWidthTwips(world_.Fonts.Main, list.FontSize, list.FontBold, false,
+                                             shown);
+    };
+    if (width("<") + width(text) <= list.Width) {
+        return text;
+    }
+    long keep = std::min<long>(static_cast<long>(text.size()), LongestListText);
+    std::string cut = text;
+    while (true) {
+        cut = Left(cut, keep);
+        if (width("...<") + width(cut) <= list.Width) {
+            return Trim(cut) + "...";
+        }
+        keep -= 2;
+        if (keep <= ShortestCut) {
+            return cut;
+        }
+    }
+}
+
+void Reader::BuildDialogueList() {
+    const auto& listing = world_.Library.Listing();
+    const int count = listing.LibraryCount;
+    if (count < 1) {
+        return;
+    }
+    state_.LibraryListText.assign(static_cast<std::size_t>(count) + 1, std::string());
+    for (int index = 1; index <= count; ++index) {
+        const auto slot = static_cast<std::size_t>(index);
+        std::string inspiration;
+        try {
+            inspiration = ReadWholeFile(world_.Folder.Isp() / listing.LibraryFiles[slot]);
+        } catch (const ProgramError&) {
+            // A file gone since the scan lists as a damaged one would.
+        }
+        state_.LibraryListText[slot] =
+            FitToList(listing.LibrarySortDates[slot] + " -- " + ListedInspiration(inspiration));
+    }
+}
+
+void Reader::OpenDialogueList() {
+    const auto& listing = world_.Library.Listing();
+    const auto& limits = world_.UserSettings;
+    const int count = listing.LibraryCount;
+    auto& rows = controls_.List.Rows;
+    rows.clear();
+    controls_.List.Selected = -1;
+    state_.LibraryListOrder.assign(static_cast<std::size_t>(count) + 1, 0);
+    for (int index = count; index >= 1; --index) {
+        state_.LibraryListOrder[static_cast<std::size_t>(count - index + 1)] = index;
+        rows.push_back(state_.LibraryListText[static_cast<std::size_t>(index)]);
+    }
+    C(ReaderControl::txtSpin).Text = ReadInstructions(ReadLibraries::Dialogue);
+    C(ReaderControl::txtSpin).Background = ReaderColour::IndexText;
+
+    const auto label = [&](int index) {
+        return listing.LibraryLabels[static_cast<std::size_t>(index)];
+    };
+    if (count == 0) {
+        controls_.Title = "Veyrant Dialogue Library -- No Dialogues Saved";
+    } else {
+        const std::string labels = count > 1 ? label(count) + " -- " + label(1) : label(1);
+        controls_.Title = "Veyrant Dialogue Library -- " + std::to_string(count) + "/" +
+                          std::to_string(limits.MaxLibraryFiles) + " Saved/Max -- " + labels +
+                          " -- " + std::to_string(listing.OldestAge) + "/" +
+                          std::to_string(limits.MaxLibraryDays) + " Days Old/Max";
+    }
+    world_.Values.LibraryName = LibraryLongName(ReadLibraries::Dialogue);
+    state_.ReopenKind = ReopenKinds::Dialogue;
+    state_.ListPos = -1;
+    state_.DialogueIndexShown = 1;
+    SetButtons(1);
+    C(ReaderControl::cmdNext).Text = "Latest";
+    if (count < 1) {
+        C(ReaderControl::txtSpin).Text = EmptyLibraryInstructions();
+        SetWindowLayout(0);
+        state_.NoteText = "There are no Dialogues saved in the Library.";
+        C(ReaderControl::List1).Background = ReaderColour::ListEmpty;
+    } else {
+        SetWindowLayout(world_.UserSettings.WindowMode[ReadLibraries::Dialogue]);
+        state_.NoteText =
+            "Select a Dialogue. It will be displayed in the currently-set window mode.";
+    }
+    ShowNote();
+}
+
+void Reader::LoadDialogue(int position) {
+    const auto& listing = world_.Library.Listing();
+    const std::string& name = listing.LibraryFiles[static_cast<std::size_t>(
+        state_.LibraryListOrder[static_cast<std::size_t>(position)])];
+    try {
+        state_.InspirationBody = ReadWholeFile(world_.Folder.Isp() / name);
+        state_.DialogueBody = ReadWholeFile(world_.Folder.Dlg() / name);
+        state_.DialogueDate = FileDateValue(ParseFileName(name).FileDateText);
+    } catch (const ProgramError&) {
+        // The scan listed it; a file taken away since shows as empty rather than stopping the
+        // Reader.
+        state_.InspirationBody.clear();
+        state_.DialogueBody.clear();
+    }
+    state_.DialogueAge = static_cast<std::int16_t>(
+        RoundDays(DayNumber(world_.Clock.Now()) - DayNumber(state_.DialogueDate)));
+}
+
+void Reader::ShowDialogue(int position) {
+    const auto& listing = world_.Library.Listing();
+    const int index = state_.LibraryListOrder[static_cast<std::size_t>(position)];
+    controls_.Title = "Veyrant Dialogue -- " + std::to_string(index) + "/" +
+                      std::to_string(listing.LibraryCount) + " -- " +
+                      listing.LibraryDates[static_cast<std::size_t>(index)] + " -- " +
+                      std::to_string(state_.DialogueAge) + "/" +
+                      std::to_string(world_.UserSettings.MaxLibraryDays) + " Days Old/Max";
+    auto& spin = C(ReaderControl::txtSpin);
+    spin.Text = FormatDate(state_.DialogueDate, "dddd, h:nn am/pm, mmmm d, yyyy") +
+                "\r\n\r\nInspiration\r\n\r\n" + state_.InspirationBody + "\r\n\r\nDialogue" +
+                state_.DialogueBody;
+    spin.Background = ReaderColour::ReadingText;
+}
+
+} // namespace veyrant

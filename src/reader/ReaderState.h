@@ -1,0 +1,49 @@
+#pragma once
+
+// The state of one opening of the Read window, named as the program names it. It is made afresh
+// at each load; what outlives the window is in ReaderValues.
+
+#include "core/DateTime.h"
+#include "reader/ReaderColour.h"
+#include "reader/ReaderControls.h"
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace veyrant {
+
+namespace ReopenKinds {
+inline constexpr std::int16_t Dialogue = 3;
+inline constexpr std::int16_t Information = 4;
+inline constexpr std::int16_t Knowledge = 5;
+inline constexpr std::int16_t Advanced = 6;
+} // namespace ReopenKinds
+
+struct ReaderState {
+    std::int16_t ListPos = -1;
+    std::int16_t SearchActive = 0;
+    std::int16_t HitCount = 0;
+    std::int16_t DialogueIndexShown = 0;
+    std::int16_t IndexMode = 0; // 0 Index-1, the Sections; 1 Index-2, every row
+    std::int16_t ReopenKind = 0;
+    std::string DisplayText;
+    std::string DialogueBody;
+    std::string InspirationBody;
+    DateTime DialogueDate{};
+    std::int16_t DialogueAge = 0;
+    std::string NoteText;
+    ReaderColour NoteColor = ReaderColour::Black;
+    std::string KeyHint;
+    // The listed text of each saved Dialogue, 1 to LibraryCount, cut to the list's width.
+    std::vector<std::string> LibraryListText;
+    // List position from 1 to the Dialogue's index in the Library's tables, latest first.
+    std::vector<int> LibraryListOrder;
+
+    ReaderControl HoverButton = ReaderControl::cmdExitM;
+    std::string HoverText;
+    std::int16_t HoverTicks = 0;
+    std::int16_t SpinRightClick = 0;
+};
+
+} // namespace veyrant

@@ -1,0 +1,22 @@
+#pragma once
+
+// The Read window's standing texts: library names, the instruction texts shown while a list is
+// in use, and the key lines.
+
+#include <string>
+
+namespace veyrant {
+
+// "Veyrant Information Library" and the like, by ReadLibrary 1 to 4.
+std::string LibraryLongName(int library);
+// The instruction text of a library's index, heading first.
+std::string ReadInstructions(int library);
+// What the Dialogue Library shows when no Dialogue is saved.
+std::string EmptyLibraryInstructions();
+
+inline constexpr const char* KeyHintDialogue =
+    "F1=Help  SpaceBar=Window  Page/ArrowUp=Later  Page/ArrowDown=Earlier  Esc=Index";
+inline constexpr const char* KeyHintLibrary =
+    "F1=Help  SpaceBar=Window  Page/ArrowUp=Prior  Page/ArrowDown=Next  Esc=Index/Cancel";
+
+} // namespace veyrant

@@ -1,0 +1,37 @@
+#include "ui/BackWindow.h"
+
+#include <QGuiApplication>
+#include <QLabel>
+#include <QScreen>
+
+namespace veyrant {
+
+BackWindow::BackWindow(Backdrop& backdrop) : QWidget(nullptr), backdrop_(backdrop) {
+    setWindowTitle(QString::fromLatin1(Backdrop::Title));
+    setMouseTracking(true);
+    setStyleSheet(QStringLiteral("BackWindow, QWidget { background: rgb(92, 100, 122); }"));
+    setGeometry(QGuiApplication::primaryScreen()->availableGeometry());
+    label1_ = new QLabel(QString::fromLatin1(Backdrop::HintText), this);
+    label1_->setStyleSheet(QStringLiteral("color: rgb(236, 236, 242); background: transparent; "
+                                          "font-size: 14pt;"));
+    label1_->setAttribute(Qt::WA_TransparentForMouseEvents);
+    label1_->adjustSize();
+    label1_->move(24, 24);
+    Render();
+}
+
+void BackWindow::Render() {
+    label1_->setVisible(backdrop_.HintShowing());
+}
+
+void BackWindow::mouseMoveEvent(QMouseEvent*) {
+    backdrop_.MouseMove();
+    Render();
+}
+
+void BackWindow::mousePressEvent(QMouseEvent*) {
+    backdrop_.MouseDown();
+    Render();
+}
+
+} // namespace veyrant

@@ -1,0 +1,370 @@
+#include "ui/ReaderWindow.h"
+
+#include "core/KeyCodes.h"
+#include "shell/WindowPlacement.h"
+#include "ui/QtText.h"
+#include "ui/QtWindowLayer.h"
+
+#include <QCloseEvent>
+#include <QFrame>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QStyle>
+#include <cmath>
+
+namespace veyrant {
+
+namespace {
+
+constexpr int FrameWidth = 90;
+constexpr int FrameHeight = 405;
+
+int Pixels(int twips) {
+    return static_cast<int>(std::lround(static_cast<double>(twips) / TwipsPerPixel));
+}
+
+QString Css(ReaderColour colour) {
+    const Rgb rgb = ColourValue(colour);
+    return QStringLiteral("rgb(%1, %2, %3)").arg(rgb.Red).arg(rgb.Green).arg(rgb.Blue);
+}
+
+const char* const ReaderStyle = R"(
+QPushButton { border: 1px solid rgb(150, 150, 160); border-radius: 3px; padding: 0 6px;
+              background: rgb(214, 214, 220); }
+QPushButton:pressed, QPushButton[pressedIn="true"] { background: rgb(176, 178, 192);
+              border-top: 2px solid rgb(90, 92, 110); }
+QPushButton[hoverMark="true"] { color: rgb(0, 0, 192); text-decoration: underline; }
+QPushButton:disabled { color: rgb(150, 150, 156); border-style: inset; }
+QLabel#txtNote { border: 1px solid rgb(160, 160, 170); padding: 0 6px; }
+QListWidget, QPlainTextEdit { border: 1px solid rgb(150, 150, 160); color: black; }
+)";
+
+// The Reader's keys by the code the logic knows them by; 0 for any other key.
+int ReaderKey(const QKeyEvent* event) {
+    switch (event->key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        return KeyCode::Enter;
+    case Qt::Key_Escape:
+        return KeyCode::Escape;
+    case Qt::Key_Space:
+        return KeyCode::Space;
+    case Qt::Key_F1:
+        return KeyCode::F1;
+    case Qt::Key_PageUp:
+        return KeyCode::PageUp;
+    case Qt::Key_PageDown:
+        return KeyCode::PageDown;
+    case Qt::Key_Up:
+        return KeyCode::Up;
+    case Qt::Key_Down:
+        return KeyCode::Down;
+    default:
+        return 0;
+    }
+}
+
+// A row's tabs indent it: the list has no tab stops of its own.
+QString ListRowText(const std::string& row) {
+    QString shown = ToQt(row);
+    const auto tab = shown.indexOf(QLatin1Char('\t'));
+    if (tab < 0) {
+        return shown;
+    }
+    QString number = shown.left(tab);
+    QString title = shown.mid(tab + 1);
+    int depth = 0;
+    while (title.startsWith(QLatin1Char('\t'))) {
+        title.remove(0, 1);
+        ++depth;
+    }
+    return number.leftJustified(5, QLatin1Char(' ')) + QString(depth * 4, QLatin1Char(' ')) + title;
+}
+
+MouseButton ButtonOf(const QMouseEvent* event) {
+    return event->button() == Qt::RightButton ? MouseButton::Right : MouseButton::Left;
+}
+
+} // namespace
+
+ReaderWindow::ReaderWindow(Application& app, Reader& reader)
+    : QWidget(nullptr), app_(app), reader_(reader) {
+    setObjectName(QStringLiteral("Read"));
+    setStyleSheet(QString::fromLatin1(ReaderStyle));
+    setFocusPolicy(Qt::StrongFocus);
+    Build();
+    reader_.SetPainter([this] { Render(); });
+    setFixedSize(Pixels(reader_.WindowWidth() - FrameWidth),
+                 Pixels(reader_.WindowHeight() - FrameHeight));
+    const ScreenPoint place =
+        CentredPlace(app.Windows.ScreenWidthTwips(), app.Windows.ScreenHeightTwips(),
+                     reader_.WindowWidth(), reader_.WindowHeight(), 2, 2);
+    move(Pixels(place.Left), Pixels(place.Top));
+    Render();
+}
+
+void ReaderWindow::Build() {
+    auto* panel = new QFrame(this);
+    widgets_[Index(ReaderControl::Panel1)] = panel;
+    Watch(panel, ReaderControl::Panel1);
+    widgets_[Index(ReaderControl::Window)] = this;
+    Watch(this, ReaderControl::Window);
+    // txtCursor is the window itself: it holds the focus and shows nothing.
+    widgets_[Index(ReaderControl::txtCursor)] = this;
+
+    list_ = new QListWidget(this);
+    list_->setFocusPolicy(Qt::NoFocus);
+    list_->setSelectionMode(QAbstractItemView::SingleSelection);
+    widgets_[Index(ReaderControl::List1)] = list_;
+    Watch(list_, ReaderControl::List1);
+    Watch(list_->viewport(), ReaderControl::List1);
+    connect(list_, &QListWidget::itemClicked, this, [this](QListWidgetItem* item) {
+        reader_.ListRowClicked(list_->row(item));
+        Render();
+    });
+
+    spin_ = new QPlainTextEdit(this);
+    spin_->setReadOnly(true);
+    spin_->setFocusPolicy(Qt::NoFocus);
+    spin_->setTextInteractionFlags(Qt::NoTextInteraction);
+    spin_->setContextMenuPolicy(Qt::NoContextMenu);
+    spin_->document()->setDocumentMargin(8);
+    widgets_[Index(ReaderControl::txtSpin)] = spin_;
+    Watch(spin_, ReaderControl::txtSpin);
+    Watch(spin_->viewport(), ReaderControl::txtSpin);
+
+    auto* note = new QLabel(this);
+    note->setObjectName(QStringLiteral("txtNote"));
+    note->setTextFormat(Qt::PlainText);
+    note->setWordWrap(true);
+    widgets_[Index(ReaderControl::txtNote)] = note;
+    Watch(note, ReaderControl::txtNote);
+
+    auto* search = new QLineEdit(this);
+    search->setContextMenuPolicy(Qt::NoContextMenu);
+    widgets_[Index(ReaderControl::txtSearch)] = search;
+    Watch(search, ReaderControl::txtSearch);
+
+    for (int index = 0; index < ReaderControlCount; ++index) {
+        const auto control = static_cast<ReaderControl>(index);
+        if (!IsReaderButton(control)) {
+            continue;
+        }
+        auto* button = new QPushButton(this);
+        button->setFocusPolicy(Qt::NoFocus);
+        widgets_[Index(control)] = button;
+        Watch(button, control);
+        connect(button, &QPushButton::pressed, this, [this, control] {
+            reader_.MouseDown(control, MouseButton::Left);
+            Render();
+        });
+        connect(button, &QPushButton::released, this, [this, control] {
+            reader_.MouseUp(control, MouseButton::Left);
+            Render();
+        });
+        connect(button, &QPushButton::clicked, this, [this, control] {
+            reader_.Click(control);
+            Render();
+        });
+    }
+}
+
+void ReaderWindow::Watch(QWidget* widget, ReaderControl control) {
+    widget->setProperty("readerControl", static_cast<int>(control));
+    widget->setMouseTracking(true);
+    widget->installEventFilter(this);
+}
+
+void ReaderWindow::Render() {
+    if (rendering_) {
+        return;
+    }
+    rendering_ = true;
+    const bool force = !rendered_;
+    for (int index = 0; index < ReaderControlCount; ++index) {
+        RenderControl(static_cast<ReaderControl>(index), force);
+    }
+    RenderList(force);
+    RenderText(force);
+    const auto& controls = reader_.Controls();
+    if (force || controls.Title != shown_.Title) {
+        setWindowTitle(ToQt(controls.Title));
+        shown_.Title = controls.Title;
+    }
+    if (controls.Focus == ReaderControl::txtSearch) {
+        Widget(ReaderControl::txtSearch)->setFocus(Qt::OtherFocusReason);
+    } else if (!hasFocus()) {
+        setFocus(Qt::OtherFocusReason);
+    }
+    rendered_ = true;
+    rendering_ = false;
+}
+
+void ReaderWindow::RenderControl(ReaderControl control, bool force) {
+    if (control == ReaderControl::Window || control == ReaderControl::txtCursor) {
+        return;
+    }
+    const ReaderItem& now = reader_.Controls()[control];
+    ReaderItem& was = shown_[control];
+    QWidget* widget = Widget(control);
+    if (force || now.Left != was.Left || now.Top != was.Top || now.Width != was.Width ||
+        now.Height != was.Height) {
+        widget->setGeometry(Pixels(now.Left), Pixels(now.Top), Pixels(now.Width),
+                            Pixels(now.Height));
+    }
+    if (force || now.Enabled != was.Enabled) {
+        widget->setEnabled(now.Enabled);
+    }
+    if (force || now.FontSize != was.FontSize || now.FontBold != was.FontBold) {
+        const bool reading = control == ReaderControl::List1 || control == ReaderControl::txtSpin;
+        QFont font = reading ? QFont(ToQt(app_.Fonts.Main)) : this->font();
+        if (now.FontSize > 0) {
+            font.setPointSizeF(now.FontSize);
+        }
+        font.setBold(now.FontBold);
+        widget->setFont(font);
+        if (control == ReaderControl::txtSpin) {
+            spin_->setTabStopDistance(QFontMetricsF(font).horizontalAdvance(QLatin1Char(' ')) * 4);
+        }
+    }
+    if (force || now.Background != was.Background || now.Ink != was.Ink) {
+        if (control == ReaderControl::List1 || control == ReaderControl::txtSpin) {
+            widget->setStyleSheet(QStringLiteral("background: %1;").arg(Css(now.Background)));
+        } else if (control == ReaderControl::txtNote) {
+            widget->setStyleSheet(QStringLiteral("color: %1; background: %2;")
+                                      .arg(Css(now.Ink), Css(ReaderColour::White)));
+        } else if (control == ReaderControl::txtSearch) {
+            widget->setStyleSheet(QStringLiteral("color: %1; background: %2;")
+                                      .arg(Css(now.Ink), Css(now.Background)));
+        } else if (control == ReaderControl::Panel1) {
+            widget->setStyleSheet(QStringLiteral("background: %1;").arg(Css(now.Background)));
+        }
+    }
+    if (auto* button = qobject_cast<QPushButton*>(widget)) {
+        if (force || now.Text != was.Text) {
+            button->setText(ToQt(now.Text));
+        }
+        if (force || now.PressedIn != was.PressedIn || now.Ink != was.Ink) {
+            button->setProperty("pressedIn", now.PressedIn);
+            button->setProperty("hoverMark", now.Ink == ReaderColour::HoverInk);
+            button->style()->unpolish(button);
+            button->style()->polish(button);
+        }
+    } else if (auto* label = qobject_cast<QLabel*>(widget)) {
+        if (force || now.Text != was.Text) {
+            label->setText(ToQt(now.Text));
+        }
+    } else if (auto* line = qobject_cast<QLineEdit*>(widget)) {
+        if (force || now.Text != was.Text) {
+            line->setText(ToQt(now.Text));
+        }
+    }
+    if (force || now.Visible != was.Visible) {
+        widget->setVisible(now.Visible);
+    }
+    const std::string text = was.Text;
+    was = now;
+    // The text box's text is copied by RenderText, which compares it first.
+    if (control == ReaderControl::txtSpin) {
+        was.Text = text;
+    }
+}
+
+void ReaderWindow::RenderList(bool force) {
+    const auto& now = reader_.Controls().List;
+    auto& was = shown_.List;
+    if (force || now.Rows != was.Rows) {
+        list_->clear();
+        for (const auto& row : now.Rows) {
+            list_->addItem(ListRowText(row));
+        }
+    }
+    if (force || now.Rows != was.Rows || now.Selected != was.Selected || now.TopRow != was.TopRow) {
+        const QSignalBlocker quiet(list_);
+        list_->setCurrentRow(now.Selected);
+        if (now.Selected < 0) {
+            list_->clearSelection();
+        }
+        list_->verticalScrollBar()->setValue(now.TopRow);
+        if (QListWidgetItem* top = list_->item(now.TopRow)) {
+            list_->scrollToItem(top, QAbstractItemView::PositionAtTop);
+        }
+    }
+    was = now;
+}
+
+void ReaderWindow::RenderText(bool force) {
+    const auto& now = reader_.Controls()[ReaderControl::txtSpin];
+    auto& was = shown_[ReaderControl::txtSpin];
+    if (force || now.Text != was.Text) {
+        spin_->setPlainText(ToQt(now.Text));
+        spin_->verticalScrollBar()->setValue(0);
+    }
+    was.Text = now.Text;
+}
+
+void ReaderWindow::keyPressEvent(QKeyEvent* event) {
+    const int key = ReaderKey(event);
+    if (key != 0 && reader_.KeyDown(key) == 0) {
+        Render();
+        event->accept();
+        return;
+    }
+    Render();
+    event->accept();
+}
+
+bool ReaderWindow::eventFilter(QObject* watched, QEvent* event) {
+    const QVariant property = watched->property("readerControl");
+    if (!property.isValid()) {
+        return QWidget::eventFilter(watched, event);
+    }
+    const auto control = static_cast<ReaderControl>(property.toInt());
+    switch (event->type()) {
+    case QEvent::MouseMove:
+        reader_.MouseMove(control);
+        Render();
+        break;
+    case QEvent::MouseButtonPress: {
+        auto* mouse = static_cast<QMouseEvent*>(event);
+        if (control == ReaderControl::txtSpin || control == ReaderControl::Window ||
+            control == ReaderControl::Panel1 || control == ReaderControl::txtSearch ||
+            (IsReaderButton(control) && mouse->button() == Qt::RightButton)) {
+            reader_.MouseDown(control, ButtonOf(mouse));
+            Render();
+            return control == ReaderControl::txtSpin || control == ReaderControl::txtSearch;
+        }
+        break;
+    }
+    case QEvent::MouseButtonRelease:
+        if (control == ReaderControl::txtSpin) {
+            reader_.Click(control);
+            Render();
+            return true;
+        }
+        break;
+    case QEvent::KeyPress:
+        if (watched != this) {
+            keyPressEvent(static_cast<QKeyEvent*>(event));
+            return true;
+        }
+        break;
+    default:
+        break;
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+void ReaderWindow::closeEvent(QCloseEvent* event) {
+    event->ignore();
+    if (OnClose) {
+        OnClose();
+    }
+}
+
+} // namespace veyrant

@@ -1,0 +1,56 @@
+#pragma once
+
+// The Read window on the screen. The logic (Reader) holds every rule and the state of every
+// control; this window copies that state onto its widgets after each event, and turns the
+// widgets' events into the logic's handlers. Keys go to the window itself, which stands for
+// txtCursor, so no caret ever shows.
+
+#include "app/Application.h"
+#include "reader/Reader.h"
+
+#include <QWidget>
+#include <array>
+#include <functional>
+
+class QListWidget;
+class QPlainTextEdit;
+
+namespace veyrant {
+
+class ReaderWindow final : public QWidget {
+public:
+    ReaderWindow(Application& app, Reader& reader);
+
+    // Copies the logic's state onto the widgets, touching only what changed.
+    void Render();
+
+    QWidget* Widget(ReaderControl control) const { return widgets_[Index(control)]; }
+
+    // Runs when the user closes the window.
+    std::function<void()> OnClose;
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    static std::size_t Index(ReaderControl control) { return static_cast<std::size_t>(control); }
+
+    void Build();
+    void Watch(QWidget* widget, ReaderControl control);
+    void RenderControl(ReaderControl control, bool force);
+    void RenderList(bool force);
+    void RenderText(bool force);
+
+    Application& app_;
+    Reader& reader_;
+    std::array<QWidget*, ReaderControlCount> widgets_{};
+    QListWidget* list_ = nullptr;
+    QPlainTextEdit* spin_ = nullptr;
+    ReaderControls shown_;
+    bool rendered_ = false;
+    bool rendering_ = false;
+};
+
+} // namespace veyrant

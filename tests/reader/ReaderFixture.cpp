@@ -1,0 +1,79 @@
+#include "ReaderFixture.h"
+
+#include "shell/DisplayScale.h"
+
+#include <sstream>
+
+namespace veyrant::testing {
+
+FixedLibrary LibraryOf(const std::vector<std::string>& titles) {
+    FixedLibrary library;
+    library.LastRow = static_cast<std::int16_t>(titles.size() - 1);
+    library.Titles = titles;
+    for (std::size_t row = 0; row < titles.size(); ++row) {
+        library.Texts.push_back("\tText of row " + std::to_string(row) + ".\r\n");
+    }
+    library.RecordWidth = 40;
+    BuildLibraryIndex(library);
+    return library;
+}
+
+FixedLibrary InformationCatalogue() {
+    std::istringstream catalogue(ReadWholeFile(std::filesystem::path(VEYRANT_TEST_DATA) / ".." /
+                                               ".." / "data" / "libraries" / "catalogue" /
+                                               "information.txt"));
+    std::vector<std::string> titles;
+    std::string line;
+    while (std::getline(catalogue, line)) {
+        if (line.size() > 4 && line[0] == '[') {
+            titles.push_back(std::string(static_cast<std::size_t>(line[1] - '0'), '\t') +
+                             line.substr(4));
+        }
+    }
+    return LibraryOf(titles);
+}
+
+ReaderFixture::ReaderFixture() {
+    std::filesystem::create_directories(Folder.Exe());
+    App.UserSettings.DisplayOption = 1;
+    SetDisplayScale(1, App.Scale);
+    App.Libraries.InfoLib = InformationCatalogue();
+    App.Libraries.KnowLib =
+        LibraryOf({"< First >", "\tA", "\t\tA1", "\tB", "< Second >", "\tC", "< Third >"});
+    App.Libraries.AdvLib = LibraryOf({"< Adv One >", "\tX", "\tY"});
+    App.Write = std::make_unique<Mirror>(App.WriteWorld(), App.Replies, App.Buffers, App.Library);
+    App.Write->ConnectLibraries(App.Links, App.Back);
+}
+
+void ReaderFixture::Open(int library) {
+    App.Links.BeginOpening();
+    App.Links.OpenLibrary(library);
+}
+
+std::string ReaderFixture::Line(ReaderControl control) {
+    const std::string name = std::string(ControlName(control)) + ": ";
+    std::istringstream dump(Read().Dump());
+    std::string line;
+    while (std::getline(dump, line)) {
+        if (line.rfind(name, 0) == 0) {
+            return line.substr(name.size());
+        }
+    }
+    return "(hidden)";
+}
+
+void ReaderFixture::Key(int keyCode) {
+    Read().KeyDown(keyCode);
+}
+
+void ReaderFixture::SaveDialogue(const DateTime& when, const std::string& inspiration) {
+    std::filesystem::create_directories(Folder.Isp());
+    std::filesystem::create_directories(Folder.Dlg());
+    const std::string name = MakeFileName(when);
+    WriteWholeFile(Folder.Isp() / name, inspiration);
+    WriteWholeFile(Folder.Dlg() / name, "\r\n\r\n\t\x93Hello.\x94\r\n\tA reply.");
+    Clock.FileDates[Folder.Isp() / name] = when;
+    Clock.FileDates[Folder.Dlg() / name] = when;
+}
+
+} // namespace veyrant::testing

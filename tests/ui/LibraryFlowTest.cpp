@@ -1,0 +1,94 @@
+// The Write window opens each library in the Read window and, when the user comes back to it,
+// the Read window closes; on X11 through minimise and restore, on Wayland through activation.
+
+#include "app/Application.h"
+#include "core/Random.h"
+#include "engine/EngineFiles.h"
+#include "reader/FixedLibrary.h"
+#include "shell/DisplayScale.h"
+#include "support/FakeClock.h"
+#include "support/TempFolder.h"
+#include "ui/MirrorWindow.h"
+#include "ui/QtWindowLayer.h"
+#include "ui/ReaderWindow.h"
+
+#include <QPointer>
+#include <QPushButton>
+#include <QtTest>
+#include <memory>
+
+using namespace veyrant;
+
+class LibraryFlowTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void eachLibraryOpensAndClosesWhenTheWriteWindowComesBack() {
+        testing::TempFolder temp;
+        testing::FakeClock clock;
+        Random draws;
+        QtWindowLayer windows;
+        Application app(AppFolder{temp / "app"}, temp / "program", clock, draws, windows);
+        SetDisplayScale(1, app.Scale);
+        InstallEngineFiles(app.Folder);
+        app.Engine.LoadSystem(app.Folder);
+        app.Engine.SeedSeries();
+        LoadLibraries(app.Libraries);
+        for (auto* library :
+             {&app.Libraries.InfoLib, &app.Libraries.KnowLib, &app.Libraries.AdvLib}) {
+            BuildLibraryIndex(*library);
+        }
+        app.Write =
+            std::make_unique<Mirror>(app.WriteWorld(), app.Replies, app.Buffers, app.Library);
+        app.Write->ConnectLibraries(app.Links, app.Back);
+        QPointer<MirrorWindow> write;
+        windows.RegisterWindow(WindowId::Mirror, [&] {
+            write = new MirrorWindow(app, *app.Write);
+            return write.data();
+        });
+        QPointer<ReaderWindow> read;
+        windows.RegisterWindow(WindowId::Read, [&] {
+            read = new ReaderWindow(app, *app.Read);
+            return read.data();
+        });
+        app.Write->StartWindow();
+        windows.ShowWindow(WindowId::Mirror);
+        write->Render();
+
+        const struct {
+            MirrorControl Button;
+            Qt::MouseButton Mouse;
+            const char* Title;
+        } cases[] = {
+            {MirrorControl::cmdHelp, Qt::LeftButton, "Veyrant Information Library"},
+            {MirrorControl::cmdKnow, Qt::LeftButton, "Veyrant Knowledge Library"},
+            {MirrorControl::cmdKnow, Qt::RightButton, "Veyrant Advanced Knowledge Library"},
+            {MirrorControl::cmdRetrieve, Qt::LeftButton,
+             "Veyrant Dialogue Library -- No Dialogues Saved"},
+        };
+        for (const auto& c : cases) {
+            QTest::mouseClick(write->Widget(c.Button), c.Mouse);
+            QVERIFY(read);
+            QCOMPARE(read->windowTitle(), QString::fromLatin1(c.Title));
+            QVERIFY(read->isVisible());
+            QVERIFY(windows.IsWindowMinimised(WindowId::Mirror));
+            QTest::keyClick(read.data(), Qt::Key_Down);
+            QVERIFY(read->windowTitle() != QString::fromLatin1(c.Title) ||
+                    c.Button == MirrorControl::cmdRetrieve);
+
+            // The user comes back to the Write window.
+            if (write->isMinimized()) {
+                write->showNormal();
+            }
+            QApplication::setActiveWindow(write);
+            QTRY_VERIFY(!read || !read->isVisible());
+            QCOMPARE(app.Reading.ReaderOpen, std::int16_t{0});
+            QVERIFY(!windows.IsWindowMinimised(WindowId::Mirror));
+            QApplication::setActiveWindow(nullptr);
+        }
+        QVERIFY(std::filesystem::exists(app.Folder.Exe() / "Read.ini"));
+    }
+};
+
+QTEST_MAIN(LibraryFlowTest)
+#include "LibraryFlowTest.moc"

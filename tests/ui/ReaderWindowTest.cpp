@@ -1,0 +1,171 @@
+// The Read window on a real (offscreen) screen: each library opens with the program's own
+// content, and the keys step through it as the user would.
+
+#include "ui/ReaderWindow.h"
+
+#include "app/Application.h"
+#include "core/Cp1252.h"
+#include "core/Random.h"
+#include "core/WholeFile.h"
+#include "reader/FixedLibrary.h"
+#include "shell/DisplayScale.h"
+#include "storage/LibraryFileName.h"
+#include "support/FakeClock.h"
+#include "support/FakeWindowLayer.h"
+#include "support/TempFolder.h"
+
+#include <QListWidget>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QtTest>
+#include <filesystem>
+#include <memory>
+
+using namespace veyrant;
+
+namespace {
+
+struct ReadWindow {
+    ReadWindow() : App(AppFolder{Temp / "app"}, Temp / "program", Clock, Draws, Layer) {
+        std::filesystem::create_directories(App.Folder.Exe());
+        SetDisplayScale(1, App.Scale);
+        LoadLibraries(App.Libraries);
+        for (auto* library :
+             {&App.Libraries.InfoLib, &App.Libraries.KnowLib, &App.Libraries.AdvLib}) {
+            BuildLibraryIndex(*library);
+        }
+    }
+
+    void Open(int library) {
+        App.Links.BeginOpening();
+        App.Links.OpenLibrary(library);
+        Window = std::make_unique<ReaderWindow>(App, *App.Read);
+        Window->show();
+        Window->Render();
+    }
+    void Key(Qt::Key key) { QTest::keyClick(Window.get(), key); }
+    QString Caption(ReaderControl control) const {
+        return static_cast<QPushButton*>(Window->Widget(control))->text();
+    }
+    QListWidget* List() const {
+        return static_cast<QListWidget*>(Window->Widget(ReaderControl::List1));
+    }
+    QPlainTextEdit* Spin() const {
+        return static_cast<QPlainTextEdit*>(Window->Widget(ReaderControl::txtSpin));
+    }
+    // Pictures for a person to look at, when asked for.
+    void Picture(const char* name) const {
+        const QByteArray folder = qgetenv("VEYRANT_SHOTS");
+        if (!folder.isEmpty()) {
+            Window->grab().save(QString::fromUtf8(folder) + QLatin1Char('/') +
+                                QString::fromLatin1(name) + QStringLiteral(".png"));
+        }
+    }
+
+    testing::TempFolder Temp;
+    testing::FakeWindowLayer Layer;
+    testing::FakeClock Clock;
+    Random Draws;
+    Application App;
+    std::unique_ptr<ReaderWindow> Window;
+};
+
+} // namespace
+
+class ReaderWindowTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    // Index-1, a Section, its first Topic split and expanded, and back to Index-1 by Esc.
+    void fixedLibrariesStepWithKeys_data() {
+        QTest::addColumn<int>("library");
+        QTest::addColumn<QString>("name");
+        QTest::newRow("Information") << 2 << QStringLiteral("Veyrant Information Library");
+        QTest::newRow("Knowledge") << 3 << QStringLiteral("Veyrant Knowledge Library");
+        QTest::newRow("Advanced") << 4 << QStringLiteral("Veyrant Advanced Knowledge Library");
+    }
+    void fixedLibrariesStepWithKeys() {
+        QFETCH(int, library);
+        QFETCH(QString, name);
+        ReadWindow read;
+        read.Open(library);
+        const auto& lib = library == 2   ? read.App.Libraries.InfoLib
+                          : library == 3 ? read.App.Libraries.KnowLib
+                                         : read.App.Libraries.AdvLib;
+        QCOMPARE(read.Window->windowTitle(), name);
+        QCOMPARE(read.List()->count(), lib.LastSection + 1);
+        QCOMPARE(read.Caption(ReaderControl::cmdNext), QStringLiteral("First"));
+        read.Picture(qPrintable(QStringLiteral("index1-%1").arg(library)));
+
+        read.Key(Qt::Key_Down);
+        QVERIFY(read.Window->windowTitle().startsWith(name + QStringLiteral(" -- 1/")));
+        QCOMPARE(read.List()->count(), lib.LastRow + 1);
+        QCOMPARE(read.List()->currentRow(), 0);
+        QVERIFY(read.List()->isVisible());
+        read.Key(Qt::Key_Down);
+        QVERIFY(read.Window->windowTitle().startsWith(name + QStringLiteral(" -- 2/")));
+        QVERIFY(read.List()->isVisible());
+        read.Picture(qPrintable(QStringLiteral("topic-split-%1").arg(library)));
+        read.Key(Qt::Key_Space);
+        QVERIFY(!read.List()->isVisible());
+        QVERIFY(read.Spin()->toPlainText().startsWith(
+            QString::fromStdString(Cp1252ToUtf8(CleanTitle(lib.Titles[1])))));
+        read.Picture(qPrintable(QStringLiteral("topic-expanded-%1").arg(library)));
+        read.Key(Qt::Key_Space);
+        read.Key(Qt::Key_Escape);
+        QCOMPARE(read.Caption(ReaderControl::cmdSelect), QStringLiteral("< Index 1 >"));
+        QCOMPARE(read.List()->count(), lib.LastSection + 1);
+        read.Key(Qt::Key_Return);
+        QCOMPARE(read.Caption(ReaderControl::cmdSelect), QStringLiteral("< Index 2 >"));
+        read.Picture(qPrintable(QStringLiteral("index2-%1").arg(library)));
+    }
+
+    void dialogueLibraryStepsLatestFirst() {
+        ReadWindow read;
+        read.Open(1);
+        QCOMPARE(read.Window->windowTitle(),
+                 QStringLiteral("Veyrant Dialogue Library -- No Dialogues Saved"));
+        QVERIFY(!read.Window->Widget(ReaderControl::cmdNext)->isEnabled());
+        read.Picture("dialogue-empty");
+        read.App.Links.CloseLibrary();
+
+        for (const DateTime when :
+             {DateTime{2026, 11, 18, 9, 0, 0}, DateTime{2026, 11, 21, 20, 15, 0}}) {
+            const std::string file = MakeFileName(when);
+            std::filesystem::create_directories(read.App.Folder.Isp());
+            std::filesystem::create_directories(read.App.Folder.Dlg());
+            WriteWholeFile(read.App.Folder.Isp() / file, "\tA path through the reeds.");
+            WriteWholeFile(read.App.Folder.Dlg() / file, "\r\n\r\n\t\x93Where next?\x94\r\n\tOn.");
+            read.Clock.FileDates[read.App.Folder.Isp() / file] = when;
+            read.Clock.FileDates[read.App.Folder.Dlg() / file] = when;
+        }
+        read.Open(1);
+        QCOMPARE(read.List()->count(), 2);
+        read.Key(Qt::Key_PageDown);
+        QCOMPARE(read.Window->windowTitle(),
+                 QStringLiteral("Veyrant Dialogue -- 2/2 -- Saturday, 8:15 pm, November 21, 2026 "
+                                "-- 1/21 Days Old/Max"));
+        read.Picture("dialogue-open");
+        read.Key(Qt::Key_PageDown);
+        QVERIFY(read.Window->windowTitle().startsWith(QStringLiteral("Veyrant Dialogue -- 1/2")));
+        QVERIFY(!read.Window->Widget(ReaderControl::cmdNext)->isEnabled());
+    }
+
+    // A right-click in the text box moves the font a step on and returns to the list.
+    void rightClickInTheTextChangesTheFont() {
+        ReadWindow read;
+        read.Open(3);
+        read.Key(Qt::Key_Down);
+        read.Key(Qt::Key_Down);
+        const qreal before = read.Spin()->font().pointSizeF();
+        QTest::mousePress(read.Spin()->viewport(), Qt::RightButton);
+        QTest::mouseRelease(read.Spin()->viewport(), Qt::RightButton);
+        QCOMPARE(read.App.UserSettings.ReaderFontStep, std::int16_t{2});
+        QVERIFY(read.Spin()->font().pointSizeF() > before);
+        QCOMPARE(read.Window->windowTitle(), QStringLiteral("Veyrant Knowledge Library"));
+        QCOMPARE(read.Layer.Boxes.back().Title, std::string("Change Font Size"));
+    }
+};
+
+QTEST_MAIN(ReaderWindowTest)
+#include "ReaderWindowTest.moc"
