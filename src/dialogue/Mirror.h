@@ -60,7 +60,8 @@ public:
     std::string Dump() const;
 
     // The window closes: a running Dialogue goes into the work buffers, to reopen next time.
-    void Unload();
+    // False when they could not be written: the box has said why, and the window must stay.
+    bool Unload();
 
 private:
     // Dialogue cycle.

@@ -36,11 +36,13 @@ std::string Mirror::LibraryStatusText(const std::string& suggestionText) const {
     return suggestionText + "\r\n\r\n" + GenLibStatus(library_.Listing(), world_.UserSettings);
 }
 
-void Mirror::Unload() {
-    if (state_.ActiveMethod > 0 && !state_.DialogueText.empty()) {
-        buffers_.WriteWorkBuffers(Record());
+bool Mirror::Unload() {
+    if (state_.ActiveMethod > 0 && !state_.DialogueText.empty() &&
+        !buffers_.WriteWorkBuffers(Record())) {
+        return false;
     }
     C(MirrorControl::txtMirror).Enabled = false;
+    return true;
 }
 
 DialogueBuffers Mirror::Record() const {

@@ -117,9 +117,9 @@ TEST_F(WorkBuffersTest, AFailedWriteLeavesTheOldSetWhole) {
     EXPECT_EQ(Windows.Boxes[0].Title, "Error 61 Keeping the Dialogue");
     EXPECT_EQ(Windows.Boxes[0].Text,
               "Error 61 attempting to keep your Dialogue in the work buffers. The disk is "
-              "full.\r\n\r\nThe work buffers still hold the Dialogue as it was last kept, and the "
-              "Dialogue on the screen is unchanged. Make room on the disk, or click 'Print' or "
-              "'File' to keep a copy of it.");
+              "full.\r\n\r\nYour Dialogue is not lost: it stays on the screen, and the program "
+              "stays open. The work buffers still hold the Dialogue as it was last kept. Make "
+              "room on the disk, then try again.");
 }
 
 TEST_F(WorkBuffersTest, AFileWhereTheProgramFolderShouldBeGivesTheBox) {
