@@ -1,7 +1,6 @@
 #include "storage/WorkBuffers.h"
 
 #include "core/FieldReader.h"
-#include "core/FileCalls.h"
 #include "core/FileOperations.h"
 #include "core/ProgramError.h"
 #include "core/Text.h"
@@ -93,10 +92,14 @@ void WorkBuffers::DeleteWorkBuffers() {
     if (settings_.GuestMode == 1) {
         return;
     }
+    FileTransaction change(folder_.Root);
     for (const char* name : {InspirationBuffer, DialogueBuffer, PairCountBuffer}) {
-        if (files::Unlink(folder_.Exe() / name) != 0) {
-            return;
-        }
+        change.Remove(folder_.Exe() / name);
+    }
+    try {
+        change.Commit();
+    } catch (const ProgramError&) {
+        // The buffers stay as they were, or go at the next start; either is harmless.
     }
 }
 
