@@ -17,7 +17,6 @@
 #include <algorithm>
 #include <fstream>
 #include <gtest/gtest.h>
-#include <iostream>
 
 namespace veyrant::testing {
 namespace {
@@ -32,22 +31,10 @@ const DialogueBuffers Running{"\tThe lamp waits for the evening.",
                               "Write it down before you sleep.", 2};
 
 // The storage of one run, in memory where the system allows.
-class StorageRun : public SweepRun, public LibraryStorage {
-public:
-    using Step = std::function<void(StorageRun&)>;
+struct StorageRun : LibraryStorage {
+    StorageRun() : LibraryStorage(MemoryFolder()) {}
 
-    StorageRun(Step before, Step act)
-        : LibraryStorage(MemoryFolder()), before_(std::move(before)), act_(std::move(act)) {}
-
-    std::filesystem::path Root() const override { return Folder.Root; }
-    const std::vector<MessageBoxRequest>& Boxes() const override { return Windows.Boxes; }
-    void Before() override {
-        before_(*this);
-        Windows.Boxes.clear();
-    }
-    void Act() override { act_(*this); }
-
-    std::optional<std::string> Disagreement() const override {
+    std::optional<std::string> Disagreement() const {
         int onDisk = 0;
         std::error_code error;
         for (const auto& entry : std::filesystem::directory_iterator(Folder.Isp(), error)) {
@@ -68,8 +55,7 @@ public:
         return std::nullopt;
     }
 
-    std::optional<std::string> Restart(const FolderImage& before,
-                                       const FolderImage& after) override {
+    std::optional<std::string> Restart(const FolderImage& before, const FolderImage& after) {
         FinishInterruptedChanges(Folder.Root);
         DialogueLibrary library(Folder, UserSettings, Clock, Windows);
         library.ScanLibrary();
@@ -104,17 +90,7 @@ public:
     DateTime DaysAgo(double days) const { return FromDayNumber(DayNumber(Clock.Date) - days); }
 
     bool BuffersKept = false;
-
-private:
-    Step before_;
-    Step act_;
 };
-
-SweepPath Path(std::string name, StorageRun::Step before, StorageRun::Step act,
-               bool silent = false) {
-    return {std::move(name), [before, act] { return std::make_unique<StorageRun>(before, act); },
-            silent};
-}
 
 void KeepBuffers(StorageRun& run) {
     std::filesystem::create_directories(run.Folder.Exe());
@@ -133,8 +109,9 @@ TEST(FaultSweep, EveryStoragePathLeavesOldOrNewAndSaysWhatFailed) {
             "work buffers, first written (Finish, close, right-click)",
             [](StorageRun& run) { std::filesystem::create_directories(run.Folder.Root); },
             [](StorageRun& run) { run.BuffersKept = run.Buffers.WriteWorkBuffers(Running); }),
-        Path("work buffers, written over a kept Dialogue", KeepBuffers,
-             [](StorageRun& run) { run.BuffersKept = run.Buffers.WriteWorkBuffers(Running); }),
+        PathIn<StorageRun>(
+            "work buffers, written over a kept Dialogue", KeepBuffers,
+            [](StorageRun& run) { run.BuffersKept = run.Buffers.WriteWorkBuffers(Running); }),
         Path(
             "work buffers, deleted by New", KeepBuffers,
             [](StorageRun& run) { run.Buffers.DeleteWorkBuffers(); }, true),
@@ -157,13 +134,14 @@ TEST(FaultSweep, EveryStoragePathLeavesOldOrNewAndSaysWhatFailed) {
             [](StorageRun& run) {
                 run.Library.AddToLibrary(Running.InspirationText, Running.DialogueText);
             }),
-        Path("delete from the Reader", WithLibrary,
-             [](StorageRun& run) {
-                 run.Windows.Answers = {MessageAnswer::Yes};
-                 if (run.Library.DeleteDialogue(run.Library.Listing().LibraryFiles[1])) {
-                     run.Library.ScanLibrary();
-                 }
-             }),
+        PathIn<StorageRun>("delete from the Reader", WithLibrary,
+                           [](StorageRun& run) {
+                               run.Windows.Answers = {MessageAnswer::Yes};
+                               if (run.Library.DeleteDialogue(
+                                       run.Library.Listing().LibraryFiles[1])) {
+                                   run.Library.ScanLibrary();
+                               }
+                           }),
         Path(
             "retention at start",
             [](StorageRun& run) {
@@ -172,21 +150,16 @@ TEST(FaultSweep, EveryStoragePathLeavesOldOrNewAndSaysWhatFailed) {
                 run.UserSettings.MaxLibraryFiles = 1;
             },
             [](StorageRun& run) { run.Library.ScanLibrary(); }),
-        Path("Library Options, then Clean", WithLibrary,
-             [](StorageRun& run) {
-                 Options window(
-                     run.Library, run.UserSettings, run.Windows, [] {}, [] {});
-                 window.Form_Load();
-                 run.Windows.Answers = {MessageAnswer::Yes};
-                 window.cmdClean_Click();
-             }),
+        PathIn<StorageRun>("Library Options, then Clean", WithLibrary,
+                           [](StorageRun& run) {
+                               Options window(
+                                   run.Library, run.UserSettings, run.Windows, [] {}, [] {});
+                               window.Form_Load();
+                               run.Windows.Answers = {MessageAnswer::Yes};
+                               window.cmdClean_Click();
+                           }),
     };
-    for (const auto& path : paths) {
-        const SweepCount count = Sweep(path);
-        EXPECT_GT(count.Calls, 0) << path.Name;
-        std::cout << path.Name << ": " << count.Calls << " calls, " << count.FaultRuns
-                  << " fault runs, " << count.CrashRuns << " crash runs\n";
-    }
+    SweepAll(paths);
 }
 
 } // namespace

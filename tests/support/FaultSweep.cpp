@@ -3,6 +3,7 @@
 #include <cerrno>
 #include <fstream>
 #include <gtest/gtest.h>
+#include <iostream>
 #include <set>
 #include <sstream>
 
@@ -155,6 +156,15 @@ SweepCount Sweep(const SweepPath& path) {
         ++count.CrashRuns;
     }
     return count;
+}
+
+void SweepAll(const std::vector<SweepPath>& paths) {
+    for (const auto& path : paths) {
+        const SweepCount count = Sweep(path);
+        EXPECT_GT(count.Calls, 0) << path.Name;
+        std::cout << path.Name << ": " << count.Calls << " calls, " << count.FaultRuns
+                  << " fault runs, " << count.CrashRuns << " crash runs\n";
+    }
 }
 
 } // namespace veyrant::testing

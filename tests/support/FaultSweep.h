@@ -48,6 +48,41 @@ struct SweepPath {
     bool Silent = false;
 };
 
+// A run in a world that has a Folder and Windows and says itself what disagrees and what the
+// next start finds; the path gives what was there before and what it does.
+template <typename World>
+class WorldRun final : public SweepRun {
+public:
+    using Step = std::function<void(World&)>;
+
+    WorldRun(Step before, Step act) : before_(std::move(before)), act_(std::move(act)) {}
+
+    std::filesystem::path Root() const override { return world_.Folder.Root; }
+    const std::vector<MessageBoxRequest>& Boxes() const override { return world_.Windows.Boxes; }
+    void Before() override {
+        before_(world_);
+        world_.Windows.Boxes.clear();
+    }
+    void Act() override { act_(world_); }
+    std::optional<std::string> Disagreement() const override { return world_.Disagreement(); }
+    std::optional<std::string> Restart(const FolderImage& before,
+                                       const FolderImage& after) override {
+        return world_.Restart(before, after);
+    }
+
+private:
+    World world_;
+    Step before_;
+    Step act_;
+};
+
+template <typename World>
+SweepPath PathIn(std::string name, typename WorldRun<World>::Step before,
+                 typename WorldRun<World>::Step act, bool silent = false) {
+    return {std::move(name),
+            [before, act] { return std::make_unique<WorldRun<World>>(before, act); }, silent};
+}
+
 struct SweepCount {
     int Calls = 0;
     int FaultRuns = 0;
@@ -57,5 +92,8 @@ struct SweepCount {
 // Sweeps the path with ENOSPC, EIO and EROFS at every call, then with a kill at every call;
 // every finding is a test failure.
 SweepCount Sweep(const SweepPath& path);
+
+// Sweeps each path and prints the number of calls and runs it took.
+void SweepAll(const std::vector<SweepPath>& paths);
 
 } // namespace veyrant::testing
