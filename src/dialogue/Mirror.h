@@ -161,6 +161,11 @@ private:
     void SaveDialogue();
     void ClickNewCaption();
     DialogueBuffers Record() const;
+    // Writes the Dialogue into the work buffers; false when they could not take it (the box has
+    // said why), and then every way out tries again.
+    bool KeepInBuffers();
+    // A Dialogue runs, or one the buffers could not take is on the screen.
+    bool MustKeep() const;
     bool GuestMode() const;
 
     // Utilities.
@@ -193,6 +198,8 @@ private:
     std::string hoverText_;
     int hoverTicks_ = 0;
     std::optional<MirrorControl> hoverControl_;
+    // The work buffers failed to take the Dialogue on the screen.
+    bool unkept_ = false;
 
     // What the full view hides and gives back.
     struct FullViewNotes {

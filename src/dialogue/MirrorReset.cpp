@@ -37,8 +37,7 @@ std::string Mirror::LibraryStatusText(const std::string& suggestionText) const {
 }
 
 bool Mirror::Unload() {
-    if (state_.ActiveMethod > 0 && !state_.DialogueText.empty() &&
-        !buffers_.WriteWorkBuffers(Record())) {
+    if (MustKeep() && !KeepInBuffers()) {
         return false;
     }
     C(MirrorControl::txtMirror).Enabled = false;
@@ -47,6 +46,16 @@ bool Mirror::Unload() {
 
 DialogueBuffers Mirror::Record() const {
     return {state_.InspirationText, state_.DialogueText, state_.SuggestionText, state_.PairCount};
+}
+
+bool Mirror::KeepInBuffers() {
+    unkept_ = !buffers_.WriteWorkBuffers(Record());
+    return !unkept_;
+}
+
+// A finished Dialogue was written at Finish; only a failure then leaves it to be kept.
+bool Mirror::MustKeep() const {
+    return (state_.ActiveMethod > 0 && !state_.DialogueText.empty()) || unkept_;
 }
 
 void Mirror::ResetDialogue() {
@@ -197,7 +206,7 @@ void Mirror::FinishDialogue() {
         state_.DialogueView = C(MirrorControl::txtSaved).Text;
         ShowDialogueFull();
     }
-    buffers_.WriteWorkBuffers(Record());
+    KeepInBuffers();
 
     C(MirrorControl::lblRem).Visible = false;
     C(MirrorControl::lblRemS).Visible = false;
@@ -274,6 +283,7 @@ void Mirror::ClickNewCaption() {
             }
         }
         state_.DialogueSaved = 0;
+        unkept_ = false;
         buffers_.DeleteWorkBuffers();
         ResetDialogue();
     }

@@ -13,8 +13,7 @@ void Mirror::OpenWindowBehindWrite(WindowId window, const std::string& windowNam
                                            windowName + " window.");
         return;
     }
-    if (state_.ActiveMethod != 0 && !state_.DialogueText.empty() &&
-        !buffers_.WriteWorkBuffers(Record())) {
+    if (MustKeep() && !KeepInBuffers()) {
         return;
     }
     world_.ClosingState = ClosingStates::UtilitiesUp;
