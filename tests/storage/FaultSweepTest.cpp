@@ -105,17 +105,17 @@ void WithLibrary(StorageRun& run) {
 
 TEST(FaultSweep, EveryStoragePathLeavesOldOrNewAndSaysWhatFailed) {
     const std::vector<SweepPath> paths = {
-        Path(
+        PathIn<StorageRun>(
             "work buffers, first written (Finish, close, right-click)",
             [](StorageRun& run) { std::filesystem::create_directories(run.Folder.Root); },
             [](StorageRun& run) { run.BuffersKept = run.Buffers.WriteWorkBuffers(Running); }),
         PathIn<StorageRun>(
             "work buffers, written over a kept Dialogue", KeepBuffers,
             [](StorageRun& run) { run.BuffersKept = run.Buffers.WriteWorkBuffers(Running); }),
-        Path(
+        PathIn<StorageRun>(
             "work buffers, deleted by New", KeepBuffers,
             [](StorageRun& run) { run.Buffers.DeleteWorkBuffers(); }, true),
-        Path(
+        PathIn<StorageRun>(
             "save to the Library, retention deleting the oldest",
             [](StorageRun& run) {
                 WithLibrary(run);
@@ -125,7 +125,7 @@ TEST(FaultSweep, EveryStoragePathLeavesOldOrNewAndSaysWhatFailed) {
             [](StorageRun& run) {
                 run.Library.AddToLibrary(Running.InspirationText, Running.DialogueText);
             }),
-        Path(
+        PathIn<StorageRun>(
             "save to the Library twice in one minute",
             [](StorageRun& run) {
                 KeepBuffers(run);
@@ -142,7 +142,7 @@ TEST(FaultSweep, EveryStoragePathLeavesOldOrNewAndSaysWhatFailed) {
                                    run.Library.ScanLibrary();
                                }
                            }),
-        Path(
+        PathIn<StorageRun>(
             "retention at start",
             [](StorageRun& run) {
                 WithLibrary(run);
