@@ -6,6 +6,7 @@
 #include "app/SmallDisplay.h"
 #include "core/CaughtError.h"
 #include "core/ProgramError.h"
+#include "reader/FixedLibrary.h"
 #include "shell/DisplayScale.h"
 #include "shell/Version.h"
 #include "storage/StorageFailure.h"
@@ -32,6 +33,15 @@ void ShowBanner(Application& app) {
     app.Windows.ShowWindow(WindowId::Banner);
 }
 
+// An empty last row means content went missing from the build: error 1001 ends the start.
+void LoadFixedLibraries(FixedLibraries& libraries) {
+    LoadLibraries(libraries);
+    BuildLibraryIndex(libraries.InfoLib);
+    BuildLibraryIndex(libraries.KnowLib);
+    BuildLibraryIndex(libraries.AdvLib);
+    CheckLibraryContent(libraries);
+}
+
 // Everything the Write window needs is loaded behind the banner, so that it is all in memory
 // when the window appears.
 void LoadMirror(Application& app) {
@@ -46,6 +56,8 @@ void LoadMirror(Application& app) {
         app.Windows.EndProcess();
         return;
     }
+    app.Windows.Yield();
+    LoadFixedLibraries(app.Libraries);
     app.Windows.Yield();
     app.Library.ScanLibrary();
     app.Windows.Yield();

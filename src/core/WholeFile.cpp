@@ -89,6 +89,45 @@ void WriteAll(int fd, std::string_view bytes) {
     }
 }
 
+// The rights the user's file-creation mask leaves of these.
+constexpr unsigned UserFileRights = 0666;
+
+std::filesystem::path StageWithRights(const std::filesystem::path& path, std::string_view bytes,
+                                      unsigned rights) {
+    const auto folder = path.has_parent_path() ? path.parent_path() : std::filesystem::path(".");
+    std::filesystem::path staged;
+    int opened = -1;
+    do {
+        staged = folder / ("." + path.filename().string() + "." + StagedLetters());
+        opened = files::Open(staged, O_WRONLY | O_CREAT | O_EXCL, rights);
+    } while (opened < 0 && errno == EEXIST);
+    FileDescriptor fd(opened);
+    if (fd.Get() < 0) {
+        RaiseFromErrno();
+    }
+    try {
+        WriteAll(fd.Get(), bytes);
+        if (files::Sync(fd.Get()) != 0 || files::Close(fd.Release()) != 0) {
+            RaiseFromErrno();
+        }
+    } catch (const ProgramError&) {
+        files::Unlink(staged);
+        throw;
+    }
+    return staged;
+}
+
+void WriteWithRights(const std::filesystem::path& path, std::string_view bytes, unsigned rights) {
+    const auto staged = StageWithRights(path, bytes, rights);
+    if (files::Rename(staged, path) != 0) {
+        const int error = errno;
+        files::Unlink(staged);
+        errno = error;
+        RaiseFromErrno();
+    }
+    SyncFolder(staged.parent_path());
+}
+
 } // namespace
 
 std::string ReadWholeFile(const std::filesystem::path& path) {
@@ -121,38 +160,15 @@ bool IsStagedName(const std::string& name) {
 }
 
 std::filesystem::path StageWholeFile(const std::filesystem::path& path, std::string_view bytes) {
-    const auto folder = path.has_parent_path() ? path.parent_path() : std::filesystem::path(".");
-    std::filesystem::path staged;
-    int opened = -1;
-    do {
-        staged = folder / ("." + path.filename().string() + "." + StagedLetters());
-        opened = files::Open(staged, O_WRONLY | O_CREAT | O_EXCL, PrivateFileRights);
-    } while (opened < 0 && errno == EEXIST);
-    FileDescriptor fd(opened);
-    if (fd.Get() < 0) {
-        RaiseFromErrno();
-    }
-    try {
-        WriteAll(fd.Get(), bytes);
-        if (files::Sync(fd.Get()) != 0 || files::Close(fd.Release()) != 0) {
-            RaiseFromErrno();
-        }
-    } catch (const ProgramError&) {
-        files::Unlink(staged);
-        throw;
-    }
-    return staged;
+    return StageWithRights(path, bytes, PrivateFileRights);
 }
 
 void WriteWholeFile(const std::filesystem::path& path, std::string_view bytes) {
-    const auto staged = StageWholeFile(path, bytes);
-    if (files::Rename(staged, path) != 0) {
-        const int error = errno;
-        files::Unlink(staged);
-        errno = error;
-        RaiseFromErrno();
-    }
-    SyncFolder(staged.parent_path());
+    WriteWithRights(path, bytes, PrivateFileRights);
+}
+
+void WriteUserFile(const std::filesystem::path& path, std::string_view bytes) {
+    WriteWithRights(path, bytes, UserFileRights);
 }
 
 } // namespace veyrant

@@ -24,6 +24,10 @@ std::string ReadWholeFile(const std::filesystem::path& path);
 // the old file, if any, is then whole: old, or new when only the flush of the folder failed.
 void WriteWholeFile(const std::filesystem::path& path, std::string_view bytes);
 
+// The same for a file the user saves outside the program's folder, an export: it takes the rights
+// the user gives a new file, not the program's private ones.
+void WriteUserFile(const std::filesystem::path& path, std::string_view bytes);
+
 // Lays the text down, flushed, under a hidden name beside the path ("." + name + "." + six
 // letters) and returns that name; the caller renames it into place. Raises ProgramError as
 // WriteWholeFile does, and then leaves no file behind.

@@ -129,6 +129,10 @@ private:
     void ClickSaved();
     void ShowSmallView();
 
+    // Print and file.
+    void PrintFinishedDialogue();
+    void FileFinishedDialogue();
+
     // Instruction panel.
     void MarkHover(MirrorControl control, const std::string& text);
     void ClearHover();
@@ -137,6 +141,7 @@ private:
     std::string HelpFor(MirrorControl control) const;
     void ResponseHover();
     void NoteHover();
+    void StartAreaHelp(MirrorControl area, const std::string& text);
     void ClickResponse();
     void SetResponse(const std::string& text, Colour background);
 
@@ -150,7 +155,6 @@ private:
     void PressFunctionKey(int number);
     void ToggleWriteFont();
     void ApplyWriteFont();
-    void BackgroundMove();
 
     // Start, finish and reopen.
     void ResetDialogue();
@@ -198,6 +202,8 @@ private:
     std::string hoverText_;
     int hoverTicks_ = 0;
     std::optional<MirrorControl> hoverControl_;
+    // The text area whose help is pending or on show: further moves over it leave the count be.
+    std::optional<MirrorControl> hoverArea_;
     // The work buffers failed to take the Dialogue on the screen.
     bool unkept_ = false;
 

@@ -33,6 +33,7 @@ int main(int argc, char** argv) {
     Random random;
     Application app(AppFolder::FromEnvironment(), "/proc/self/exe", clock, random, windows);
     running = &app;
+    windows.SetPrintFace([&] { return app.Fonts.Main; });
     MirrorWindow* writeWindow = nullptr;
     std::unique_ptr<Options> libraryOptions;
     std::unique_ptr<Utility> utilities;
