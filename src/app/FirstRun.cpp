@@ -1,9 +1,11 @@
 #include "app/FirstRun.h"
 
 #include "app/FontCheck.h"
-#include "core/ProgramError.h"
+#include "core/FileCalls.h"
+#include "core/FileOperations.h"
 #include "core/WholeFile.h"
 #include "engine/EngineFiles.h"
+#include "storage/FileTransaction.h"
 
 #include <system_error>
 
@@ -11,11 +13,16 @@ namespace veyrant {
 
 namespace {
 
-void MakeFolder(const std::filesystem::path& path) {
-    std::error_code error;
-    std::filesystem::create_directories(path, error);
-    if (error) {
-        throw ProgramError(ErrorNumberFor(error));
+// Another account on this machine must not read the user's Dialogues, whatever rights an earlier
+// version left on the folders and their files.
+void NarrowToUser(const std::filesystem::path& folder) {
+    if (files::Narrow(folder, PrivateFolderRights) != 0) {
+        RaiseFromErrno();
+    }
+    for (const auto& name : ListFiles(folder)) {
+        if (files::Narrow(folder / name, PrivateFileRights) != 0) {
+            RaiseFromErrno();
+        }
     }
 }
 
@@ -25,6 +32,10 @@ void InstallAppFolder(const AppFolder& folder, const WindowLayer& windows) {
     MakeFolder(folder.Exe());
     MakeFolder(folder.Dlg());
     MakeFolder(folder.Isp());
+    for (const auto& path : {folder.Root, folder.Exe(), folder.Dlg(), folder.Isp()}) {
+        NarrowToUser(path);
+    }
+    FinishInterruptedChanges(folder.Root);
     const auto fontFile = folder.Exe() / "Qdrfonts.ini";
     std::error_code error;
     if (!std::filesystem::exists(fontFile, error)) {

@@ -13,9 +13,6 @@ namespace veyrant {
 
 namespace {
 
-std::filesystem::path SettingsFile(const Application& app) {
-    return app.Folder.Exe() / "Tolmira.ini";
-}
 std::filesystem::path ReadFile(const Application& app) {
     return app.Folder.Exe() / "Read.ini";
 }
@@ -74,6 +71,10 @@ void KeepRequest(std::int16_t& flag, std::int16_t requested) {
 }
 
 } // namespace
+
+std::filesystem::path SettingsFile(const Application& app) {
+    return app.Folder.Exe() / "Tolmira.ini";
+}
 
 void LoadSettings(Application& app) {
     try {

@@ -8,6 +8,9 @@
 
 namespace veyrant {
 
+// exe/Tolmira.ini.
+std::filesystem::path SettingsFile(const Application& app);
+
 // On any failure every value takes its default, the display option is chosen from the screen,
 // and the file is written afresh.
 void LoadSettings(Application& app);

@@ -4,14 +4,15 @@
 #include "app/FontCheck.h"
 #include "app/SettingsFiles.h"
 #include "app/SmallDisplay.h"
+#include "core/CaughtError.h"
 #include "core/ProgramError.h"
 #include "reader/FixedLibrary.h"
 #include "shell/DisplayScale.h"
 #include "shell/Version.h"
+#include "storage/StorageFailure.h"
 
 #include <cmath>
 #include <memory>
-#include <new>
 #include <string>
 
 namespace veyrant {
@@ -30,12 +31,6 @@ void ShowBanner(Application& app) {
         app.Windows.StartTimer(TimerId::BannerTimer, ClosingBannerMilliseconds);
     }
     app.Windows.ShowWindow(WindowId::Banner);
-}
-
-// Anything that no inner handler caught in the start: one box, and the process ends.
-void ReportSystemError(Application& app, int number) {
-    app.Windows.ShowMessage(SystemErrorBox(number));
-    app.Windows.EndProcess();
 }
 
 // An empty last row means content went missing from the build: error 1001 ends the start.
@@ -92,13 +87,16 @@ void RunMain(Application& app) {
 
 } // namespace
 
+void ReportSystemError(Application& app, int number) {
+    app.Windows.ShowMessage(SystemErrorBox(number));
+    app.Windows.EndProcess();
+}
+
 void Main(Application& app) {
     try {
         RunMain(app);
-    } catch (const ProgramError& error) {
-        ReportSystemError(app, error.Number());
-    } catch (const std::bad_alloc&) {
-        ReportSystemError(app, ErrorNumber::OutOfMemory);
+    } catch (...) {
+        ReportSystemError(app, CaughtErrorNumber());
     }
 }
 
@@ -115,8 +113,9 @@ void Timer1(Application& app) {
 }
 
 void UnloadMirror(Application& app) {
-    if (app.Write) {
-        app.Write->Unload();
+    // A Dialogue the work buffers could not take stays on the screen.
+    if (app.Write && !app.Write->Unload()) {
+        return;
     }
     app.Links.CloseLibrary();
     app.Windows.HideWindow(WindowId::Mirror);
@@ -128,7 +127,10 @@ void ExitProgram(Application& app) {
     try {
         SaveSettings(app);
     } catch (const ProgramError& error) {
-        ReportSystemError(app, error.Number());
+        // The Dialogues are safe by now; only this run's settings are lost, and the user is told
+        // why.
+        app.Windows.ShowMessage(SettingsFailureBox(error.Number(), SettingsFile(app)));
+        app.Windows.EndProcess();
         return;
     }
     ShowBanner(app);

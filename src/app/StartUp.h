@@ -30,6 +30,10 @@ void BannerTimer(Application& app);
 // window 100 milliseconds later. A load across midnight counts as two seconds.
 int Timer1Interval(float loadStart, float loadEnd);
 
+// Anything that no inner handler caught, in the start or in a window's handler: one box, and the
+// process ends.
+void ReportSystemError(Application& app, int number);
+
 // The last-resort box for an error number nothing else caught.
 MessageBoxRequest SystemErrorBox(int number);
 

@@ -1,11 +1,12 @@
 #include "core/WholeFile.h"
 
+#include "core/FileCalls.h"
+#include "core/FileOperations.h"
 #include "core/ProgramError.h"
 
+#include <atomic>
 #include <cerrno>
-#include <cstdio>
 #include <fcntl.h>
-#include <sys/stat.h>
 #include <unistd.h>
 
 namespace veyrant {
@@ -31,11 +32,13 @@ int ErrorNumberFor(const std::error_code& error) {
     }
 }
 
-namespace {
-
-[[noreturn]] void RaiseFromErrno() {
+void RaiseFromErrno() {
     throw ProgramError(ErrorNumberFor(std::error_code(errno, std::generic_category())));
 }
+
+namespace {
+
+constexpr std::size_t StagedSuffix = 6;
 
 class FileDescriptor {
 public:
@@ -44,7 +47,7 @@ public:
     FileDescriptor& operator=(const FileDescriptor&) = delete;
     ~FileDescriptor() {
         if (fd_ >= 0) {
-            ::close(fd_);
+            files::Close(fd_);
         }
     }
     int Get() const { return fd_; }
@@ -58,17 +61,84 @@ private:
     int fd_;
 };
 
+// Six letters that no other write of this process has used; the exclusive open catches the rest.
+std::string StagedLetters() {
+    static std::atomic<unsigned long> counter{static_cast<unsigned long>(::getpid()) * 7919UL};
+    constexpr std::string_view letters =
+        "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789";
+    unsigned long value = counter.fetch_add(104729UL);
+    std::string text;
+    for (std::size_t i = 0; i < StagedSuffix; ++i) {
+        text += letters[value % letters.size()];
+        value /= letters.size();
+    }
+    return text;
+}
+
+void WriteAll(int fd, std::string_view bytes) {
+    std::size_t written = 0;
+    while (written < bytes.size()) {
+        const auto put = files::Write(fd, bytes.data() + written, bytes.size() - written);
+        if (put < 0) {
+            if (errno == EINTR) {
+                continue;
+            }
+            RaiseFromErrno();
+        }
+        written += static_cast<std::size_t>(put);
+    }
+}
+
+// The rights the user's file-creation mask leaves of these.
+constexpr unsigned UserFileRights = 0666;
+
+std::filesystem::path StageWithRights(const std::filesystem::path& path, std::string_view bytes,
+                                      unsigned rights) {
+    const auto folder = path.has_parent_path() ? path.parent_path() : std::filesystem::path(".");
+    std::filesystem::path staged;
+    int opened = -1;
+    do {
+        staged = folder / ("." + path.filename().string() + "." + StagedLetters());
+        opened = files::Open(staged, O_WRONLY | O_CREAT | O_EXCL, rights);
+    } while (opened < 0 && errno == EEXIST);
+    FileDescriptor fd(opened);
+    if (fd.Get() < 0) {
+        RaiseFromErrno();
+    }
+    try {
+        WriteAll(fd.Get(), bytes);
+        if (files::Sync(fd.Get()) != 0 || files::Close(fd.Release()) != 0) {
+            RaiseFromErrno();
+        }
+    } catch (const ProgramError&) {
+        files::Unlink(staged);
+        throw;
+    }
+    return staged;
+}
+
+void WriteWithRights(const std::filesystem::path& path, std::string_view bytes, unsigned rights) {
+    const auto staged = StageWithRights(path, bytes, rights);
+    if (files::Rename(staged, path) != 0) {
+        const int error = errno;
+        files::Unlink(staged);
+        errno = error;
+        RaiseFromErrno();
+    }
+    SyncFolder(staged.parent_path());
+}
+
 } // namespace
 
 std::string ReadWholeFile(const std::filesystem::path& path) {
-    FileDescriptor fd(::open(path.c_str(), O_RDONLY | O_CLOEXEC));
+    FileDescriptor fd(files::Open(path, O_RDONLY));
     if (fd.Get() < 0) {
         RaiseFromErrno();
     }
     std::string bytes;
     char buffer[65536];
     for (;;) {
-        const auto got = ::read(fd.Get(), buffer, sizeof buffer);
+        const auto got = files::Read(fd.Get(), buffer, sizeof buffer);
         if (got < 0) {
             if (errno == EINTR) {
                 continue;
@@ -83,39 +153,22 @@ std::string ReadWholeFile(const std::filesystem::path& path) {
     return bytes;
 }
 
+bool IsStagedName(const std::string& name) {
+    const auto dot = name.rfind('.');
+    return name.size() > StagedSuffix + 2 && name.front() == '.' && dot != 0 &&
+           dot == name.size() - StagedSuffix - 1;
+}
+
+std::filesystem::path StageWholeFile(const std::filesystem::path& path, std::string_view bytes) {
+    return StageWithRights(path, bytes, PrivateFileRights);
+}
+
 void WriteWholeFile(const std::filesystem::path& path, std::string_view bytes) {
-    const auto folder = path.has_parent_path() ? path.parent_path() : std::filesystem::path(".");
-    std::string pattern = (folder / ("." + path.filename().string() + ".XXXXXX")).string();
-    FileDescriptor fd(::mkstemp(pattern.data()));
-    if (fd.Get() < 0) {
-        RaiseFromErrno();
-    }
-    const auto discard = [&pattern](int savedErrno) {
-        ::unlink(pattern.c_str());
-        errno = savedErrno;
-        RaiseFromErrno();
-    };
-    std::size_t written = 0;
-    while (written < bytes.size()) {
-        const auto put = ::write(fd.Get(), bytes.data() + written, bytes.size() - written);
-        if (put < 0) {
-            if (errno == EINTR) {
-                continue;
-            }
-            discard(errno);
-        }
-        written += static_cast<std::size_t>(put);
-    }
-    // Plain text files, readable as any file the user makes.
-    if (::fchmod(fd.Get(), 0644) != 0 || ::fsync(fd.Get()) != 0) {
-        discard(errno);
-    }
-    if (::close(fd.Release()) != 0) {
-        discard(errno);
-    }
-    if (::rename(pattern.c_str(), path.c_str()) != 0) {
-        discard(errno);
-    }
+    WriteWithRights(path, bytes, PrivateFileRights);
+}
+
+void WriteUserFile(const std::filesystem::path& path, std::string_view bytes) {
+    WriteWithRights(path, bytes, UserFileRights);
 }
 
 } // namespace veyrant

@@ -1,8 +1,12 @@
 #pragma once
 
 // Every file of the program is read and written whole. A write lands whole or not at all: the
-// text goes to a temporary file in the same folder, is flushed to the disk, and is then renamed
-// over the old file, so a crash or a full disk never leaves half a file behind.
+// text goes to a hidden temporary file in the same folder, is flushed to the disk, and is then
+// renamed over the old file, and the folder is flushed so that the new name survives a power
+// loss. A crash or a full disk never leaves half a file behind.
+//
+// The program's files hold the user's most private writing: they are readable and writable by
+// the user alone.
 
 #include <filesystem>
 #include <string>
@@ -11,14 +15,31 @@
 
 namespace veyrant {
 
+inline constexpr unsigned PrivateFileRights = 0600;
+
 // Raises ProgramError (53 when the file is missing, 75 when it cannot be read).
 std::string ReadWholeFile(const std::filesystem::path& path);
 
 // Raises ProgramError (61 disk full, 70 permission denied, 76 path not found, 75 otherwise);
-// the old file, if any, is then untouched.
+// the old file, if any, is then whole: old, or new when only the flush of the folder failed.
 void WriteWholeFile(const std::filesystem::path& path, std::string_view bytes);
+
+// The same for a file the user saves outside the program's folder, an export: it takes the rights
+// the user gives a new file, not the program's private ones.
+void WriteUserFile(const std::filesystem::path& path, std::string_view bytes);
+
+// Lays the text down, flushed, under a hidden name beside the path ("." + name + "." + six
+// letters) and returns that name; the caller renames it into place. Raises ProgramError as
+// WriteWholeFile does, and then leaves no file behind.
+std::filesystem::path StageWholeFile(const std::filesystem::path& path, std::string_view bytes);
+
+// True for a name StageWholeFile makes: the hidden leftover of a write that never landed.
+bool IsStagedName(const std::string& name);
 
 // The program's error number for a failed system call.
 int ErrorNumberFor(const std::error_code& error);
+
+// The same, from errno.
+[[noreturn]] void RaiseFromErrno();
 
 } // namespace veyrant

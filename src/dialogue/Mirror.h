@@ -61,7 +61,8 @@ public:
     std::string Dump() const;
 
     // The window closes: a running Dialogue goes into the work buffers, to reopen next time.
-    void Unload();
+    // False when they could not be written: the box has said why, and the window must stay.
+    bool Unload();
 
     // The Reader and the backdrop, which the composition root wires in after both exist.
     void ConnectLibraries(LibraryDoor& door, Backdrop& back);
@@ -172,6 +173,11 @@ private:
     void SaveDialogue();
     void ClickNewCaption();
     DialogueBuffers Record() const;
+    // Writes the Dialogue into the work buffers; false when they could not take it (the box has
+    // said why), and then every way out tries again.
+    bool KeepInBuffers();
+    // A Dialogue runs, or one the buffers could not take is on the screen.
+    bool MustKeep() const;
     bool GuestMode() const;
 
     // The library buttons and the backdrop.
@@ -215,6 +221,8 @@ private:
     std::optional<MirrorControl> hoverControl_;
     // The text area whose help is pending or on show: further moves over it leave the count be.
     std::optional<MirrorControl> hoverArea_;
+    // The work buffers failed to take the Dialogue on the screen.
+    bool unkept_ = false;
 
     // What the full view hides and gives back.
     struct FullViewNotes {

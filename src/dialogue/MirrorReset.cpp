@@ -36,15 +36,26 @@ std::string Mirror::LibraryStatusText(const std::string& suggestionText) const {
     return suggestionText + "\r\n\r\n" + GenLibStatus(library_.Listing(), world_.UserSettings);
 }
 
-void Mirror::Unload() {
-    if (state_.ActiveMethod > 0 && !state_.DialogueText.empty()) {
-        buffers_.WriteWorkBuffers(Record());
+bool Mirror::Unload() {
+    if (MustKeep() && !KeepInBuffers()) {
+        return false;
     }
     C(MirrorControl::txtMirror).Enabled = false;
+    return true;
 }
 
 DialogueBuffers Mirror::Record() const {
     return {state_.InspirationText, state_.DialogueText, state_.SuggestionText, state_.PairCount};
+}
+
+bool Mirror::KeepInBuffers() {
+    unkept_ = !buffers_.WriteWorkBuffers(Record());
+    return !unkept_;
+}
+
+// A finished Dialogue was written at Finish; only a failure then leaves it to be kept.
+bool Mirror::MustKeep() const {
+    return (state_.ActiveMethod > 0 && !state_.DialogueText.empty()) || unkept_;
 }
 
 void Mirror::ResetDialogue() {
@@ -195,7 +206,7 @@ void Mirror::FinishDialogue() {
         state_.DialogueView = C(MirrorControl::txtSaved).Text;
         ShowDialogueFull();
     }
-    buffers_.WriteWorkBuffers(Record());
+    KeepInBuffers();
 
     C(MirrorControl::lblRem).Visible = false;
     C(MirrorControl::lblRemS).Visible = false;
@@ -272,6 +283,7 @@ void Mirror::ClickNewCaption() {
             }
         }
         state_.DialogueSaved = 0;
+        unkept_ = false;
         buffers_.DeleteWorkBuffers();
         ResetDialogue();
     }

@@ -4,7 +4,8 @@
 namespace veyrant {
 
 // The Utilities and Library Options windows need the Write window out of the way, and every way
-// out of them ends the program, so a running Dialogue goes into the work buffers first.
+// out of them ends the program, so a running Dialogue goes into the work buffers first; when
+// they cannot be written the window stays, with the Dialogue on it.
 void Mirror::OpenWindowBehindWrite(WindowId window, const std::string& windowName) {
     if (state_.ReadLibrary != 0) {
         Message("Veyrant Sagrel Help", "You must first close the Read window before you "
@@ -12,11 +13,11 @@ void Mirror::OpenWindowBehindWrite(WindowId window, const std::string& windowNam
                                            windowName + " window.");
         return;
     }
+    if (MustKeep() && !KeepInBuffers()) {
+        return;
+    }
     world_.ClosingState = ClosingStates::UtilitiesUp;
     C(MirrorControl::txtMirror).Enabled = false;
-    if (state_.ActiveMethod != 0 && !state_.DialogueText.empty()) {
-        buffers_.WriteWorkBuffers(Record());
-    }
     Paint();
     world_.Windows.HideWindow(WindowId::Mirror);
     world_.Windows.ShowWindow(window);

@@ -1,5 +1,6 @@
 #include "engine/EngineFiles.h"
 
+#include "core/FileOperations.h"
 #include "core/ProgramError.h"
 #include "core/WholeFile.h"
 
@@ -25,11 +26,7 @@ void InstallEngineFiles(const AppFolder& folder) {
     if (StampOnDisk(stampFile) == ShippedEngineStamp()) {
         return;
     }
-    std::error_code error;
-    std::filesystem::create_directories(exe, error);
-    if (error) {
-        throw ProgramError(ErrorNumberFor(error));
-    }
+    MakeFolder(exe);
     WriteWholeFile(exe / SystemFileName, ShippedSystemFile());
     WriteWholeFile(exe / PlanFileName, ShippedPlanFile());
     // Last, so that an interrupted install is done again at the next start.

@@ -1,16 +1,17 @@
 #include "storage/DialogueLibrary.h"
 
 #include "core/DateFormat.h"
+#include "core/FileOperations.h"
 #include "core/ProgramError.h"
 #include "core/Text.h"
 #include "core/WholeFile.h"
-#include "storage/FileOperations.h"
+#include "storage/FileTransaction.h"
 #include "storage/LibraryFileName.h"
 #include "storage/StorageFailure.h"
 #include "storage/WorkBuffers.h"
 
 #include <algorithm>
-#include <system_error>
+#include <utility>
 
 namespace veyrant {
 
@@ -20,28 +21,22 @@ DateTime FileNameDate(const std::string& name) {
     return FileDateValue(ParseFileName(name).FileDateText);
 }
 
-// Rank by selection, latest first: for each rank from the top, the unmarked name with the
-// greatest key strictly above the best so far, starting from 0. Equal keys leave the one listed
-// first at the higher rank. A name whose key is not above 0 never wins, so such names take the
-// lowest ranks, in listing order.
+// Latest first by key, each key read once: equal keys leave the one listed first at the higher
+// rank, and a name whose key is not above 0 ranks below every dated one, in listing order.
+// Returned oldest first.
 std::vector<std::string> RankByDate(const std::vector<std::string>& names) {
-    std::vector<std::string> ranked(names.size());
-    std::vector<bool> marked(names.size(), false);
-    for (std::size_t rank = names.size(); rank >= 1; --rank) {
-        double best = 0;
-        std::size_t chosen = names.size();
-        for (std::size_t i = 0; i < names.size(); ++i) {
-            if (!marked[i] && SortKey(names[i]) > best) {
-                best = SortKey(names[i]);
-                chosen = i;
-            }
-        }
-        if (chosen == names.size()) {
-            chosen = static_cast<std::size_t>(std::find(marked.begin(), marked.end(), false) -
-                                              marked.begin());
-        }
-        marked[chosen] = true;
-        ranked[rank - 1] = names[chosen];
+    std::vector<std::pair<double, std::size_t>> keys;
+    keys.reserve(names.size());
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        const double key = SortKey(names[i]);
+        keys.emplace_back(key > 0 ? key : 0, i);
+    }
+    std::stable_sort(keys.begin(), keys.end(),
+                     [](const auto& a, const auto& b) { return a.first > b.first; });
+    std::vector<std::string> ranked;
+    ranked.reserve(names.size());
+    for (auto key = keys.rbegin(); key != keys.rend(); ++key) {
+        ranked.push_back(names[key->second]);
     }
     return ranked;
 }
@@ -73,32 +68,39 @@ bool DialogueLibrary::ScanLibrary() {
     }
 }
 
+// The folder is listed and ranked once; the pairs over the limits go, oldest first, in one
+// change, which leaves the same Library as deleting one pair at a time would.
 void DialogueLibrary::ScanAndRetain() {
     MakeLibraryFolders();
-    for (;;) {
-        const std::size_t count = ListInspirations().size();
-        if (count == 0) {
-            listing_.LibraryCount = 0;
-            return;
-        }
-        listing_.LibraryCount = static_cast<int>(count);
-        MakeRoom(count);
-        const auto names = ListInspirations();
-        if (names.size() != count) {
-            throw ProgramError(ErrorNumber::ProgramState);
-        }
-        const auto ranked = RankByDate(names);
-        listing_.OldestFile = ranked.front();
-        listing_.OldestAge = AgeInDays(clock_.Now(), FileNameDate(listing_.OldestFile));
-        // The last Dialogue stays, however old.
-        const bool overLimit = listing_.LibraryCount > settings_.MaxLibraryFiles ||
-                               listing_.OldestAge > settings_.MaxLibraryDays;
-        if (listing_.LibraryCount < 2 || !overLimit) {
-            FillLabels(ranked);
-            return;
-        }
-        DeletePair(listing_.OldestFile);
+    const auto names = ListInspirations();
+    if (names.empty()) {
+        listing_.LibraryCount = 0;
+        return;
     }
+    listing_.LibraryCount = static_cast<int>(names.size());
+    MakeRoom(names.size());
+    auto ranked = RankByDate(names);
+    std::size_t kept = 0;
+    for (;;) {
+        listing_.OldestFile = ranked[kept];
+        listing_.OldestAge = AgeInDays(clock_.Now(), FileNameDate(listing_.OldestFile));
+        const int count = static_cast<int>(ranked.size() - kept);
+        // The last Dialogue stays, however old.
+        const bool overLimit =
+            count > settings_.MaxLibraryFiles || listing_.OldestAge > settings_.MaxLibraryDays;
+        if (count < 2 || !overLimit) {
+            break;
+        }
+        ++kept;
+    }
+    if (kept > 0) {
+        const std::vector<std::string> oldest(ranked.begin(),
+                                              ranked.begin() + static_cast<long>(kept));
+        DeletePairs(oldest);
+        ranked.erase(ranked.begin(), ranked.begin() + static_cast<long>(kept));
+        listing_.LibraryCount = static_cast<int>(ranked.size());
+    }
+    FillLabels(ranked);
 }
 
 // The tables only grow, so that every index up to LibraryCount holds something even when a
@@ -134,18 +136,11 @@ void DialogueLibrary::FillLabels(const std::vector<std::string>& ranked) {
 // a crash interrupted.
 std::vector<std::string> DialogueLibrary::ListInspirations() const {
     std::vector<std::string> names;
-    std::error_code error;
-    std::filesystem::directory_iterator entries(folder_.Isp(), error);
-    if (error) {
-        throw ProgramError(ErrorNumberFor(error));
-    }
-    for (const auto& entry : entries) {
-        const std::string name = entry.path().filename().string();
-        if (name.front() != '.' && entry.is_regular_file(error)) {
-            names.push_back(name);
+    for (auto& name : ListFiles(folder_.Isp())) {
+        if (name.front() != '.') {
+            names.push_back(std::move(name));
         }
     }
-    std::sort(names.begin(), names.end());
     return names;
 }
 
@@ -154,9 +149,34 @@ void DialogueLibrary::MakeLibraryFolders() const {
     MakeFolder(folder_.Dlg());
 }
 
-void DialogueLibrary::DeletePair(const std::string& fileName) const {
-    RemoveFile(folder_.Isp() / fileName);
-    RemoveFile(folder_.Dlg() / fileName);
+// As one pair after the other, isp/ first, stopping at the first file that is missing: what
+// went before it goes in one change, and then the missing file is reported.
+void DialogueLibrary::DeletePairs(const std::vector<std::string>& fileNames) const {
+    const auto inspirations = ListFiles(folder_.Isp());
+    const auto dialogues = ListFiles(folder_.Dlg());
+    const auto holds = [](const std::vector<std::string>& sorted, const std::string& name) {
+        return std::binary_search(sorted.begin(), sorted.end(), name);
+    };
+    FileTransaction change(folder_.Root);
+    bool missing = false;
+    for (const auto& name : fileNames) {
+        if (!holds(inspirations, name)) {
+            missing = true;
+            break;
+        }
+        change.Remove(folder_.Isp() / name);
+        if (!holds(dialogues, name)) {
+            missing = true;
+            break;
+        }
+        change.Remove(folder_.Dlg() / name);
+    }
+    if (!change.Empty()) {
+        change.Commit();
+    }
+    if (missing) {
+        throw ProgramError(ErrorNumber::FileNotFound);
+    }
 }
 
 bool DialogueLibrary::AddToLibrary(const std::string& inspirationText,
@@ -165,24 +185,20 @@ bool DialogueLibrary::AddToLibrary(const std::string& inspirationText,
     // that the Dialogue is still saved.
     const DateTime date = clock_.FileDate(InspirationBufferPath(folder_)).value_or(clock_.Now());
     const std::string name = MakeFileName(date);
-    // The isp/ file is laid down first under a hidden name and put in place only once the
-    // Dialogue is written, so that a failure leaves the pair as it was, old or absent.
-    const std::filesystem::path staged = folder_.Isp() / ("." + name + ".new");
-    std::filesystem::path writing;
+    // Both files go in as one change: a failure or a crash leaves the pair as it was, old or
+    // absent, or the new pair whole.
+    std::filesystem::path writing = folder_.Isp() / name;
     try {
-        writing = folder_.Isp() / name;
         MakeFolder(folder_.Isp());
         writing = folder_.Dlg() / name;
         MakeFolder(folder_.Dlg());
+        FileTransaction change(folder_.Root);
         writing = folder_.Isp() / name;
-        WriteWholeFile(staged, inspirationText);
+        change.Write(writing, inspirationText);
         writing = folder_.Dlg() / name;
-        WriteWholeFile(writing, dialogueText);
-        writing = folder_.Isp() / name;
-        RenameFile(staged, writing);
+        change.Write(writing, dialogueText);
+        change.Commit();
     } catch (const ProgramError& error) {
-        std::error_code ignored;
-        std::filesystem::remove(staged, ignored);
         windows_.ShowMessage(SaveFailureBox(error.Number(), writing));
         return false;
     }
@@ -201,7 +217,7 @@ bool DialogueLibrary::DeleteDialogue(const std::string& fileName) {
         return false;
     }
     try {
-        DeletePair(fileName);
+        DeletePairs({fileName});
         return true;
     } catch (const ProgramError& error) {
         windows_.ShowMessage(WarningBox(

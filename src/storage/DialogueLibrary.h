@@ -39,8 +39,9 @@ public:
     // pair is gone, and the Reader then lists the Library anew and refreshes the status.
     bool DeleteDialogue(const std::string& fileName);
 
-    // Deletes isp/ then dlg/ of the name; raises ProgramError 53 if either is missing.
-    void DeletePair(const std::string& fileName) const;
+    // Deletes the pairs of those names as one change, as if isp/ then dlg/ of each in turn;
+    // raises ProgramError 53 at the first file missing, with the pairs before it gone.
+    void DeletePairs(const std::vector<std::string>& fileNames) const;
 
 private:
     void ScanAndRetain();

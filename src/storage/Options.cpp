@@ -159,9 +159,8 @@ void Options::cmdClean_Click() {
     }
     unloadReader_();
     try {
-        for (int k = 1; k <= listing.LibraryCount; ++k) {
-            library_.DeletePair(listing.LibraryFiles[static_cast<std::size_t>(k)]);
-        }
+        library_.DeletePairs({listing.LibraryFiles.begin() + 1,
+                              listing.LibraryFiles.begin() + 1 + listing.LibraryCount});
     } catch (const ProgramError& error) {
         windows_.ShowMessage(WarningBox(
             "Dialogue Library Corrupted",

@@ -70,9 +70,18 @@ MessageBoxRequest KeepFailureBox(int number, const std::filesystem::path& file) 
         Paragraphs("Error " + std::to_string(number) +
                        " attempting to keep your Dialogue in the work buffers. " +
                        Cause(number, file),
-                   "The work buffers still hold the Dialogue as it was last kept, and the "
-                   "Dialogue on the screen is unchanged. " +
-                       Remedy(number) + ", or click 'Print' or 'File' to keep a copy of it."));
+                   "Your Dialogue is not lost: it stays on the screen, and the program stays "
+                   "open. The work buffers still hold the Dialogue as it was last kept. " +
+                       Remedy(number) + ", then try again."));
+}
+
+MessageBoxRequest SettingsFailureBox(int number, const std::filesystem::path& file) {
+    return WarningBox("Error " + std::to_string(number) + " Storing the Settings",
+                      Paragraphs("Error " + std::to_string(number) +
+                                     " attempting to store your settings. " + Cause(number, file),
+                                 "Your Dialogues are not affected. The settings changed since "
+                                 "the program started are lost. " +
+                                     Remedy(number) + " before the next start."));
 }
 
 } // namespace veyrant

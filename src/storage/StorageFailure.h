@@ -19,4 +19,7 @@ MessageBoxRequest SaveFailureBox(int number, const std::filesystem::path& file);
 // Writing the work buffers failed; they still hold what they held before.
 MessageBoxRequest KeepFailureBox(int number, const std::filesystem::path& file);
 
+// Storing the settings on the way out failed; the program ends without them.
+MessageBoxRequest SettingsFailureBox(int number, const std::filesystem::path& file);
+
 } // namespace veyrant

@@ -1,14 +1,14 @@
 #include "storage/WorkBuffers.h"
 
 #include "core/FieldReader.h"
+#include "core/FileOperations.h"
 #include "core/ProgramError.h"
 #include "core/Text.h"
 #include "core/WholeFile.h"
-#include "storage/FileOperations.h"
+#include "storage/FileTransaction.h"
 #include "storage/StorageFailure.h"
 
 #include <array>
-#include <system_error>
 #include <utility>
 
 namespace veyrant {
@@ -24,10 +24,6 @@ constexpr const char* PairCountBuffer = "savep.tmp";
 // after every number.
 std::string NumberLine(int value) {
     return (value < 0 ? "" : " ") + std::to_string(value) + " " + std::string(CrLf);
-}
-
-std::filesystem::path Staged(const std::filesystem::path& path) {
-    return path.parent_path() / (path.filename().string() + ".new");
 }
 
 } // namespace
@@ -50,25 +46,20 @@ bool WorkBuffers::WriteWorkBuffers(const DialogueBuffers& dialogue) {
         {folder_.Exe() / SuggestionBuffer, dialogue.SuggestionText},
         {folder_.Exe() / PairCountBuffer, NumberLine(dialogue.PairCount)},
     }};
-    // All four are laid down beside the old set first, so that a full disk halfway leaves the
-    // old set whole; renaming them over it cannot run out of room.
+    // All four are laid down beside the old set and then put in place as one change, so that a
+    // full disk or a crash halfway leaves the old set whole.
     std::filesystem::path writing = folder_.Exe();
     try {
         MakeFolder(folder_.Exe());
+        FileTransaction change(folder_.Root);
         for (const auto& [path, text] : files) {
             writing = path;
-            WriteWholeFile(Staged(path), text);
+            change.Write(path, text);
         }
-        for (const auto& [path, text] : files) {
-            writing = path;
-            RenameFile(Staged(path), path);
-        }
+        writing = folder_.Exe();
+        change.Commit();
         return true;
     } catch (const ProgramError& error) {
-        for (const auto& [path, text] : files) {
-            std::error_code ignored;
-            std::filesystem::remove(Staged(path), ignored);
-        }
         windows_.ShowMessage(KeepFailureBox(error.Number(), writing));
         return false;
     }
@@ -101,11 +92,14 @@ void WorkBuffers::DeleteWorkBuffers() {
     if (settings_.GuestMode == 1) {
         return;
     }
+    FileTransaction change(folder_.Root);
     for (const char* name : {InspirationBuffer, DialogueBuffer, PairCountBuffer}) {
-        std::error_code error;
-        if (!std::filesystem::remove(folder_.Exe() / name, error)) {
-            return;
-        }
+        change.Remove(folder_.Exe() / name);
+    }
+    try {
+        change.Commit();
+    } catch (const ProgramError&) {
+        // The buffers stay as they were, or go at the next start; either is harmless.
     }
 }
 

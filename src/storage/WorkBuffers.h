@@ -47,8 +47,8 @@ public:
     // begins a new Dialogue, and says nothing.
     std::optional<PriorDialogue> ReadWorkBuffers() const;
 
-    // Deletes savei.tmp, savem.tmp and savep.tmp in that order and stops silently at the first
-    // that cannot go. saves.tmp stays: alone it never makes a Prior Dialogue.
+    // Deletes savei.tmp, savem.tmp and savep.tmp as one change, silently; one that is missing
+    // already counts as deleted. saves.tmp stays: alone it never makes a Prior Dialogue.
     void DeleteWorkBuffers();
 
 private:

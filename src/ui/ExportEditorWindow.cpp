@@ -58,8 +58,8 @@ ExportEditorWindow::ExportEditorWindow(WindowLayer& windows, const QString& text
 
 bool ExportEditorWindow::SaveTo(const QString& path) {
     try {
-        WriteWholeFile(QFile::encodeName(path).toStdString(),
-                       editor_->toPlainText().toUtf8().toStdString());
+        WriteUserFile(QFile::encodeName(path).toStdString(),
+                      editor_->toPlainText().toUtf8().toStdString());
     } catch (const ProgramError& error) {
         // The box speaks the program's code page; a name beyond it is shown by its folder only.
         const auto shown = Utf16ToCp1252(path.toStdU16String());

@@ -7,6 +7,7 @@
 #include "shell/Resize.h"
 #include "ui/BackWindow.h"
 #include "ui/BannerWindow.h"
+#include "ui/GuardedApplication.h"
 #include "ui/MirrorWindow.h"
 #include "ui/OptionsWindow.h"
 #include "ui/QtWindowLayer.h"
@@ -20,13 +21,21 @@
 
 int main(int argc, char** argv) {
     using namespace veyrant;
-    QApplication qt(argc, argv);
+    // The net needs the application, which needs the window layer, which needs Qt running: it
+    // is handed the application once that is made.
+    Application* running = nullptr;
+    GuardedApplication qt(argc, argv, [&](int number) {
+        if (running != nullptr) {
+            ReportSystemError(*running, number);
+        }
+    });
     QApplication::setStyle(QStringLiteral("Fusion"));
 
     QtWindowLayer windows;
     SystemClock clock;
     Random random;
     Application app(AppFolder::FromEnvironment(), "/proc/self/exe", clock, random, windows);
+    running = &app;
     windows.SetPrintFace([&] { return app.Fonts.Main; });
     MirrorWindow* writeWindow = nullptr;
     std::unique_ptr<Options> libraryOptions;

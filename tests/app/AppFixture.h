@@ -27,7 +27,8 @@ struct AppFixture {
         WriteWholeFile(Folder.Exe() / name, text);
     }
 
-    TempFolder Temp;
+    // In memory where the system allows: a start flushes a good many files to the disk.
+    TempFolder Temp{MemoryFolder()};
     AppFolder Folder{Temp / "veyrant-sagrel"};
     std::filesystem::path Program = Temp / "veyrant-sagrel-program";
     FakeClock Clock;

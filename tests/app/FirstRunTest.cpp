@@ -4,6 +4,7 @@
 #include "core/ProgramError.h"
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 namespace veyrant::testing {
 namespace {
@@ -46,6 +47,56 @@ TEST(FirstRun, AFolderThatCannotBeMadeRaisesTheProgramsError) {
         FAIL() << "no error";
     } catch (const ProgramError& error) {
         EXPECT_EQ(error.Number(), ErrorNumber::PathNotFound);
+    }
+}
+
+unsigned Rights(const std::filesystem::path& path) {
+    struct stat status {};
+    EXPECT_EQ(::lstat(path.c_str(), &status), 0) << path;
+    return status.st_mode & 07777;
+}
+
+// Another account must not read the Dialogues: not on a fresh install, not in a folder an earlier
+// version left open, and not in a file written since.
+TEST(FirstRun, TheFolderAndEveryFileAreTheUsersAlone) {
+    struct Case {
+        const char* Name;
+        unsigned FolderRights; // 0: the folder is new
+        unsigned FileRights;
+    };
+    const Case cases[] = {
+        {"fresh", 0, 0},
+        {"left open by an earlier version", 0755, 0644},
+        {"open to everyone", 0777, 0666},
+        {"already private", 0700, 0600},
+        {"narrower than ours", 0700, 0400},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.Name);
+        AppFixture fixture;
+        const AppFolder& folder = fixture.Folder;
+        const auto saved = folder.Dlg() / "76112010.000";
+        if (c.FolderRights != 0) {
+            for (const auto& path : {folder.Exe(), folder.Dlg(), folder.Isp()}) {
+                std::filesystem::create_directories(path);
+                WriteWholeFile(path / "76112010.000", "\r\n\r\n\tprivate");
+                ::chmod((path / "76112010.000").c_str(), c.FileRights);
+                ::chmod(path.c_str(), c.FolderRights);
+            }
+            ::chmod(folder.Root.c_str(), c.FolderRights);
+        }
+        InstallAppFolder(folder, fixture.Windows);
+        for (const auto& path : {folder.Root, folder.Exe(), folder.Dlg(), folder.Isp()}) {
+            EXPECT_EQ(Rights(path), 0700u) << path;
+        }
+        if (c.FolderRights != 0) {
+            EXPECT_EQ(Rights(saved), c.FileRights & 0600u);
+        }
+        WriteWholeFile(folder.Isp() / "76112011.000", "\tnew");
+        for (const auto& name : {"Qdrfonts.ini", "qdr41.sys", "qdr41.mtx"}) {
+            EXPECT_EQ(Rights(folder.Exe() / name), 0600u) << name;
+        }
+        EXPECT_EQ(Rights(folder.Isp() / "76112011.000"), 0600u);
     }
 }
 

@@ -1,9 +1,16 @@
 #include "app/StartUp.h"
 
 #include "app/AppFixture.h"
+#include "core/ProgramError.h"
 #include "shell/Version.h"
+#include "support/FileFaults.h"
 
+#include <cerrno>
+#include <functional>
 #include <gtest/gtest.h>
+#include <new>
+#include <stdexcept>
+#include <system_error>
 #include <vector>
 
 namespace veyrant::testing {
@@ -165,15 +172,66 @@ TEST(StartUp, ClosingTheWriteWindowStoresTheSettingsAndEndsBehindTheBanner) {
     EXPECT_TRUE(fixture.Windows.Ended);
 }
 
-TEST(StartUp, ExitThatCannotStoreTheSettingsSaysSoAndEnds) {
-    AppFixture fixture;
-    Main(fixture.App);
-    std::filesystem::remove_all(fixture.Folder.Exe());
-    ExitProgram(fixture.App);
-    ASSERT_EQ(fixture.Windows.Boxes.size(), 1u);
-    EXPECT_EQ(fixture.Windows.Boxes[0].Title,
-              "Unknown System Error 53 -- Please Notify Veyrant Technology");
-    EXPECT_TRUE(fixture.Windows.Ended);
+// The Dialogues are kept by then; the box says what failed, and the program still ends.
+TEST(StartUp, ExitThatCannotStoreTheSettingsSaysWhatFailedAndEnds) {
+    struct Case {
+        int Error;
+        const char* Title;
+        const char* Cause;
+    };
+    const Case cases[] = {
+        {ENOSPC, "Error 61 Storing the Settings", "The disk is full."},
+        {EROFS, "Error 70 Storing the Settings", "The program is not allowed to write in"},
+        {EIO, "Error 75 Storing the Settings", " cannot be written."},
+    };
+    for (const Case& c : cases) {
+        AppFixture fixture;
+        Main(fixture.App);
+        FileFaults faults;
+        faults.FailEvery(FileCall::Write, c.Error);
+        ExitProgram(fixture.App);
+        ASSERT_EQ(fixture.Windows.Boxes.size(), 1u);
+        const auto& box = fixture.Windows.Boxes[0];
+        EXPECT_EQ(box.Title, c.Title);
+        EXPECT_NE(box.Text.find(c.Cause), std::string::npos) << box.Text;
+        EXPECT_NE(box.Text.find("Your Dialogues are not affected."), std::string::npos);
+        EXPECT_TRUE(fixture.Windows.Ended);
+    }
+}
+
+// Whatever goes wrong in the start, the user sees the program's box before it ends.
+TEST(StartUp, AnyFailureOfTheStartEndsInTheSystemErrorBox) {
+    struct Case {
+        const char* Name;
+        std::function<void()> Fail;
+        const char* Title;
+    };
+    const Case cases[] = {
+        {"a folder listing the system refuses",
+         [] {
+             throw std::filesystem::filesystem_error(
+                 "directory iterator", std::make_error_code(std::errc::permission_denied));
+         },
+         "Unknown System Error 70 -- Please Notify Veyrant Technology"},
+        {"out of memory", [] { throw std::bad_alloc(); }, "Cannot Load -- Out of Memory"},
+        {"a failure of the library", [] { throw std::length_error("basic_string::_M_create"); },
+         "Unknown System Error 1001 -- Please Notify Veyrant Technology"},
+        {"the program's own error", [] { throw ProgramError(ErrorNumber::FileNotFound); },
+         "Unknown System Error 53 -- Please Notify Veyrant Technology"},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.Name);
+        AppFixture fixture;
+        SetFileFault([&](FileCall, const std::filesystem::path&) -> int {
+            c.Fail();
+            return 0;
+        });
+        Main(fixture.App);
+        SetFileFault({});
+        ASSERT_EQ(fixture.Windows.Boxes.size(), 1u);
+        EXPECT_EQ(fixture.Windows.Boxes[0].Title, c.Title);
+        EXPECT_TRUE(fixture.Windows.Ended);
+    }
 }
 
 TEST(StartUp, SystemErrorBoxesByNumber) {

@@ -6,6 +6,7 @@
 #include <csignal>
 #include <gtest/gtest.h>
 #include <sys/resource.h>
+#include <sys/stat.h>
 
 namespace veyrant {
 namespace {
@@ -66,6 +67,34 @@ TEST(WholeFile, AWriteThatFailsMidwayLeavesTheOldFileIntact) {
         ++files;
     }
     EXPECT_EQ(files, 1);
+}
+
+// The program's own files are the user's alone whatever the file-creation mask says; an export
+// the user saves elsewhere takes the rights the mask gives, as any file the user makes.
+TEST(WholeFile, ProgramFilesArePrivateAndExportsFollowTheUsersMask) {
+    struct Case {
+        const char* Name;
+        void (*Write)(const std::filesystem::path&, std::string_view);
+        mode_t Mask;
+        unsigned Rights;
+    };
+    const Case cases[] = {
+        {"program file, open mask", WriteWholeFile, 0000, 0600},
+        {"program file, usual mask", WriteWholeFile, 0022, 0600},
+        {"export, usual mask", WriteUserFile, 0022, 0644},
+        {"export, private mask", WriteUserFile, 0077, 0600},
+        {"export, group mask", WriteUserFile, 0002, 0664},
+    };
+    TempFolder temp;
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.Name);
+        const mode_t saved = ::umask(c.Mask);
+        c.Write(temp / "Dialogue.txt", "\tText");
+        ::umask(saved);
+        struct stat status {};
+        ASSERT_EQ(::stat((temp / "Dialogue.txt").c_str(), &status), 0);
+        EXPECT_EQ(status.st_mode & 0777, c.Rights);
+    }
 }
 
 } // namespace

@@ -1,5 +1,7 @@
 #include "core/Text.h"
+#include "core/WholeFile.h"
 #include "dialogue/MirrorDriver.h"
+#include "support/FileFaults.h"
 
 #include <gtest/gtest.h>
 #include <ostream>
@@ -228,6 +230,27 @@ TEST(MirrorFinish, ACancelledListInAnEmptyDialogueClosesBeforeOldBuffersReopen) 
     EXPECT_FALSE(driver.Box(MirrorControl::txtAnalyze).Visible);
     EXPECT_FALSE(driver.Box(MirrorControl::lblRemS).Visible);
     EXPECT_EQ(driver.mirror->Controls().Focus, MirrorControl::txtMirror);
+}
+
+// Finish writes the buffers once; when they could not take the Dialogue, the way out tries
+// again instead of leaving it behind.
+TEST(MirrorFinish, AFinishedDialogueTheBuffersRefusedIsKeptOnTheWayOut) {
+    MirrorDriver driver;
+    driver.StartConverse();
+    driver.Converse("What would I do if I were not afraid?");
+    {
+        FileFaults faults;
+        faults.FailEvery(FileCall::Write, ENOSPC);
+        driver.mirror->Click(MirrorControl::cmdNew); // Finish
+    }
+    ASSERT_EQ(driver.Layer.Boxes.size(), 1u);
+    EXPECT_EQ(driver.Layer.Boxes[0].Title, "Error 61 Keeping the Dialogue");
+    EXPECT_EQ(driver.Text(MirrorControl::cmdNew), "New");
+    const auto kept = driver.App.Folder.Exe() / "savem.tmp";
+    EXPECT_FALSE(std::filesystem::exists(kept));
+
+    EXPECT_TRUE(driver.mirror->Unload());
+    EXPECT_EQ(ReadWholeFile(kept), driver.State().DialogueText);
 }
 
 } // namespace

@@ -3,8 +3,10 @@
 
 #include "MirrorDriver.h"
 #include "core/WholeFile.h"
+#include "support/FileFaults.h"
 
 #include <gtest/gtest.h>
+#include <optional>
 
 namespace veyrant::testing {
 namespace {
@@ -47,6 +49,56 @@ TEST(MirrorUtilities, RightClickWindowsOpenWithTheRunningDialogueKept) {
         if (c.BuffersWritten) {
             EXPECT_EQ(ReadWholeFile(kept), driver.State().DialogueText);
         }
+    }
+}
+
+// Closing the window or opening a right-click window ends the program; when the running
+// Dialogue cannot be kept first, the program stays with it on the screen, says why, and the next
+// try keeps it.
+TEST(MirrorUtilities, ADialogueTheBuffersCannotTakeKeepsTheWindowOpen) {
+    struct Case {
+        const char* Name;
+        int Error;
+        const char* Title;
+        std::optional<MirrorControl> RightClick; // none: the window is closed
+    };
+    const Case cases[] = {
+        {"close, disk full", ENOSPC, "Error 61 Keeping the Dialogue", std::nullopt},
+        {"close, read-only disk", EROFS, "Error 70 Keeping the Dialogue", std::nullopt},
+        {"Library Options, disk failing", EIO, "Error 75 Keeping the Dialogue",
+         MirrorControl::cmdRetrieve},
+        {"Utilities, disk full", ENOSPC, "Error 61 Keeping the Dialogue", MirrorControl::cmdHelp},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.Name);
+        MirrorDriver driver;
+        driver.StartConverse();
+        driver.Converse("Why do I wait so long before I decide anything?");
+        const std::string dialogue = driver.State().DialogueText;
+        const auto leave = [&] {
+            if (!c.RightClick) {
+                return driver.mirror->Unload();
+            }
+            driver.mirror->MouseDown(*c.RightClick, MouseButton::Right);
+            return driver.App.ClosingState == ClosingStates::UtilitiesUp;
+        };
+        {
+            FileFaults faults;
+            faults.FailEvery(FileCall::Write, c.Error);
+            EXPECT_FALSE(leave());
+        }
+        EXPECT_EQ(driver.App.ClosingState, ClosingStates::Running);
+        EXPECT_TRUE(driver.Box(MirrorControl::txtMirror).Enabled);
+        EXPECT_EQ(driver.State().DialogueText, dialogue);
+        ASSERT_EQ(driver.Layer.Boxes.size(), 1u);
+        EXPECT_EQ(driver.Layer.Boxes[0].Title, c.Title);
+        EXPECT_NE(driver.Layer.Boxes[0].Text.find("Your Dialogue is not lost: it stays on the "
+                                                  "screen, and the program stays open."),
+                  std::string::npos);
+        EXPECT_FALSE(std::filesystem::exists(driver.App.Folder.Exe() / "savem.tmp"));
+
+        EXPECT_TRUE(leave());
+        EXPECT_EQ(ReadWholeFile(driver.App.Folder.Exe() / "savem.tmp"), dialogue);
     }
 }
 

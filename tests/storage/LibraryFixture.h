@@ -23,9 +23,22 @@
 
 namespace veyrant::testing {
 
-// A program's worth of storage in a fresh folder, with the clock at noon on 22 November 2026.
-class LibraryFixture : public ::testing::Test {
-protected:
+// Puts a saved Dialogue into the Library as a save at that date would.
+inline std::string PutPair(const AppFolder& folder, const DateTime& when,
+                           const std::string& dialogue) {
+    std::filesystem::create_directories(folder.Isp());
+    std::filesystem::create_directories(folder.Dlg());
+    const std::string name = MakeFileName(when);
+    WriteWholeFile(folder.Isp() / name, "\tInspiration of " + name);
+    WriteWholeFile(folder.Dlg() / name, dialogue);
+    return name;
+}
+
+// A program's worth of storage in a fresh folder under the base, with the clock at noon on 22
+// November 2026.
+struct LibraryStorage {
+    explicit LibraryStorage(const std::filesystem::path& base) : Temp(base) {}
+
     TempFolder Temp;
     AppFolder Folder{Temp.Path()};
     Settings UserSettings;
@@ -33,15 +46,15 @@ protected:
     FakeWindowLayer Windows;
     DialogueLibrary Library{Folder, UserSettings, Clock, Windows};
     WorkBuffers Buffers{Folder, UserSettings, Clock, Windows};
+};
+
+class LibraryFixture : public ::testing::Test, protected LibraryStorage {
+protected:
+    LibraryFixture() : LibraryStorage(std::filesystem::temp_directory_path()) {}
 
     // Puts a saved Dialogue into the Library as a save at that date would.
     std::string SaveAt(const DateTime& when, const std::string& dialogue = "\r\n\r\n\t\x93Hi\x94") {
-        std::filesystem::create_directories(Folder.Isp());
-        std::filesystem::create_directories(Folder.Dlg());
-        const std::string name = MakeFileName(when);
-        WriteWholeFile(Folder.Isp() / name, "\tInspiration of " + name);
-        WriteWholeFile(Folder.Dlg() / name, dialogue);
-        return name;
+        return PutPair(Folder, when, dialogue);
     }
 
     // A date the given number of days (and hours) before the clock's.

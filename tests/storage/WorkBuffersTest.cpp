@@ -1,4 +1,5 @@
 #include "LibraryFixture.h"
+#include "support/FileFaults.h"
 
 namespace veyrant::testing {
 namespace {
@@ -89,11 +90,20 @@ TEST_F(WorkBuffersTest, DeletingLeavesTheSuggestionBehindWhichAloneIsNoPriorDial
     EXPECT_EQ(Names(Folder.Exe()), std::vector<std::string>{"saves.tmp"});
     EXPECT_FALSE(Buffers.ReadWorkBuffers().has_value());
 
-    // A delete that cannot go stops there silently and leaves the later files.
+    // One already missing does not stop the others.
     ASSERT_TRUE(Buffers.WriteWorkBuffers(Running));
     std::filesystem::remove(Folder.Exe() / "savem.tmp");
     Buffers.DeleteWorkBuffers();
-    EXPECT_EQ(Names(Folder.Exe()), (std::vector<std::string>{"savep.tmp", "saves.tmp"}));
+    EXPECT_EQ(Names(Folder.Exe()), std::vector<std::string>{"saves.tmp"});
+
+    // A delete the disk refuses leaves the set whole, without a word.
+    ASSERT_TRUE(Buffers.WriteWorkBuffers(Running));
+    {
+        FileFaults faults;
+        faults.FailEvery(FileCall::Sync, EIO);
+        Buffers.DeleteWorkBuffers();
+    }
+    EXPECT_TRUE(Buffers.ReadWorkBuffers().has_value());
     EXPECT_TRUE(Windows.Boxes.empty());
 }
 
@@ -117,9 +127,9 @@ TEST_F(WorkBuffersTest, AFailedWriteLeavesTheOldSetWhole) {
     EXPECT_EQ(Windows.Boxes[0].Title, "Error 61 Keeping the Dialogue");
     EXPECT_EQ(Windows.Boxes[0].Text,
               "Error 61 attempting to keep your Dialogue in the work buffers. The disk is "
-              "full.\r\n\r\nThe work buffers still hold the Dialogue as it was last kept, and the "
-              "Dialogue on the screen is unchanged. Make room on the disk, or click 'Print' or "
-              "'File' to keep a copy of it.");
+              "full.\r\n\r\nYour Dialogue is not lost: it stays on the screen, and the program "
+              "stays open. The work buffers still hold the Dialogue as it was last kept. Make "
+              "room on the disk, then try again.");
 }
 
 TEST_F(WorkBuffersTest, AFileWhereTheProgramFolderShouldBeGivesTheBox) {

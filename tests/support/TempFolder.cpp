@@ -6,12 +6,22 @@
 
 namespace veyrant::testing {
 
-TempFolder::TempFolder() {
-    std::string pattern = (std::filesystem::temp_directory_path() / "veyrant-test-XXXXXX").string();
+TempFolder::TempFolder() : TempFolder(std::filesystem::temp_directory_path()) {}
+
+TempFolder::TempFolder(const std::filesystem::path& base) {
+    std::string pattern = (base / "veyrant-test-XXXXXX").string();
     if (::mkdtemp(pattern.data()) == nullptr) {
         std::abort();
     }
     path_ = pattern;
+}
+
+std::filesystem::path MemoryFolder() {
+    std::error_code error;
+    if (std::filesystem::is_directory("/dev/shm", error)) {
+        return "/dev/shm";
+    }
+    return std::filesystem::temp_directory_path();
 }
 
 TempFolder::~TempFolder() {

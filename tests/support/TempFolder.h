@@ -8,6 +8,8 @@ namespace veyrant::testing {
 class TempFolder {
 public:
     TempFolder();
+    // Under that folder instead of the system's temporary folder.
+    explicit TempFolder(const std::filesystem::path& base);
     ~TempFolder();
     TempFolder(const TempFolder&) = delete;
     TempFolder& operator=(const TempFolder&) = delete;
@@ -20,5 +22,9 @@ public:
 private:
     std::filesystem::path path_;
 };
+
+// A folder in memory where the system has one, so that flushes to the disk cost nothing; the
+// system's temporary folder otherwise.
+std::filesystem::path MemoryFolder();
 
 } // namespace veyrant::testing

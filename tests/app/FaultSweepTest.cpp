@@ -1,0 +1,70 @@
+// The writing paths of the frame of the program, swept with a failing or killed file call at
+// every step: the settings stored on the way out, and the folder laid down at start.
+
+#include "support/FaultSweep.h"
+
+#include "app/AppFixture.h"
+#include "app/FirstRun.h"
+#include "app/SettingsFiles.h"
+#include "app/StartUp.h"
+#include "core/CaughtError.h"
+
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+namespace veyrant::testing {
+namespace {
+
+struct AppRun : AppFixture {
+    std::optional<std::string> Disagreement() const { return std::nullopt; }
+
+    // The next start lays the folder down again, finishing whatever the kill cut short.
+    std::optional<std::string> Restart(const FolderImage&, const FolderImage&) {
+        try {
+            InstallAppFolder(Folder, Windows);
+        } catch (...) {
+            return "the next start fails with " + std::to_string(CaughtErrorNumber());
+        }
+        return std::nullopt;
+    }
+
+    // The start lays the folder down first; whatever fails there ends in the system error box.
+    void Install() {
+        try {
+            InstallAppFolder(Folder, Windows);
+        } catch (...) {
+            ReportSystemError(App, CaughtErrorNumber());
+        }
+    }
+};
+
+TEST(FaultSweep, TheSettingsAndTheFolderLeaveOldOrNewAndSayWhatFailed) {
+    const std::vector<SweepPath> paths = {
+        PathIn<AppRun>(
+            "settings stored at exit", [](AppRun& run) { run.Install(); },
+            [](AppRun& run) {
+                run.App.UserSettings.WriteFontStep = 2;
+                ExitProgram(run.App);
+            }),
+        PathIn<AppRun>(
+            "first start: the folder laid down", [](AppRun&) {},
+            [](AppRun& run) { run.Install(); }),
+        PathIn<AppRun>(
+            "start over a folder an earlier version left open",
+            [](AppRun& run) {
+                std::filesystem::create_directories(run.Folder.Isp());
+                std::filesystem::create_directories(run.Folder.Dlg());
+                run.PutExeFile("Tolmira.ini", " 2 \r\n");
+                for (const auto& path :
+                     {run.Folder.Root, run.Folder.Exe(), run.Folder.Isp(), run.Folder.Dlg()}) {
+                    ::chmod(path.c_str(), 0755);
+                }
+                ::chmod((run.Folder.Exe() / "Tolmira.ini").c_str(), 0644);
+            },
+            [](AppRun& run) { run.Install(); }),
+    };
+    SweepAll(paths);
+}
+
+} // namespace
+} // namespace veyrant::testing

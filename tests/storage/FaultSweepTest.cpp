@@ -1,0 +1,166 @@
+// Every writing path of the storage, swept with a failing or killed file call at every step.
+
+#include "support/FaultSweep.h"
+
+#include "LibraryFixture.h"
+#include "shell/AppFolder.h"
+#include "shell/Settings.h"
+#include "storage/DialogueLibrary.h"
+#include "storage/FileTransaction.h"
+#include "storage/LibraryFileName.h"
+#include "storage/Options.h"
+#include "storage/WorkBuffers.h"
+#include "support/FakeClock.h"
+#include "support/FakeWindowLayer.h"
+#include "support/TempFolder.h"
+
+#include <algorithm>
+#include <fstream>
+#include <gtest/gtest.h>
+
+namespace veyrant::testing {
+namespace {
+
+const DialogueBuffers Kept{"\tA quiet river carves the stone.",
+                           "\r\n\r\n\t\x93What is next?\x94\r\n\tWhat you choose.",
+                           "Begin with what is nearest to you.", 1};
+const DialogueBuffers Running{"\tThe lamp waits for the evening.",
+                              "\r\n\r\n\t\x93Why now?\x94\r\n\tBecause.\r\n\r\n\t\x93"
+                              "And then?"
+                              "\x94\r\n\tThen you will know.",
+                              "Write it down before you sleep.", 2};
+
+// The storage of one run, in memory where the system allows.
+struct StorageRun : LibraryStorage {
+    StorageRun() : LibraryStorage(MemoryFolder()) {}
+
+    std::optional<std::string> Disagreement() const {
+        int onDisk = 0;
+        std::error_code error;
+        for (const auto& entry : std::filesystem::directory_iterator(Folder.Isp(), error)) {
+            onDisk += entry.path().filename().string().front() != '.' ? 1 : 0;
+        }
+        // A scan that failed has said so and leaves its tables as they stood.
+        const bool scanFailed =
+            std::any_of(Windows.Boxes.begin(), Windows.Boxes.end(), [](const auto& box) {
+                return box.Title.ends_with("Dialogue Library File Names");
+            });
+        if (!scanFailed && Library.Listing().LibraryCount != onDisk) {
+            return "the Library lists " + std::to_string(Library.Listing().LibraryCount) +
+                   " Dialogues, isp/ holds " + std::to_string(onDisk);
+        }
+        if (BuffersKept && Buffers.ReadWorkBuffers().has_value() != true) {
+            return "the buffers were said to be kept, and are not";
+        }
+        return std::nullopt;
+    }
+
+    std::optional<std::string> Restart(const FolderImage& before, const FolderImage& after) {
+        FinishInterruptedChanges(Folder.Root);
+        DialogueLibrary library(Folder, UserSettings, Clock, Windows);
+        library.ScanLibrary();
+        const auto& listing = library.Listing();
+        for (int k = 1; k <= listing.LibraryCount; ++k) {
+            const auto& name = listing.LibraryFiles[static_cast<std::size_t>(k)];
+            if (!std::filesystem::exists(Folder.Dlg() / name)) {
+                return "the Library lists " + name + " without its Dialogue";
+            }
+        }
+        const auto prior = Buffers.ReadWorkBuffers();
+        const auto held = [&](const FolderImage& image) {
+            return image.contains("exe/savem.tmp") && image.contains("exe/savep.tmp") &&
+                   image.contains("exe/savei.tmp") && image.contains("exe/saves.tmp");
+        };
+        if (prior) {
+            const std::string dialogue = prior->Buffers.DialogueText;
+            const bool old = held(before) && before.at("exe/savem.tmp") == dialogue;
+            const bool now = held(after) && after.at("exe/savem.tmp") == dialogue;
+            if (!old && !now) {
+                return "the Prior Dialogue that reopens is neither the old nor the new one";
+            }
+        } else if (held(before) && held(after)) {
+            return "the running Dialogue does not reopen";
+        }
+        return std::nullopt;
+    }
+
+    std::string SaveAt(const DateTime& when, const std::string& dialogue) {
+        return PutPair(Folder, when, dialogue);
+    }
+    DateTime DaysAgo(double days) const { return FromDayNumber(DayNumber(Clock.Date) - days); }
+
+    bool BuffersKept = false;
+};
+
+void KeepBuffers(StorageRun& run) {
+    std::filesystem::create_directories(run.Folder.Exe());
+    ASSERT_TRUE(run.Buffers.WriteWorkBuffers(Kept));
+}
+
+void WithLibrary(StorageRun& run) {
+    run.SaveAt(run.DaysAgo(3), "\r\n\r\n\tthree days ago");
+    run.SaveAt(run.DaysAgo(2), "\r\n\r\n\ttwo days ago");
+    run.Library.ScanLibrary();
+}
+
+TEST(FaultSweep, EveryStoragePathLeavesOldOrNewAndSaysWhatFailed) {
+    const std::vector<SweepPath> paths = {
+        PathIn<StorageRun>(
+            "work buffers, first written (Finish, close, right-click)",
+            [](StorageRun& run) { std::filesystem::create_directories(run.Folder.Root); },
+            [](StorageRun& run) { run.BuffersKept = run.Buffers.WriteWorkBuffers(Running); }),
+        PathIn<StorageRun>(
+            "work buffers, written over a kept Dialogue", KeepBuffers,
+            [](StorageRun& run) { run.BuffersKept = run.Buffers.WriteWorkBuffers(Running); }),
+        PathIn<StorageRun>(
+            "work buffers, deleted by New", KeepBuffers,
+            [](StorageRun& run) { run.Buffers.DeleteWorkBuffers(); }, true),
+        PathIn<StorageRun>(
+            "save to the Library, retention deleting the oldest",
+            [](StorageRun& run) {
+                WithLibrary(run);
+                KeepBuffers(run);
+                run.UserSettings.MaxLibraryFiles = 2;
+            },
+            [](StorageRun& run) {
+                run.Library.AddToLibrary(Running.InspirationText, Running.DialogueText);
+            }),
+        PathIn<StorageRun>(
+            "save to the Library twice in one minute",
+            [](StorageRun& run) {
+                KeepBuffers(run);
+                run.Library.AddToLibrary(Kept.InspirationText, Kept.DialogueText);
+            },
+            [](StorageRun& run) {
+                run.Library.AddToLibrary(Running.InspirationText, Running.DialogueText);
+            }),
+        PathIn<StorageRun>("delete from the Reader", WithLibrary,
+                           [](StorageRun& run) {
+                               run.Windows.Answers = {MessageAnswer::Yes};
+                               if (run.Library.DeleteDialogue(
+                                       run.Library.Listing().LibraryFiles[1])) {
+                                   run.Library.ScanLibrary();
+                               }
+                           }),
+        PathIn<StorageRun>(
+            "retention at start",
+            [](StorageRun& run) {
+                WithLibrary(run);
+                run.SaveAt(run.DaysAgo(1), "\r\n\r\n\tyesterday");
+                run.UserSettings.MaxLibraryFiles = 1;
+            },
+            [](StorageRun& run) { run.Library.ScanLibrary(); }),
+        PathIn<StorageRun>("Library Options, then Clean", WithLibrary,
+                           [](StorageRun& run) {
+                               Options window(
+                                   run.Library, run.UserSettings, run.Windows, [] {}, [] {});
+                               window.Form_Load();
+                               run.Windows.Answers = {MessageAnswer::Yes};
+                               window.cmdClean_Click();
+                           }),
+    };
+    SweepAll(paths);
+}
+
+} // namespace
+} // namespace veyrant::testing

@@ -1,0 +1,170 @@
+#include "support/FaultSweep.h"
+
+#include <cerrno>
+#include <fstream>
+#include <gtest/gtest.h>
+#include <iostream>
+#include <set>
+#include <sstream>
+
+namespace veyrant::testing {
+
+namespace {
+
+struct Fault {
+    int Error;
+    const char* Name;
+    int Number; // the number the user must see
+};
+
+constexpr Fault Faults[] = {
+    {ENOSPC, "ENOSPC", 61},
+    {EIO, "EIO", 75},
+    {EROFS, "EROFS", 70},
+};
+
+const char* const BufferFiles[] = {"exe/savei.tmp", "exe/savem.tmp", "exe/saves.tmp",
+                                   "exe/savep.tmp"};
+
+std::optional<std::string> Find(const FolderImage& image, const std::string& file) {
+    const auto found = image.find(file);
+    return found == image.end() ? std::nullopt : std::optional<std::string>(found->second);
+}
+
+// A group is whole when all its files stand as before, or all as after.
+bool Whole(const std::vector<std::string>& group, const FolderImage& before,
+           const FolderImage& after, const FolderImage& now) {
+    const auto all = [&](const FolderImage& side) {
+        for (const auto& file : group) {
+            if (Find(now, file) != Find(side, file)) {
+                return false;
+            }
+        }
+        return true;
+    };
+    return all(before) || all(after);
+}
+
+std::vector<std::string> Findings(const FolderImage& before, const FolderImage& after,
+                                  const FolderImage& now) {
+    std::vector<std::string> findings;
+    std::set<std::string> files;
+    std::set<std::string> pairs;
+    for (const auto* image : {&before, &after, &now}) {
+        for (const auto& [file, bytes] : *image) {
+            files.insert(file);
+            if (file.starts_with("isp/") || file.starts_with("dlg/")) {
+                pairs.insert(file.substr(4));
+            }
+        }
+    }
+    for (const auto& file : files) {
+        const auto is = Find(now, file);
+        if (is != Find(before, file) && is != Find(after, file)) {
+            findings.push_back(is && !before.contains(file) && !after.contains(file)
+                                   ? "left behind: " + file
+                                   : "neither old nor new: " + file);
+        }
+    }
+    for (const auto& name : pairs) {
+        if (!Whole({"isp/" + name, "dlg/" + name}, before, after, now)) {
+            findings.push_back("a pair half old, half new: " + name);
+        }
+    }
+    if (!Whole({std::begin(BufferFiles), std::end(BufferFiles)}, before, after, now)) {
+        findings.push_back("the work buffers are a mixed set");
+    }
+    return findings;
+}
+
+bool Told(const std::vector<MessageBoxRequest>& boxes, int number) {
+    const std::string error = "Error " + std::to_string(number);
+    for (const auto& box : boxes) {
+        if (box.Title.find(error) != std::string::npos ||
+            box.Text.find(error) != std::string::npos) {
+            return true;
+        }
+    }
+    return false;
+}
+
+} // namespace
+
+FolderImage ImageOf(const std::filesystem::path& root) {
+    FolderImage image;
+    std::error_code error;
+    for (auto entry = std::filesystem::recursive_directory_iterator(root, error);
+         entry != std::filesystem::recursive_directory_iterator(); entry.increment(error)) {
+        if (entry->is_regular_file()) {
+            std::ifstream in(entry->path(), std::ios::binary);
+            std::ostringstream bytes;
+            bytes << in.rdbuf();
+            image[entry->path().lexically_relative(root).string()] = bytes.str();
+        }
+    }
+    return image;
+}
+
+SweepCount Sweep(const SweepPath& path) {
+    SweepCount count;
+    FolderImage before;
+    FolderImage after;
+    {
+        SCOPED_TRACE(path.Name + ", clean run");
+        auto run = path.Make();
+        run->Before();
+        before = ImageOf(run->Root());
+        FileFaults faults;
+        run->Act();
+        count.Calls = faults.Calls;
+        after = ImageOf(run->Root());
+        EXPECT_EQ(run->Disagreement(), std::nullopt);
+        for (const auto& [file, bytes] : after) {
+            EXPECT_EQ(file.find("/."), std::string::npos) << "hidden file left: " << file;
+        }
+    }
+    for (int k = 1; k <= count.Calls; ++k) {
+        for (const Fault& fault : Faults) {
+            SCOPED_TRACE(path.Name + ", call " + std::to_string(k) + " fails with " + fault.Name);
+            auto run = path.Make();
+            run->Before();
+            {
+                FileFaults faults;
+                faults.FailAt(k, fault.Error);
+                run->Act();
+            }
+            const auto now = ImageOf(run->Root());
+            EXPECT_EQ(Findings(before, after, now), std::vector<std::string>{});
+            if (now != after && !path.Silent) {
+                EXPECT_TRUE(Told(run->Boxes(), fault.Number)) << "no box names the failure";
+            }
+            EXPECT_EQ(run->Disagreement(), std::nullopt);
+            ++count.FaultRuns;
+        }
+    }
+    for (int k = 1; k <= count.Calls; ++k) {
+        SCOPED_TRACE(path.Name + ", killed at call " + std::to_string(k));
+        auto run = path.Make();
+        run->Before();
+        {
+            FileFaults faults;
+            faults.CrashAt(k);
+            run->Act();
+        }
+        EXPECT_EQ(run->Restart(before, after), std::nullopt);
+        EXPECT_EQ(Findings(before, after, ImageOf(run->Root())), std::vector<std::string>{});
+        ++count.CrashRuns;
+    }
+    return count;
+}
+
+void SweepAll(const std::vector<SweepPath>& paths) {
+    for (const auto& path : paths) {
+        const SweepCount count = Sweep(path);
+        EXPECT_GT(count.Calls, 0) << path.Name;
+        std::cout << path.Name << ": " << count.Calls << " calls, " << count.FaultRuns
+                  << " fault runs, " << count.CrashRuns << " crash runs\n";
+    }
+}
+
+} // namespace veyrant::testing
