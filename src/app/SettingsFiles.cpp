@@ -13,6 +13,13 @@ namespace veyrant {
 
 namespace {
 
+// Far above the few values each file holds, even with blanks added by hand; a larger file is
+// damaged.
+constexpr std::size_t SettingsFileLimit = 64 * 1024;
+
+std::string ReadSettingsFile(const std::filesystem::path& path) {
+    return ReadWholeFile(path, SettingsFileLimit);
+}
 std::filesystem::path ReadFile(const Application& app) {
     return app.Folder.Exe() / "Read.ini";
 }
@@ -78,7 +85,7 @@ std::filesystem::path SettingsFile(const Application& app) {
 
 void LoadSettings(Application& app) {
     try {
-        app.UserSettings = ReadSettingsText(ReadWholeFile(SettingsFile(app)));
+        app.UserSettings = ReadSettingsText(ReadSettingsFile(SettingsFile(app)));
     } catch (const ProgramError&) {
         app.UserSettings = Settings{};
         app.UserSettings.DisplayOption =
@@ -100,7 +107,7 @@ void SaveSettings(const Application& app) {
 void LoadReadSettings(Application& app) {
     const ReadSettings requested = app.ReaderSettings;
     try {
-        app.ReaderSettings = ReadReaderText(ReadWholeFile(ReadFile(app)));
+        app.ReaderSettings = ReadReaderText(ReadSettingsFile(ReadFile(app)));
     } catch (const ProgramError&) {
         app.ReaderSettings = ReadSettings{};
         SaveReadSettings(app);
@@ -122,7 +129,7 @@ void SaveReadSettings(const Application& app) {
 
 void LoadFontNames(Application& app) {
     try {
-        const std::string text = ReadWholeFile(FontFile(app));
+        const std::string text = ReadSettingsFile(FontFile(app));
         FieldReader reader(text);
         FontNames names;
         names.Main = reader.ReadString();

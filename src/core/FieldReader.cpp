@@ -28,6 +28,12 @@ bool FieldReader::AtEnd() const {
                        [](char c) { return IsBlank(c) || IsLineEnd(c); });
 }
 
+void FieldReader::RequireRoomFor(std::int64_t fields) const {
+    if (fields > static_cast<std::int64_t>(text_.size() - pos_)) {
+        throw ProgramError(ErrorNumber::InputPastEnd);
+    }
+}
+
 int FieldReader::Line() const {
     return 1 + static_cast<int>(std::count(
                    text_.begin(), text_.begin() + static_cast<std::ptrdiff_t>(pos_), '\n'));

@@ -26,6 +26,11 @@ public:
     // Any field as text, for labels that are read and ignored.
     std::string ReadAny() { return ReadString(); }
 
+    // Raises 62 unless the rest of the text could still hold that many fields. Every field takes
+    // at least one character, so a count read from a file that passes this sizes nothing beyond
+    // the file's own size.
+    void RequireRoomFor(std::int64_t fields) const;
+
     // True when only blanks and line ends remain.
     bool AtEnd() const;
     // 1-based line of the next field, for messages that name a place.

@@ -130,10 +130,18 @@ void WriteWithRights(const std::filesystem::path& path, std::string_view bytes, 
 
 } // namespace
 
-std::string ReadWholeFile(const std::filesystem::path& path) {
-    FileDescriptor fd(files::Open(path, O_RDONLY));
+std::string ReadWholeFile(const std::filesystem::path& path, std::size_t limit) {
+    // Without O_NONBLOCK the open itself would wait for a writer to come to a pipe.
+    FileDescriptor fd(files::Open(path, O_RDONLY | O_CLOEXEC | O_NONBLOCK));
     if (fd.Get() < 0) {
         RaiseFromErrno();
+    }
+    struct stat status {};
+    if (::fstat(fd.Get(), &status) != 0) {
+        RaiseFromErrno();
+    }
+    if (!S_ISREG(status.st_mode)) {
+        throw ProgramError(ErrorNumber::PathFileAccess);
     }
     std::string bytes;
     char buffer[65536];
@@ -147,6 +155,10 @@ std::string ReadWholeFile(const std::filesystem::path& path) {
         }
         if (got == 0) {
             break;
+        }
+        // Counted as it is read: the file may grow while it is read.
+        if (static_cast<std::size_t>(got) > limit - bytes.size()) {
+            throw ProgramError(ErrorNumber::OutOfMemory);
         }
         bytes.append(buffer, static_cast<std::size_t>(got));
     }

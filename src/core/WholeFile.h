@@ -8,6 +8,7 @@
 // The program's files hold the user's most private writing: they are readable and writable by
 // the user alone.
 
+#include <cstddef>
 #include <filesystem>
 #include <string>
 #include <string_view>
@@ -17,8 +18,13 @@ namespace veyrant {
 
 inline constexpr unsigned PrivateFileRights = 0600;
 
-// Raises ProgramError (53 when the file is missing, 75 when it cannot be read).
-std::string ReadWholeFile(const std::filesystem::path& path);
+// Far above any file the program writes or ships, so that only a damaged one meets it.
+inline constexpr std::size_t WholeFileLimit = 16 * 1024 * 1024;
+
+// Reads a regular file of at most limit bytes. Raises ProgramError: 53 when the file is
+// missing, 75 when it cannot be read or is no regular file (a pipe would block the program, a
+// device need never end), 7 when it holds more than limit bytes.
+std::string ReadWholeFile(const std::filesystem::path& path, std::size_t limit = WholeFileLimit);
 
 // Raises ProgramError (61 disk full, 70 permission denied, 76 path not found, 75 otherwise);
 // the old file, if any, is then whole: old, or new when only the flush of the folder failed.

@@ -75,11 +75,13 @@ void Composer::BuildMessage(std::int16_t number, const std::vector<float>& seedP
         // The plan is looked up before its count, as the file scan would meet it first.
         const std::int32_t combos = At(tables_.SectionCombos, section);
         plans.AppendSequence("Section", section, Draw(seed, combos), sequence_);
+        // Checked as it grows: each section adds no more than its plan file holds, while the
+        // whole could grow with the product of two of its counts.
+        if (sequence_.size() > static_cast<std::size_t>(INT16_MAX)) {
+            throw ProgramError(ErrorNumber::Overflow);
+        }
     }
     const auto length = sequence_.size();
-    if (length > static_cast<std::size_t>(INT16_MAX)) {
-        throw ProgramError(ErrorNumber::Overflow);
-    }
     CompositionComponents.assign(length + 1, 0);
     CompositionRows.assign(length + 1, 0);
     for (std::size_t i = 1; i <= length; ++i) {
@@ -127,8 +129,9 @@ void Composer::AssembleMessage() {
         }
         // The first CaseKeeper is the comma: behind it the sentence goes on in lower case.
         const bool keepsOwnCase = Marked(caseKeeper_, component);
-        const bool startsSentence =
-            Marked(caseKeeper_, before) && CompositionComponents[i - 1] != tables_.CaseKeepers[1];
+        const bool afterComma = tables_.CaseKeepers.size() > 1 &&
+                                CompositionComponents[i - 1] == tables_.CaseKeepers[1];
+        const bool startsSentence = Marked(caseKeeper_, before) && !afterComma;
         if (!keepsOwnCase && !startsSentence) {
             LowerAt(PhraseOut, 2);
             // The joining blank goes only here, so a tight join held back by a case rule

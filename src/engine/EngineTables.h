@@ -14,11 +14,13 @@ inline constexpr std::int16_t MaxDataBlocks = 14;
 // Raised when a number read from a data file points outside the table it indexes.
 inline constexpr int SubscriptOutOfRange = 9;
 
-// Stock row by stock number, component and component row, held as one dense block so that a
-// lookup is a plain index.
+// Stock row by stock number, component and component row, held in one block so that a lookup
+// is plain arithmetic. Each component takes room only for the rows it has, in every plane, so
+// the block grows with the pairs the file holds and not with the product of its largest counts.
 class RowMap {
 public:
-    void Allocate(int blocks, int components, int rows);
+    // Planes 0 to blocks; component c has rows 0 to componentRows[c], each at least 0.
+    void Allocate(int blocks, const std::vector<std::int16_t>& componentRows);
     std::int16_t& At(int block, int component, int row);
     std::int16_t At(int block, int component, int row) const;
 
@@ -26,9 +28,8 @@ private:
     std::size_t Index(int block, int component, int row) const;
 
     std::vector<std::int16_t> cells_;
-    int blocks_ = 0;
-    int components_ = 0;
-    int rows_ = 0;
+    std::vector<std::size_t> first_; // first cell of each component, and the end after the last
+    int planes_ = 0;
 };
 
 // Lists counting from 1 keep an idle entry 0; component lists count from 0.

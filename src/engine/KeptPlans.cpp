@@ -69,7 +69,8 @@ KeptPlans::KeptPlans(std::string_view planFileText, const EngineTables& tables)
     FieldReader reader(planFileText);
     MessagePlan plan;
     const int total = std::max(0, int{tables.MessageCount}) + std::max(0, int{tables.SectionCount});
-    plans_.reserve(static_cast<std::size_t>(total));
+    // Grown plan by plan, not reserved: the counts come from another file, and a plan file
+    // too short for them ends at its own end.
     for (int i = 0; i < total; ++i) {
         ReadPlan(reader, plan);
         plans_.push_back(Keep(plan));

@@ -14,6 +14,8 @@ void ReadPlan(FieldReader& reader, MessagePlan& plan) {
     if (plan.TermCount < 0 || plan.BlockCount < 0) {
         throw ProgramError(SubscriptOutOfRange);
     }
+    // A block is at least its label and six slots of a label and a count.
+    reader.RequireRoomFor(std::int64_t{plan.BlockCount} * (1 + 2 * SlotsPerBlock));
     const auto blocks = static_cast<std::size_t>(plan.BlockCount) + 1;
     plan.SlotCount.assign(blocks, {});
     plan.SlotChoice.assign(blocks, {});
@@ -36,6 +38,8 @@ void ReadPlan(FieldReader& reader, MessagePlan& plan) {
     if (reader.ReadInt16() != 0) {
         throw ProgramError(PlanBlocksUnclosed);
     }
+    // A term is its running number, its weight and its text.
+    reader.RequireRoomFor(std::int64_t{plan.TermCount} * 3);
     const auto terms = static_cast<std::size_t>(plan.TermCount) + 1;
     plan.TermWeight.assign(terms, 0);
     plan.TermText.assign(terms, std::string());

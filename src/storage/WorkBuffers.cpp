@@ -9,6 +9,8 @@
 #include "storage/StorageFailure.h"
 
 #include <array>
+#include <string_view>
+#include <system_error>
 #include <utility>
 
 namespace veyrant {
@@ -19,6 +21,68 @@ constexpr const char* InspirationBuffer = "savei.tmp";
 constexpr const char* DialogueBuffer = "savem.tmp";
 constexpr const char* SuggestionBuffer = "saves.tmp";
 constexpr const char* PairCountBuffer = "savep.tmp";
+
+// What the program itself can write. The Dialogue limit lets a Dialogue grow to 121 kept runs,
+// and a run is one entry of at most 280 characters with its marks and one reply of at most
+// MaxComponents composed rows: 8 KiB holds either with room to spare, and an Inspiration or a
+// Suggestion too. More, or a longer line, is no buffer of ours: it would keep the window's
+// text layout busy for minutes.
+constexpr std::size_t MostRuns = 121;
+constexpr std::size_t MostRunBytes = 8 * 1024;
+constexpr std::size_t MostCountBytes = 64;
+
+bool LinesFit(std::string_view text) {
+    std::size_t start = 0;
+    for (;;) {
+        const auto end = text.find('\n', start);
+        if ((end == std::string_view::npos ? text.size() : end) - start > MostRunBytes) {
+            return false;
+        }
+        if (end == std::string_view::npos) {
+            return true;
+        }
+        start = end + 1;
+    }
+}
+
+// Every run begins with a blank line, a tab and the opening mark, and nothing the program puts
+// inside a run holds that sequence, so the runs can be counted again when savep.tmp is damaged.
+int RunsIn(std::string_view dialogueText) {
+    static constexpr std::string_view RunStart = "\r\n\r\n\t\x93";
+    int runs = 0;
+    for (auto at = dialogueText.find(RunStart); at != std::string_view::npos;
+         at = dialogueText.find(RunStart, at + RunStart.size())) {
+        ++runs;
+    }
+    return runs;
+}
+
+// The count as savep.tmp holds it, or, when that file is there but damaged, the runs of the
+// Dialogue: the Prior Dialogue is not lost for one bad byte.
+int PairCountOf(const std::string& countText, std::string_view dialogueText) {
+    try {
+        FieldReader reader(countText);
+        const int count = reader.ReadInt16();
+        if (reader.AtEnd()) {
+            return count;
+        }
+    } catch (const ProgramError&) {
+    }
+    return RunsIn(dialogueText);
+}
+
+// savep.tmp as it stands. Missing, as after a delete by hand, it raises; there but unreadable,
+// it reads as damaged.
+std::string ReadCountBuffer(const std::filesystem::path& path) {
+    try {
+        return ReadWholeFile(path, MostCountBytes);
+    } catch (const ProgramError& error) {
+        if (error.Number() == ErrorNumber::FileNotFound) {
+            throw;
+        }
+        return {};
+    }
+}
 
 // The number form of the settings files: a blank before a number that has no sign, a blank
 // after every number.
@@ -71,11 +135,17 @@ std::optional<PriorDialogue> WorkBuffers::ReadWorkBuffers() const {
     }
     try {
         PriorDialogue prior;
-        prior.Buffers.InspirationText = ReadWholeFile(folder_.Exe() / InspirationBuffer);
-        prior.Buffers.DialogueText = ReadWholeFile(folder_.Exe() / DialogueBuffer);
-        prior.Buffers.SuggestionText = ReadWholeFile(folder_.Exe() / SuggestionBuffer);
-        const std::string pairCount = ReadWholeFile(folder_.Exe() / PairCountBuffer);
-        prior.Buffers.PairCount = FieldReader(pairCount).ReadInt16();
+        prior.Buffers.InspirationText =
+            ReadWholeFile(folder_.Exe() / InspirationBuffer, MostRunBytes);
+        prior.Buffers.DialogueText =
+            ReadWholeFile(folder_.Exe() / DialogueBuffer, MostRuns * MostRunBytes);
+        prior.Buffers.SuggestionText =
+            ReadWholeFile(folder_.Exe() / SuggestionBuffer, MostRunBytes);
+        const std::string pairCount = ReadCountBuffer(folder_.Exe() / PairCountBuffer);
+        if (!LinesFit(prior.Buffers.DialogueText)) {
+            return std::nullopt;
+        }
+        prior.Buffers.PairCount = PairCountOf(pairCount, prior.Buffers.DialogueText);
         const auto written = clock_.FileDate(folder_.Exe() / InspirationBuffer);
         if (!written) {
             return std::nullopt;

@@ -4,6 +4,7 @@
 
 #include <filesystem>
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 #include <vector>
 
 namespace veyrant::testing {
@@ -168,6 +169,46 @@ TEST(SettingsFiles, DamagedReadFileIsLaidDownAsZerosAndTheRequestStands) {
         EXPECT_EQ(fixture.App.ReaderSettings.OpenFlagInfo, 0);
         EXPECT_EQ(fixture.ExeFile("Read.ini"), " 0  0 \r\n 0  0 \r\n 0  0 \r\n 0  0 \r\n");
         EXPECT_TRUE(fixture.Windows.Boxes.empty());
+    }
+}
+
+// A pipe would hold the start for ever and a device would fill the memory; a file past the
+// limit is no file the program wrote. Each is damaged, and the usual repair or box follows.
+TEST(SettingsFiles, OnlyASmallRegularFileIsRead) {
+    struct Case {
+        const char* Kind;
+        int Error; // in the font box
+    };
+    const Case cases[] = {{"pipe", 75}, {"device", 75}, {"oversized", 7}};
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.Kind);
+        AppFixture fixture;
+        for (const char* name : {"Tolmira.ini", "Read.ini", "Qdrfonts.ini"}) {
+            const auto path = fixture.Folder.Exe() / name;
+            if (c.Kind == std::string("pipe")) {
+                ASSERT_EQ(::mkfifo(path.c_str(), 0600), 0);
+            } else if (c.Kind == std::string("device")) {
+                std::filesystem::create_symlink("/dev/zero", path);
+            } else {
+                fixture.PutExeFile(name,
+                                   " 2 \r\n 3 \r\n 1  1  1  1 \r\n 1  1 \r\n 2 \r\n 5  6 \r\n 1" +
+                                       std::string(70000, ' '));
+            }
+        }
+        fixture.Windows.ScreenWidth = 1024 * TwipsPerPixel;
+        LoadSettings(fixture.App);
+        fixture.App.ReaderSettings.OpenFlagKnow = 1;
+        LoadReadSettings(fixture.App);
+        LoadFontNames(fixture.App);
+
+        EXPECT_EQ(fixture.ExeFile("Tolmira.ini"), DefaultFileOnMiddleScreen);
+        EXPECT_TRUE(std::filesystem::is_regular_file(
+            std::filesystem::symlink_status(fixture.Folder.Exe() / "Tolmira.ini")));
+        EXPECT_EQ(fixture.ExeFile("Read.ini"), " 0  0 \r\n 0  0 \r\n 0  0 \r\n 0  0 \r\n");
+        EXPECT_EQ(fixture.App.ReaderSettings.OpenFlagKnow, 1);
+        ASSERT_EQ(fixture.Windows.Boxes.size(), 1u);
+        EXPECT_EQ(fixture.Windows.Boxes[0].Title,
+                  "Error " + std::to_string(c.Error) + " Loading Font Names");
     }
 }
 

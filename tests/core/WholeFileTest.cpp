@@ -38,6 +38,40 @@ TEST(WholeFile, MissingFileAndMissingFolderHaveTheirNumbers) {
     }
 }
 
+// What stands under a file's name is no file the program wrote: a pipe would wait for a writer
+// for ever, a device need never end. Each is refused at once, and so is a file past the limit.
+TEST(WholeFile, ReadsOnlyARegularFileWithinItsLimit) {
+    TempFolder folder;
+    ASSERT_EQ(::mkfifo((folder / "pipe").c_str(), 0600), 0);
+    std::filesystem::create_symlink("/dev/null", folder / "device");
+    std::filesystem::create_directory(folder / "folder");
+    WriteWholeFile(folder / "eleven", "eleven char");
+    std::filesystem::create_symlink(folder / "eleven", folder / "link");
+    struct Case {
+        const char* Name;
+        std::size_t Limit;
+        int Number; // 0: read
+    };
+    const Case cases[] = {
+        {"pipe", WholeFileLimit, ErrorNumber::PathFileAccess},
+        {"device", WholeFileLimit, ErrorNumber::PathFileAccess},
+        {"folder", WholeFileLimit, ErrorNumber::PathFileAccess},
+        {"eleven", 10, ErrorNumber::OutOfMemory},
+        {"eleven", 11, 0},
+        {"link", 11, 0},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.Name);
+        int number = 0;
+        try {
+            EXPECT_EQ(ReadWholeFile(folder / c.Name, c.Limit), "eleven char");
+        } catch (const ProgramError& error) {
+            number = error.Number();
+        }
+        EXPECT_EQ(number, c.Number);
+    }
+}
+
 // A file-size limit makes the kernel refuse the write part way, as a full disk would.
 TEST(WholeFile, AWriteThatFailsMidwayLeavesTheOldFileIntact) {
     TempFolder folder;

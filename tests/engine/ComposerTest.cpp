@@ -25,7 +25,7 @@ protected:
         tables.TightJoiners = {0, Dash};
         tables.ComponentRows.assign(7, 1);
         tables.ComponentBlock.assign(7, 1);
-        tables.Map.Allocate(14, 6, 1);
+        tables.Map.Allocate(14, tables.ComponentRows);
         for (int c = 0; c <= 6; ++c) {
             tables.Map.At(1, c, 1) = static_cast<std::int16_t>(c + 2);
         }
@@ -79,6 +79,13 @@ TEST_F(AssembleMessage, SetsCaseAndSpacingByTheTwoLists) {
         EXPECT_EQ(Assemble(c.Components), c.Text);
     }
     EXPECT_TRUE(windows.Boxes.empty());
+}
+
+// Tables that name no CaseKeeper have no comma rule: every row after the first is lowered.
+TEST_F(AssembleMessage, WorksWithoutCaseKeepers) {
+    tables.CaseKeepers = {0};
+    composer.MarkJoiners();
+    EXPECT_EQ(Assemble({Hello, Comma, IAm, Big}), "\t Hello there, i am big news");
 }
 
 TEST_F(AssembleMessage, NeverShowsTheLabelRow) {

@@ -76,8 +76,22 @@ INSTANTIATE_TEST_SUITE_P(
                    MemoryText},
         DamageCase{"Missing", "", MemoryText},
         DamageCase{"CutShort", std::string(ShippedSystemFile().substr(0, 200)), MemoryText},
+        // One byte changed: the line end before MaxSections turned to a minus sign.
+        DamageCase{"NegativeMaxSections", ShippedWith("40\r\n8, 0", "40\r-8, 0"), MemoryText},
+        DamageCase{"MaxSectionsMinusTwo", ShippedWith("40\r\n8, 0", "40\r\n-2, 0"), MemoryText},
+        DamageCase{"NegativeRowCap", SmallSystemFile(14).replace(0, 4, "1, -2"), MemoryText},
+        DamageCase{"RowsBeyondRowCap", SmallSystemFile(14).replace(0, 4, "1, 1"), MemoryText},
+        // Counts that would size tables far beyond what the file holds are refused before
+        // anything is allocated for them.
+        DamageCase{"MoreMessagesThanTheFileHolds", SmallSystemFile(14).replace(6, 4, "32767, 1"),
+                   MemoryText},
+        DamageCase{"MoreStocksThanTheFileHolds",
+                   ShippedWith("\r\n4\r\n1\r\n14\r\n", "\r\n4\r\n1\r\n32767\r\n"), MemoryText},
         DamageCase{"FifteenStocks", SmallSystemFile(15),
                    "DESIGN ERROR: Sysblocks too large for current system design. Sysblocks=15 "
+                   "exceeds MaxDataBlocks=14"},
+        DamageCase{"MostStocks", SmallSystemFile(32767),
+                   "DESIGN ERROR: Sysblocks too large for current system design. Sysblocks=32767 "
                    "exceeds MaxDataBlocks=14"},
         DamageCase{"ThirteenStocks", SmallSystemFile(13),
                    "Incorrect number=14 of LCMs in LoadSystem. Probable missing BAS file(s) in "

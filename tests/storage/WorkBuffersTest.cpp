@@ -79,8 +79,6 @@ TEST_F(WorkBuffersTest, AnyMissingBufferMeansNoPriorDialogue) {
         // The others stay until they are written over.
         EXPECT_EQ(Names(Folder.Exe()).size(), 3u);
     }
-    WriteWholeFile(Folder.Exe() / "savep.tmp", "three\r\n");
-    EXPECT_FALSE(Buffers.ReadWorkBuffers().has_value());
     EXPECT_TRUE(Windows.Boxes.empty());
 }
 
@@ -105,6 +103,75 @@ TEST_F(WorkBuffersTest, DeletingLeavesTheSuggestionBehindWhichAloneIsNoPriorDial
     }
     EXPECT_TRUE(Buffers.ReadWorkBuffers().has_value());
     EXPECT_TRUE(Windows.Boxes.empty());
+}
+
+// One bad byte in savep.tmp does not lose the Prior Dialogue: the count is taken again from
+// the runs of savem.tmp. A count in the program's own form is trusted as it stands.
+TEST_F(WorkBuffersTest, ADamagedPairCountIsCountedAgainFromTheDialogue) {
+    const std::string threeRuns = "\r\n\r\n\t\x93What is next?\x94\r\n\tWhat you choose."
+                                  "\r\n\r\n\t\x93"
+                                  "A comment.\x94"
+                                  "\r\n\r\n\t\x93"
+                                  "And then?\x94\r\n\tThen you rest.";
+    struct Case {
+        std::string CountFile;
+        int PairCount;
+    };
+    const Case cases[] = {
+        {"", 3},
+        {"\x01", 3},
+        {" #\r\n", 3}, // the digit 3 with one bit flipped
+        {" 3 \r\n 3 \r\n", 3},
+        {" 3 \r\n" + std::string(100, ' '), 3},
+        {" 3 \r\n", 3},
+        {" 2 \r\n", 2},
+        {"5", 5},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.CountFile);
+        ASSERT_TRUE(Buffers.WriteWorkBuffers({"\tA quiet river.", threeRuns, "Begin.", 3}));
+        WriteWholeFile(Folder.Exe() / "savep.tmp", c.CountFile);
+        const auto prior = Buffers.ReadWorkBuffers();
+        ASSERT_TRUE(prior.has_value());
+        EXPECT_EQ(prior->Buffers.PairCount, c.PairCount);
+        EXPECT_EQ(prior->Buffers.DialogueText, threeRuns);
+    }
+}
+
+// The longest Dialogue the program can write reads back; buffers beyond what it can write are
+// damaged, and the start begins a new Dialogue instead of laying out megabytes of text.
+TEST_F(WorkBuffersTest, BuffersBeyondWhatTheProgramWritesAreDamaged) {
+    // The longest entry, and a reply of forty of the longest rows.
+    std::string longest;
+    for (int run = 0; run < 121; ++run) {
+        longest +=
+            "\r\n\r\n\t\x93" + std::string(280, 'e') + "\x94\r\n\t" + std::string(40 * 90, 'r');
+    }
+    std::string manyShortLines;
+    while (manyShortLines.size() <= 121 * 8192) {
+        manyShortLines += "\r\n\r\n\t\x93Why?\x94\r\n\tBecause.";
+    }
+    struct Case {
+        const char* Name;
+        DialogueBuffers Buffers;
+        bool Read;
+    };
+    const Case cases[] = {
+        {"longest", {"\t" + std::string(8000, 'i'), longest, std::string(8000, 's'), 121}, true},
+        {"one long line", {"\ti", "\r\n\r\n\t" + std::string(20000, 'x'), "s", 1}, false},
+        {"too many lines", {"\ti", manyShortLines, "s", 121}, false},
+        {"long inspiration", {"\t" + std::string(9000, 'i'), "\r\n\r\n\tx", "s", 1}, false},
+        {"long suggestion", {"\ti", "\r\n\r\n\tx", std::string(9000, 's'), 1}, false},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.Name);
+        ASSERT_TRUE(Buffers.WriteWorkBuffers(c.Buffers));
+        const auto prior = Buffers.ReadWorkBuffers();
+        ASSERT_EQ(prior.has_value(), c.Read);
+        if (prior) {
+            EXPECT_EQ(prior->Buffers.DialogueText, c.Buffers.DialogueText);
+        }
+    }
 }
 
 TEST_F(WorkBuffersTest, AFailedWriteLeavesTheOldSetWhole) {
