@@ -2,6 +2,7 @@
 
 #include "core/Cp1252.h"
 #include "dialogue/KeyCodes.h"
+#include "dialogue/MirrorTexts.h"
 #include "shell/MirrorLayout.h"
 #include "shell/WindowPlacement.h"
 #include "ui/GuardedTextBox.h"
@@ -147,6 +148,41 @@ bool IsLabel(MirrorControl control) {
            control == MirrorControl::lblRemS;
 }
 
+// What a screen reader calls the boxes and labels; the buttons go by their captions.
+struct Spoken {
+    const char* Name;
+    std::string_view Description;
+};
+
+Spoken SpokenFor(MirrorControl control) {
+    switch (control) {
+    case MirrorControl::txtMirror:
+        return {"Entry", "Type a question or a statement, then press 'Enter'."};
+    case MirrorControl::txtResponse:
+        return {"Response", MirrorText::TipDirection};
+    case MirrorControl::txtSaved:
+        return {"Dialogue", "The Dialogue so far."};
+    case MirrorControl::txtAnalyze:
+        return {"Ideas", "List ideas that might answer your question."};
+    case MirrorControl::txtNote:
+        return {"Instruction", MirrorText::TipKeys};
+    case MirrorControl::lblRem:
+        return {"Entry status",
+                "'X' while the entry is too short or too long; near the limit, the words left."};
+    case MirrorControl::lblRemS:
+        return {"Ideas status",
+                "'X' while the list is too short or too long; near the limit, the words left."};
+    default:
+        return {"", ""};
+    }
+}
+
+void MakeSpoken(QWidget* widget, MirrorControl control) {
+    const Spoken spoken = SpokenFor(control);
+    widget->setAccessibleName(QString::fromLatin1(spoken.Name));
+    widget->setAccessibleDescription(ToDisplayText(std::string(spoken.Description)));
+}
+
 MouseButton ButtonOf(const QMouseEvent* event) {
     switch (event->button()) {
     case Qt::RightButton:
@@ -232,6 +268,7 @@ GuardedTextBox* MirrorWindow::MakeBox(MirrorControl control) {
         box->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     }
     widgets_[Index(control)] = box;
+    MakeSpoken(box, control);
     Watch(box, control);
     Watch(box->viewport(), control);
     box->KeyFilter = [this, control](QKeyEvent* event) { return KeyFromScreen(control, event); };
@@ -277,6 +314,7 @@ QLabel* MirrorWindow::MakeLabel(MirrorControl control) {
                                              static_cast<qsizetype>(ControlName(control).size())));
     label->setTextFormat(Qt::PlainText);
     widgets_[Index(control)] = label;
+    MakeSpoken(label, control);
     Watch(label, control);
     return label;
 }
@@ -397,6 +435,10 @@ void MirrorWindow::RenderControl(MirrorControl control, bool force) {
     } else if (auto* button = qobject_cast<QPushButton*>(widget)) {
         if (force || now.Text != was.Text) {
             button->setText(ToDisplayText(now.Text));
+        }
+        const QString help = ToDisplayText(mirror_.HelpFor(control));
+        if (button->accessibleDescription() != help) {
+            button->setAccessibleDescription(help);
         }
         if (force || now.PressedIn != was.PressedIn || now.Ink != was.Ink ||
             now.Underlined != was.Underlined) {

@@ -1,10 +1,10 @@
+#include "app/Application.h"
+#include "app/StartUp.h"
+#include "app/Utility.h"
 #include "core/Clock.h"
 #include "core/Random.h"
 #include "shell/AppFolder.h"
-#include "app/Application.h"
 #include "shell/Resize.h"
-#include "app/StartUp.h"
-#include "app/Utility.h"
 #include "ui/BannerWindow.h"
 #include "ui/MirrorWindow.h"
 #include "ui/OptionsWindow.h"
@@ -13,12 +13,24 @@
 #include "ui/UtilityWindow.h"
 
 #include <QApplication>
+#include <QDir>
+#include <QIcon>
 #include <memory>
 
 int main(int argc, char** argv) {
     using namespace veyrant;
     QApplication qt(argc, argv);
     QApplication::setStyle(QStringLiteral("Fusion"));
+    QApplication::setApplicationName(QStringLiteral("veyrant-sagrel"));
+    QApplication::setOrganizationName(QStringLiteral("Veyrant Technology"));
+    // A Wayland compositor ties the windows to the menu entry by this name.
+    QGuiApplication::setDesktopFileName(QStringLiteral("veyrant-sagrel"));
+    // The installed theme's icon where there is one, else the sizes carried in the program.
+    QIcon carried;
+    for (const QString& size : QDir(QStringLiteral(":/icons")).entryList()) {
+        carried.addFile(QStringLiteral(":/icons/%1/veyrant-sagrel.png").arg(size));
+    }
+    QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("veyrant-sagrel"), carried));
 
     QtWindowLayer windows;
     SystemClock clock;
