@@ -183,6 +183,25 @@ void MakeSpoken(QWidget* widget, MirrorControl control) {
     widget->setAccessibleDescription(ToDisplayText(std::string(spoken.Description)));
 }
 
+QFont DesignedFont(QFont font, const Control& now) {
+    if (now.FontSize > 0) {
+        font.setPointSizeF(now.FontSize);
+    }
+    font.setBold(now.FontBold);
+    return font;
+}
+
+// This machine's faces run wider than the ones the layout was drawn for: a wrapped text that
+// would run out of its box at the smallest display size takes a slightly smaller type instead.
+void FitWrappedText(QLabel& label, QFont font) {
+    constexpr double Smallest = 6.5;
+    label.setFont(font);
+    while (label.heightForWidth(label.width()) > label.height() && font.pointSizeF() > Smallest) {
+        font.setPointSizeF(font.pointSizeF() - 0.5);
+        label.setFont(font);
+    }
+}
+
 MouseButton ButtonOf(const QMouseEvent* event) {
     switch (event->button()) {
     case Qt::RightButton:
@@ -405,12 +424,10 @@ void MirrorWindow::RenderControl(MirrorControl control, bool force) {
     if (force || now.Enabled != was.Enabled) {
         widget->setEnabled(now.Enabled);
     }
-    if (force || now.FontSize != was.FontSize || now.FontBold != was.FontBold) {
-        QFont font = IsTextBox(control) ? QFont(ToDisplayText(app_.Fonts.Main)) : this->font();
-        if (now.FontSize > 0) {
-            font.setPointSizeF(now.FontSize);
-        }
-        font.setBold(now.FontBold);
+    const bool fontChanged = force || now.FontSize != was.FontSize || now.FontBold != was.FontBold;
+    if (fontChanged) {
+        const QFont font = DesignedFont(
+            IsTextBox(control) ? QFont(ToDisplayText(app_.Fonts.Main)) : this->font(), now);
         widget->setFont(font);
         if (IsTextBox(control)) {
             auto* box = static_cast<GuardedTextBox*>(widget);
@@ -431,6 +448,10 @@ void MirrorWindow::RenderControl(MirrorControl control, bool force) {
         }
         if (control == MirrorControl::txtNote && (force || now.Ink != was.Ink)) {
             label->setStyleSheet(QStringLiteral("color: %1;").arg(Css(now.Ink)));
+        }
+        if (label->wordWrap() && (fontChanged || now.Text != was.Text || now.Width != was.Width ||
+                                  now.Height != was.Height)) {
+            FitWrappedText(*label, DesignedFont(this->font(), now));
         }
     } else if (auto* button = qobject_cast<QPushButton*>(widget)) {
         if (force || now.Text != was.Text) {
