@@ -5,7 +5,6 @@
 #include "WriteWindowFixture.h"
 #include "app/StartUp.h"
 #include "app/Utility.h"
-#include "core/Clock.h"
 #include "shell/Resize.h"
 #include "storage/Options.h"
 #include "ui/BannerWindow.h"
@@ -45,7 +44,7 @@ struct StartedProgram {
 
     testing::TempFolder Temp;
     QtWindowLayer Windows;
-    SystemClock Clock;
+    testing::FakeClock Clock;
     Random Draws;
     Application App{AppFolder{Temp.Path()}, "/proc/self/exe", Clock, Draws, Windows};
     MirrorWindow* Write = nullptr;
