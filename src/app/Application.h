@@ -9,6 +9,7 @@
 #include "dialogue/EngineDialogue.h"
 #include "dialogue/Mirror.h"
 #include "engine/Engine.h"
+#include "reader/FixedLibrary.h"
 #include "shell/AppFolder.h"
 #include "shell/ClosingState.h"
 #include "shell/DisplayScale.h"
@@ -54,6 +55,8 @@ struct Application {
     EngineDialogue Replies;
     DialogueLibrary Library;
     WorkBuffers Buffers;
+    // The Information, Knowledge and Advanced Knowledge Libraries, filled behind the banner.
+    FixedLibraries Libraries;
     // The Write window's logic, made when the window loads.
     std::unique_ptr<Mirror> Write;
 

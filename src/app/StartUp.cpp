@@ -5,6 +5,7 @@
 #include "app/SettingsFiles.h"
 #include "app/SmallDisplay.h"
 #include "core/ProgramError.h"
+#include "reader/FixedLibrary.h"
 #include "shell/DisplayScale.h"
 #include "shell/Version.h"
 
@@ -37,6 +38,15 @@ void ReportSystemError(Application& app, int number) {
     app.Windows.EndProcess();
 }
 
+// An empty last row means content went missing from the build: error 1001 ends the start.
+void LoadFixedLibraries(FixedLibraries& libraries) {
+    LoadLibraries(libraries);
+    BuildLibraryIndex(libraries.InfoLib);
+    BuildLibraryIndex(libraries.KnowLib);
+    BuildLibraryIndex(libraries.AdvLib);
+    CheckLibraryContent(libraries);
+}
+
 // Everything the Write window needs is loaded behind the banner, so that it is all in memory
 // when the window appears.
 void LoadMirror(Application& app) {
@@ -51,6 +61,8 @@ void LoadMirror(Application& app) {
         app.Windows.EndProcess();
         return;
     }
+    app.Windows.Yield();
+    LoadFixedLibraries(app.Libraries);
     app.Windows.Yield();
     app.Library.ScanLibrary();
     app.Windows.Yield();

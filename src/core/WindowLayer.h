@@ -3,6 +3,8 @@
 // Everything the logic needs from the windowing platform, and nothing more. The Qt program
 // implements it; tests use a fake that answers message boxes from a script.
 
+#include "core/DateTime.h"
+
 #include <string>
 
 namespace veyrant {
@@ -18,6 +20,17 @@ struct MessageBoxRequest {
     MessageButtons Buttons = MessageButtons::Ok;
     int DefaultButton = 1; // 1-based among the buttons shown
 };
+
+// A Dialogue for the printed pages: its two texts, the heading's title and the date it shows.
+struct PrintRequest {
+    std::string Inspiration;
+    std::string Dialogue; // without the blank line that leads every saved Dialogue
+    std::string Title;
+    DateTime ShownDate;
+};
+
+// Closing the print dialog or the preview unprinted is a cancel, not a failure.
+enum class PrintOutcome { Printed, Cancelled, Failed };
 
 enum class WindowId { Banner, Back, Mirror, Read, Options, Utility, Resize, Check };
 enum class TimerId { BannerTimer, BackTimer, MirrorTimer1, MirrorHover, ReadHover };
@@ -54,6 +67,11 @@ public:
 
     // True when this machine really has the face, not a stand-in for it.
     virtual bool HasFontFace(const std::string& face, bool italic) const = 0;
+
+    // The print dialog with its preview and its PDF output, then the pages themselves.
+    virtual PrintOutcome PrintDialogue(const PrintRequest& request) = 0;
+    // Opens the text in the program's own editor; Save As proposes the file name.
+    virtual void ShowInEditor(const std::string& text, const std::string& proposedFileName) = 0;
 
     // Ends the process after the given delay; the event loop runs until then.
     virtual void EndProcessAfter(int milliseconds) = 0;

@@ -17,9 +17,10 @@ class DialogueEngine {
 public:
     virtual ~DialogueEngine() = default;
 
-    // entryText carries its two-character lead and no closing mark.
-    virtual EntryJudgement CheckEntry(const std::string& entryText, int activeMethod,
-                                      int pairCount) = 0;
+    // entryText carries its two-character lead and no closing mark. A check that stops before
+    // the sentence type is decided hands entryType back as it came.
+    virtual EntryJudgement CheckEntry(const std::string& entryText, int activeMethod, int pairCount,
+                                      int entryType) = 0;
 
     // A typed key shifts the series: its time and character code go into the newest slot.
     virtual void RecordKey(float time, int characterCode) = 0;

@@ -16,9 +16,9 @@ std::int16_t Short(int value) {
 } // namespace
 
 EntryJudgement EngineDialogue::CheckEntry(const std::string& entryText, int activeMethod,
-                                          int pairCount) {
+                                          int pairCount, int entryType) {
     std::int16_t status = 0;
-    std::int16_t type = 0;
+    std::int16_t type = Short(entryType);
     veyrant::CheckEntry(entryText, Short(activeMethod), Short(pairCount), status, type);
     return {status, type};
 }

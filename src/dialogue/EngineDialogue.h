@@ -14,8 +14,8 @@ class EngineDialogue final : public DialogueEngine {
 public:
     explicit EngineDialogue(Engine& engine) : engine_(engine) {}
 
-    EntryJudgement CheckEntry(const std::string& entryText, int activeMethod,
-                              int pairCount) override;
+    EntryJudgement CheckEntry(const std::string& entryText, int activeMethod, int pairCount,
+                              int entryType) override;
     void RecordKey(float time, int characterCode) override;
     void StretchSeeds(float seriesSeed) override;
     int RollAnswer(int percent) override;

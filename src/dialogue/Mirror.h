@@ -132,6 +132,10 @@ private:
     void ClickSaved();
     void ShowSmallView();
 
+    // Print and file.
+    void PrintFinishedDialogue();
+    void FileFinishedDialogue();
+
     // Instruction panel.
     void MarkHover(MirrorControl control, const std::string& text);
     void ClearHover();
@@ -139,6 +143,7 @@ private:
     void HoverTick();
     void ResponseHover();
     void NoteHover();
+    void StartAreaHelp(MirrorControl area, const std::string& text);
     void ClickResponse();
     void SetResponse(const std::string& text, Colour background);
 
@@ -152,7 +157,6 @@ private:
     void PressFunctionKey(int number);
     void ToggleWriteFont();
     void ApplyWriteFont();
-    void BackgroundMove();
 
     // Start, finish and reopen.
     void ResetDialogue();
@@ -195,6 +199,8 @@ private:
     std::string hoverText_;
     int hoverTicks_ = 0;
     std::optional<MirrorControl> hoverControl_;
+    // The text area whose help is pending or on show: further moves over it leave the count be.
+    std::optional<MirrorControl> hoverArea_;
 
     // What the full view hides and gives back.
     struct FullViewNotes {

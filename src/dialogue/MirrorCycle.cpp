@@ -392,9 +392,11 @@ void Mirror::TakeEntry() {
 }
 
 // The parser's judgement first, then the limit on kept items, which no other refusal outranks.
+// A refusal that comes before the sentence is read keeps the type of the entry before, so in
+// Suppose a yes-or-no question refused once is refused the same way until a question replaces it.
 void Mirror::JudgeEntry() {
-    const auto judgement =
-        engine_.CheckEntry(state_.EntryText, state_.ActiveMethod, state_.PairCount);
+    const auto judgement = engine_.CheckEntry(state_.EntryText, state_.ActiveMethod,
+                                              state_.PairCount, state_.EntryType);
     state_.EntryStatus = judgement.Status;
     state_.EntryType = judgement.Type;
     CheckDialogueLimit();

@@ -117,7 +117,14 @@ void Mirror::Click(MirrorControl control) {
         ClickRemove();
         break;
     case MirrorControl::cmdDisplay:
-        ClickDisplay();
+        if (C(control).Text == "File") {
+            FileFinishedDialogue();
+        } else {
+            ClickDisplay();
+        }
+        break;
+    case MirrorControl::cmdPrint:
+        PrintFinishedDialogue();
         break;
     case MirrorControl::cmdNew:
         ClickNewCaption();
@@ -159,10 +166,11 @@ void Mirror::MouseUp(MirrorControl control, MouseButton) {
 
 void Mirror::MouseMove(MirrorControl control) {
     if (IsButton(control)) {
-        if (C(control).Enabled) {
-            MarkHover(control, HelpFor(control));
-        } else {
+        const std::string help = C(control).Enabled ? HelpFor(control) : std::string{};
+        if (help.empty()) {
             EndHover();
+        } else {
+            MarkHover(control, help);
         }
         return;
     }

@@ -16,6 +16,7 @@ void Mirror::MarkHover(MirrorControl control, const std::string& text) {
         return;
     }
     ClearHover();
+    hoverArea_.reset();
     hoverControl_ = control;
     C(control).Ink = Colour::HoverInk;
     C(control).Underlined = true;
@@ -37,6 +38,7 @@ void Mirror::EndHover() {
         ShowInstruction();
     }
     ClearHover();
+    hoverArea_.reset();
     hoverTicks_ = HoverLastTick;
 }
 
@@ -50,14 +52,38 @@ void Mirror::HoverTick() {
     ShowInstruction();
     world_.Windows.StopTimer(TimerId::MirrorHover);
     hoverTicks_ = 0;
+    hoverArea_.reset();
 }
 
+namespace {
+
+// A method button pressed in speaks of the way out that cmdNew offers; with "Select" on show
+// there is none to speak of, so it has no help.
+std::string PressedMethodHelp(MirrorControl control, const std::string& newCaption) {
+    if (newCaption == "Finish") {
+        return "Click 'Finish' to close your Dialogue for saving, printing, or filing. You may "
+               "reopen it by clicking 'Continue'.";
+    }
+    if (newCaption != "Cancel") {
+        return {};
+    }
+    switch (control) {
+    case MirrorControl::cmdConverse:
+        return "Click 'Cancel' to exit Converse and reset to New Dialogue.";
+    case MirrorControl::cmdSuppose:
+        return "Click 'Cancel' to end your Dialogue. Or click another interactive method.";
+    default:
+        return "Click 'Cancel' to exit Notation and reset to the Converse method of interaction.";
+    }
+}
+
+} // namespace
+
+// Empty where the control has no help in the state at hand.
 std::string Mirror::HelpFor(MirrorControl control) const {
     const auto& newCaption = controls_[MirrorControl::cmdNew].Text;
     const auto& self = controls_[control];
     const bool dialogueEmpty = state_.DialogueText.empty();
-    const std::string finishHelp = "Click 'Finish' to close your Dialogue for saving, printing, "
-                                   "or filing. You may reopen it by clicking 'Continue'.";
     switch (control) {
     case MirrorControl::cmdConverse:
     case MirrorControl::cmdSuppose:
@@ -65,24 +91,16 @@ std::string Mirror::HelpFor(MirrorControl control) const {
         if (newCaption == "New") {
             return "Click 'New' to begin another Dialogue.";
         }
-        if (self.PressedIn && newCaption == "Finish") {
-            return finishHelp;
+        if (self.PressedIn) {
+            return PressedMethodHelp(control, newCaption);
         }
         if (control == MirrorControl::cmdConverse) {
-            return self.PressedIn
-                       ? "Click 'Cancel' to exit Converse and reset to New Dialogue."
-                       : "Create entry-response pairs with the Converse method. Ask questions or "
-                         "make statements for the Sagrel's response.";
+            return "Create entry-response pairs with the Converse method. Ask questions or make "
+                   "statements for the Sagrel's response.";
         }
         if (control == MirrorControl::cmdSuppose) {
-            return self.PressedIn ? "Click 'Cancel' to end your Dialogue. Or click another "
-                                    "interactive method."
-                                  : "Create an entry-response pair with the Suppose method. Ask "
-                                    "a question, then suppose ideas that might answer it.";
-        }
-        if (self.PressedIn) {
-            return "Click 'Cancel' to exit Notation and reset to the Converse method of "
-                   "interaction.";
+            return "Create an entry-response pair with the Suppose method. Ask a question, then "
+                   "suppose ideas that might answer it.";
         }
         return state_.ActiveMethod == 0 ? "Open your Dialogue with a comment. Write a short "
                                           "paragraph without creating an Sagrel response."
@@ -190,11 +208,7 @@ void Mirror::ResponseHover() {
     if (C(MirrorControl::txtNote).Text == tip) {
         return;
     }
-    ClearHover();
-    hoverControl_.reset();
-    hoverText_ = tip;
-    hoverTicks_ = 0;
-    world_.Windows.StartTimer(TimerId::MirrorHover, HoverInterval);
+    StartAreaHelp(MirrorControl::txtResponse, tip);
 }
 
 void Mirror::NoteHover() {
@@ -204,8 +218,18 @@ void Mirror::NoteHover() {
     }
     note.Text = MirrorText::TipKeysLead;
     note.Ink = Colour::HelpInk;
+    StartAreaHelp(MirrorControl::txtNote, std::string(MirrorText::TipKeys));
+}
+
+// The count starts when the mouse arrives over the area, not at each move across it.
+void Mirror::StartAreaHelp(MirrorControl area, const std::string& text) {
+    if (hoverArea_ == area && hoverText_ == text) {
+        return;
+    }
     ClearHover();
-    hoverText_ = MirrorText::TipKeys;
+    hoverControl_.reset();
+    hoverArea_ = area;
+    hoverText_ = text;
     hoverTicks_ = 0;
     world_.Windows.StartTimer(TimerId::MirrorHover, HoverInterval);
 }

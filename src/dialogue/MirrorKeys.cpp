@@ -239,6 +239,7 @@ void Mirror::ClickEntryBox() {
     }
     ShowInstruction();
     ClearHover();
+    hoverArea_.reset();
     hoverTicks_ = 0;
     world_.Windows.StopTimer(TimerId::MirrorHover);
     if (state_.AwaitingEnter == 1) {

@@ -1,6 +1,10 @@
 #include "ui/QtWindowLayer.h"
 
 #include "core/Cp1252.h"
+#include "shell/Settings.h"
+#include "ui/DialoguePrinter.h"
+#include "ui/ExportEditorWindow.h"
+#include "ui/PrintFlow.h"
 
 #include <QApplication>
 #include <QCoreApplication>
@@ -9,6 +13,7 @@
 #include <QFontMetricsF>
 #include <QGuiApplication>
 #include <QMessageBox>
+#include <QPrinter>
 #include <QScreen>
 #include <QTimer>
 #include <algorithm>
@@ -245,6 +250,26 @@ bool QtWindowLayer::HasFontFace(const std::string& face, bool italic) const {
     const QStringList styles = QFontDatabase::styles(*found);
     return std::any_of(styles.begin(), styles.end(),
                        [&](const QString& style) { return QFontDatabase::italic(*found, style); });
+}
+
+PrintOutcome QtWindowLayer::PrintDialogue(const PrintRequest& request) {
+    const QString face = ToDisplayText(printFace_ ? printFace_() : FontNames{}.Main);
+    QPrinter printer(QPrinter::HighResolution);
+    PreparePrinter(printer, request);
+    // The preview and the print dialog take the pointer as any window does.
+    const bool wasBusy = busy_;
+    SetBusyPointer(false);
+    const auto outcome = PreviewAndPrint(printer, [&](QPrinter& target) {
+        return PrintDialogueOn(target, request, face).has_value();
+    });
+    SetBusyPointer(wasBusy);
+    return outcome;
+}
+
+void QtWindowLayer::ShowInEditor(const std::string& text, const std::string& proposedFileName) {
+    auto* editor =
+        new ExportEditorWindow(*this, ToDisplayText(text), ToDisplayText(proposedFileName));
+    editor->show();
 }
 
 void QtWindowLayer::EndProcessAfter(int milliseconds) {

@@ -32,6 +32,8 @@ public:
     void SetTimerHandler(TimerId timer, std::function<void()> handler);
     // The loaded window, or nullptr.
     QWidget* Window(WindowId window) const;
+    // The program's serif face, as the font check chose it, for the printed pages.
+    void SetPrintFace(std::function<std::string()> face) { printFace_ = std::move(face); }
     // True once the program has asked to end; the event loop must then not be entered.
     bool Ended() const { return ended_; }
 
@@ -52,6 +54,8 @@ public:
     int TextWidthTwips(const std::string& face, double points, bool bold, bool italic,
                        const std::string& text) const override;
     bool HasFontFace(const std::string& face, bool italic) const override;
+    PrintOutcome PrintDialogue(const PrintRequest& request) override;
+    void ShowInEditor(const std::string& text, const std::string& proposedFileName) override;
     void EndProcessAfter(int milliseconds) override;
     void EndProcess() override;
 
@@ -62,6 +66,7 @@ private:
     std::map<WindowId, QPointer<QWidget>> windows_;
     std::map<TimerId, std::unique_ptr<QTimer>> timers_;
     std::map<TimerId, std::function<void()>> handlers_;
+    std::function<std::string()> printFace_;
     bool busy_ = false;
     bool ended_ = false;
 };

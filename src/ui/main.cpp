@@ -36,6 +36,7 @@ int main(int argc, char** argv) {
     SystemClock clock;
     Random random;
     Application app(AppFolder::FromEnvironment(), "/proc/self/exe", clock, random, windows);
+    windows.SetPrintFace([&] { return app.Fonts.Main; });
     MirrorWindow* writeWindow = nullptr;
     std::unique_ptr<Options> libraryOptions;
     std::unique_ptr<Utility> utilities;

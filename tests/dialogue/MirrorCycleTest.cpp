@@ -139,13 +139,37 @@ TEST(MirrorCycle, RemarkStaysOutUntilKeptAndKeepRemoveRestoreTheTextExactly) {
 TEST(MirrorCycle, FirstRemarkLeavesCancelAndNoDisplayUntilKept) {
     MirrorDriver driver;
     driver.StartConverse();
+    EXPECT_EQ(driver.Text(MirrorControl::txtSaved), "Dialogue");
     driver.Engine.Rolls.push_back(0);
     driver.Converse(Question);
     EXPECT_EQ(driver.Text(MirrorControl::cmdNew), "Cancel");
     EXPECT_FALSE(driver.Box(MirrorControl::cmdDisplay).Enabled);
+    EXPECT_EQ(driver.Text(MirrorControl::txtSaved), "Dialogue");
     driver.mirror->Click(MirrorControl::cmdRemove);
     EXPECT_EQ(driver.Text(MirrorControl::cmdNew), "Finish");
     EXPECT_TRUE(driver.Box(MirrorControl::cmdDisplay).Enabled);
+    driver.mirror->Click(MirrorControl::cmdRemove);
+    EXPECT_EQ(driver.Text(MirrorControl::txtSaved), "Dialogue");
+}
+
+// Removing a pair takes it out of the Dialogue, not out of the count that brings the notice.
+TEST(MirrorCycle, RemovedPairsStillBringTheNotice) {
+    MirrorDriver driver;
+    driver.Draws.Draws = {0.05f}; // CycleGoal 3
+    driver.StartConverse();
+    for (int cycle = 0; cycle < 3; ++cycle) {
+        driver.Converse(Question);
+        driver.mirror->Click(MirrorControl::cmdRemove);
+        if (cycle < 2) {
+            driver.Enter();
+        }
+    }
+    EXPECT_EQ(driver.State().PairCount, 0);
+    driver.Engine.Rolls.push_back(0);
+    driver.Enter();
+    EXPECT_EQ(driver.Text(MirrorControl::txtResponse),
+              ">> Regarding the conversation. To continue, press 'Enter'.\r\n\tThe talk has "
+              "turned inward.");
 }
 
 struct Rejection {

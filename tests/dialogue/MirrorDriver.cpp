@@ -8,7 +8,7 @@
 
 namespace veyrant::testing {
 
-EntryJudgement ScriptedEngine::CheckEntry(const std::string& entryText, int, int) {
+EntryJudgement ScriptedEngine::CheckEntry(const std::string& entryText, int, int, int) {
     CheckedEntries.push_back(entryText);
     if (Judgements.empty()) {
         return {1, 2};

@@ -3,12 +3,12 @@
 // Drives the Write window's logic the way the screen does: each key as key down then key press,
 // and a key neither stage dropped applied to the box, as the text widget would apply it.
 
+#include "app/Application.h"
 #include "core/Random.h"
 #include "dialogue/DialogueEngine.h"
 #include "dialogue/EngineDialogue.h"
 #include "dialogue/Mirror.h"
 #include "engine/Engine.h"
-#include "app/Application.h"
 #include "storage/DialogueLibrary.h"
 #include "storage/WorkBuffers.h"
 #include "support/FakeClock.h"
@@ -25,8 +25,8 @@ namespace veyrant::testing {
 // Judges entries and composes replies from a script, so a test chooses the outcome.
 class ScriptedEngine : public DialogueEngine {
 public:
-    EntryJudgement CheckEntry(const std::string& entryText, int activeMethod,
-                              int pairCount) override;
+    EntryJudgement CheckEntry(const std::string& entryText, int activeMethod, int pairCount,
+                              int entryType) override;
     void RecordKey(float time, int characterCode) override;
     void StretchSeeds(float seriesSeed) override { Stretched.push_back(seriesSeed); }
     int RollAnswer(int percent) override;

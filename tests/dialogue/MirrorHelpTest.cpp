@@ -1,6 +1,8 @@
 #include "dialogue/MirrorDriver.h"
+#include "dialogue/MirrorTexts.h"
 
 #include <gtest/gtest.h>
+#include <ostream>
 
 namespace veyrant::testing {
 namespace {
@@ -121,6 +123,76 @@ TEST(MirrorHelp, TheInstructionBoxNamesTheFunctionKeys) {
     EXPECT_EQ(driver.Text(MirrorControl::txtNote),
               "F1=Help F2=Know F3=Retrieve F4=Aknow F5=Converse F6=Suppose F7=Comment F9=Rewrite "
               "F10=Edit F11=Display");
+}
+
+struct Arrival {
+    MirrorControl Control;
+    std::string Help;
+};
+
+void PrintTo(const Arrival& c, std::ostream* out) {
+    *out << c.Help.substr(0, 20);
+}
+
+class MirrorHoverArrival : public ::testing::TestWithParam<Arrival> {};
+
+// The help shows 1.25 seconds after the mouse arrives, however it moves on the control.
+TEST_P(MirrorHoverArrival, TheCountStartsWhenTheMouseArrives) {
+    const auto& arrival = GetParam();
+    MirrorDriver driver;
+    driver.StartConverse();
+    auto& starts = driver.Layer.TimerStarts[TimerId::MirrorHover];
+    const int before = starts;
+    for (int move = 0; move < 3; ++move) {
+        driver.mirror->MouseMove(arrival.Control);
+    }
+    EXPECT_EQ(starts - before, 1);
+    driver.mirror->TimerFired(TimerId::MirrorHover);
+    EXPECT_EQ(driver.Text(MirrorControl::txtNote), arrival.Help);
+    // Leaving and coming back is another arrival.
+    driver.mirror->MouseMove(MirrorControl::txtMirror);
+    driver.mirror->MouseMove(arrival.Control);
+    EXPECT_EQ(starts - before, 2);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Controls, MirrorHoverArrival,
+    ::testing::Values(Arrival{MirrorControl::txtResponse, std::string(MirrorText::TipDirection)},
+                      Arrival{MirrorControl::txtNote, std::string(MirrorText::TipKeys)},
+                      Arrival{MirrorControl::cmdNew,
+                              "Cancel your interaction and return to New Dialogue."}));
+
+class MirrorRetrieveHelp : public ::testing::TestWithParam<std::pair<int, std::string>> {};
+
+TEST_P(MirrorRetrieveHelp, CountsTheSavedDialogues) {
+    const auto& [saved, help] = GetParam();
+    MirrorDriver driver;
+    for (int dialogue = 0; dialogue < saved; ++dialogue) {
+        driver.Clock.Date.Minute = dialogue; // one file name per minute
+        ASSERT_TRUE(driver.Library.AddToLibrary("\tInspiration.", "\r\n\r\n\tA comment."));
+    }
+    driver.mirror->StartWindow();
+    EXPECT_EQ(HelpAfterRest(driver, MirrorControl::cmdRetrieve), help);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Saved, MirrorRetrieveHelp,
+    ::testing::Values(std::pair{1, std::string("Open the Dialogue Library to access your 1 saved "
+                                               "Dialogue. Right-click for Library Options.")},
+                      std::pair{3, std::string("Open the Dialogue Library to access your 3 saved "
+                                               "Dialogues. Right-click for Library Options.")}));
+
+// A comment on show has already handed the window to Converse, so the button speaks of pairs.
+TEST(MirrorHelp, RemoveAndKeepOfACommentSpeakOfThePair) {
+    MirrorDriver driver;
+    driver.mirror->StartWindow();
+    driver.mirror->Click(MirrorControl::cmdNotate);
+    driver.Converse("Today I want to look at why I avoid my brother.");
+    EXPECT_EQ(HelpAfterRest(driver, MirrorControl::cmdRemove),
+              "Remove the current entry-response pair from the Dialogue.");
+    driver.mirror->Click(MirrorControl::cmdRemove);
+    EXPECT_EQ(HelpAfterRest(driver, MirrorControl::cmdRemove),
+              "Keep the current entry-response pair in the Dialogue.");
 }
 
 TEST(MirrorHelp, AClickEndsTheHelpSoItsEffectShows) {

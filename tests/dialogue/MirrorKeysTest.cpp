@@ -89,6 +89,22 @@ TEST(MirrorKeys, OverTheLimitOnlyBackspaceWorks) {
     EXPECT_EQ(driver.State().EntryCount, 137);
 }
 
+// Typing takes a ">>" message away only once the count is back within the limit.
+TEST(MirrorKeys, TheTooLongMessageStaysWhileTheBoxIsOverTheLimit) {
+    MirrorDriver driver;
+    driver.StartConverse();
+    const std::string direction = driver.State().DirectionText;
+    driver.Type(std::string(142, 'a'));
+    driver.Enter();
+    const std::string tooLong = driver.Text(MirrorControl::txtResponse);
+    ASSERT_EQ(tooLong.substr(0, 26), ">> Your entry is too long.");
+    driver.Type("a");
+    EXPECT_EQ(driver.Text(MirrorControl::txtResponse), tooLong);
+    driver.Backspace();
+    EXPECT_EQ(driver.Text(MirrorControl::txtResponse), direction);
+    EXPECT_EQ(driver.Box(MirrorControl::txtResponse).Background, Colour::ColourReady);
+}
+
 TEST(MirrorKeys, ProtectedHeadAndCaretMoves) {
     MirrorDriver driver;
     driver.StartConverse();

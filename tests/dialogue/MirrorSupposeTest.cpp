@@ -150,6 +150,66 @@ INSTANTIATE_TEST_SUITE_P(
                       Weighing{"Rising", {0.1f, 0.2f, 0.3f, 0.4f}, "Idea number 4"}),
     [](const auto& info) { return info.param.Name; });
 
+// Each list weighs its own ideas: what an earlier, longer list left behind is never chosen.
+TEST(MirrorSuppose, AShorterSecondListChoosesAmongItsOwnIdeas) {
+    MirrorDriver driver;
+    OpenList(driver, {0.2f, 0.3f, 0.9f});
+    for (int idea = 1; idea <= 3; ++idea) {
+        driver.Converse("idea number " + std::to_string(idea));
+    }
+    driver.mirror->Click(MirrorControl::cmdNew);
+    ASSERT_EQ(driver.Text(MirrorControl::txtResponse),
+              "\tYour idea \x93Idea number 3.\x94 is verdict 1.");
+
+    driver.mirror->Click(MirrorControl::cmdSuppose);
+    driver.Draws.Draws = {0.5f, 0.1f};
+    driver.Engine.Judgements.push_back({1, 20});
+    driver.Converse(Question);
+    driver.Converse("another idea");
+    driver.Converse("a last idea");
+    driver.mirror->Click(MirrorControl::cmdNew);
+    EXPECT_EQ(driver.Text(MirrorControl::txtResponse), "\tYour idea \x93"
+                                                       "Another idea.\x94 is verdict 2.");
+}
+
+// Only the ordinary Enter turns the button to Select. An Enter straight after a refused idea
+// tries it again as it stands and leaves Cancel; mending it by typing takes the ordinary road.
+TEST(MirrorSuppose, OnlyTheOrdinaryEnterTurnsCancelIntoSelect) {
+    MirrorDriver driver;
+    OpenList(driver);
+    driver.Converse("walk to school");
+    driver.Converse("go");
+    driver.Enter();
+    EXPECT_EQ(driver.State().IdeaCount, 1);
+    EXPECT_EQ(driver.Text(MirrorControl::txtResponse), std::string(MirrorText::TooShort));
+    EXPECT_EQ(driver.Text(MirrorControl::cmdNew), "Cancel");
+    driver.Type(" slow");
+    driver.Enter();
+    EXPECT_EQ(driver.State().IdeaCount, 2);
+    EXPECT_EQ(driver.Text(MirrorControl::cmdNew), "Select");
+}
+
+// Pressed in, Suppose speaks of the way out that cmdNew offers; Select is no way out of it.
+TEST(MirrorSuppose, PressedInSupposeHasNoHelpWhileSelectShows) {
+    MirrorDriver driver;
+    OpenList(driver);
+    ASSERT_EQ(Line(driver, "cmdSuppose"), "cmdSuppose: \"Suppose\" pressed");
+    driver.Converse("walk to school");
+    driver.mirror->MouseMove(MirrorControl::cmdSuppose);
+    driver.mirror->TimerFired(TimerId::MirrorHover);
+    EXPECT_EQ(driver.Text(MirrorControl::txtNote),
+              "Click 'Cancel' to end your Dialogue. Or click another interactive method.");
+
+    driver.Converse("go by bike");
+    ASSERT_EQ(driver.Text(MirrorControl::cmdNew), "Select");
+    driver.mirror->MouseMove(MirrorControl::cmdSuppose);
+    driver.mirror->TimerFired(TimerId::MirrorHover);
+    EXPECT_EQ(driver.Text(MirrorControl::txtNote),
+              "Type your supposed answer. Or click 'Select' to choose the supposed answer from "
+              "the list.");
+    EXPECT_EQ(driver.Box(MirrorControl::cmdSuppose).Ink, Colour::Black);
+}
+
 TEST(MirrorSuppose, SelectRefusedByTheDrawLeavesTheOutcomeOutUntilKept) {
     MirrorDriver driver;
     OpenList(driver, {0.3f, 0.6f});

@@ -137,6 +137,21 @@ TEST(MirrorTranscript, AtOneHundredTwentyOneEveryEntryIsRefused) {
     EXPECT_EQ(driver.Text(MirrorControl::txtNote), "Press 'Enter' to begin this entry again.");
 }
 
+TEST(MirrorTranscript, AResponseLeftOutDoesNotBringTheLimitNearer) {
+    MirrorDriver driver;
+    ContinuePrior(driver, 120);
+    driver.Engine.Rolls.push_back(0);
+    driver.Converse(Entry);
+    ASSERT_EQ(driver.Text(MirrorControl::cmdRemove), "Keep");
+    driver.Enter();
+    driver.Converse(Entry);
+    EXPECT_EQ(driver.Text(MirrorControl::cmdRemove), "Remove");
+    EXPECT_EQ(driver.State().PairCount, 121);
+    driver.Enter();
+    driver.Converse(Entry);
+    EXPECT_EQ(driver.Text(MirrorControl::txtResponse).substr(0, 4), ">> !");
+}
+
 TEST(MirrorTranscript, ClickOnTheNewDialoguePanelDrawsAnotherSuggestion) {
     MirrorDriver driver;
     driver.mirror->StartWindow();

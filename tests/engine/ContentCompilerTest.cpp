@@ -3,6 +3,7 @@
 #include "core/WholeFile.h"
 #include "engine/EngineTables.h"
 #include "engine/KeptPlans.h"
+#include "support/Replaced.h"
 #include "support/TempFolder.h"
 
 #include <gtest/gtest.h>
@@ -11,6 +12,7 @@ namespace veyrant {
 namespace {
 
 using namespace content;
+using testing::Replaced;
 
 const std::string SmallStock1 = "# answers\n[,]\n,\n\n[.]\n.\n\n[Yes]\nYes\n(2) Of course\n";
 const std::string SmallStock2 = "[Maybe]\nMaybe\nPerhaps not\n";
@@ -74,10 +76,6 @@ struct RefusalCase {
 // ctest lists a case by what this prints.
 void PrintTo(const RefusalCase& c, std::ostream* out) {
     *out << c.Name;
-}
-
-std::string Replaced(std::string text, const std::string& from, const std::string& to) {
-    return text.replace(text.find(from), from.size(), to);
 }
 
 class ContentRefusals : public ::testing::TestWithParam<RefusalCase> {};

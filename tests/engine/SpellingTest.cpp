@@ -1,12 +1,16 @@
-// Every word the Sagrel can show, in the phrase stocks and the Suggestions, is checked against
-// the American English dictionary of hunspell, so a typing slip in the content fails here with
-// its word, file and line. The program's own words stand in data/spelling-allowlist.txt.
+// Every word the program shows from its content, in the phrase stocks, the Suggestions and the
+// fixed libraries, is checked against the American English dictionary of hunspell, so a typing slip
+// in the content fails here with its word, file and line. The program's own words stand in
+// data/spelling-allowlist.txt.
 
 #include "ContentSources.h"
+#include "LibrarySource.h"
 #include "core/Cp1252.h"
+#include "core/Text.h"
 #include "core/WholeFile.h"
 #include "support/TempFolder.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <filesystem>
 #include <gtest/gtest.h>
@@ -66,6 +70,29 @@ std::string SuggestionPhrase(const std::string& line) {
     return !line.empty() && line.front() == '=' ? line.substr(1) : line;
 }
 
+// Paths, addresses, settings and keys ("~/.local", "support@...", "$XDG_DATA_HOME", "F1") are
+// names the manual quotes, not words: a token with a digit or a mark of a path is left out.
+std::string WithoutQuotedNames(const std::string& text) {
+    std::istringstream tokens(text);
+    std::string kept;
+    for (std::string token; tokens >> token;) {
+        const auto inner = token.substr(0, token.find_last_not_of(".,;:!?)\x94\x92") + 1);
+        if (inner.find_first_of("0123456789/@~$_\\") == std::string::npos &&
+            inner.find('.') == std::string::npos) {
+            kept += (kept.empty() ? "" : " ") + token;
+        }
+    }
+    return kept;
+}
+
+// The text a line of a library shows: a title without its level mark, an item without its star.
+std::string LibraryPhrase(const std::string& line) {
+    if (line.size() >= 4 && line.front() == '[' && line[2] == ']') {
+        return line.substr(4);
+    }
+    return WithoutQuotedNames(line.starts_with("* ") ? line.substr(2) : line);
+}
+
 void AddLines(const fs::path& content, const std::string& relative,
               std::string (*phraseOf)(const std::string&), std::vector<PhraseLine>& lines) {
     const auto source = content::SourceLines(relative, ReadWholeFile(content / relative));
@@ -77,7 +104,8 @@ void AddLines(const fs::path& content, const std::string& relative,
     }
 }
 
-// The stocks are the files 01.txt to 14.txt; the folder holds their group order as well.
+// The stocks are the files 01.txt to 14.txt; the folder holds their group order as well. The
+// libraries' titles are read where their bodies stand.
 std::vector<PhraseLine> PhraseLines(const fs::path& content) {
     std::vector<PhraseLine> lines;
     for (int stock = 1; stock <= content::StockCount; ++stock) {
@@ -88,6 +116,22 @@ std::vector<PhraseLine> PhraseLines(const fs::path& content) {
         }
     }
     AddLines(content, "suggestions.txt", SuggestionPhrase, lines);
+    for (const std::string_view folder : content::LibraryFolders) {
+        const fs::path library = content / "libraries" / folder;
+        if (!fs::is_directory(library)) {
+            continue;
+        }
+        std::vector<std::string> names;
+        for (const auto& entry : fs::directory_iterator(library)) {
+            if (entry.path().extension() == ".txt") {
+                names.push_back(fs::relative(entry.path(), content).generic_string());
+            }
+        }
+        std::sort(names.begin(), names.end());
+        for (const std::string& name : names) {
+            AddLines(content, name, LibraryPhrase, lines);
+        }
+    }
     return lines;
 }
 
@@ -107,6 +151,12 @@ std::set<std::string> Allowlist(const fs::path& content) {
 bool IsAllowed(const std::set<std::string>& allowed, const std::string& word) {
     if (allowed.contains(word)) {
         return true;
+    }
+    // The program's name in a package or a web address is written in lower case.
+    for (const std::string& name : allowed) {
+        if (word == Lower(name)) {
+            return true;
+        }
     }
     return word.size() > 2 && word.ends_with("'s") &&
            allowed.contains(word.substr(0, word.size() - 2));
@@ -173,16 +223,29 @@ TEST(Spelling, NamesEachUnknownWordWithItsFileAndLine) {
     WriteWholeFile(content / "suggestions.txt", "= Reveal What Is Hiden\n"
                                                 "Use the Converse method to create new ideas.\n"
                                                 "Click ‘Keep’ and let it setle.\n");
+    fs::create_directories(content / "libraries" / "advanced");
+    WriteWholeFile(content / "libraries" / "advanced" / "1-awakening.txt",
+                   "[0] < Awakening into Wonder >\n"
+                   "The Ambrel shows itself.\n"
+                   "[1] Yearning to Remembr\n"
+                   "* A quiet listt\n"
+                   "Press F1, see ~/.local/share/veyrant-sagrel/exe or write to "
+                   "support@veyrant-sagrel.org.\n"
+                   "Type sudo apt remove veyrant-sagrel.\n");
     WriteWholeFile(content / "spelling-allowlist.txt", "# The program's own words.\n"
+                                                       "Ambrel\n"
                                                        "Sagrel\n"
                                                        "Veyrant\n");
     const std::vector<Misspelling> expected = {{"mornnig", "stocks/01.txt", 3},
                                                {"Hiden", "suggestions.txt", 1},
-                                               {"setle", "suggestions.txt", 3}};
+                                               {"setle", "suggestions.txt", 3},
+                                               {"Remembr", "libraries/advanced/1-awakening.txt", 3},
+                                               {"listt", "libraries/advanced/1-awakening.txt", 4},
+                                               {"sudo", "libraries/advanced/1-awakening.txt", 6}};
     EXPECT_EQ(FindMisspellings(content.Path()), expected);
 }
 
-TEST(Spelling, EveryPhraseAndSuggestionIsInTheDictionary) {
+TEST(Spelling, EveryWordOfTheContentIsInTheDictionary) {
     const fs::path content = VEYRANT_CONTENT_DATA;
     ASSERT_GT(PhraseLines(content).size(), 289u) << "no content found in " << content;
     for (const auto& found : FindMisspellings(content)) {

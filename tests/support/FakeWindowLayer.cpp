@@ -62,6 +62,12 @@ void FakeWindowLayer::HideWindow(WindowId window) {
     WindowEvents.push_back(std::string("hide ") + WindowName(window));
 }
 
+PrintOutcome FakeWindowLayer::PrintDialogue(const PrintRequest& request) {
+    Printed.push_back(request);
+    BusyWhilePrinting = Busy;
+    return PrintAnswer;
+}
+
 int FakeWindowLayer::TextWidthTwips(const std::string&, double points, bool, bool,
                                     const std::string& text) const {
     // A fixed advance of half an em per character keeps layout tests predictable.

@@ -17,7 +17,11 @@ public:
     MessageAnswer ShowMessage(const MessageBoxRequest& request) override;
     void Yield() override { ++Yields; }
     void SetBusyPointer(bool busy) override { Busy = busy; }
-    void StartTimer(TimerId timer, int milliseconds) override { Timers[timer] = milliseconds; }
+    // A start of a running timer begins its count again, as the screen's timer does.
+    void StartTimer(TimerId timer, int milliseconds) override {
+        Timers[timer] = milliseconds;
+        ++TimerStarts[timer];
+    }
     void StopTimer(TimerId timer) override { Timers.erase(timer); }
     void LoadWindow(WindowId window) override;
     void UnloadWindow(WindowId window) override;
@@ -31,6 +35,10 @@ public:
     int TextWidthTwips(const std::string& face, double points, bool bold, bool italic,
                        const std::string& text) const override;
     bool HasFontFace(const std::string& face, bool italic) const override;
+    PrintOutcome PrintDialogue(const PrintRequest& request) override;
+    void ShowInEditor(const std::string& text, const std::string& proposedFileName) override {
+        EditorTexts.push_back({text, proposedFileName});
+    }
     void EndProcessAfter(int milliseconds) override { EndAfter = milliseconds; }
     void EndProcess() override { Ended = true; }
 
@@ -38,6 +46,7 @@ public:
     std::vector<MessageBoxRequest> Boxes;
     std::deque<MessageAnswer> Answers;
     std::map<TimerId, int> Timers;
+    std::map<TimerId, int> TimerStarts;
     std::set<WindowId> Loaded;
     std::set<WindowId> Visible;
     std::set<WindowId> Minimised;
@@ -45,6 +54,15 @@ public:
     std::set<std::string> MissingFaces;
     int ScreenWidth = 1920 * TwipsPerPixel;
     int ScreenHeight = 1080 * TwipsPerPixel;
+    // What went to the printer, and how the print dialog ends.
+    std::vector<PrintRequest> Printed;
+    PrintOutcome PrintAnswer = PrintOutcome::Printed;
+    bool BusyWhilePrinting = false;
+    struct EditorText {
+        std::string Text;
+        std::string ProposedFileName;
+    };
+    std::vector<EditorText> EditorTexts;
     int Yields = 0;
     bool Busy = false;
     int EndAfter = -1;

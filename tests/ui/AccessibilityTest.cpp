@@ -6,6 +6,7 @@
 #include "shell/Resize.h"
 #include "storage/Options.h"
 #include "ui/BannerWindow.h"
+#include "ui/ExportEditorWindow.h"
 #include "ui/OptionsWindow.h"
 #include "ui/QtWindowLayer.h"
 #include "ui/ResizeWindow.h"
@@ -87,11 +88,13 @@ private slots:
         displaySize.show();
         OptionsWindow options(program.LibraryOptions);
         options.show();
+        ExportEditorWindow exported(program.Layer, QStringLiteral("Dialogue text"),
+                                    QStringLiteral("Dialogue.txt"));
         const auto about = BuildMessageBox(
             {"About the Veyrant Sagrel Program", AboutText("4.1.26.11.22", "2026")});
 
-        const std::vector<QWidget*> windows = {&write,       &banner,  &utilities,
-                                               &displaySize, &options, about.get()};
+        const std::vector<QWidget*> windows = {&write,   &banner,   &utilities, &displaySize,
+                                               &options, &exported, about.get()};
         for (QWidget* window : windows) {
             QVERIFY2(Unnamed(*window).isEmpty(),
                      qPrintable(window->windowTitle() + ": " + Unnamed(*window).join(", ")));

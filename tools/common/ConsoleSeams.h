@@ -37,6 +37,8 @@ public:
         return static_cast<int>(text.size()) * 100;
     }
     bool HasFontFace(const std::string&, bool) const override { return true; }
+    PrintOutcome PrintDialogue(const PrintRequest&) override { return PrintOutcome::Cancelled; }
+    void ShowInEditor(const std::string&, const std::string&) override {}
     void EndProcessAfter(int) override {}
     void EndProcess() override {}
 };

@@ -1,4 +1,5 @@
 #include "ContentSources.h"
+#include "LibrarySource.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -50,6 +51,33 @@ ContentSources ReadContentFolder(const std::string& dataFolder) {
     const fs::path suggestions = data / "suggestions.txt";
     sources.Suggestions = ReadSuggestionSource(suggestions.string(), ReadSource(suggestions));
     return sources;
+}
+
+std::vector<LibrarySource> ReadLibraryFolder(const std::string& dataFolder) {
+    const fs::path libraries = fs::path(dataFolder) / "libraries";
+    const fs::path widthsFile = libraries / "widths.txt";
+    const auto widths = ReadLibraryWidths({widthsFile.string(), ReadSource(widthsFile)});
+    std::vector<LibrarySource> found;
+    for (const std::string_view name : LibraryFolders) {
+        const std::string folder(name);
+        const fs::path catalogue = libraries / "catalogue" / (folder + ".txt");
+        std::vector<fs::path> files;
+        if (fs::is_directory(libraries / folder)) {
+            for (const auto& entry : fs::directory_iterator(libraries / folder)) {
+                if (entry.path().extension() == ".txt") {
+                    files.push_back(entry.path());
+                }
+            }
+        }
+        std::sort(files.begin(), files.end());
+        std::vector<SourceFile> bodies;
+        for (const fs::path& file : files) {
+            bodies.push_back({file.string(), ReadSource(file)});
+        }
+        found.push_back(ReadLibrarySource(folder, {catalogue.string(), ReadSource(catalogue)},
+                                          bodies, widths.at(folder)));
+    }
+    return found;
 }
 
 } // namespace veyrant::content

@@ -97,4 +97,8 @@ ContentSources ReadContentFolder(const std::string& dataFolder);
 // blank lines are kept as empty strings so that line numbers hold.
 std::vector<std::string> SourceLines(const std::string& fileName, std::string_view utf8);
 
+// The same lines exactly as written, blanks, tabs and comments included; only the line ends are
+// gone.
+std::vector<std::string> ExactSourceLines(const std::string& fileName, std::string_view utf8);
+
 } // namespace veyrant::content

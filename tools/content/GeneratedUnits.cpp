@@ -1,4 +1,5 @@
 #include "EngineData.h"
+#include "LibrarySource.h"
 
 #include <cstdio>
 
@@ -27,16 +28,16 @@ std::string Literal(std::string_view bytes) {
 }
 
 // A long text as adjacent literals, one per line of the text.
-std::string LongLiteral(std::string_view bytes) {
+std::string LongLiteral(std::string_view bytes, const std::string& indent = "    ") {
     std::string text;
     std::size_t start = 0;
     while (start < bytes.size()) {
         auto end = bytes.find('\n', start);
         end = end == std::string_view::npos ? bytes.size() : end + 1;
-        text += "    " + Literal(bytes.substr(start, end - start)) + "\n";
+        text += indent + Literal(bytes.substr(start, end - start)) + "\n";
         start = end;
     }
-    return text.empty() ? "    \"\"\n" : text;
+    return text.empty() ? indent + "\"\"\n" : text;
 }
 
 std::string Fnv1a(std::string_view a, std::string_view b) {
@@ -96,6 +97,23 @@ std::string SuggestionsUnit(const std::vector<std::string>& suggestions) {
         text += "        " + Literal(suggestion) + ",\n";
     }
     text += "    };\n    return Texts;\n}\n\n} // namespace veyrant\n";
+    return text;
+}
+
+std::string LibraryUnitName(const std::string& folder) {
+    return static_cast<char>(folder.front() - 'a' + 'A') + folder.substr(1) + "Library";
+}
+
+std::string LibraryUnit(const LibrarySource& library) {
+    std::string text = Banner;
+    text += "#include \"reader/LibraryContent.h\"\n\nnamespace veyrant {\n\nnamespace {\n\n"
+            "constexpr LibraryRowText Rows[] = {\n";
+    for (const LibraryRowSource& row : library.Rows) {
+        text += "    {" + Literal(row.Title) + ",\n" + LongLiteral(row.Text, "     ") + "    },\n";
+    }
+    text += "};\n\n} // namespace\n\nLibraryContent " + LibraryUnitName(library.Folder) +
+            "Content() {\n    return {Rows, " + std::to_string(library.RecordWidth) +
+            "};\n}\n\n} // namespace veyrant\n";
     return text;
 }
 

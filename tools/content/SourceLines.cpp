@@ -4,7 +4,7 @@
 
 namespace veyrant::content {
 
-std::vector<std::string> SourceLines(const std::string& fileName, std::string_view utf8) {
+std::vector<std::string> ExactSourceLines(const std::string& fileName, std::string_view utf8) {
     std::vector<std::string> lines;
     std::size_t start = 0;
     while (start <= utf8.size()) {
@@ -23,18 +23,27 @@ std::vector<std::string> SourceLines(const std::string& fileName, std::string_vi
                                           std::to_string(converted.BadOffset + 1) +
                                           " has no Windows-1252 code");
         }
-        std::string text = converted.Text;
-        for (char& c : text) {
-            if (c == '\t') {
-                c = ' ';
-            }
-        }
-        text = Trim(text);
-        lines.push_back(!text.empty() && text.front() == '#' ? std::string() : text);
+        lines.push_back(converted.Text);
         if (end == utf8.size()) {
             break;
         }
         start = end + 1;
+    }
+    return lines;
+}
+
+std::vector<std::string> SourceLines(const std::string& fileName, std::string_view utf8) {
+    std::vector<std::string> lines = ExactSourceLines(fileName, utf8);
+    for (std::string& line : lines) {
+        for (char& c : line) {
+            if (c == '\t') {
+                c = ' ';
+            }
+        }
+        line = Trim(line);
+        if (!line.empty() && line.front() == '#') {
+            line.clear();
+        }
     }
     return lines;
 }

@@ -1,9 +1,10 @@
 // content-compiler DATA_DIR OUT_DIR: checks every source under data/ and writes qdr41.sys,
-// qdr41.mtx and the generated units of the engine. A fault is reported as file:line and the
-// build stops.
+// qdr41.mtx, the generated units of the engine and those of the three fixed libraries. A fault
+// is reported as file:line and the build stops.
 
 #include "ContentSources.h"
 #include "EngineData.h"
+#include "LibrarySource.h"
 
 #include <filesystem>
 #include <fstream>
@@ -51,6 +52,9 @@ int main(int argc, char** argv) {
         }
         WriteIfChanged(out / "EngineFiles.cpp", EngineFilesUnit(data.SystemFile, data.PlanFile));
         WriteIfChanged(out / "Suggestions.cpp", SuggestionsUnit(data.Suggestions));
+        for (const LibrarySource& library : ReadLibraryFolder(argv[1])) {
+            WriteIfChanged(out / (LibraryUnitName(library.Folder) + ".cpp"), LibraryUnit(library));
+        }
     } catch (const std::exception& error) {
         std::cerr << "content-compiler: " << error.what() << "\n";
         return 1;

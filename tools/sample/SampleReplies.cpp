@@ -1,7 +1,12 @@
-// sample-replies [--count N] [--message M] [--seed SECONDS]
+// sample-replies [--count N] [--message M] [--seed SECONDS] [--joins SAMPLES]
 //
 // Prints composed replies for every message number, or for one, as the program would show
 // them, from a given clock reading. Content authors run it after each change to data/.
+//
+// With --joins it composes --count replies per message and lists instead every pair of phrase
+// components that stood next to each other (marks between them aside), most frequent first,
+// with how often they met and up to SAMPLES of their joins: a sentence reads badly where two
+// rows meet, so that is where to read.
 
 #include "common/ConsoleSeams.h"
 #include "core/Clock.h"
@@ -12,11 +17,15 @@
 #include "engine/Engine.h"
 #include "engine/EngineFiles.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <cstring>
 #include <filesystem>
 #include <iostream>
+#include <map>
 #include <string>
+#include <utility>
+#include <vector>
 
 namespace {
 
@@ -76,8 +85,71 @@ std::string Reply(Engine& engine, int message) {
     return Shown(engine.ReplyText);
 }
 
+// A component's label, its row 0, which the tables keep in the idle plane 0 of the map.
+std::string Label(const Engine& engine, std::int16_t component) {
+    const EngineTables& tables = engine.Tables();
+    const auto block = static_cast<std::size_t>(tables.ComponentBlock.at(component));
+    const auto row = static_cast<std::size_t>(tables.Map.At(0, component, 0));
+    return Trim(engine.Stocks().Rows.at(block).at(row));
+}
+
+bool IsMark(const std::string& row) {
+    return !row.empty() && row.front() != ' ';
+}
+
+struct Meetings {
+    int Count = 0;
+    std::vector<std::string> Samples;
+};
+
+// Walks the last composition and counts each meeting of two phrase rows, with the marks that
+// stood between them in the sample.
+void CountJoins(Engine& engine, std::size_t samples,
+                std::map<std::pair<std::string, std::string>, Meetings>& joins) {
+    Composer& composer = engine.MessageComposer();
+    std::int16_t previous = 0;
+    std::string previousRow;
+    std::string marks;
+    for (int i = 1; i <= composer.CompositionLength; ++i) {
+        const auto at = static_cast<std::size_t>(i);
+        composer.Rcmp(composer.CompositionComponents[at], composer.CompositionRows[at]);
+        const std::string row = composer.PhraseOut;
+        if (IsMark(row)) {
+            marks += row;
+            continue;
+        }
+        if (previous != 0) {
+            Meetings& met =
+                joins[{Label(engine, previous), Label(engine, composer.CompositionComponents[at])}];
+            ++met.Count;
+            const std::string join = Trim(previousRow) + marks + row;
+            if (met.Samples.size() < samples &&
+                std::find(met.Samples.begin(), met.Samples.end(), join) == met.Samples.end()) {
+                met.Samples.push_back(join);
+            }
+        }
+        previous = composer.CompositionComponents[at];
+        previousRow = row;
+        marks.clear();
+    }
+}
+
+void PrintJoins(const std::map<std::pair<std::string, std::string>, Meetings>& joins) {
+    std::vector<std::pair<std::pair<std::string, std::string>, Meetings>> ranked(joins.begin(),
+                                                                                 joins.end());
+    std::stable_sort(ranked.begin(), ranked.end(),
+                     [](const auto& a, const auto& b) { return a.second.Count > b.second.Count; });
+    for (const auto& [pair, met] : ranked) {
+        std::cout << "    " << met.Count << "  " << pair.first << " + " << pair.second << "\n";
+        for (const std::string& sample : met.Samples) {
+            std::cout << "        " << Cp1252ToUtf8(sample) << "\n";
+        }
+    }
+}
+
 int Usage() {
-    std::cerr << "usage: sample-replies [--count N] [--message 1-16] [--seed SECONDS]\n";
+    std::cerr << "usage: sample-replies [--count N] [--message 1-16] [--seed SECONDS] "
+                 "[--joins SAMPLES]\n";
     return 2;
 }
 
@@ -87,6 +159,7 @@ int main(int argc, char** argv) {
     int count = 5;
     int only = 0;
     float seed = 43200.25f;
+    int joinSamples = -1;
     for (int i = 1; i + 1 < argc; i += 2) {
         if (std::strcmp(argv[i], "--count") == 0) {
             count = std::atoi(argv[i + 1]);
@@ -94,11 +167,13 @@ int main(int argc, char** argv) {
             only = std::atoi(argv[i + 1]);
         } else if (std::strcmp(argv[i], "--seed") == 0) {
             seed = std::strtof(argv[i + 1], nullptr);
+        } else if (std::strcmp(argv[i], "--joins") == 0) {
+            joinSamples = std::atoi(argv[i + 1]);
         } else {
             return Usage();
         }
     }
-    if (argc % 2 == 0 || count < 1 || only < 0 || only > 16) {
+    if (argc % 2 == 0 || count < 1 || only < 0 || only > 16 || joinSamples < -1) {
         return Usage();
     }
     char folderName[] = "/tmp/sample-replies-XXXXXX";
@@ -126,13 +201,20 @@ int main(int argc, char** argv) {
         engine.SeedSeries();
         for (int message = only == 0 ? 1 : only; message <= (only == 0 ? 16 : only); ++message) {
             std::cout << "Message " << message << ": " << MessageNames[message] << "\n";
+            std::map<std::pair<std::string, std::string>, Meetings> joins;
             for (int k = 0; k < count; ++k) {
                 // Each reply as if the entry were accepted a little later in the day.
                 clock.Seconds = seed + 7.31f * static_cast<float>(k + 1);
                 engine.SeriesSeed = clock.Timer();
                 engine.StretchSeeds();
-                std::cout << "    " << Cp1252ToUtf8(Reply(engine, message)) << "\n";
+                const std::string reply = Reply(engine, message);
+                if (joinSamples < 0) {
+                    std::cout << "    " << Cp1252ToUtf8(reply) << "\n";
+                } else {
+                    CountJoins(engine, static_cast<std::size_t>(joinSamples), joins);
+                }
             }
+            PrintJoins(joins);
         }
     }
     std::filesystem::remove_all(folderName);

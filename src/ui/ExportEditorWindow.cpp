@@ -1,0 +1,118 @@
+#include "ui/ExportEditorWindow.h"
+
+#include "core/Cp1252.h"
+#include "core/ProgramError.h"
+#include "core/WholeFile.h"
+#include "printing/ExportText.h"
+#include "printing/PrintDialogue.h"
+#include "ui/PrintFlow.h"
+
+#include <QCloseEvent>
+#include <QDir>
+#include <QFile>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QHBoxLayout>
+#include <QKeySequence>
+#include <QMessageBox>
+#include <QPlainTextEdit>
+#include <QPrinter>
+#include <QPushButton>
+#include <QShortcut>
+#include <QStandardPaths>
+#include <QVBoxLayout>
+
+namespace veyrant {
+
+ExportEditorWindow::ExportEditorWindow(WindowLayer& windows, const QString& text,
+                                       const QString& proposedFileName)
+    : windows_(windows), proposedFileName_(proposedFileName), editor_(new QPlainTextEdit(this)) {
+    setAttribute(Qt::WA_DeleteOnClose);
+    setWindowTitle(proposedFileName + QStringLiteral(" - Veyrant Sagrel"));
+    editor_->setLineWrapMode(QPlainTextEdit::WidgetWidth);
+    editor_->setAccessibleName(QStringLiteral("Dialogue"));
+    editor_->setPlainText(text);
+    editor_->document()->setModified(false);
+
+    auto* saveAs = new QPushButton(QStringLiteral("Save As..."), this);
+    auto* print = new QPushButton(QStringLiteral("Print..."), this);
+    auto* close = new QPushButton(QStringLiteral("Close"), this);
+    connect(saveAs, &QPushButton::clicked, this, [this] { SaveAs(); });
+    connect(print, &QPushButton::clicked, this, [this] { Print(); });
+    connect(close, &QPushButton::clicked, this, &QWidget::close);
+    for (const auto key : {QKeySequence::Save, QKeySequence::SaveAs}) {
+        connect(new QShortcut(key, this), &QShortcut::activated, this, [this] { SaveAs(); });
+    }
+    connect(new QShortcut(QKeySequence::Print, this), &QShortcut::activated, this,
+            [this] { Print(); });
+
+    auto* buttons = new QHBoxLayout;
+    buttons->addWidget(saveAs);
+    buttons->addWidget(print);
+    buttons->addStretch();
+    buttons->addWidget(close);
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(editor_);
+    layout->addLayout(buttons);
+    resize(720, 640);
+}
+
+bool ExportEditorWindow::SaveTo(const QString& path) {
+    try {
+        WriteWholeFile(QFile::encodeName(path).toStdString(),
+                       editor_->toPlainText().toUtf8().toStdString());
+    } catch (const ProgramError& error) {
+        // The box speaks the program's code page; a name beyond it is shown by its folder only.
+        const auto shown = Utf16ToCp1252(path.toStdU16String());
+        windows_.ShowMessage(SaveFileErrorBox(
+            error.Number(),
+            shown.value_or(QFile::encodeName(QFileInfo(path).path()).toStdString())));
+        return false;
+    }
+    editor_->document()->setModified(false);
+    setWindowTitle(QFileInfo(path).fileName() + QStringLiteral(" - Veyrant Sagrel"));
+    return true;
+}
+
+bool ExportEditorWindow::SaveAs() {
+    QFileDialog dialog(this, QStringLiteral("Save As"));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setNameFilters({QStringLiteral("Text files (*.txt)"), QStringLiteral("All files (*)")});
+    dialog.setDefaultSuffix(QStringLiteral("txt"));
+    dialog.selectFile(QDir(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation))
+                          .filePath(proposedFileName_));
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
+        return false;
+    }
+    return SaveTo(dialog.selectedFiles().constFirst());
+}
+
+void ExportEditorWindow::Print() {
+    QPrinter printer(QPrinter::HighResolution);
+    printer.setDocName(proposedFileName_);
+    const auto outcome = PreviewAndPrint(printer, [this](QPrinter& target) {
+        editor_->print(&target);
+        return target.printerState() != QPrinter::Error;
+    });
+    if (outcome == PrintOutcome::Failed) {
+        windows_.ShowMessage(PrintErrorBox());
+    }
+}
+
+void ExportEditorWindow::closeEvent(QCloseEvent* event) {
+    if (!editor_->document()->isModified()) {
+        event->accept();
+        return;
+    }
+    const auto answer = QMessageBox::question(
+        this, QStringLiteral("Veyrant Sagrel"),
+        QStringLiteral("The text has changed. Do you want to save it before closing?"),
+        QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, QMessageBox::Save);
+    if (answer == QMessageBox::Discard || (answer == QMessageBox::Save && SaveAs())) {
+        event->accept();
+    } else {
+        event->ignore();
+    }
+}
+
+} // namespace veyrant

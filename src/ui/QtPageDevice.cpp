@@ -1,0 +1,65 @@
+#include "ui/QtPageDevice.h"
+
+#include "ui/QtText.h"
+
+#include <QFontMetricsF>
+#include <QPainter>
+#include <QPrinter>
+
+namespace veyrant {
+
+namespace {
+
+// Printers cannot mark the paper's very edge; the page starts below that strip.
+constexpr double TopInches = 0.25;
+
+} // namespace
+
+QtPageDevice::QtPageDevice(QPainter& painter, QPrinter& printer, const QString& face)
+    : painter_(painter), printer_(printer), font_(face),
+      dotsPerInch_(static_cast<double>(printer.resolution())), y_(TopInches * dotsPerInch_) {
+    font_.setStyleHint(QFont::Serif);
+}
+
+void QtPageDevice::SetFont(const PrintFont& font) {
+    font_.setPointSizeF(font.Points);
+    font_.setBold(font.Bold);
+    font_.setItalic(font.Italic);
+    painter_.setFont(font_);
+}
+
+double QtPageDevice::TextWidth(std::string_view text) const {
+    const QFontMetricsF metrics(font_, &printer_);
+    return metrics.horizontalAdvance(ToQt(std::string(text))) / dotsPerInch_;
+}
+
+void QtPageDevice::Print(std::string_view text) {
+    const QFontMetricsF metrics(font_, &printer_);
+    painter_.drawText(QPointF(x_ * dotsPerInch_, y_ + metrics.ascent()), ToQt(std::string(text)));
+    x_ += TextWidth(text);
+}
+
+void QtPageDevice::EndLine() {
+    y_ += LineSpacing();
+    x_ = 0;
+}
+
+void QtPageDevice::NewPage() {
+    if (!printer_.newPage()) {
+        succeeded_ = false;
+    }
+    x_ = 0;
+    y_ = TopInches * dotsPerInch_;
+}
+
+void QtPageDevice::EndDocument() {
+    if (!painter_.end() || printer_.printerState() == QPrinter::Error) {
+        succeeded_ = false;
+    }
+}
+
+double QtPageDevice::LineSpacing() const {
+    return QFontMetricsF(font_, &printer_).lineSpacing();
+}
+
+} // namespace veyrant

@@ -1,0 +1,148 @@
+#include "LibrarySource.h"
+#include "support/Replaced.h"
+
+#include <gtest/gtest.h>
+#include <ostream>
+
+namespace veyrant {
+namespace {
+
+using namespace content;
+using testing::Replaced;
+
+const std::string Catalogue = "[0] < Opening >\n[1] First Topic \n[2] Inner Topic\n";
+const std::string Bodies = "# The opening Section.\n"
+                           "[0] < Opening >\n"
+                           "Welcome.\n"
+                           "\n"
+                           "[1] First Topic \n"
+                           "One paragraph ends in a blank. \n"
+                           "* A listed item\n"
+                           "[2] Inner Topic\n"
+                           "It’s short—and curly.\n";
+
+LibrarySource Read(const std::string& bodies, int width = 60) {
+    return ReadLibrarySource("knowledge", {"catalogue.txt", Catalogue}, {{"1-opening.txt", bodies}},
+                             width);
+}
+
+TEST(LibraryCompiler, RowsTakeTheirTabsAndParagraphsTheirRecordForm) {
+    const LibrarySource library = Read(Bodies);
+    ASSERT_EQ(library.Rows.size(), 3u);
+    EXPECT_EQ(library.Rows[0].Title, "< Opening >");
+    EXPECT_EQ(library.Rows[1].Title, "\tFirst Topic ");
+    EXPECT_EQ(library.Rows[2].Title, "\t\tInner Topic");
+    EXPECT_EQ(library.Rows[0].Text, "\tWelcome.\r\n");
+    EXPECT_EQ(library.Rows[1].Text, "\tOne paragraph ends in a blank. \r\n\t\tA listed item\r\n");
+    EXPECT_EQ(library.Rows[2].Text, "\tIt\x92s short\x97"
+                                    "and curly.\r\n");
+    EXPECT_EQ(library.Rows[1].Place.Line, 5);
+    EXPECT_EQ(library.RecordWidth, 60);
+}
+
+// The body files of a library are read one after another as if they were one.
+TEST(LibraryCompiler, ASectionMayContinueInTheNextFile) {
+    const LibrarySource library =
+        ReadLibrarySource("knowledge", {"catalogue.txt", Catalogue},
+                          {{"1-a.txt", "[0] < Opening >\nWelcome.\n[1] First Topic \nOne.\n"},
+                           {"2-b.txt", "[2] Inner Topic\nTwo.\n"}},
+                          60);
+    EXPECT_EQ(library.Rows[2].Place.File, "2-b.txt");
+}
+
+struct RefusalCase {
+    const char* Name;
+    std::string Bodies;
+    int Width;
+    std::string Message;
+};
+
+// ctest lists a case by what this prints.
+void PrintTo(const RefusalCase& c, std::ostream* out) {
+    *out << c.Name;
+}
+
+class LibraryRefusals : public ::testing::TestWithParam<RefusalCase> {};
+
+TEST_P(LibraryRefusals, NameFileAndLine) {
+    const RefusalCase& c = GetParam();
+    try {
+        Read(c.Bodies, c.Width);
+        FAIL() << "accepted";
+    } catch (const ContentError& error) {
+        EXPECT_EQ(std::string(error.what()), c.Message);
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Faults, LibraryRefusals,
+    ::testing::Values(
+        RefusalCase{"TitleWithoutItsTrailingBlank",
+                    Replaced(Bodies, "[1] First Topic \n", "[1] First Topic\n"), 60,
+                    "1-opening.txt:5: the title \"First Topic\" stands where the catalogue has "
+                    "\"First Topic\" (row 1, with its level and blanks)"},
+        RefusalCase{"TitleAtAnotherLevel", Replaced(Bodies, "[2] Inner", "[1] Inner"), 60,
+                    "1-opening.txt:8: the title \"Inner Topic\" stands where the catalogue has "
+                    "\"Inner Topic\" (row 2, with its level and blanks)"},
+        RefusalCase{"TitlesOutOfOrder",
+                    "[0] < Opening >\nA.\n[2] Inner Topic\nB.\n[1] First Topic \nC.\n", 60,
+                    "1-opening.txt:3: the title \"Inner Topic\" stands where the catalogue has "
+                    "\"First Topic\" (row 1, with its level and blanks)"},
+        RefusalCase{"TitlePastTheCatalogue", Bodies + "[1] Extra\nD.\n", 60,
+                    "1-opening.txt:10: the title \"Extra\" is past the 3 rows of the catalogue"},
+        RefusalCase{"MissingRow", Replaced(Bodies, "[2] Inner Topic\nIt’s short—and curly.\n", ""),
+                    60,
+                    "catalogue.txt:3: the row \"Inner Topic\" has no body in "
+                    "data/libraries/knowledge/"},
+        RefusalCase{"LevelTooDeep", Replaced(Bodies, "[2] Inner", "[3] Inner"), 60,
+                    "1-opening.txt:8: a title is marked [0], [1] or [2]"},
+        RefusalCase{"RowWithoutText", Replaced(Bodies, "Welcome.\n", ""), 60,
+                    "1-opening.txt:2: the row \"< Opening >\" has no text"},
+        RefusalCase{"TextBeforeTheFirstTitle", "Preface.\n" + Bodies, 60,
+                    "1-opening.txt:1: text before the first title"},
+        RefusalCase{"BodyWiderThanItsRecord", Bodies, 50,
+                    "1-opening.txt:5: the body of \"First Topic\" holds 51 characters, more than "
+                    "the library's width of 50 (data/libraries/widths.txt)"},
+        RefusalCase{"ParagraphLedByABlank", Replaced(Bodies, "Welcome.", " Welcome."), 60,
+                    "1-opening.txt:3: a paragraph begins with a blank or a tab; the program "
+                    "gives it its own tab"},
+        RefusalCase{"ParagraphLedByATab", Replaced(Bodies, "Welcome.", "\tWelcome."), 60,
+                    "1-opening.txt:3: a paragraph begins with a blank or a tab; the program "
+                    "gives it its own tab"},
+        RefusalCase{"TabInsideAParagraph", Replaced(Bodies, "Welcome.", "Wel\tcome."), 60,
+                    "1-opening.txt:3: a paragraph holds a tab or a control character"},
+        RefusalCase{"ItemWithoutItsBlank", Replaced(Bodies, "* A listed", "*A listed"), 60,
+                    "1-opening.txt:7: an item is written \"* \" and its text"},
+        RefusalCase{"EmptyItem", Replaced(Bodies, "* A listed item", "* "), 60,
+                    "1-opening.txt:7: an item is written \"* \" and its text"},
+        RefusalCase{"NoWindowsCode", Replaced(Bodies, "Welcome.", "Welcome \xE2\x98\x83."), 60,
+                    "1-opening.txt:3: a character at byte 9 has no Windows-1252 code"}));
+
+TEST(LibraryCompiler, WidthsNameEachLibraryOnce) {
+    const auto widths = ReadLibraryWidths(
+        {"widths.txt", "# records\ninformation 870\nknowledge 884\nadvanced 2842\n"});
+    EXPECT_EQ(widths.at("knowledge"), 884);
+    const struct {
+        const char* Text;
+        const char* Message;
+    } faults[] = {
+        {"information 870\nknowledge 884\n", "widths.txt:0: no width for advanced"},
+        {"information 870\nknowledge 884\nadvanced\n",
+         "widths.txt:3: a width is written \"information 870\", naming information, knowledge "
+         "or advanced"},
+        {"information 870\nknowledge 884\nadvance 2842\n",
+         "widths.txt:3: a width is written \"information 870\", naming information, knowledge "
+         "or advanced"},
+    };
+    for (const auto& fault : faults) {
+        try {
+            ReadLibraryWidths({"widths.txt", fault.Text});
+            ADD_FAILURE() << "accepted " << fault.Text;
+        } catch (const ContentError& error) {
+            EXPECT_EQ(std::string(error.what()), fault.Message);
+        }
+    }
+}
+
+} // namespace
+} // namespace veyrant

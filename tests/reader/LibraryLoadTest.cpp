@@ -1,0 +1,120 @@
+#include "core/ProgramError.h"
+#include "reader/FixedLibrary.h"
+
+#include <gtest/gtest.h>
+#include <string>
+#include <vector>
+
+namespace veyrant {
+namespace {
+
+// The libraries as the program loads them at start-up, index and all.
+class LoadedLibraries : public ::testing::Test {
+protected:
+    void SetUp() override {
+        LoadLibraries(Libraries);
+        BuildLibraryIndex(Libraries.InfoLib);
+        BuildLibraryIndex(Libraries.KnowLib);
+        BuildLibraryIndex(Libraries.AdvLib);
+    }
+    FixedLibraries Libraries;
+};
+
+TEST_F(LoadedLibraries, EachOpensWithASectionAndItsLastSectionRunsToTheEnd) {
+    const struct {
+        const char* Name;
+        const FixedLibrary& Library;
+        int Rows;
+        int Sections;
+    } cases[] = {
+        {"Information", Libraries.InfoLib, 184, 6},
+        {"Knowledge", Libraries.KnowLib, 175, 7},
+        {"Advanced Knowledge", Libraries.AdvLib, 61, 3},
+    };
+    for (const auto& c : cases) {
+        const FixedLibrary& library = c.Library;
+        EXPECT_EQ(library.LastRow + 1, c.Rows) << c.Name;
+        EXPECT_EQ(library.LastSection + 1, c.Sections) << c.Name;
+        EXPECT_EQ(library.RowKind[0], RowKinds::Section) << c.Name;
+        EXPECT_EQ(library.SectionEnd.back(), library.LastRow) << c.Name;
+        EXPECT_EQ(library.Texts.size(), library.Titles.size()) << c.Name;
+    }
+}
+
+TEST_F(LoadedLibraries, RowsKnowWhereTheirSectionEnds) {
+    const struct {
+        const char* Name;
+        const FixedLibrary& Library;
+        int FirstRow;
+        int LastRow;
+        int SectionEnd;
+    } cases[] = {
+        {"Advanced Knowledge", Libraries.AdvLib, 0, 7, 7},
+        {"Advanced Knowledge", Libraries.AdvLib, 8, 12, 12},
+        {"Advanced Knowledge", Libraries.AdvLib, 13, 60, 60},
+        {"Knowledge", Libraries.KnowLib, 0, 11, 11},
+        {"Knowledge", Libraries.KnowLib, 115, 137, 137},
+    };
+    for (const auto& c : cases) {
+        for (int row = c.FirstRow; row <= c.LastRow; ++row) {
+            EXPECT_EQ(c.Library.SectionEnd[static_cast<std::size_t>(row)], c.SectionEnd)
+                << c.Name << " row " << row;
+        }
+    }
+}
+
+// Every row has a text in record form, inside its library's width.
+TEST_F(LoadedLibraries, TextsAreParagraphsLedByATabAndEndedByALineEnd) {
+    for (const FixedLibrary* library :
+         {&Libraries.InfoLib, &Libraries.KnowLib, &Libraries.AdvLib}) {
+        for (std::size_t row = 0; row < library->Texts.size(); ++row) {
+            const std::string& text = library->Texts[row];
+            ASSERT_GE(text.size(), 3u) << library->Titles[row];
+            EXPECT_EQ(text.front(), '\t') << library->Titles[row];
+            EXPECT_TRUE(text.ends_with("\r\n")) << library->Titles[row];
+            EXPECT_LE(static_cast<int>(text.size()), library->RecordWidth - 10)
+                << library->Titles[row];
+        }
+    }
+}
+
+TEST_F(LoadedLibraries, TrailingBlanksOfAuthoredTitlesAreNotShown) {
+    EXPECT_EQ(Libraries.KnowLib.Titles[74], "\tResisting Yourself ");
+    EXPECT_EQ(CleanTitle(Libraries.KnowLib.Titles[74]), "Resisting Yourself");
+    EXPECT_EQ(Libraries.AdvLib.Titles[23], "\tDual Identity of Self and World ");
+    EXPECT_TRUE(ComposeRowText(Libraries.AdvLib, 23)
+                    .starts_with("Dual Identity of Self and World\r\n\r\n\t"));
+}
+
+TEST_F(LoadedLibraries, ASectionShowsItsBracketedTitleOverItsText) {
+    const FixedLibrary& library = Libraries.AdvLib;
+    EXPECT_EQ(library.RowKind[13], RowKinds::Section);
+    EXPECT_EQ(ComposeRowText(library, 13), "< The Ambrel >\r\n\r\n" + library.Texts[13]);
+}
+
+TEST_F(LoadedLibraries, AnEmptyLastTitleEndsTheStartExceptInTheAdvancedLibrary) {
+    EXPECT_NO_THROW(CheckLibraryContent(Libraries));
+    const struct {
+        const char* Name;
+        FixedLibrary FixedLibraries::*Library;
+        bool Refused;
+    } cases[] = {
+        {"Information", &FixedLibraries::InfoLib, true},
+        {"Knowledge", &FixedLibraries::KnowLib, true},
+        {"Advanced Knowledge", &FixedLibraries::AdvLib, false},
+    };
+    for (const auto& c : cases) {
+        FixedLibraries libraries = Libraries;
+        (libraries.*c.Library).Titles.back().clear();
+        try {
+            CheckLibraryContent(libraries);
+            EXPECT_FALSE(c.Refused) << c.Name;
+        } catch (const ProgramError& error) {
+            EXPECT_TRUE(c.Refused) << c.Name;
+            EXPECT_EQ(error.Number(), 1001) << c.Name;
+        }
+    }
+}
+
+} // namespace
+} // namespace veyrant
