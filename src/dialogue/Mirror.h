@@ -57,6 +57,10 @@ public:
     int WindowWidth() const;
     int WindowHeight() const;
 
+    // The hover help of a button as its state stands; a screen reader gives it as the button's
+    // description.
+    std::string HelpFor(MirrorControl control) const;
+
     // The visible state as short stable lines, for tests and diagnosis.
     std::string Dump() const;
 
@@ -146,7 +150,6 @@ private:
     void ClearHover();
     void EndHover();
     void HoverTick();
-    std::string HelpFor(MirrorControl control) const;
     void ResponseHover();
     void NoteHover();
     void StartAreaHelp(MirrorControl area, const std::string& text);

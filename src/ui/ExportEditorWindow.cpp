@@ -30,6 +30,7 @@ ExportEditorWindow::ExportEditorWindow(WindowLayer& windows, const QString& text
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowTitle(proposedFileName + QStringLiteral(" - Veyrant Sagrel"));
     editor_->setLineWrapMode(QPlainTextEdit::WidgetWidth);
+    editor_->setAccessibleName(QStringLiteral("Dialogue"));
     editor_->setPlainText(text);
     editor_->document()->setModified(false);
 

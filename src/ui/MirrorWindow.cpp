@@ -2,6 +2,7 @@
 
 #include "core/Cp1252.h"
 #include "core/KeyCodes.h"
+#include "dialogue/MirrorTexts.h"
 #include "shell/MirrorLayout.h"
 #include "shell/WindowPlacement.h"
 #include "ui/GuardedTextBox.h"
@@ -147,6 +148,60 @@ bool IsLabel(MirrorControl control) {
            control == MirrorControl::lblRemS;
 }
 
+// What a screen reader calls the boxes and labels; the buttons go by their captions.
+struct Spoken {
+    const char* Name;
+    std::string_view Description;
+};
+
+Spoken SpokenFor(MirrorControl control) {
+    switch (control) {
+    case MirrorControl::txtMirror:
+        return {"Entry", "Type a question or a statement, then press 'Enter'."};
+    case MirrorControl::txtResponse:
+        return {"Response", MirrorText::TipDirection};
+    case MirrorControl::txtSaved:
+        return {"Dialogue", "The Dialogue so far."};
+    case MirrorControl::txtAnalyze:
+        return {"Ideas", "List ideas that might answer your question."};
+    case MirrorControl::txtNote:
+        return {"Instruction", MirrorText::TipKeys};
+    case MirrorControl::lblRem:
+        return {"Entry status",
+                "'X' while the entry is too short or too long; near the limit, the words left."};
+    case MirrorControl::lblRemS:
+        return {"Ideas status",
+                "'X' while the list is too short or too long; near the limit, the words left."};
+    default:
+        return {"", ""};
+    }
+}
+
+void MakeSpoken(QWidget* widget, MirrorControl control) {
+    const Spoken spoken = SpokenFor(control);
+    widget->setAccessibleName(QString::fromLatin1(spoken.Name));
+    widget->setAccessibleDescription(ToDisplayText(std::string(spoken.Description)));
+}
+
+QFont DesignedFont(QFont font, const Control& now) {
+    if (now.FontSize > 0) {
+        font.setPointSizeF(now.FontSize);
+    }
+    font.setBold(now.FontBold);
+    return font;
+}
+
+// This machine's faces run wider than the ones the layout was drawn for: a wrapped text that
+// would run out of its box at the smallest display size takes a slightly smaller type instead.
+void FitWrappedText(QLabel& label, QFont font) {
+    constexpr double Smallest = 6.5;
+    label.setFont(font);
+    while (label.heightForWidth(label.width()) > label.height() && font.pointSizeF() > Smallest) {
+        font.setPointSizeF(font.pointSizeF() - 0.5);
+        label.setFont(font);
+    }
+}
+
 MouseButton ButtonOf(const QMouseEvent* event) {
     switch (event->button()) {
     case Qt::RightButton:
@@ -232,6 +287,7 @@ GuardedTextBox* MirrorWindow::MakeBox(MirrorControl control) {
         box->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     }
     widgets_[Index(control)] = box;
+    MakeSpoken(box, control);
     Watch(box, control);
     Watch(box->viewport(), control);
     box->KeyFilter = [this, control](QKeyEvent* event) { return KeyFromScreen(control, event); };
@@ -277,6 +333,7 @@ QLabel* MirrorWindow::MakeLabel(MirrorControl control) {
                                              static_cast<qsizetype>(ControlName(control).size())));
     label->setTextFormat(Qt::PlainText);
     widgets_[Index(control)] = label;
+    MakeSpoken(label, control);
     Watch(label, control);
     return label;
 }
@@ -367,12 +424,10 @@ void MirrorWindow::RenderControl(MirrorControl control, bool force) {
     if (force || now.Enabled != was.Enabled) {
         widget->setEnabled(now.Enabled);
     }
-    if (force || now.FontSize != was.FontSize || now.FontBold != was.FontBold) {
-        QFont font = IsTextBox(control) ? QFont(ToDisplayText(app_.Fonts.Main)) : this->font();
-        if (now.FontSize > 0) {
-            font.setPointSizeF(now.FontSize);
-        }
-        font.setBold(now.FontBold);
+    const bool fontChanged = force || now.FontSize != was.FontSize || now.FontBold != was.FontBold;
+    if (fontChanged) {
+        const QFont font = DesignedFont(
+            IsTextBox(control) ? QFont(ToDisplayText(app_.Fonts.Main)) : this->font(), now);
         widget->setFont(font);
         if (IsTextBox(control)) {
             auto* box = static_cast<GuardedTextBox*>(widget);
@@ -394,9 +449,17 @@ void MirrorWindow::RenderControl(MirrorControl control, bool force) {
         if (control == MirrorControl::txtNote && (force || now.Ink != was.Ink)) {
             label->setStyleSheet(QStringLiteral("color: %1;").arg(Css(now.Ink)));
         }
+        if (label->wordWrap() && (fontChanged || now.Text != was.Text || now.Width != was.Width ||
+                                  now.Height != was.Height)) {
+            FitWrappedText(*label, DesignedFont(this->font(), now));
+        }
     } else if (auto* button = qobject_cast<QPushButton*>(widget)) {
         if (force || now.Text != was.Text) {
             button->setText(ToDisplayText(now.Text));
+        }
+        const QString help = ToDisplayText(mirror_.HelpFor(control));
+        if (button->accessibleDescription() != help) {
+            button->setAccessibleDescription(help);
         }
         if (force || now.PressedIn != was.PressedIn || now.Ink != was.Ink ||
             now.Underlined != was.Underlined) {

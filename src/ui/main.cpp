@@ -17,6 +17,8 @@
 
 #include <QApplication>
 #include <QPointer>
+#include <QDir>
+#include <QIcon>
 #include <memory>
 
 int main(int argc, char** argv) {
@@ -30,6 +32,16 @@ int main(int argc, char** argv) {
         }
     });
     QApplication::setStyle(QStringLiteral("Fusion"));
+    QApplication::setApplicationName(QStringLiteral("veyrant-sagrel"));
+    QApplication::setOrganizationName(QStringLiteral("Veyrant Technology"));
+    // A Wayland compositor ties the windows to the menu entry by this name.
+    QGuiApplication::setDesktopFileName(QStringLiteral("veyrant-sagrel"));
+    // The installed theme's icon where there is one, else the sizes carried in the program.
+    QIcon carried;
+    for (const QString& size : QDir(QStringLiteral(":/icons")).entryList()) {
+        carried.addFile(QStringLiteral(":/icons/%1/veyrant-sagrel.png").arg(size));
+    }
+    QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("veyrant-sagrel"), carried));
 
     QtWindowLayer windows;
     SystemClock clock;

@@ -1,0 +1,170 @@
+// Every window as a screen reader and a keyboard user meet it: each control says what it is, and
+// Tab walks the dialogs' commands in reading order.
+
+#include "WriteWindowFixture.h"
+#include "app/Utility.h"
+#include "shell/Resize.h"
+#include "storage/Options.h"
+#include "ui/BannerWindow.h"
+#include "ui/ExportEditorWindow.h"
+#include "ui/OptionsWindow.h"
+#include "ui/QtWindowLayer.h"
+#include "ui/ResizeWindow.h"
+#include "ui/UtilityWindow.h"
+
+#include <QAbstractButton>
+#include <QAccessible>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPlainTextEdit>
+#include <QtTest>
+#include <memory>
+
+using namespace veyrant;
+
+namespace {
+
+// Every window of the program over one fresh folder, the Write window shown and started.
+struct Program : WriteWindow {
+    Utility Utilities{Layer, "4.1.26.11.22", "2026", [] {}};
+    Resize DisplaySize{App.UserSettings, Layer, [] {}};
+    Options LibraryOptions{Library, App.UserSettings, Layer, [] {}, [] {}};
+};
+
+QString Spoken(QWidget* widget, QAccessible::Text text) {
+    QAccessibleInterface* face = QAccessible::queryAccessibleInterface(widget);
+    return face == nullptr ? QString() : face->text(text);
+}
+
+bool IsControl(const QWidget* widget) {
+    return qobject_cast<const QAbstractButton*>(widget) != nullptr ||
+           qobject_cast<const QPlainTextEdit*>(widget) != nullptr ||
+           qobject_cast<const QLineEdit*>(widget) != nullptr;
+}
+
+// The controls of a window that a screen reader would give no name.
+QStringList Unnamed(QWidget& window) {
+    QStringList unnamed;
+    if (Spoken(&window, QAccessible::Name).isEmpty()) {
+        unnamed << window.objectName();
+    }
+    for (QWidget* widget : window.findChildren<QWidget*>()) {
+        if (IsControl(widget) && Spoken(widget, QAccessible::Name).trimmed().isEmpty()) {
+            unnamed << QStringLiteral("%1 (%2)").arg(widget->objectName(),
+                                                     widget->metaObject()->className());
+        }
+    }
+    return unnamed;
+}
+
+// The controls that the Tab key visits from the one in focus, by name, once round.
+QStringList TabOrder() {
+    QStringList order;
+    for (int press = 0; press < 20; ++press) {
+        const QString name = QApplication::focusWidget()->objectName();
+        if (order.contains(name)) {
+            break;
+        }
+        order << name;
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    }
+    return order;
+}
+
+} // namespace
+
+class AccessibilityTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void everyControlOfEveryWindowHasAName() {
+        Program program;
+        MirrorWindow& write = *program.Window;
+        BannerWindow banner(program.Layer);
+        banner.show();
+        UtilityWindow utilities(program.Utilities, 1.0);
+        utilities.show();
+        ResizeWindow displaySize(program.DisplaySize, 1.0);
+        displaySize.show();
+        OptionsWindow options(program.LibraryOptions);
+        options.show();
+        ExportEditorWindow exported(program.Layer, QStringLiteral("Dialogue text"),
+                                    QStringLiteral("Dialogue.txt"));
+        const auto about = BuildMessageBox(
+            {"About the Veyrant Sagrel Program", AboutText("4.1.26.11.22", "2026")});
+
+        const std::vector<QWidget*> windows = {&write,   &banner,   &utilities, &displaySize,
+                                               &options, &exported, about.get()};
+        for (QWidget* window : windows) {
+            QVERIFY2(Unnamed(*window).isEmpty(),
+                     qPrintable(window->windowTitle() + ": " + Unnamed(*window).join(", ")));
+        }
+        // The Write window's controls in the state of a Dialogue under way.
+        QTest::mouseClick(write.Widget(MirrorControl::cmdConverse), Qt::LeftButton);
+        QVERIFY2(Unnamed(write).isEmpty(), qPrintable(Unnamed(write).join(", ")));
+    }
+
+    void theWriteWindowSpeaksItsHoverHelp() {
+        Program program;
+        MirrorWindow& write = *program.Window;
+
+        struct Case {
+            MirrorControl Control;
+            QString Name;
+            QString Description;
+        };
+        const std::vector<Case> cases = {
+            {MirrorControl::txtMirror, "Entry",
+             "Type a question or a statement, then press 'Enter'."},
+            {MirrorControl::txtNote, "Instruction",
+             "F1=Help F2=Know F3=Retrieve F4=Aknow F5=Converse F6=Suppose F7=Comment F9=Rewrite "
+             "F10=Edit F11=Display"},
+            {MirrorControl::cmdConverse, "Converse",
+             "Create entry-response pairs with the Converse method. Ask questions or make "
+             "statements for the Sagrel's response."},
+            {MirrorControl::cmdHelp, "Help",
+             "Open the Information Library for instructions and information on the program. "
+             "Right-click to open the Utilities window."},
+        };
+        for (const Case& c : cases) {
+            QWidget* widget = write.Widget(c.Control);
+            QCOMPARE(Spoken(widget, QAccessible::Name), c.Name);
+            QCOMPARE(Spoken(widget, QAccessible::Description), c.Description);
+        }
+        // The description follows the button's state, as the hover help does.
+        QTest::mouseClick(write.Widget(MirrorControl::cmdConverse), Qt::LeftButton);
+        QCOMPARE(Spoken(write.Widget(MirrorControl::cmdConverse), QAccessible::Description),
+                 QString("Click 'Cancel' to exit Converse and reset to New Dialogue."));
+    }
+
+    void tabWalksTheDialogsInReadingOrder() {
+        Program program;
+        UtilityWindow utilities(program.Utilities, 1.0);
+        ResizeWindow displaySize(program.DisplaySize, 1.0);
+        OptionsWindow options(program.LibraryOptions);
+        struct Case {
+            QWidget* Window;
+            QStringList Order;
+        };
+        const std::vector<Case> cases = {
+            {&utilities, {"cmdOptions", "cmdResize", "cmdAbout"}},
+            {&displaySize, {"Option1", "cmdOK", "cmdCancel"}},
+            // An empty Library has nothing to clean, and its button is passed over.
+            {&options, {"txtSetSave", "txtSetDays", "Check1", "cmdOK", "cmdCancel"}},
+        };
+        for (const Case& c : cases) {
+            c.Window->show();
+            QApplication::setActiveWindow(c.Window);
+            QVERIFY(QTest::qWaitForWindowActive(c.Window));
+            // The round is read from the first control on, wherever the focus began.
+            QStringList order = TabOrder();
+            const auto first = order.indexOf(c.Order.front());
+            QVERIFY2(first >= 0, qPrintable(order.join(", ")));
+            order = order.mid(first) + order.first(first);
+            QCOMPARE(order, c.Order);
+        }
+    }
+};
+
+QTEST_MAIN(AccessibilityTest)
+#include "AccessibilityTest.moc"

@@ -1,0 +1,183 @@
+// The program's windows on a real display server: ctest runs this on the offscreen platform, on
+// X11 under Xvfb and on Wayland under a headless Weston, and at device scales 1, 1.25 and 2. Each
+// window opens, takes keys, closes, and shows its captions whole.
+
+#include "WriteWindowFixture.h"
+#include "app/StartUp.h"
+#include "app/Utility.h"
+#include "shell/Resize.h"
+#include "storage/Options.h"
+#include "ui/BannerWindow.h"
+#include "ui/OptionsWindow.h"
+#include "ui/QtWindowLayer.h"
+#include "ui/ResizeWindow.h"
+#include "ui/UtilityWindow.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QLabel>
+#include <QMessageBox>
+#include <QTimer>
+#include <QtTest>
+#include <memory>
+
+using namespace veyrant;
+
+namespace {
+
+// The start-up as the program runs it, over the real window layer in a fresh folder.
+struct StartedProgram {
+    StartedProgram() {
+        Windows.RegisterWindow(WindowId::Banner, [this] { return new BannerWindow(Windows); });
+        Windows.RegisterWindow(WindowId::Mirror, [this] {
+            Write = new MirrorWindow(App, *App.Write);
+            Write->OnClose = [this] { UnloadMirror(App); };
+            return Write;
+        });
+        Windows.SetTimerHandler(TimerId::MirrorTimer1, [this] { Timer1(App); });
+        Windows.SetTimerHandler(TimerId::MirrorHover, [this] {
+            App.Write->TimerFired(TimerId::MirrorHover);
+            Write->Render();
+        });
+        Windows.SetTimerHandler(TimerId::BannerTimer, [this] { BannerTimer(App); });
+    }
+
+    testing::TempFolder Temp;
+    QtWindowLayer Windows;
+    testing::FakeClock Clock;
+    Random Draws;
+    Application App{AppFolder{Temp.Path()}, "/proc/self/exe", Clock, Draws, Windows};
+    MirrorWindow* Write = nullptr;
+};
+
+// The dialogs of the Utilities, loaded and shown through the real window layer.
+struct Utilities {
+    Utilities() {
+        Windows.RegisterWindow(WindowId::Utility, [this] { return new UtilityWindow(Logic, 1.0); });
+        Windows.RegisterWindow(WindowId::Resize,
+                               [this] { return new ResizeWindow(DisplaySize, 1.0); });
+        Windows.RegisterWindow(WindowId::Options,
+                               [this] { return new OptionsWindow(LibraryOptions); });
+    }
+
+    testing::TempFolder Temp;
+    AppFolder Folder{Temp.Path()};
+    QtWindowLayer Windows;
+    testing::FakeClock Clock;
+    Settings UserSettings;
+    DialogueLibrary Library{Folder, UserSettings, Clock, Windows};
+    int Exits = 0;
+    Utility Logic{Windows, "4.1.26.11.22", "2026", [this] { ++Exits; }};
+    Resize DisplaySize{UserSettings, Windows, [this] { ++Exits; }};
+    Options LibraryOptions{Library, UserSettings, Windows, [this] { ++Exits; }, [] {}};
+};
+
+// The buttons and labels of a window that show their text cut off.
+QStringList CutOff(QWidget& window) {
+    QStringList cut;
+    for (QWidget* widget : window.findChildren<QWidget*>()) {
+        if (!widget->isVisibleTo(&window)) {
+            continue;
+        }
+        bool whole = true;
+        QString text;
+        if (const auto* button = qobject_cast<QPushButton*>(widget)) {
+            text = button->text().remove(QLatin1Char('&'));
+            whole = button->fontMetrics().horizontalAdvance(text) <= button->width() - 4;
+        } else if (const auto* choice = qobject_cast<QAbstractButton*>(widget)) {
+            text = choice->text();
+            whole = choice->sizeHint().width() <= choice->width();
+        } else if (const auto* label = qobject_cast<QLabel*>(widget)) {
+            text = label->text();
+            whole = label->wordWrap() ? label->heightForWidth(label->width()) <= label->height()
+                                      : label->sizeHint().width() <= label->width();
+        }
+        if (!whole && !text.isEmpty()) {
+            cut << widget->objectName() + ": " + text;
+        }
+    }
+    return cut;
+}
+
+} // namespace
+
+class PlatformWindowsTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void theUtilityDialogsOpenTakeKeysAndClose() {
+        // Escape leaves each of them, which ends the program.
+        for (const WindowId id : {WindowId::Utility, WindowId::Resize, WindowId::Options}) {
+            Utilities program;
+            program.Windows.ShowWindow(id);
+            QWidget* window = program.Windows.Window(id);
+            QVERIFY(QTest::qWaitForWindowExposed(window));
+            QVERIFY2(CutOff(*window).isEmpty(), qPrintable(CutOff(*window).join(", ")));
+            QWidget* first = window->focusWidget();
+            QTest::keyClick(window, Qt::Key_Tab);
+            QVERIFY(window->focusWidget() != first);
+            QTest::keyClick(window, Qt::Key_Escape);
+            QCOMPARE(program.Exits, 1);
+        }
+    }
+
+    void theAboutBoxAnswersEnter() {
+        Utilities program;
+        program.Windows.ShowWindow(WindowId::Utility);
+        // The box runs modally; Enter on it, once it stands, closes it.
+        QStringList cut = {QStringLiteral("no box")};
+        QTimer knock;
+        QObject::connect(&knock, &QTimer::timeout, [&] {
+            if (QWidget* box = QApplication::activeModalWidget()) {
+                knock.stop();
+                cut = CutOff(*box);
+                QTest::keyClick(box, Qt::Key_Return);
+            }
+        });
+        knock.start(50);
+        program.Logic.cmdAbout_Click();
+        QVERIFY2(cut.isEmpty(), qPrintable(cut.join(", ")));
+        QCOMPARE(program.Exits, 1);
+    }
+
+    void theWriteWindowShowsItsCaptionsWholeAtEveryDisplaySize() {
+        for (const int option : {0, 1, 2, 3}) {
+            WriteWindow write(option);
+            QVERIFY(QTest::qWaitForWindowExposed(write.Window.get()));
+            write.Click(MirrorControl::cmdConverse);
+            QVERIFY2(CutOff(*write.Window).isEmpty(),
+                     qPrintable(QString::number(option) + ": " + CutOff(*write.Window).join(", ")));
+        }
+    }
+
+    // Last: the way out asks the application to quit, which ends any event loop after it.
+    void startUpAShortDialogueAndTheWayOut() {
+        StartedProgram program;
+        Main(program.App);
+        QVERIFY(!program.Windows.Ended());
+        QVERIFY(program.Windows.IsWindowVisible(WindowId::Banner));
+        QTRY_VERIFY_WITH_TIMEOUT(program.Write != nullptr && program.Write->isVisible(), 10000);
+        QVERIFY(QTest::qWaitForWindowExposed(program.Write));
+        QTRY_VERIFY(!program.Windows.IsWindowVisible(WindowId::Banner));
+        QCOMPARE(program.Write->windowTitle(),
+                 QString("Veyrant Sagrel 4.1 -- Written Dialogues of Self-Reflection"));
+
+        QTest::mouseClick(program.Write->Widget(MirrorControl::cmdConverse), Qt::LeftButton);
+        auto* entry = static_cast<QPlainTextEdit*>(program.Write->Widget(MirrorControl::txtMirror));
+        QTest::keyClicks(entry, QStringLiteral("What would I tell myself a year from now?"));
+        QTest::keyClick(entry, Qt::Key_Return);
+        QVERIFY(entry->toPlainText().endsWith(QChar(0x201D)));
+        auto* response =
+            static_cast<QPlainTextEdit*>(program.Write->Widget(MirrorControl::txtResponse));
+        QVERIFY(response->toPlainText().size() > 10);
+        QVERIFY2(CutOff(*program.Write).isEmpty(), qPrintable(CutOff(*program.Write).join(", ")));
+
+        // Closing the window stores the settings and ends the program.
+        program.Write->close();
+        QTRY_VERIFY_WITH_TIMEOUT(program.Windows.Ended(), 5000);
+        QVERIFY(std::filesystem::exists(program.App.Folder.Exe() / "Tolmira.ini"));
+    }
+};
+
+QTEST_MAIN(PlatformWindowsTest)
+#include "PlatformWindowsTest.moc"
