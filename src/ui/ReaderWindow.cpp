@@ -120,6 +120,9 @@ void ReaderWindow::Build() {
     list_ = new QListWidget(this);
     list_->setFocusPolicy(Qt::NoFocus);
     list_->setSelectionMode(QAbstractItemView::SingleSelection);
+    list_->setAccessibleName(QStringLiteral("Library index"));
+    list_->setAccessibleDescription(
+        QStringLiteral("The Sections and Topics of the library, or the saved Dialogues."));
     widgets_[Index(ReaderControl::List1)] = list_;
     Watch(list_, ReaderControl::List1);
     Watch(list_->viewport(), ReaderControl::List1);
@@ -134,6 +137,9 @@ void ReaderWindow::Build() {
     spin_->setTextInteractionFlags(Qt::NoTextInteraction);
     spin_->setContextMenuPolicy(Qt::NoContextMenu);
     spin_->document()->setDocumentMargin(8);
+    spin_->setAccessibleName(QStringLiteral("Reading text"));
+    spin_->setAccessibleDescription(
+        QStringLiteral("The text chosen from the index, or the instructions of the library."));
     widgets_[Index(ReaderControl::txtSpin)] = spin_;
     Watch(spin_, ReaderControl::txtSpin);
     Watch(spin_->viewport(), ReaderControl::txtSpin);
@@ -142,11 +148,13 @@ void ReaderWindow::Build() {
     note->setObjectName(QStringLiteral("txtNote"));
     note->setTextFormat(Qt::PlainText);
     note->setWordWrap(true);
+    note->setAccessibleName(QStringLiteral("Instruction"));
     widgets_[Index(ReaderControl::txtNote)] = note;
     Watch(note, ReaderControl::txtNote);
 
     auto* search = new QLineEdit(this);
     search->setContextMenuPolicy(Qt::NoContextMenu);
+    search->setAccessibleName(QStringLiteral("Search text"));
     widgets_[Index(ReaderControl::txtSearch)] = search;
     Watch(search, ReaderControl::txtSearch);
 

@@ -9,6 +9,7 @@
 #include "ui/ExportEditorWindow.h"
 #include "ui/OptionsWindow.h"
 #include "ui/QtWindowLayer.h"
+#include "ui/ReaderWindow.h"
 #include "ui/ResizeWindow.h"
 #include "ui/UtilityWindow.h"
 
@@ -93,8 +94,15 @@ private slots:
         const auto about = BuildMessageBox(
             {"About the Veyrant Sagrel Program", AboutText("4.1.26.11.22", "2026")});
 
-        const std::vector<QWidget*> windows = {&write,   &banner,   &utilities, &displaySize,
-                                               &options, &exported, about.get()};
+        // The Read window over the Dialogue Library, which needs no fixed library loaded.
+        program.App.Links.BeginOpening();
+        program.App.Links.OpenLibrary(1);
+        ReaderWindow reader(program.App, *program.App.Read);
+        reader.show();
+        reader.Render();
+
+        const std::vector<QWidget*> windows = {&write,   &banner,   &utilities,  &displaySize,
+                                               &options, &exported, about.get(), &reader};
         for (QWidget* window : windows) {
             QVERIFY2(Unnamed(*window).isEmpty(),
                      qPrintable(window->windowTitle() + ": " + Unnamed(*window).join(", ")));
