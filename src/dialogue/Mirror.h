@@ -187,6 +187,7 @@ private:
     void OpenLibrary(int library);
     void PressLibraryButton(MirrorControl pressed);
     void BackgroundPress();
+    void BackgroundMove();
 
     // Utilities.
     // A right-click's window, named in the box that refuses it while the Reader is open.

@@ -199,6 +199,10 @@ void Mirror::MouseMove(MirrorControl control) {
     case MirrorControl::txtNote:
         NoteHover();
         break;
+    case MirrorControl::Window:
+    case MirrorControl::Panel1:
+        BackgroundMove();
+        break;
     default:
         EndHover();
         break;

@@ -4,6 +4,7 @@
 
 #include "dialogue/LibraryDoor.h"
 #include "dialogue/Mirror.h"
+#include "dialogue/MirrorTexts.h"
 #include "shell/Backdrop.h"
 #include "shell/DisplayScale.h"
 
@@ -65,6 +66,23 @@ void Mirror::WindowStateChanged(bool minimised) {
         world_.Windows.ShowWindow(WindowId::Back);
         world_.Windows.ShowWindow(WindowId::Mirror);
     }
+}
+
+// Over the bare window the help tells how to bring a hidden backdrop back; with the backdrop up
+// there is nothing to tell, and its own hint gives way too.
+void Mirror::BackgroundMove() {
+    ClearHover();
+    if (back_ == nullptr) {
+        return;
+    }
+    if (!world_.Windows.IsWindowVisible(WindowId::Back)) {
+        if (C(MirrorControl::txtNote).Text != MirrorText::TipRestoreBackground) {
+            StartAreaHelp(MirrorControl::Window, std::string(MirrorText::TipRestoreBackground));
+        }
+        return;
+    }
+    EndHover();
+    back_->HideHint();
 }
 
 void Mirror::BackgroundPress() {

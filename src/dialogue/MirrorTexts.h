@@ -44,6 +44,8 @@ inline constexpr std::string_view TipKeys =
     "F1=Help F2=Know F3=Retrieve F4=Aknow F5=Converse F6=Suppose F7=Comment F9=Rewrite F10=Edit "
     "F11=Display";
 inline constexpr std::string_view TipKeysLead = "Function key alternates for mouse clicks . . .";
+inline constexpr std::string_view TipRestoreBackground =
+    "Click to restore the background that surrounds the window.";
 
 // The direction of a method as txtResponse shows it: heading, line end, tab, body.
 std::string DirectionConversation();
