@@ -520,7 +520,11 @@ bool MirrorWindow::eventFilter(QObject* watched, QEvent* event) {
         }
         break;
     case QEvent::MouseButtonPress:
-        if (!IsTextBox(control) && static_cast<QMouseEvent*>(event)->button() != Qt::LeftButton) {
+        // A button's left press arrives through its pressed signal; the bare window and the
+        // panel have no such signal, and their left press brings the backdrop back.
+        if (!IsTextBox(control) &&
+            (static_cast<QMouseEvent*>(event)->button() != Qt::LeftButton ||
+             control == MirrorControl::Window || control == MirrorControl::Panel1)) {
             mirror_.MouseDown(control, ButtonOf(static_cast<QMouseEvent*>(event)));
             Render();
         }

@@ -8,6 +8,7 @@
 #include "shell/DisplayScale.h"
 #include "support/FakeClock.h"
 #include "support/TempFolder.h"
+#include "ui/BackWindow.h"
 #include "ui/MirrorWindow.h"
 #include "ui/QtWindowLayer.h"
 #include "ui/ReaderWindow.h"
@@ -19,16 +20,10 @@
 
 using namespace veyrant;
 
-class LibraryFlowTest : public QObject {
-    Q_OBJECT
-
-private slots:
-    void eachLibraryOpensAndClosesWhenTheWriteWindowComesBack() {
-        testing::TempFolder temp;
-        testing::FakeClock clock;
-        Random draws;
-        QtWindowLayer windows;
-        Application app(AppFolder{temp / "app"}, temp / "program", clock, draws, windows);
+// The whole program in a fresh folder, with the Write, Read and backdrop windows on the screen
+// layer as the start-up registers them.
+struct FlowApp {
+    FlowApp() {
         SetDisplayScale(1, app.Scale);
         InstallEngineFiles(app.Folder);
         app.Engine.LoadSystem(app.Folder);
@@ -41,19 +36,44 @@ private slots:
         app.Write =
             std::make_unique<Mirror>(app.WriteWorld(), app.Replies, app.Buffers, app.Library);
         app.Write->ConnectLibraries(app.Links, app.Back);
-        QPointer<MirrorWindow> write;
-        windows.RegisterWindow(WindowId::Mirror, [&] {
+        windows.RegisterWindow(WindowId::Mirror, [this] {
             write = new MirrorWindow(app, *app.Write);
             return write.data();
         });
-        QPointer<ReaderWindow> read;
-        windows.RegisterWindow(WindowId::Read, [&] {
+        windows.RegisterWindow(WindowId::Read, [this] {
             read = new ReaderWindow(app, *app.Read);
             return read.data();
+        });
+        windows.RegisterWindow(WindowId::Back, [this] {
+            app.Back.Load();
+            back = new BackWindow(app.Back);
+            return back.data();
         });
         app.Write->StartWindow();
         windows.ShowWindow(WindowId::Mirror);
         write->Render();
+    }
+
+    testing::TempFolder temp;
+    testing::FakeClock clock;
+    Random draws;
+    QtWindowLayer windows;
+    Application app{AppFolder{temp / "app"}, temp / "program", clock, draws, windows};
+    QPointer<MirrorWindow> write;
+    QPointer<ReaderWindow> read;
+    QPointer<BackWindow> back;
+};
+
+class LibraryFlowTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void eachLibraryOpensAndClosesWhenTheWriteWindowComesBack() {
+        FlowApp flow;
+        auto& app = flow.app;
+        auto& windows = flow.windows;
+        auto& write = flow.write;
+        auto& read = flow.read;
 
         const struct {
             MirrorControl Button;
@@ -87,6 +107,27 @@ private slots:
             QApplication::setActiveWindow(nullptr);
         }
         QVERIFY(std::filesystem::exists(app.Folder.Exe() / "Read.ini"));
+    }
+
+    // The backdrop, once clicked away, comes back by a press on the bare part of either window.
+    void aPressOnEitherWindowsBackgroundBringsTheBackdropBack() {
+        FlowApp flow;
+        flow.windows.ShowWindow(WindowId::Back);
+        QTest::mouseClick(flow.write->Widget(MirrorControl::cmdHelp), Qt::LeftButton);
+        QVERIFY(flow.read);
+        const struct {
+            QWidget* Window;
+            const char* Name;
+        } cases[] = {{flow.write.data(), "Write"}, {flow.read.data(), "Read"}};
+        for (const auto& c : cases) {
+            QVERIFY(flow.back);
+            QTest::mouseClick(flow.back.data(), Qt::LeftButton);
+            QVERIFY2(!flow.back->isVisible(), c.Name);
+            // The right-hand margin of both windows is bare background.
+            QTest::mouseClick(c.Window, Qt::LeftButton, {},
+                              QPoint(c.Window->width() - 4, c.Window->height() / 2));
+            QVERIFY2(flow.back->isVisible(), c.Name);
+        }
     }
 };
 
