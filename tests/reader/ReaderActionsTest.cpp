@@ -26,6 +26,11 @@ public:
 
     std::string ReadIni() { return ReadWholeFile(Folder.Exe() / "Read.ini"); }
     void Click(RC control) { Read().Click(control); }
+    // The pointer comes onto the button, which starts its hover help, and clicks it.
+    void MarkExit() {
+        Read().MouseMove(RC::cmdExitM);
+        Click(RC::cmdExitM);
+    }
     // Opens the library's Index-2 and selects a row, as a user clicking 'Index 1' then a row.
     void OpenRow(int library, int row) {
         Open(library);
@@ -86,7 +91,7 @@ TEST_F(ReaderActions, MarkExitReopensAtTheMark) {
          [](Session& t) {
              t.App.UserSettings.WindowMode[3] = 1;
              t.OpenRow(3, 1);
-             t.Click(RC::cmdExitM);
+             t.MarkExit();
          },
          " 0 -1 \r\n 0 -1 \r\n 1  1 \r\n 0 -1 \r\n", [](Session& t) { t.Open(3); },
          "Veyrant Knowledge Library -- 2/4/7 -- A", 1, "(hidden)",
@@ -94,7 +99,7 @@ TEST_F(ReaderActions, MarkExitReopensAtTheMark) {
         {"Topic of a split library",
          [](Session& t) {
              t.OpenRow(3, 3);
-             t.Click(RC::cmdExitM);
+             t.MarkExit();
          },
          " 0 -1 \r\n 0 -1 \r\n 1  3 \r\n 0 -1 \r\n", [](Session& t) { t.Open(3); },
          "Veyrant Knowledge Library -- 4/4/7 -- B", 3,
@@ -113,7 +118,7 @@ TEST_F(ReaderActions, MarkExitReopensAtTheMark) {
         {"Knowledge mark through a visit to Information",
          [](Session& t) {
              t.OpenRow(3, 3);
-             t.Click(RC::cmdExitM);
+             t.MarkExit();
              t.Open(2);
              t.Read().ListRowClicked(1);
              t.App.Links.CloseLibrary();
@@ -125,7 +130,7 @@ TEST_F(ReaderActions, MarkExitReopensAtTheMark) {
         {"Advanced Knowledge mark, then the Write window's Help",
          [](Session& t) {
              t.OpenRow(4, 2);
-             t.Click(RC::cmdExitM);
+             t.MarkExit();
          },
          " 0 -1 \r\n 0 -1 \r\n 0 -1 \r\n 1  2 \r\n", help,
          "Veyrant Advanced Knowledge Library -- 3/3/3 -- Y", 2,
@@ -136,7 +141,7 @@ TEST_F(ReaderActions, MarkExitReopensAtTheMark) {
              t.SaveDialogues(3);
              t.Open(1);
              t.Read().ListRowClicked(1);
-             t.Click(RC::cmdExitM);
+             t.MarkExit();
          },
          " 0 -1 \r\n 1  1 \r\n 0 -1 \r\n 0 -1 \r\n", [](Session& t) { t.Open(1); },
          "Veyrant Dialogue -- 2/3 -- Friday, 9:30 am, November 20, 2026 -- 2/21 Days Old/Max", 1,
@@ -151,7 +156,7 @@ TEST_F(ReaderActions, MarkExitReopensAtTheMark) {
              t.SaveDialogues(3);
              t.Open(1);
              t.Read().ListRowClicked(2);
-             t.Click(RC::cmdExitM);
+             t.MarkExit();
              for (const auto& name : {"76111909.300", "76112009.300"}) {
                  std::filesystem::remove(t.Folder.Isp() / name);
                  std::filesystem::remove(t.Folder.Dlg() / name);
@@ -171,6 +176,8 @@ TEST_F(ReaderActions, MarkExitReopensAtTheMark) {
         c.Visit(t);
         EXPECT_EQ(t.App.Reading.ReaderOpen, 0) << c.Name;
         EXPECT_FALSE(t.Windows.IsWindowVisible(WindowId::Read)) << c.Name;
+        // No hover help outlives the window, to blank the instruction of the next opening.
+        EXPECT_EQ(t.Windows.Timers.count(TimerId::ReadHover), 0u) << c.Name;
         EXPECT_EQ(t.ReadIni(), c.ReadIni) << c.Name;
         c.Reopen(t);
         EXPECT_EQ(t.Title(), c.Title) << c.Name;
