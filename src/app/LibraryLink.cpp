@@ -46,4 +46,14 @@ void LibraryLink::LibraryClosed() {
     }
 }
 
+void LibraryLink::UnloadReader() {
+    CloseLibrary();
+}
+
+void LibraryLink::LibraryChanged() {
+    if (app_.Write) {
+        app_.Write->LibraryChanged();
+    }
+}
+
 } // namespace veyrant

@@ -23,6 +23,8 @@ public:
     void LoadReadSettings() override;
     void SaveReadSettings() override;
     void LibraryClosed() override;
+    void UnloadReader() override;
+    void LibraryChanged() override;
 
 private:
     Application& app_;

@@ -72,6 +72,8 @@ public:
     void ConnectLibraries(LibraryDoor& door, Backdrop& back);
     // The Reader has closed: the library buttons come up and this window comes back.
     void ReaderClosed();
+    // The Reader deleted a Dialogue: the Library status follows, where it is on show.
+    void LibraryChanged();
     // The window was minimised, or came back from minimised; coming back ends the reading.
     void WindowStateChanged(bool minimised);
 

@@ -7,6 +7,7 @@
 #include "dialogue/MirrorTexts.h"
 #include "shell/Backdrop.h"
 #include "shell/DisplayScale.h"
+#include "storage/LibraryStatus.h"
 
 namespace veyrant {
 
@@ -43,6 +44,17 @@ void Mirror::ReaderClosed() {
     }
     if (world_.Windows.IsWindowMinimised(WindowId::Mirror)) {
         world_.Windows.RestoreWindow(WindowId::Mirror);
+    }
+}
+
+void Mirror::LibraryChanged() {
+    // The status stands under the Suggestion until a Dialogue takes its place; a Dialogue on
+    // show is left alone.
+    auto& saved = C(MirrorControl::txtSaved);
+    const std::string statusStart =
+        state_.SuggestionText + "\r\n\r\n" + std::string(LibraryStatusHeading);
+    if (saved.Text.starts_with(statusStart)) {
+        saved.Text = LibraryStatusText(state_.SuggestionText);
     }
 }
 

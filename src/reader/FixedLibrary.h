@@ -47,6 +47,8 @@ void BuildLibraryIndex(FixedLibrary& library);
 // is empty. AdvLib is not tested.
 void CheckLibraryContent(const FixedLibraries& libraries);
 std::string CleanTitle(const std::string& title);
+// The row's record as a fixed-width record holds it, trailing spaces left off.
+std::string TrimmedRecord(const FixedLibrary& library, int row);
 // The title, two line ends, and the row's text without trailing spaces.
 std::string ComposeRowText(const FixedLibrary& library, int row);
 

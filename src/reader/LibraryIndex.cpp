@@ -45,13 +45,15 @@ std::string CleanTitle(const std::string& title) {
     return clean;
 }
 
-std::string ComposeRowText(const FixedLibrary& library, int row) {
-    const auto index = static_cast<std::size_t>(row);
+std::string TrimmedRecord(const FixedLibrary& library, int row) {
     // A record longer than its width is cut, as a fixed-width record would cut it.
-    const std::string record =
-        library.Texts[index].substr(0, static_cast<std::size_t>(library.RecordWidth));
-    return CleanTitle(library.Titles[index]) + std::string(CrLf) + std::string(CrLf) +
-           RTrim(record);
+    return RTrim(library.Texts[static_cast<std::size_t>(row)].substr(
+        0, static_cast<std::size_t>(library.RecordWidth)));
+}
+
+std::string ComposeRowText(const FixedLibrary& library, int row) {
+    return CleanTitle(library.Titles[static_cast<std::size_t>(row)]) + std::string(CrLf) +
+           std::string(CrLf) + TrimmedRecord(library, row);
 }
 
 } // namespace veyrant

@@ -111,6 +111,15 @@ private:
     // Layout at load.
     void ScaleReader();
 
+    // The four action buttons: Mark Exit, Print or Merge, File and Delete.
+    void ClickMarkExit();
+    void ClickPrint();
+    void PrintOpenDialogue();
+    void MergeSection();
+    void FileOpenDialogue();
+    void DeleteOpenDialogue();
+    void Yield();
+
     MessageAnswer Message(const std::string& title, const std::string& text);
     void Paint();
     bool IsDialogueLibrary() const;

@@ -90,6 +90,18 @@ void Reader::Click(ReaderControl control) {
     case ReaderControl::cmdWindow:
         ClickWindow();
         break;
+    case ReaderControl::cmdExitM:
+        ClickMarkExit();
+        break;
+    case ReaderControl::cmdPrint:
+        ClickPrint();
+        break;
+    case ReaderControl::cmdFile:
+        FileOpenDialogue();
+        break;
+    case ReaderControl::cmdDelete:
+        DeleteOpenDialogue();
+        break;
     case ReaderControl::txtSpin:
         // The release of a right-click that changed the font is no toggle.
         if (state_.SpinRightClick == 1) {

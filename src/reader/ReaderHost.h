@@ -14,6 +14,10 @@ public:
     virtual void SaveReadSettings() = 0;
     // No library is open any more: the Write window releases its library buttons and comes back.
     virtual void LibraryClosed() = 0;
+    // The Reader closes itself, as the user's close of its window would.
+    virtual void UnloadReader() = 0;
+    // A Dialogue was deleted: the Write window's Library status follows.
+    virtual void LibraryChanged() = 0;
 };
 
 } // namespace veyrant

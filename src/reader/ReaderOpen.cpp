@@ -202,6 +202,9 @@ void Reader::CloseReader() {
         marks.MarkRowDialogue = -1;
     }
     world_.Host.SaveReadSettings();
+    // The window's hover timer goes with it; left running, its ticks would blank the
+    // instruction line of the next opening.
+    world_.Windows.StopTimer(TimerId::ReadHover);
     world_.Windows.HideWindow(WindowId::Read);
     world_.Values.ReaderOpen = ReaderOpenStates::Closed;
     marks.OpenFlagInfo = OpenFlags::None;

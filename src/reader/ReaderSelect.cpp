@@ -15,7 +15,10 @@ const char* const CancelCaption = "Cancel";
 } // namespace
 
 void Reader::SelectRow(int row) {
-    controls_.List.Selected = row;
+    // A row the list does not hold selects nothing: a Dialogue's mark beyond a Library that has
+    // shrunk since names a Dialogue that is gone, and the list is the honest place to open.
+    const bool held = row >= 0 && row < static_cast<int>(controls_.List.Rows.size());
+    controls_.List.Selected = held ? row : -1;
     ListClick();
 }
 

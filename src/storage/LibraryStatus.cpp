@@ -31,7 +31,7 @@ std::string Limits(const Settings& settings) {
 } // namespace
 
 std::string GenLibStatus(const LibraryListing& listing, const Settings& settings) {
-    const std::string heading = "Dialogue Library Status" + std::string(CrLf) + Tab;
+    const std::string heading = std::string(LibraryStatusHeading) + std::string(CrLf) + Tab;
     if (settings.GuestMode == 1) {
         return heading + "The Library is in the Guest Mode. No Dialogues are saved or retrieved.";
     }

@@ -7,8 +7,11 @@
 #include "storage/LibraryListing.h"
 
 #include <string>
+#include <string_view>
 
 namespace veyrant {
+
+inline constexpr std::string_view LibraryStatusHeading = "Dialogue Library Status";
 
 // The status text, heading first. The Write window's txtSaved is the Suggestion, a blank line,
 // and this.

@@ -165,6 +165,34 @@ private slots:
         QCOMPARE(read.Window->windowTitle(), QStringLiteral("Veyrant Knowledge Library"));
         QCOMPARE(read.Layer.Boxes.back().Title, std::string("Change Font Size"));
     }
+
+    // Merge fills the window with the Section's Topics under a busy pointer; Mark Exit closes
+    // the library with its place kept.
+    void mergeFillsTheWindowAndMarkExitCloses() {
+        ReadWindow read;
+        read.Open(3);
+        read.Key(Qt::Key_Down);
+        const QRect split = read.Spin()->geometry();
+        QTest::mouseClick(read.Window->Widget(ReaderControl::cmdPrint), Qt::LeftButton);
+        QVERIFY(read.Window->windowTitle().contains(QStringLiteral(" -- Merged Essay -- ")));
+        QVERIFY(!read.List()->isVisible());
+        QVERIFY(read.Spin()->isVisible());
+        QVERIFY(read.Spin()->geometry().top() < split.top());
+        QVERIFY(read.Spin()->geometry().height() > split.height());
+        QVERIFY(read.Spin()->toPlainText().startsWith(QString::fromStdString(
+            Cp1252ToUtf8(CleanTitle(read.App.Libraries.KnowLib.Titles[1])))));
+        QVERIFY(!read.Window->Widget(ReaderControl::cmdPrint)->isEnabled());
+        QVERIFY(read.Layer.Yields > 0);
+        QVERIFY(!read.Layer.Busy);
+        read.Picture("merged");
+
+        QTest::mouseClick(read.Window->Widget(ReaderControl::cmdExitM), Qt::LeftButton);
+        QCOMPARE(read.App.Reading.ReaderOpen, std::int16_t{0});
+        QVERIFY(!read.Layer.IsWindowVisible(WindowId::Read));
+        // The Knowledge Library's line holds its mark at the Section's row.
+        const std::string marks = ReadWholeFile(read.App.Folder.Exe() / "Read.ini");
+        QCOMPARE(marks.substr(16, 8), std::string(" 1  0 \r\n"));
+    }
 };
 
 QTEST_MAIN(ReaderWindowTest)

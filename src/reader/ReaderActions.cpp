@@ -1,0 +1,145 @@
+// The four action buttons along the foot of the Read window: Mark Exit keeps the place in every
+// library and closes; Print hands the open Dialogue to the printer, or Merge shows a whole
+// Section as one essay; File hands the Dialogue to the editor; Delete removes it from the Library.
+
+#include "core/Text.h"
+#include "printing/ExportText.h"
+#include "printing/PrintDialogue.h"
+#include "printing/PrintTexts.h"
+#include "reader/Reader.h"
+
+namespace veyrant {
+
+namespace {
+
+// What a Section's Topics and the next Section's row may come to, titles included, before a
+// merge is refused.
+constexpr std::size_t MergeLimit = 62000;
+// The most the text box shows at once; the merge limit keeps the authored essays well below it.
+constexpr std::size_t TextBoxCapacity = 65535;
+
+// A place shown in a library becomes its mark.
+void MarkPlace(std::int16_t shownRow, std::int16_t& openFlag, std::int16_t& markRow) {
+    if (shownRow >= 0) {
+        openFlag = OpenFlags::Marked;
+        markRow = shownRow;
+    }
+}
+
+} // namespace
+
+void Reader::Yield() {
+    Paint();
+    world_.Windows.Yield();
+}
+
+void Reader::ClickMarkExit() {
+    EndHover();
+    auto& marks = world_.Marks;
+    const auto& values = world_.Values;
+    // A selected Dialogue has written its position already.
+    if (marks.MarkRowDialogue >= 0) {
+        marks.OpenFlagDialogue = OpenFlags::Marked;
+    }
+    MarkPlace(values.CurRowInfo, marks.OpenFlagInfo, marks.MarkRowInfo);
+    MarkPlace(values.CurRowKnow, marks.OpenFlagKnow, marks.MarkRowKnow);
+    MarkPlace(values.CurRowAdv, marks.OpenFlagAdv, marks.MarkRowAdv);
+    world_.Host.UnloadReader();
+}
+
+void Reader::ClickPrint() {
+    EndHover();
+    world_.Windows.SetBusyPointer(true);
+    // Disabled first, so that a click arriving while the screen catches up cannot enter twice.
+    C(ReaderControl::cmdPrint).Enabled = false;
+    Yield();
+    if (C(ReaderControl::cmdPrint).Text == "Print") {
+        PrintOpenDialogue();
+    } else {
+        MergeSection();
+    }
+    world_.Windows.SetBusyPointer(false);
+}
+
+void Reader::PrintOpenDialogue() {
+    // The line ends that lead every saved Dialogue stay off the page.
+    PrintDialogue(world_.Windows, state_.DialogueDate, state_.InspirationBody,
+                  Mid(state_.DialogueBody, 5), std::string(PrintTexts::WriteWindowTitle));
+    C(ReaderControl::cmdPrint).Enabled = true;
+}
+
+void Reader::MergeSection() {
+    const FixedLibrary& library = OpenLibrary();
+    const int section = state_.ListPos;
+    auto& spin = C(ReaderControl::txtSpin);
+    const std::string shownText = spin.Text;
+    controls_.Title =
+        world_.Values.LibraryName +
+        (world_.Values.ReadLibrary == ReadLibraries::Information ? " -- Merged Section -- "
+                                                                 : " -- Merged Essay -- ") +
+        Trim(library.Titles[static_cast<std::size_t>(section)]);
+    const auto cannotMerge = [&] {
+        world_.Windows.SetBusyPointer(false);
+        Message("Cannot Merge", "This Essay is too long to be merged.");
+    };
+
+    // The next Section's own row counts towards the size, though it is not merged.
+    std::size_t size = 0;
+    for (int row = section + 1; row <= library.LastRow; ++row) {
+        const auto index = static_cast<std::size_t>(row);
+        size += TrimmedRecord(library, row).size() + library.Titles[index].size();
+        if (library.RowKind[index] == RowKinds::Section) {
+            break;
+        }
+    }
+    if (size > MergeLimit) {
+        cannotMerge();
+        return;
+    }
+    spin.Text = "Merging Essay . . .";
+    Yield();
+
+    std::string merged;
+    for (int row = section + 1; row <= library.LastRow &&
+                                library.RowKind[static_cast<std::size_t>(row)] != RowKinds::Section;
+         ++row) {
+        merged += CleanTitle(library.Titles[static_cast<std::size_t>(row)]) + std::string(CrLf) +
+                  std::string(CrLf) + TrimmedRecord(library, row) + std::string(CrLf);
+    }
+    if (merged.size() > TextBoxCapacity) {
+        spin.Text = shownText;
+        cannotMerge();
+        return;
+    }
+    state_.DisplayText = merged;
+    spin.Text = merged;
+    spin.Background = ReaderColour::ReadingText;
+    SetButtons(3);
+    // The merged essay always shows expanded; the library's saved mode stays as it was.
+    SetWindowLayout(1);
+    controls_.Focus = ReaderControl::txtSpin;
+    FocusGained(ReaderControl::txtSpin);
+}
+
+void Reader::FileOpenDialogue() {
+    EndHover();
+    ExportToEditor(world_.Windows, state_.DialogueDate,
+                   "Inspiration" + std::string(CrLf) + std::string(CrLf) + state_.InspirationBody +
+                       std::string(CrLf) + std::string(CrLf) + "Dialogue" + state_.DialogueBody);
+}
+
+void Reader::DeleteOpenDialogue() {
+    EndHover();
+    Paint();
+    const auto& listing = world_.Library.Listing();
+    const int index = state_.LibraryListOrder[static_cast<std::size_t>(state_.ListPos + 1)];
+    // The Library deletes the pair as one change. On a failure it has shown its box, and the
+    // list stays as it stands.
+    if (!world_.Library.DeleteDialogue(listing.LibraryFiles[static_cast<std::size_t>(index)])) {
+        return;
+    }
+    ShowLibrary();
+    world_.Host.LibraryChanged();
+}
+
+} // namespace veyrant
