@@ -152,6 +152,12 @@ private slots:
             QCOMPARE(Spoken(widget, QAccessible::Name), c.Name);
             QCOMPARE(Spoken(widget, QAccessible::Description), c.Description);
         }
+        // A screen reader tells the key that presses a button, as the underlined letter shows it.
+        QAccessibleActionInterface* help =
+            QAccessible::queryAccessibleInterface(write.Widget(MirrorControl::cmdHelp))
+                ->actionInterface();
+        QCOMPARE(help->keyBindingsForAction(QAccessibleActionInterface::pressAction()),
+                 QStringList{"Alt+H"});
         // The description follows the button's state, as the hover help does.
         QTest::mouseClick(write.Widget(MirrorControl::cmdConverse), Qt::LeftButton);
         QCOMPARE(Spoken(write.Widget(MirrorControl::cmdConverse), QAccessible::Description),
