@@ -8,6 +8,10 @@ namespace veyrant {
 
 BackWindow::BackWindow(Backdrop& backdrop) : QWidget(nullptr), backdrop_(backdrop) {
     setWindowTitle(QString::fromLatin1(Backdrop::Title));
+    // The hint shows only while the pointer moves over the window; a screen reader tells it
+    // whenever the window is met.
+    setAccessibleName(QString::fromLatin1(Backdrop::Title));
+    setAccessibleDescription(QString::fromLatin1(Backdrop::HintText));
     setMouseTracking(true);
     setStyleSheet(QStringLiteral("BackWindow, QWidget { background: rgb(92, 100, 122); }"));
     setGeometry(QGuiApplication::primaryScreen()->availableGeometry());

@@ -5,6 +5,7 @@
 #include "dialogue/MirrorTexts.h"
 #include "shell/MirrorLayout.h"
 #include "shell/WindowPlacement.h"
+#include "ui/AccessKeys.h"
 #include "ui/GuardedTextBox.h"
 #include "ui/QtWindowLayer.h"
 
@@ -313,6 +314,11 @@ GuardedTextBox* MirrorWindow::MakeBox(MirrorControl control) {
 
 QPushButton* MirrorWindow::MakeButton(MirrorControl control, QWidget* parent) {
     auto* button = new QPushButton(parent);
+    // The keyboard reaches a button by Alt and its underlined letter, never by Tab: the entry box
+    // keeps the focus while it is enabled and takes Tab for itself, and the function keys stand
+    // for the Write window's buttons already. No rule of the boxes reads Alt, so the letters take
+    // nothing from them, and a button that takes no focus leaves the focus where the rules keep
+    // it. Save, Print, File and Continue have no function key, and are reached only this way.
     button->setFocusPolicy(Qt::NoFocus);
     widgets_[Index(control)] = button;
     Watch(button, control);
@@ -455,7 +461,7 @@ void MirrorWindow::RenderControl(MirrorControl control, bool force) {
         }
     } else if (auto* button = qobject_cast<QPushButton*>(widget)) {
         if (force || now.Text != was.Text) {
-            button->setText(ToDisplayText(now.Text));
+            button->setText(WithAccessKey(ToDisplayText(now.Text)));
         }
         const QString help = ToDisplayText(mirror_.HelpFor(control));
         if (button->accessibleDescription() != help) {

@@ -5,9 +5,11 @@
 #include "app/Utility.h"
 #include "shell/Resize.h"
 #include "storage/Options.h"
+#include "ui/BackWindow.h"
 #include "ui/BannerWindow.h"
 #include "ui/ExportEditorWindow.h"
 #include "ui/OptionsWindow.h"
+#include "ui/PrintFlow.h"
 #include "ui/QtWindowLayer.h"
 #include "ui/ReaderWindow.h"
 #include "ui/ResizeWindow.h"
@@ -15,9 +17,12 @@
 
 #include <QAbstractButton>
 #include <QAccessible>
+#include <QComboBox>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPlainTextEdit>
+#include <QPrintPreviewDialog>
+#include <QPrinter>
 #include <QtTest>
 #include <memory>
 
@@ -40,7 +45,8 @@ QString Spoken(QWidget* widget, QAccessible::Text text) {
 bool IsControl(const QWidget* widget) {
     return qobject_cast<const QAbstractButton*>(widget) != nullptr ||
            qobject_cast<const QPlainTextEdit*>(widget) != nullptr ||
-           qobject_cast<const QLineEdit*>(widget) != nullptr;
+           qobject_cast<const QLineEdit*>(widget) != nullptr ||
+           qobject_cast<const QComboBox*>(widget) != nullptr;
 }
 
 // The controls of a window that a screen reader would give no name.
@@ -93,6 +99,10 @@ private slots:
                                     QStringLiteral("Dialogue.txt"));
         const auto about = BuildMessageBox(
             {"About the Veyrant Sagrel Program", AboutText("4.1.26.11.22", "2026")});
+        QPrinter printer;
+        const auto preview = BuildPrintPreview(printer, &write);
+        program.App.Back.Load();
+        BackWindow backdrop(program.App.Back);
 
         // The Read window over the Dialogue Library, which needs no fixed library loaded.
         program.App.Links.BeginOpening();
@@ -101,12 +111,15 @@ private slots:
         reader.show();
         reader.Render();
 
-        const std::vector<QWidget*> windows = {&write,   &banner,   &utilities,  &displaySize,
-                                               &options, &exported, about.get(), &reader};
+        const std::vector<QWidget*> windows = {&write,        &banner,   &utilities,  &displaySize,
+                                               &options,      &exported, about.get(), &reader,
+                                               preview.get(), &backdrop};
         for (QWidget* window : windows) {
             QVERIFY2(Unnamed(*window).isEmpty(),
                      qPrintable(window->windowTitle() + ": " + Unnamed(*window).join(", ")));
         }
+        // The backdrop's hint shows only under a moving pointer; a screen reader tells it always.
+        QCOMPARE(Spoken(&backdrop, QAccessible::Description), QString(Backdrop::HintText));
         // The Write window's controls in the state of a Dialogue under way.
         QTest::mouseClick(write.Widget(MirrorControl::cmdConverse), Qt::LeftButton);
         QVERIFY2(Unnamed(write).isEmpty(), qPrintable(Unnamed(write).join(", ")));
@@ -139,6 +152,12 @@ private slots:
             QCOMPARE(Spoken(widget, QAccessible::Name), c.Name);
             QCOMPARE(Spoken(widget, QAccessible::Description), c.Description);
         }
+        // A screen reader tells the key that presses a button, as the underlined letter shows it.
+        QAccessibleActionInterface* help =
+            QAccessible::queryAccessibleInterface(write.Widget(MirrorControl::cmdHelp))
+                ->actionInterface();
+        QCOMPARE(help->keyBindingsForAction(QAccessibleActionInterface::pressAction()),
+                 QStringList{"Alt+H"});
         // The description follows the button's state, as the hover help does.
         QTest::mouseClick(write.Widget(MirrorControl::cmdConverse), Qt::LeftButton);
         QCOMPARE(Spoken(write.Widget(MirrorControl::cmdConverse), QAccessible::Description),

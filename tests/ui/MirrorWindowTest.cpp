@@ -15,6 +15,7 @@
 #include <QPushButton>
 #include <QtTest>
 #include <cmath>
+#include <functional>
 #include <memory>
 
 using namespace veyrant;
@@ -22,6 +23,17 @@ using namespace veyrant;
 namespace {
 
 const QString Prefix = QStringLiteral("\t\u201C");
+
+// The Alt keys that the buttons on show answer to, one for each button.
+QStringList AccessKeysOnShow(const MirrorWindow& window) {
+    QStringList keys;
+    for (const auto* button : window.findChildren<QPushButton*>()) {
+        if (button->isVisible()) {
+            keys << QKeySequence::mnemonic(button->text()).toString();
+        }
+    }
+    return keys;
+}
 
 } // namespace
 
@@ -196,6 +208,64 @@ private slots:
         QVERIFY(outcome.startsWith(QLatin1Char('\t')));
         QVERIFY(outcome.size() > 20);
         QCOMPARE(write.Window->focusWidget(), entry);
+    }
+
+    // A keyboard user reaches every command by Alt and the letter its caption underlines, while
+    // the entry box keeps the focus and its own rules for Tab and the letters typed.
+    void EveryCommandAnswersToAltAndItsLetter() {
+        WriteWindow write;
+        QApplication::setActiveWindow(write.Window.get());
+        QVERIFY(QTest::qWaitForWindowActive(write.Window.get()));
+        auto* entry = write.Box(MirrorControl::txtMirror);
+        const auto alt = [](Qt::Key key) {
+            QTest::keyClick(QApplication::focusWidget(), key, Qt::AltModifier);
+        };
+        const auto count = [](std::size_t number) { return QString::number(number); };
+
+        alt(Qt::Key_C);
+        QTRY_COMPARE(entry->toPlainText(), Prefix);
+        QCOMPARE(QApplication::focusWidget(), entry);
+        QTest::keyClick(entry, Qt::Key_Tab);
+        QCOMPARE(QApplication::focusWidget(), entry);
+        QTest::keyClicks(entry, QStringLiteral("I keep"));
+        alt(Qt::Key_W);
+        QTRY_COMPARE(entry->toPlainText(), Prefix);
+        // Save has nothing to save yet: its letter does nothing, as a click would.
+        alt(Qt::Key_S);
+        QTest::qWait(150);
+        QCOMPARE(write.Library.Listing().LibraryCount, 0);
+        QCOMPARE(entry->toPlainText(), Prefix);
+
+        QTest::keyClicks(entry, QStringLiteral("I keep the old letters in a box for a reason."));
+        QTest::keyClick(entry, Qt::Key_Return);
+        if (write.Caption(MirrorControl::cmdRemove) == QStringLiteral("Keep")) {
+            alt(Qt::Key_E);
+        }
+        QTRY_COMPARE(write.Caption(MirrorControl::cmdRemove), QStringLiteral("Remove"));
+
+        // Each step: the key, and what the user sees once its command has run.
+        struct Step {
+            Qt::Key Key;
+            std::function<QString()> Seen;
+            QString Expected;
+        };
+        const std::vector<Step> steps = {
+            {Qt::Key_F, [&] { return write.Caption(MirrorControl::cmdNew); }, "New"},
+            {Qt::Key_O, [&] { return write.Caption(MirrorControl::cmdNew); }, "Finish"},
+            {Qt::Key_F, [&] { return write.Caption(MirrorControl::cmdRemove); }, "Continue"},
+            {Qt::Key_P, [&] { return count(write.Layer.Printed.size()); }, "1"},
+            {Qt::Key_I, [&] { return count(write.Layer.EditorTexts.size()); }, "1"},
+            {Qt::Key_S, [&] { return count(write.Library.Listing().LibraryCount); }, "1"},
+        };
+        for (const Step& step : steps) {
+            QStringList keys = AccessKeysOnShow(*write.Window);
+            QVERIFY2(!keys.contains(QString()) && keys.removeDuplicates() == 0,
+                     qPrintable(keys.join(", ")));
+            alt(step.Key);
+            QTRY_COMPARE(step.Seen(), step.Expected);
+        }
+        // Saving began a new Dialogue.
+        QTRY_COMPARE(write.Window->windowTitle(), QStringLiteral("Veyrant Sagrel -- New Dialogue"));
     }
 };
 

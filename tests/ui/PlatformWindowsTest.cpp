@@ -9,6 +9,7 @@
 #include "storage/Options.h"
 #include "ui/BannerWindow.h"
 #include "ui/OptionsWindow.h"
+#include "ui/PrintFlow.h"
 #include "ui/QtWindowLayer.h"
 #include "ui/ResizeWindow.h"
 #include "ui/UtilityWindow.h"
@@ -17,8 +18,12 @@
 #include <QApplication>
 #include <QLabel>
 #include <QMessageBox>
+#include <QPrintPreviewDialog>
+#include <QPrinter>
 #include <QTimer>
+#include <QToolButton>
 #include <QtTest>
+#include <algorithm>
 #include <memory>
 
 using namespace veyrant;
@@ -148,6 +153,27 @@ private slots:
             QVERIFY2(CutOff(*write.Window).isEmpty(),
                      qPrintable(QString::number(option) + ": " + CutOff(*write.Window).join(", ")));
         }
+    }
+
+    // The preview's tools show whole and sharp: no icon is drawn on more pixels than its largest
+    // image has, which would blur it.
+    void thePrintPreviewShowsItsToolsSharp() {
+        QPrinter printer;
+        const auto preview = BuildPrintPreview(printer, nullptr);
+        preview->show();
+        QVERIFY(QTest::qWaitForWindowExposed(preview.get()));
+        const qreal ratio = preview->devicePixelRatioF();
+        for (const auto* tool : preview->findChildren<QToolButton*>()) {
+            const QList<QSize> sizes = tool->icon().availableSizes();
+            if (!tool->isVisible() || sizes.isEmpty()) {
+                continue;
+            }
+            const auto largest = std::max_element(
+                sizes.begin(), sizes.end(), [](QSize a, QSize b) { return a.width() < b.width(); });
+            QVERIFY2(tool->iconSize().width() * ratio <= largest->width(),
+                     qPrintable(QStringLiteral("%1 at %2").arg(tool->text()).arg(ratio)));
+        }
+        QVERIFY2(CutOff(*preview).isEmpty(), qPrintable(CutOff(*preview).join(", ")));
     }
 
     // Last: the way out asks the application to quit, which ends any event loop after it.

@@ -43,8 +43,9 @@ struct WriteWindow {
     QPlainTextEdit* Box(MirrorControl control) const {
         return static_cast<QPlainTextEdit*>(Window->Widget(control));
     }
+    // The caption as the user reads it, without the mark of its access letter.
     QString Caption(MirrorControl control) const {
-        return static_cast<QPushButton*>(Window->Widget(control))->text();
+        return static_cast<QPushButton*>(Window->Widget(control))->text().remove(QLatin1Char('&'));
     }
     void Click(MirrorControl control) const {
         QTest::mouseClick(Window->Widget(control), Qt::LeftButton);
