@@ -201,7 +201,15 @@ TEST(MirrorUtilities, ADialogueTheBuffersCannotTakeCanBeSavedElsewhereOnTheWayOu
             titles.push_back(box.Title);
         }
         EXPECT_EQ(titles, c.Titles);
-        EXPECT_EQ(driver.Layer.Boxes.at(0).Buttons, MessageButtons::YesNo);
+        const MessageBoxRequest& offer = driver.Layer.Boxes.at(0);
+        EXPECT_EQ(offer.Buttons, MessageButtons::YesNo);
+        EXPECT_NE(offer.Text.find("The disk is full.\r\n\r\nYour Dialogue is not lost: it stays "
+                                  "on the screen, and the program stays open."),
+                  std::string::npos);
+        EXPECT_EQ(offer.Text.substr(offer.Text.find("\r\n\r\nOr save")),
+                  "\r\n\r\nOr save the Dialogue now as a text file in a place you choose, and "
+                  "the program goes on without it: the Dialogue then does not reopen at the next "
+                  "start.\r\n\r\nDo you wish to save the Dialogue as a text file?");
         EXPECT_EQ(wentOn, c.GoesOn);
         EXPECT_EQ(driver.State().DialogueText, before.DialogueText);
         EXPECT_FALSE(std::filesystem::exists(driver.App.Folder.Exe() / "savem.tmp"));
