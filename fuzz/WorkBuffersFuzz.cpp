@@ -14,9 +14,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const AppFolder& folder = fuzz::ScratchFolder();
     std::string_view rest = fuzz::AsText(data, size);
     for (const char* name : {"savei.tmp", "savem.tmp", "saves.tmp", "savep.tmp"}) {
-        const auto end = rest.find('\0');
-        WriteWholeFile(folder.Exe() / name, rest.substr(0, end));
-        rest = end == std::string_view::npos ? std::string_view() : rest.substr(end + 1);
+        WriteWholeFile(folder.Exe() / name, fuzz::TakePart(rest, '\0'));
     }
     testing::FakeWindowLayer windows;
     testing::FakeClock clock;

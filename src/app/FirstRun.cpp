@@ -1,6 +1,8 @@
 #include "app/FirstRun.h"
 
 #include "app/FontCheck.h"
+#include "app/InstallFailure.h"
+#include "core/FileCallError.h"
 #include "core/FileCalls.h"
 #include "core/FileOperations.h"
 #include "core/WholeFile.h"
@@ -29,21 +31,31 @@ void NarrowToUser(const std::filesystem::path& folder) {
 } // namespace
 
 void InstallAppFolder(const AppFolder& folder, const WindowLayer& windows) {
-    MakeFolder(folder.Exe());
-    MakeFolder(folder.Dlg());
-    MakeFolder(folder.Isp());
-    for (const auto& path : {folder.Root, folder.Exe(), folder.Dlg(), folder.Isp()}) {
-        NarrowToUser(path);
+    // The folder each step works in, for the box when the disk refuses.
+    std::filesystem::path at = folder.Root;
+    try {
+        for (const auto& path : {folder.Exe(), folder.Dlg(), folder.Isp()}) {
+            at = path;
+            MakeFolder(path);
+        }
+        for (const auto& path : {folder.Root, folder.Exe(), folder.Dlg(), folder.Isp()}) {
+            at = path;
+            NarrowToUser(path);
+        }
+        at = folder.Root;
+        FinishInterruptedChanges(folder.Root);
+        at = folder.Exe();
+        const auto fontFile = folder.Exe() / "Qdrfonts.ini";
+        std::error_code error;
+        if (!std::filesystem::exists(fontFile, error)) {
+            const FontNames faces = InstalledFaceNames(windows);
+            WriteWholeFile(fontFile, faces.Main + "\r\n" + faces.Italic + "\r\n");
+        }
+        // The engine files come from the program's image, as an installer would lay them down.
+        InstallEngineFiles(folder);
+    } catch (const FileCallError& error) {
+        throw InstallFailure(error.Number(), error.Cause(), FailedFolder(at));
     }
-    FinishInterruptedChanges(folder.Root);
-    const auto fontFile = folder.Exe() / "Qdrfonts.ini";
-    std::error_code error;
-    if (!std::filesystem::exists(fontFile, error)) {
-        const FontNames faces = InstalledFaceNames(windows);
-        WriteWholeFile(fontFile, faces.Main + "\r\n" + faces.Italic + "\r\n");
-    }
-    // The engine files come from the program's image, as an installer would lay them down.
-    InstallEngineFiles(folder);
 }
 
 } // namespace veyrant

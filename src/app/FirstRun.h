@@ -12,7 +12,7 @@
 
 namespace veyrant {
 
-// Raises ProgramError when a folder or file cannot be made.
+// Raises InstallFailure when the disk refuses a folder or a file, ProgramError otherwise.
 void InstallAppFolder(const AppFolder& folder, const WindowLayer& windows);
 
 } // namespace veyrant

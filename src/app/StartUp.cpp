@@ -2,6 +2,7 @@
 
 #include "app/FirstRun.h"
 #include "app/FontCheck.h"
+#include "app/InstallFailure.h"
 #include "app/SettingsFiles.h"
 #include "app/SmallDisplay.h"
 #include "core/CaughtError.h"
@@ -95,6 +96,9 @@ void ReportSystemError(Application& app, int number) {
 void Main(Application& app) {
     try {
         RunMain(app);
+    } catch (const InstallFailure& failure) {
+        app.Windows.ShowMessage(InstallFailureBox(failure));
+        app.Windows.EndProcess();
     } catch (...) {
         ReportSystemError(app, CaughtErrorNumber());
     }

@@ -1,6 +1,7 @@
 #include "core/Cp1252.h"
 
 #include <array>
+#include <utility>
 
 namespace veyrant {
 
@@ -125,6 +126,12 @@ Utf8Conversion Utf8ToCp1252(std::string_view text) {
         i += static_cast<std::size_t>(extra) + 1;
     }
     return result;
+}
+
+std::string PathText(const std::filesystem::path& path) {
+    const std::string bytes = path.string();
+    auto converted = Utf8ToCp1252(bytes);
+    return converted.Ok ? std::move(converted.Text) : bytes;
 }
 
 } // namespace veyrant

@@ -3,6 +3,7 @@
 // Windows-1252 is the program's text form in memory and on disk; Qt speaks UTF-16 and the
 // authored content is UTF-8. These conversions are the only bridges between them.
 
+#include <filesystem>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -30,5 +31,9 @@ struct Utf8Conversion {
 
 // Refuses malformed UTF-8 as well as characters with no Windows-1252 code.
 Utf8Conversion Utf8ToCp1252(std::string_view text);
+
+// A path as the program's boxes name it: in Windows-1252 where every character has a code,
+// else as its bytes stand.
+std::string PathText(const std::filesystem::path& path);
 
 } // namespace veyrant

@@ -1,5 +1,6 @@
 #include "core/FileOperations.h"
 
+#include "core/FileCallError.h"
 #include "core/FileCalls.h"
 #include "core/ProgramError.h"
 #include "core/WholeFile.h"
@@ -34,7 +35,8 @@ void MakeFolder(const std::filesystem::path& folder) {
         RaiseFromErrno();
     }
     if (!std::filesystem::is_directory(folder, error)) {
-        throw ProgramError(ErrorNumber::PathNotFound);
+        // Something that is no folder stands in its place.
+        throw FileCallError(ErrorNumber::PathNotFound, ENOTDIR);
     }
 }
 

@@ -1,5 +1,6 @@
 #include "core/WholeFile.h"
 
+#include "core/FileCallError.h"
 #include "core/FileCalls.h"
 #include "core/FileOperations.h"
 #include "core/ProgramError.h"
@@ -34,7 +35,8 @@ int ErrorNumberFor(const std::error_code& error) {
 }
 
 void RaiseFromErrno() {
-    throw ProgramError(ErrorNumberFor(std::error_code(errno, std::generic_category())));
+    const int cause = errno;
+    throw FileCallError(ErrorNumberFor(std::error_code(cause, std::generic_category())), cause);
 }
 
 namespace {

@@ -5,6 +5,8 @@
 
 #include "core/DateTime.h"
 
+#include <filesystem>
+#include <optional>
 #include <string>
 
 namespace veyrant {
@@ -73,6 +75,10 @@ public:
     virtual PrintOutcome PrintDialogue(const PrintRequest& request) = 0;
     // Opens the text in the program's own editor; Save As proposes the file name.
     virtual void ShowInEditor(const std::string& text, const std::string& proposedFileName) = 0;
+    // Asks where to save a file, proposing the name in the user's home folder; nothing when the
+    // user cancels.
+    virtual std::optional<std::filesystem::path>
+    AskSaveFileName(const std::string& proposedFileName) = 0;
 
     // Ends the process after the given delay; the event loop runs until then.
     virtual void EndProcessAfter(int milliseconds) = 0;

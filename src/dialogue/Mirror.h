@@ -181,6 +181,10 @@ private:
     // Writes the Dialogue into the work buffers; false when they could not take it (the box has
     // said why), and then every way out tries again.
     bool KeepInBuffers();
+    // On the way out of the program: keeps a Dialogue that must be kept, in the buffers or, when
+    // they fail and the user asks, in a text file of the user's choice. True when the way out
+    // may go on; false when the window must stay, with the Dialogue on it.
+    bool KeepBeforeLeaving();
     // A Dialogue runs, or one the buffers could not take is on the screen.
     bool MustKeep() const;
     bool GuestMode() const;

@@ -9,6 +9,7 @@
 #include "dialogue/MirrorTexts.h"
 #include "dialogue/MirrorWorld.h"
 #include "dialogue/Transcript.h"
+#include "printing/SaveTextFile.h"
 #include "storage/DialogueLibrary.h"
 #include "storage/LibraryStatus.h"
 
@@ -37,7 +38,7 @@ std::string Mirror::LibraryStatusText(const std::string& suggestionText) const {
 }
 
 bool Mirror::Unload() {
-    if (MustKeep() && !KeepInBuffers()) {
+    if (!KeepBeforeLeaving()) {
         return false;
     }
     C(MirrorControl::txtMirror).Enabled = false;
@@ -51,6 +52,19 @@ DialogueBuffers Mirror::Record() const {
 bool Mirror::KeepInBuffers() {
     unkept_ = !buffers_.WriteWorkBuffers(Record());
     return !unkept_;
+}
+
+bool Mirror::KeepBeforeLeaving() {
+    if (!MustKeep()) {
+        return true;
+    }
+    const KeepOutcome outcome = buffers_.WriteWorkBuffersLeaving(Record());
+    unkept_ = outcome != KeepOutcome::Kept;
+    if (outcome == KeepOutcome::SaveElsewhere) {
+        return SaveTextFile(world_.Windows, world_.Clock.Now(),
+                            FullViewText(state_.InspirationText, "Dialogue" + state_.DialogueText));
+    }
+    return outcome == KeepOutcome::Kept;
 }
 
 // A finished Dialogue was written at Finish; only a failure then leaves it to be kept.

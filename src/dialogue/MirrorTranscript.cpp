@@ -32,6 +32,10 @@ std::string FullViewPagePhrase(int pairCount) {
                     "interactive mode.";
 }
 
+std::string FullViewText(const std::string& inspirationText, const std::string& dialogueView) {
+    return "Inspiration\r\n\r\n" + inspirationText + "\r\n\r\n" + dialogueView;
+}
+
 void Mirror::BuildPairText() {
     state_.PairText = std::string(CrLf) + std::string(CrLf) + state_.EntryText + std::string(CrLf) +
                       state_.ResponseText;
@@ -78,7 +82,7 @@ void Mirror::ShowDialogueFull() {
     Place(MirrorControl::txtSaved, 960, 4215);
     C(MirrorControl::cmdDisplay).Text = "Write";
     auto& saved = C(MirrorControl::txtSaved);
-    saved.Text = "Inspiration\r\n\r\n" + state_.InspirationText + "\r\n\r\n" + state_.DialogueView;
+    saved.Text = FullViewText(state_.InspirationText, state_.DialogueView);
     saved.Caret = state_.ActiveMethod == 1 ? 0 : static_cast<long>(saved.Text.size());
     saved.Background = Colour::EntryYellow;
     state_.DisplayFull = 1;

@@ -13,7 +13,7 @@ void Mirror::OpenWindowBehindWrite(WindowId window, const std::string& windowNam
                                            windowName + " window.");
         return;
     }
-    if (MustKeep() && !KeepInBuffers()) {
+    if (!KeepBeforeLeaving()) {
         return;
     }
     world_.ClosingState = ClosingStates::UtilitiesUp;

@@ -15,4 +15,8 @@ std::string PagesTitle(int pairCount);
 // The instruction of the full view: the length and how to leave the view.
 std::string FullViewPagePhrase(int pairCount);
 
+// The text of the full view, which the text export takes: the Inspiration, then the Dialogue as
+// its view shows it.
+std::string FullViewText(const std::string& inspirationText, const std::string& dialogueView);
+
 } // namespace veyrant

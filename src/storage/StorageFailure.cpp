@@ -12,9 +12,7 @@ namespace veyrant {
 namespace {
 
 std::string FolderText(const std::filesystem::path& file) {
-    const std::string folder = file.parent_path().string();
-    const auto converted = Utf8ToCp1252(folder);
-    return converted.Ok ? converted.Text : folder;
+    return PathText(file.parent_path());
 }
 
 std::string Cause(int number, const std::filesystem::path& file) {
@@ -73,6 +71,16 @@ MessageBoxRequest KeepFailureBox(int number, const std::filesystem::path& file) 
                    "Your Dialogue is not lost: it stays on the screen, and the program stays "
                    "open. The work buffers still hold the Dialogue as it was last kept. " +
                        Remedy(number) + ", then try again."));
+}
+
+MessageBoxRequest LeavingKeepFailureBox(int number, const std::filesystem::path& file) {
+    MessageBoxRequest box = KeepFailureBox(number, file);
+    box.Text = Paragraphs(box.Text, "Or save the Dialogue now as a text file in a place you "
+                                    "choose, and the program goes on without it: the Dialogue "
+                                    "then does not reopen at the next start.");
+    box.Text = Paragraphs(box.Text, "Do you wish to save the Dialogue as a text file?");
+    box.Buttons = MessageButtons::YesNo;
+    return box;
 }
 
 MessageBoxRequest SettingsFailureBox(int number, const std::filesystem::path& file) {

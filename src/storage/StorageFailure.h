@@ -19,6 +19,10 @@ MessageBoxRequest SaveFailureBox(int number, const std::filesystem::path& file);
 // Writing the work buffers failed; they still hold what they held before.
 MessageBoxRequest KeepFailureBox(int number, const std::filesystem::path& file);
 
+// The same on the way out of the program, which must not end with the Dialogue unkept: it asks
+// whether to save the Dialogue as a text file elsewhere (Yes) or stay open (No).
+MessageBoxRequest LeavingKeepFailureBox(int number, const std::filesystem::path& file);
+
 // Storing the settings on the way out failed; the program ends without them.
 MessageBoxRequest SettingsFailureBox(int number, const std::filesystem::path& file);
 

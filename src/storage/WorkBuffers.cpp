@@ -101,8 +101,25 @@ WorkBuffers::WorkBuffers(const AppFolder& folder, const Settings& settings, cons
     : folder_(folder), settings_(settings), clock_(clock), windows_(windows) {}
 
 bool WorkBuffers::WriteWorkBuffers(const DialogueBuffers& dialogue) {
+    const auto failure = Write(dialogue);
+    if (failure) {
+        windows_.ShowMessage(KeepFailureBox(failure->Number, failure->File));
+    }
+    return !failure;
+}
+
+KeepOutcome WorkBuffers::WriteWorkBuffersLeaving(const DialogueBuffers& dialogue) {
+    const auto failure = Write(dialogue);
+    if (!failure) {
+        return KeepOutcome::Kept;
+    }
+    const auto answer = windows_.ShowMessage(LeavingKeepFailureBox(failure->Number, failure->File));
+    return answer == MessageAnswer::Yes ? KeepOutcome::SaveElsewhere : KeepOutcome::NotKept;
+}
+
+std::optional<WorkBuffers::WriteFailure> WorkBuffers::Write(const DialogueBuffers& dialogue) const {
     if (settings_.GuestMode == 1) {
-        return true;
+        return std::nullopt;
     }
     const std::array<std::pair<std::filesystem::path, std::string>, 4> files = {{
         {folder_.Exe() / InspirationBuffer, dialogue.InspirationText},
@@ -122,10 +139,9 @@ bool WorkBuffers::WriteWorkBuffers(const DialogueBuffers& dialogue) {
         }
         writing = folder_.Exe();
         change.Commit();
-        return true;
+        return std::nullopt;
     } catch (const ProgramError& error) {
-        windows_.ShowMessage(KeepFailureBox(error.Number(), writing));
-        return false;
+        return WriteFailure{error.Number(), writing};
     }
 }
 

@@ -25,6 +25,12 @@ struct DialogueBuffers {
     int PairCount = 0;
 };
 
+enum class KeepOutcome {
+    Kept,
+    NotKept,       // the box said why; the Dialogue stays on the screen
+    SaveElsewhere, // not kept, and the user asked to save the Dialogue as a text file instead
+};
+
 struct PriorDialogue {
     DialogueBuffers Buffers;
     DateTime BufferDate; // when the buffers were last written
@@ -43,6 +49,10 @@ public:
     // says so has been shown; true otherwise, Guest Mode included.
     bool WriteWorkBuffers(const DialogueBuffers& dialogue);
 
+    // The same on the way out of the program: the box of a failure asks whether to save the
+    // Dialogue elsewhere instead, and the answer comes back.
+    KeepOutcome WriteWorkBuffersLeaving(const DialogueBuffers& dialogue);
+
     // Nothing in Guest Mode, or when any of the four is missing or unreadable: the caller then
     // begins a new Dialogue, and says nothing.
     std::optional<PriorDialogue> ReadWorkBuffers() const;
@@ -52,6 +62,13 @@ public:
     void DeleteWorkBuffers();
 
 private:
+    // The error number and the file of a failed write, told to no one yet.
+    struct WriteFailure {
+        int Number = 0;
+        std::filesystem::path File;
+    };
+    std::optional<WriteFailure> Write(const DialogueBuffers& dialogue) const;
+
     const AppFolder& folder_;
     const Settings& settings_;
     const Clock& clock_;

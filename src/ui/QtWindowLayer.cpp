@@ -8,6 +8,9 @@
 
 #include <QApplication>
 #include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileDialog>
 #include <QFont>
 #include <QFontDatabase>
 #include <QFontMetricsF>
@@ -294,6 +297,18 @@ void QtWindowLayer::ShowInEditor(const std::string& text, const std::string& pro
     auto* editor =
         new ExportEditorWindow(*this, ToDisplayText(text), ToDisplayText(proposedFileName));
     editor->show();
+}
+
+std::optional<std::filesystem::path>
+QtWindowLayer::AskSaveFileName(const std::string& proposedFileName) {
+    const QString chosen =
+        QFileDialog::getSaveFileName(QApplication::activeWindow(), QStringLiteral("Save As"),
+                                     QDir::home().filePath(ToDisplayText(proposedFileName)),
+                                     QStringLiteral("Text files (*.txt);;All files (*)"));
+    if (chosen.isEmpty()) {
+        return std::nullopt;
+    }
+    return std::filesystem::path(QFile::encodeName(chosen).toStdString());
 }
 
 void QtWindowLayer::EndProcessAfter(int milliseconds) {

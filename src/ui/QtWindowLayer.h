@@ -58,6 +58,8 @@ public:
     bool HasFontFace(const std::string& face, bool italic) const override;
     PrintOutcome PrintDialogue(const PrintRequest& request) override;
     void ShowInEditor(const std::string& text, const std::string& proposedFileName) override;
+    std::optional<std::filesystem::path>
+    AskSaveFileName(const std::string& proposedFileName) override;
     void EndProcessAfter(int milliseconds) override;
     void EndProcess() override;
 

@@ -199,6 +199,62 @@ TEST(StartUp, ExitThatCannotStoreTheSettingsSaysWhatFailedAndEnds) {
     }
 }
 
+// A program folder the disk refuses is no unknown error: the box names the folder and the cause,
+// and the program ends before its banner.
+TEST(StartUp, AFolderTheDiskRefusesIsNamedWithItsCause) {
+    struct Case {
+        const char* Name;
+        FileCall Call; // fails with Error (0: runs); the folder is new unless FileInTheWay
+        int Error;
+        bool FileInTheWay;
+        const char* Folder; // under the temporary folder
+        const char* Cause;
+    };
+    const Case cases[] = {
+        {"read-only home", FileCall::MakeFolder, EROFS, false, "veyrant-sagrel",
+         "The disk is read-only. The system reports: Read-only file system.\r\n\r\nYour "
+         "Dialogues are not affected. Make the disk writable, then start the program again."},
+        {"disk full", FileCall::Write, ENOSPC, false, "veyrant-sagrel/exe",
+         "The disk is full. The system reports: No space left on device.\r\n\r\nYour "
+         "Dialogues are not affected. Make room on the disk, then start the program again."},
+        {"the system says a file is in the way", FileCall::MakeFolder, ENOTDIR, false,
+         "veyrant-sagrel",
+         "A file stands where the folder should be. The system reports: Not a "
+         "directory.\r\n\r\nYour Dialogues are not affected. Move that file "
+         "out of the way, then start the program again."},
+        {"a file where the folder should be", FileCall::Narrow, 0, true, "veyrant-sagrel",
+         "A file stands where the folder should be. The system reports: Not a directory."},
+        {"a disk failing in an unforeseen way", FileCall::MakeFolder, EIO, false, "veyrant-sagrel",
+         "The folder cannot be written. The system reports: Input/output error.\r\n\r\nYour "
+         "Dialogues are not affected. Check the folder and the disk, then start the program "
+         "again."},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.Name);
+        AppFixture fixture;
+        std::filesystem::remove_all(fixture.Folder.Root);
+        if (c.FileInTheWay) {
+            WriteWholeFile(fixture.Folder.Root, "a file where a folder should be");
+        }
+        FileFaults faults;
+        faults.FailEvery(c.Call, c.Error);
+        Main(fixture.App);
+        ASSERT_EQ(fixture.Windows.Boxes.size(), 1u);
+        const auto& box = fixture.Windows.Boxes[0];
+        EXPECT_EQ(box.Title, "Cannot Set Up the Veyrant Sagrel Folder");
+        EXPECT_EQ(box.Text.rfind("The Veyrant Sagrel cannot start, because it cannot make or "
+                                 "write its folder " +
+                                     (fixture.Temp / c.Folder).string() + ".\r\n\r\n",
+                                 0),
+                  0u)
+            << box.Text;
+        EXPECT_NE(box.Text.find(c.Cause), std::string::npos) << box.Text;
+        EXPECT_EQ(box.Icon, MessageIcon::Warning);
+        EXPECT_TRUE(fixture.Windows.Ended);
+        EXPECT_TRUE(fixture.Windows.WindowEvents.empty());
+    }
+}
+
 // Whatever goes wrong in the start, the user sees the program's box before it ends.
 TEST(StartUp, AnyFailureOfTheStartEndsInTheSystemErrorBox) {
     struct Case {

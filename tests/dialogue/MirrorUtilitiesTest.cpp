@@ -7,6 +7,9 @@
 
 #include <gtest/gtest.h>
 #include <optional>
+#include <string>
+#include <utility>
+#include <vector>
 
 namespace veyrant::testing {
 namespace {
@@ -99,6 +102,138 @@ TEST(MirrorUtilities, ADialogueTheBuffersCannotTakeKeepsTheWindowOpen) {
 
         EXPECT_TRUE(leave());
         EXPECT_EQ(ReadWholeFile(driver.App.Folder.Exe() / "savem.tmp"), dialogue);
+    }
+}
+
+// What a user's text file holds of the program's text: UTF-8 and the line ends of this system.
+std::string AsTextFile(std::string text) {
+    const std::pair<std::string, std::string> replaced[] = {
+        {"\r\n", "\n"}, {"\x93", "\xE2\x80\x9C"}, {"\x94", "\xE2\x80\x9D"}};
+    for (const auto& [from, to] : replaced) {
+        for (auto at = text.find(from); at != std::string::npos;
+             at = text.find(from, at + to.size())) {
+            text.replace(at, from.size(), to);
+        }
+    }
+    return text;
+}
+
+// When the work buffers cannot take the Dialogue on the way out, the box offers to save it as a
+// text file elsewhere; the program goes on only once the Dialogue is safe in that file.
+TEST(MirrorUtilities, ADialogueTheBuffersCannotTakeCanBeSavedElsewhereOnTheWayOut) {
+    struct Case {
+        const char* Name;
+        std::optional<MirrorControl> RightClick; // none: the window is closed
+        MessageAnswer Answer;                    // to the box that the buffers failed
+        bool NameChosen;
+        int SaveError; // 0: the chosen place takes the file
+        std::vector<std::string> Titles;
+        bool GoesOn;
+    };
+    const Case cases[] = {
+        {"close, saved elsewhere",
+         std::nullopt,
+         MessageAnswer::Yes,
+         true,
+         0,
+         {"Error 61 Keeping the Dialogue", "Dialogue Saved"},
+         true},
+        {"Utilities, saved elsewhere",
+         MirrorControl::cmdHelp,
+         MessageAnswer::Yes,
+         true,
+         0,
+         {"Error 61 Keeping the Dialogue", "Dialogue Saved"},
+         true},
+        {"close, save cancelled",
+         std::nullopt,
+         MessageAnswer::Yes,
+         false,
+         0,
+         {"Error 61 Keeping the Dialogue"},
+         false},
+        {"close, declined",
+         std::nullopt,
+         MessageAnswer::No,
+         true,
+         0,
+         {"Error 61 Keeping the Dialogue"},
+         false},
+        {"Library Options, the other place is full too",
+         MirrorControl::cmdRetrieve,
+         MessageAnswer::Yes,
+         true,
+         ENOSPC,
+         {"Error 61 Keeping the Dialogue", "Save File Error"},
+         false},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.Name);
+        MirrorDriver driver;
+        driver.StartConverse();
+        driver.Converse("Why do I wait so long before I decide anything?");
+        const MirrorState before = driver.State();
+        const TempFolder elsewhere;
+        const auto chosen = elsewhere / "my dialogue.txt";
+        driver.Layer.Answers = {c.Answer};
+        if (c.NameChosen) {
+            driver.Layer.SaveNameAnswers = {chosen};
+        }
+        // The program's folder is full; the other place takes the file, or fails as it says.
+        const std::string programFolder = driver.App.Folder.Root.string();
+        SetFileFault([&](FileCall call, const std::filesystem::path& path) {
+            if (call != FileCall::Open) {
+                return 0;
+            }
+            return path.string().rfind(programFolder, 0) == 0 ? ENOSPC : c.SaveError;
+        });
+        bool wentOn = false;
+        if (c.RightClick) {
+            driver.mirror->MouseDown(*c.RightClick, MouseButton::Right);
+            wentOn = driver.App.ClosingState == ClosingStates::UtilitiesUp;
+        } else {
+            wentOn = driver.mirror->Unload();
+        }
+        SetFileFault({});
+
+        std::vector<std::string> titles;
+        for (const auto& box : driver.Layer.Boxes) {
+            titles.push_back(box.Title);
+        }
+        EXPECT_EQ(titles, c.Titles);
+        const MessageBoxRequest& offer = driver.Layer.Boxes.at(0);
+        EXPECT_EQ(offer.Buttons, MessageButtons::YesNo);
+        EXPECT_NE(offer.Text.find("The disk is full.\r\n\r\nYour Dialogue is not lost: it stays "
+                                  "on the screen, and the program stays open."),
+                  std::string::npos);
+        EXPECT_EQ(offer.Text.substr(offer.Text.find("\r\n\r\nOr save")),
+                  "\r\n\r\nOr save the Dialogue now as a text file in a place you choose, and "
+                  "the program goes on without it: the Dialogue then does not reopen at the next "
+                  "start.\r\n\r\nDo you wish to save the Dialogue as a text file?");
+        EXPECT_EQ(wentOn, c.GoesOn);
+        EXPECT_EQ(driver.State().DialogueText, before.DialogueText);
+        EXPECT_FALSE(std::filesystem::exists(driver.App.Folder.Exe() / "savem.tmp"));
+        if (!c.GoesOn) {
+            EXPECT_TRUE(driver.Box(MirrorControl::txtMirror).Enabled);
+            EXPECT_EQ(driver.App.ClosingState, ClosingStates::Running);
+            EXPECT_FALSE(std::filesystem::exists(chosen));
+            EXPECT_TRUE(std::filesystem::is_empty(elsewhere.Path()));
+            continue;
+        }
+        EXPECT_EQ(driver.Layer.ProposedSaveNames,
+                  std::vector<std::string>{"Dialogue 2026-11-22 12.00 PM.txt"});
+        EXPECT_EQ(driver.Layer.Boxes.back().Text,
+                  "Your Dialogue is saved in the file " + chosen.string() + ".");
+        EXPECT_EQ(ReadWholeFile(chosen),
+                  "Veyrant Sagrel\nSunday, 12:00 PM, November 22, 2026\n\n\nInspiration\n\n" +
+                      AsTextFile(before.InspirationText) + "\n\nDialogue" +
+                      AsTextFile(before.DialogueText) +
+                      "\n\n\nPsychological Self-Reflection with the Veyrant Sagrel "
+                      "Dovrin\n\"The Power of Your Inspiration is in the Worth that You Give "
+                      "It\"\nVeyrant Technology, veyrant-sagrel.org\n");
+        EXPECT_NE(ReadWholeFile(chosen).find("\n\t\xE2\x80\x9CWhy do I wait so long before I "
+                                             "decide anything?\xE2\x80\x9D\n"),
+                  std::string::npos);
     }
 }
 

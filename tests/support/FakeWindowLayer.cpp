@@ -40,6 +40,17 @@ MessageAnswer FakeWindowLayer::ShowMessage(const MessageBoxRequest& request) {
     return answer;
 }
 
+std::optional<std::filesystem::path>
+FakeWindowLayer::AskSaveFileName(const std::string& proposedFileName) {
+    ProposedSaveNames.push_back(proposedFileName);
+    if (SaveNameAnswers.empty()) {
+        return std::nullopt;
+    }
+    auto answer = SaveNameAnswers.front();
+    SaveNameAnswers.pop_front();
+    return answer;
+}
+
 void FakeWindowLayer::LoadWindow(WindowId window) {
     Loaded.insert(window);
     WindowEvents.push_back(std::string("load ") + WindowName(window));

@@ -3,7 +3,9 @@
 #include "core/WindowLayer.h"
 
 #include <deque>
+#include <filesystem>
 #include <map>
+#include <optional>
 #include <set>
 #include <string>
 #include <vector>
@@ -40,6 +42,9 @@ public:
     void ShowInEditor(const std::string& text, const std::string& proposedFileName) override {
         EditorTexts.push_back({text, proposedFileName});
     }
+    // Answers from the script, a cancel when it is empty.
+    std::optional<std::filesystem::path>
+    AskSaveFileName(const std::string& proposedFileName) override;
     void EndProcessAfter(int milliseconds) override { EndAfter = milliseconds; }
     void EndProcess() override { Ended = true; }
 
@@ -64,6 +69,9 @@ public:
         std::string ProposedFileName;
     };
     std::vector<EditorText> EditorTexts;
+    // The names the save dialog proposed, and what the user chooses there, in order.
+    std::vector<std::string> ProposedSaveNames;
+    std::deque<std::optional<std::filesystem::path>> SaveNameAnswers;
     int Yields = 0;
     bool Busy = false;
     int EndAfter = -1;

@@ -40,6 +40,9 @@ public:
     bool HasFontFace(const std::string&, bool) const override { return true; }
     PrintOutcome PrintDialogue(const PrintRequest&) override { return PrintOutcome::Cancelled; }
     void ShowInEditor(const std::string&, const std::string&) override {}
+    std::optional<std::filesystem::path> AskSaveFileName(const std::string&) override {
+        return std::nullopt;
+    }
     void EndProcessAfter(int) override {}
     void EndProcess() override {}
 };
