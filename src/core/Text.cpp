@@ -1,6 +1,7 @@
 #include "core/Text.h"
 
 #include <algorithm>
+#include <cstring>
 
 namespace veyrant {
 
@@ -37,8 +38,95 @@ long Find(std::string_view text, std::string_view needle, long start) {
     return at == std::string_view::npos ? 0 : static_cast<long>(at) + 1;
 }
 
+namespace {
+
+// Each byte's lower case, as LowerChar gives it, looked up rather than worked out per byte.
+struct FoldTable {
+    unsigned char Lower[256];
+    FoldTable() {
+        for (int b = 0; b < 256; ++b) {
+            Lower[b] = static_cast<unsigned char>(LowerChar(static_cast<char>(b)));
+        }
+    }
+};
+
+const FoldTable& Folds() {
+    static const FoldTable table;
+    return table;
+}
+
+// How common a folded character is in the libraries' English prose: blanks and line ends most,
+// then letters by their usual frequency; digits, marks and accented letters least.
+int Commonness(unsigned char folded) {
+    static constexpr std::string_view ByFrequency = "zqxjkvbpygfwmucldrhsniotae \r\n";
+    const auto at = ByFrequency.find(static_cast<char>(folded));
+    return at == std::string_view::npos ? -1 : static_cast<int>(at);
+}
+
+} // namespace
+
+// No lower-case copies: the search runs memchr over the text for the two cases of the needle's
+// least common character, and compares the rest of the needle through the fold table only where
+// that character stands.
 long FindNoCase(std::string_view text, std::string_view needle, long start) {
-    return Find(Lower(text), Lower(needle), start);
+    if (start < 1 || static_cast<std::size_t>(start - 1) > text.size()) {
+        return 0;
+    }
+    const auto from = static_cast<std::size_t>(start - 1);
+    if (needle.empty()) {
+        return start;
+    }
+    if (needle.size() > text.size() - from) {
+        return 0;
+    }
+    const auto& fold = Folds().Lower;
+    const auto* const bytes = reinterpret_cast<const unsigned char*>(text.data());
+    const auto* const wanted = reinterpret_cast<const unsigned char*>(needle.data());
+
+    std::size_t anchor = 0;
+    for (std::size_t k = 1; k < needle.size(); ++k) {
+        if (Commonness(fold[wanted[k]]) < Commonness(fold[wanted[anchor]])) {
+            anchor = k;
+        }
+    }
+    const unsigned char lower = fold[wanted[anchor]];
+    const auto upper = static_cast<unsigned char>(UpperChar(static_cast<char>(lower)));
+
+    const auto matchesAt = [&](std::size_t at) {
+        for (std::size_t k = 0; k < needle.size(); ++k) {
+            if (fold[bytes[at + k]] != fold[wanted[k]]) {
+                return false;
+            }
+        }
+        return true;
+    };
+    // The anchor's case forms, each found ahead of the scan; a pointer past the end is none.
+    const unsigned char* const end = bytes + (text.size() - needle.size() + anchor + 1);
+    const auto next = [&](const unsigned char* from, unsigned char byte) {
+        if (from >= end) {
+            return end;
+        }
+        const void* found = std::memchr(from, byte, static_cast<std::size_t>(end - from));
+        return found == nullptr ? end : static_cast<const unsigned char*>(found);
+    };
+    const unsigned char* scan = bytes + from + anchor;
+    const unsigned char* nextLower = next(scan, lower);
+    const unsigned char* nextUpper = upper == lower ? end : next(scan, upper);
+    while (true) {
+        const unsigned char* candidate = std::min(nextLower, nextUpper);
+        if (candidate >= end) {
+            return 0;
+        }
+        const auto at = static_cast<std::size_t>(candidate - bytes) - anchor;
+        if (matchesAt(at)) {
+            return static_cast<long>(at) + 1;
+        }
+        if (candidate == nextLower) {
+            nextLower = next(candidate + 1, lower);
+        } else {
+            nextUpper = next(candidate + 1, upper);
+        }
+    }
 }
 
 std::string LTrim(std::string_view text) {

@@ -49,5 +49,7 @@ void CheckLibraryContent(const FixedLibraries& libraries);
 std::string CleanTitle(const std::string& title);
 // The title, two line ends, and the row's text without trailing spaces.
 std::string ComposeRowText(const FixedLibrary& library, int row);
+// The same into the caller's string, whose storage a walk through the rows keeps.
+void ComposeRowText(const FixedLibrary& library, int row, std::string& text);
 
 } // namespace veyrant

@@ -1,6 +1,8 @@
 #include "core/Text.h"
 #include "reader/FixedLibrary.h"
 
+#include <string_view>
+
 namespace veyrant {
 
 namespace {
@@ -46,12 +48,22 @@ std::string CleanTitle(const std::string& title) {
 }
 
 std::string ComposeRowText(const FixedLibrary& library, int row) {
+    std::string text;
+    ComposeRowText(library, row, text);
+    return text;
+}
+
+void ComposeRowText(const FixedLibrary& library, int row, std::string& text) {
     const auto index = static_cast<std::size_t>(row);
     // A record longer than its width is cut, as a fixed-width record would cut it.
-    const std::string record =
-        library.Texts[index].substr(0, static_cast<std::size_t>(library.RecordWidth));
-    return CleanTitle(library.Titles[index]) + std::string(CrLf) + std::string(CrLf) +
-           RTrim(record);
+    std::string_view record = library.Texts[index];
+    record = record.substr(0, static_cast<std::size_t>(library.RecordWidth));
+    const auto last = record.find_last_not_of(' ');
+    record = last == std::string_view::npos ? std::string_view() : record.substr(0, last + 1);
+    text = CleanTitle(library.Titles[index]);
+    text += CrLf;
+    text += CrLf;
+    text += record;
 }
 
 } // namespace veyrant
