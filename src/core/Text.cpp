@@ -1,7 +1,9 @@
 #include "core/Text.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <cstring>
+#include <utility>
 
 namespace veyrant {
 
@@ -63,70 +65,90 @@ int Commonness(unsigned char folded) {
     return at == std::string_view::npos ? -1 : static_cast<int>(at);
 }
 
+// Sixteen bytes compared at once; GCC and Clang give this on every target the program builds
+// for.
+using Bytes16 = unsigned char __attribute__((vector_size(16)));
+
+Bytes16 Splat(unsigned char byte) {
+    Bytes16 all{};
+    for (int k = 0; k < 16; ++k) {
+        all[k] = byte;
+    }
+    return all;
+}
+
 } // namespace
 
-// No lower-case copies: the search runs memchr over the text for the two cases of the needle's
-// least common character, and compares the rest of the needle through the fold table only where
-// that character stands.
+// No lower-case copies. The needle's two least common characters are looked for in both cases,
+// sixteen starting places at a time; only where both stand is the whole needle compared, through
+// the fold table.
 long FindNoCase(std::string_view text, std::string_view needle, long start) {
     if (start < 1 || static_cast<std::size_t>(start - 1) > text.size()) {
         return 0;
     }
-    const auto from = static_cast<std::size_t>(start - 1);
+    auto at = static_cast<std::size_t>(start - 1);
     if (needle.empty()) {
         return start;
     }
-    if (needle.size() > text.size() - from) {
+    if (needle.size() > text.size() - at) {
         return 0;
     }
     const auto& fold = Folds().Lower;
     const auto* const bytes = reinterpret_cast<const unsigned char*>(text.data());
     const auto* const wanted = reinterpret_cast<const unsigned char*>(needle.data());
-
-    std::size_t anchor = 0;
-    for (std::size_t k = 1; k < needle.size(); ++k) {
-        if (Commonness(fold[wanted[k]]) < Commonness(fold[wanted[anchor]])) {
-            anchor = k;
-        }
-    }
-    const unsigned char lower = fold[wanted[anchor]];
-    const auto upper = static_cast<unsigned char>(UpperChar(static_cast<char>(lower)));
-
-    const auto matchesAt = [&](std::size_t at) {
+    const auto matchesAt = [&](std::size_t from) {
         for (std::size_t k = 0; k < needle.size(); ++k) {
-            if (fold[bytes[at + k]] != fold[wanted[k]]) {
+            if (fold[bytes[from + k]] != fold[wanted[k]]) {
                 return false;
             }
         }
         return true;
     };
-    // The anchor's case forms, each found ahead of the scan; a pointer past the end is none.
-    const unsigned char* const end = bytes + (text.size() - needle.size() + anchor + 1);
-    const auto next = [&](const unsigned char* from, unsigned char byte) {
-        if (from >= end) {
-            return end;
+
+    const auto rarest = [&](std::size_t other) {
+        std::size_t best = other == 0 && needle.size() > 1 ? 1 : 0;
+        for (std::size_t k = 0; k < needle.size(); ++k) {
+            if (k != other && Commonness(fold[wanted[k]]) < Commonness(fold[wanted[best]])) {
+                best = k;
+            }
         }
-        const void* found = std::memchr(from, byte, static_cast<std::size_t>(end - from));
-        return found == nullptr ? end : static_cast<const unsigned char*>(found);
+        return best;
     };
-    const unsigned char* scan = bytes + from + anchor;
-    const unsigned char* nextLower = next(scan, lower);
-    const unsigned char* nextUpper = upper == lower ? end : next(scan, upper);
-    while (true) {
-        const unsigned char* candidate = std::min(nextLower, nextUpper);
-        if (candidate >= end) {
-            return 0;
+    const std::size_t first = rarest(needle.size());
+    const std::size_t second = needle.size() > 1 ? rarest(first) : first;
+    const auto caseOf = [&](std::size_t k) {
+        const unsigned char lower = fold[wanted[k]];
+        return std::pair{Splat(lower),
+                         Splat(static_cast<unsigned char>(UpperChar(static_cast<char>(lower))))};
+    };
+    const auto [firstLower, firstUpper] = caseOf(first);
+    const auto [secondLower, secondUpper] = caseOf(second);
+
+    const std::size_t last = text.size() - needle.size(); // the last place a match can start
+    for (; at + 16 <= last + 1; at += 16) {
+        Bytes16 one;
+        Bytes16 two;
+        std::memcpy(&one, bytes + at + first, sizeof one);
+        std::memcpy(&two, bytes + at + second, sizeof two);
+        const auto both = ((one == firstLower) | (one == firstUpper)) &
+                          ((two == secondLower) | (two == secondUpper));
+        std::uint64_t halves[2];
+        std::memcpy(halves, &both, sizeof halves);
+        if ((halves[0] | halves[1]) == 0) {
+            continue;
         }
-        const auto at = static_cast<std::size_t>(candidate - bytes) - anchor;
+        for (std::size_t k = 0; k < 16; ++k) {
+            if (both[k] != 0 && matchesAt(at + k)) {
+                return static_cast<long>(at + k) + 1;
+            }
+        }
+    }
+    for (; at <= last; ++at) {
         if (matchesAt(at)) {
             return static_cast<long>(at) + 1;
         }
-        if (candidate == nextLower) {
-            nextLower = next(candidate + 1, lower);
-        } else {
-            nextUpper = next(candidate + 1, upper);
-        }
     }
+    return 0;
 }
 
 std::string LTrim(std::string_view text) {

@@ -60,7 +60,18 @@ void ComposeRowText(const FixedLibrary& library, int row, std::string& text) {
     record = record.substr(0, static_cast<std::size_t>(library.RecordWidth));
     const auto last = record.find_last_not_of(' ');
     record = last == std::string_view::npos ? std::string_view() : record.substr(0, last + 1);
-    text = CleanTitle(library.Titles[index]);
+    // The title as CleanTitle gives it, without a copy: trimmed, and what follows its last tab.
+    std::string_view title = library.Titles[index];
+    const auto first = title.find_first_not_of(' ');
+    title = first == std::string_view::npos
+                ? std::string_view()
+                : title.substr(first, title.find_last_not_of(' ') - first + 1);
+    const auto tab = title.rfind(Tab);
+    if (tab != std::string_view::npos) {
+        title.remove_prefix(tab + 1);
+    }
+    // assign, not =, so that the caller's storage is kept.
+    text.assign(title);
     text += CrLf;
     text += CrLf;
     text += record;

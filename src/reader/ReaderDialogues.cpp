@@ -155,7 +155,7 @@ void Reader::ShowDialogue(int position) {
 
 void Reader::ComposeDialogueText(std::string& text) const {
     // Written into the caller's string, so that a search of all Dialogues keeps one buffer.
-    text = FormatDate(state_.DialogueDate, "dddd, h:nn am/pm, mmmm d, yyyy");
+    text.assign(FormatDate(state_.DialogueDate, "dddd, h:nn am/pm, mmmm d, yyyy"));
     text += "\r\n\r\nInspiration\r\n\r\n";
     text += state_.InspirationBody;
     text += "\r\n\r\nDialogue";

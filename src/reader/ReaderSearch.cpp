@@ -358,10 +358,10 @@ std::string Reader::SearchHoverText() const {
                    : "Search for words or phrases within only the displayed Dialogue. Click "
                      "'Index' to search all Dialogues, latest to earliest.";
     }
-    const char* const scope = world_.Values.ReadLibrary == ReadLibraries::Information ? "Information"
-                              : world_.Values.ReadLibrary == ReadLibraries::Knowledge
-                                  ? "Knowledge"
-                                  : "Advanced Knowledge";
+    const char* const scope =
+        world_.Values.ReadLibrary == ReadLibraries::Information ? "Information"
+        : world_.Values.ReadLibrary == ReadLibraries::Knowledge ? "Knowledge"
+                                                                : "Advanced Knowledge";
     // The doubled "text text" stands as the program has it.
     return std::string("Search for words or phrases within all ") + scope +
            ". The list opens, and Topics are displayed as the search text text is found.";

@@ -444,8 +444,8 @@ bool ReaderWindow::SearchKey(QKeyEvent* event) {
     if (text.size() == 1 && text[0].unicode() >= 32 && text[0].unicode() != 127) {
         const auto byte = CodePointToCp1252(text[0].unicode());
         // A character with no Windows-1252 code is refused.
-        if (!byte || reader_.KeyPress(static_cast<unsigned char>(*byte),
-                                      ReaderControl::txtSearch) == 0) {
+        if (!byte ||
+            reader_.KeyPress(static_cast<unsigned char>(*byte), ReaderControl::txtSearch) == 0) {
             Render();
             return true;
         }

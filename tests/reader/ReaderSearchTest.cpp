@@ -136,8 +136,9 @@ TEST_F(ReaderSearch, AllDialoguesLandOnTheThird) {
     Open(1);
     Read().Click(RC::cmdSearch);
     EXPECT_EQ(Title(), "Veyrant Dialogue Library -- Search Text");
-    EXPECT_EQ(Line(RC::txtSpin), "low \"Search Dialogues | \\tWhen you start a search with only the "
-                                 "Ind\" back=IndexText");
+    EXPECT_EQ(Line(RC::txtSpin),
+              "low \"Search Dialogues | \\tWhen you start a search with only the "
+              "Ind\" back=IndexText");
     EXPECT_EQ(Note(), "\"Search all Dialogues. Enter the text, then click 'Go' or press 'Enter'. "
                       "Click 'Cancel' to exit the search.\"");
     EXPECT_EQ(Line(RC::cmdSearch), "\"Enter >>\"");
@@ -146,8 +147,7 @@ TEST_F(ReaderSearch, AllDialoguesLandOnTheThird) {
     EXPECT_EQ(Title(), "Veyrant Dialogue -- 1/3 -- Thursday, 9:05 am, November 12, 2026 -- 10/21 "
                        "Days Old/Max");
     EXPECT_EQ(Line(RC::List1), "3 rows, selected 2, top 0, split back=IndexText");
-    EXPECT_NE(Read().Dump().find("Selection: 63+5 \"heron\""), std::string::npos)
-        << Read().Dump();
+    EXPECT_NE(Read().Dump().find("Selection: 63+5 \"heron\""), std::string::npos) << Read().Dump();
     EXPECT_EQ(Line(RC::cmdExitM), "\"Mark Exit\"");
 
     Read().Click(RC::cmdSearch);
