@@ -133,6 +133,8 @@ void Reader::EnterSearch() {
         state_.IndexMode = 1;
         FillFixedList(OpenLibrary());
     }
+    // A list filled afresh shows from its first row.
+    controls_.List.TopRow = 0;
     auto& spin = C(ReaderControl::txtSpin);
     spin.Text = SearchInstructions(world_.Values.ReadLibrary);
     spin.Background = ReaderColour::IndexText;

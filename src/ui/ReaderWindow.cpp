@@ -181,6 +181,10 @@ void ReaderWindow::Build() {
         }
         auto* button = new QPushButton(this);
         button->setFocusPolicy(Qt::NoFocus);
+        // The search's captions ("Enter >>", "< Next >") fill the narrow button in its large font.
+        if (control == ReaderControl::cmdSearch) {
+            button->setStyleSheet(QStringLiteral("padding: 0 1px;"));
+        }
         widgets_[Index(control)] = button;
         Watch(button, control);
         connect(button, &QPushButton::pressed, this, [this, control] {
