@@ -42,12 +42,20 @@ long Find(std::string_view text, std::string_view needle, long start) {
 
 namespace {
 
-// Each byte's lower case, as LowerChar gives it, looked up rather than worked out per byte.
+// How common a folded character is in the libraries' English prose: blanks and line ends most,
+// then letters by their usual frequency; digits, marks and accented letters least.
+constexpr std::string_view ByFrequency = "zqxjkvbpygfwmucldrhsniotae \r\n";
+
+// Each byte's lower case, as LowerChar gives it, and how common it is, looked up rather than
+// worked out for each byte.
 struct FoldTable {
     unsigned char Lower[256];
+    signed char Commonness[256];
     FoldTable() {
         for (int b = 0; b < 256; ++b) {
             Lower[b] = static_cast<unsigned char>(LowerChar(static_cast<char>(b)));
+            const auto at = ByFrequency.find(static_cast<char>(b));
+            Commonness[b] = at == std::string_view::npos ? -1 : static_cast<signed char>(at);
         }
     }
 };
@@ -55,14 +63,6 @@ struct FoldTable {
 const FoldTable& Folds() {
     static const FoldTable table;
     return table;
-}
-
-// How common a folded character is in the libraries' English prose: blanks and line ends most,
-// then letters by their usual frequency; digits, marks and accented letters least.
-int Commonness(unsigned char folded) {
-    static constexpr std::string_view ByFrequency = "zqxjkvbpygfwmucldrhsniotae \r\n";
-    const auto at = ByFrequency.find(static_cast<char>(folded));
-    return at == std::string_view::npos ? -1 : static_cast<int>(at);
 }
 
 // Sixteen bytes compared at once; GCC and Clang give this on every target the program builds
@@ -94,6 +94,7 @@ long FindNoCase(std::string_view text, std::string_view needle, long start) {
         return 0;
     }
     const auto& fold = Folds().Lower;
+    const auto& commonness = Folds().Commonness;
     const auto* const bytes = reinterpret_cast<const unsigned char*>(text.data());
     const auto* const wanted = reinterpret_cast<const unsigned char*>(needle.data());
     const auto matchesAt = [&](std::size_t from) {
@@ -108,7 +109,7 @@ long FindNoCase(std::string_view text, std::string_view needle, long start) {
     const auto rarest = [&](std::size_t other) {
         std::size_t best = other == 0 && needle.size() > 1 ? 1 : 0;
         for (std::size_t k = 0; k < needle.size(); ++k) {
-            if (k != other && Commonness(fold[wanted[k]]) < Commonness(fold[wanted[best]])) {
+            if (k != other && commonness[fold[wanted[k]]] < commonness[fold[wanted[best]]]) {
                 best = k;
             }
         }
