@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cstdint>
 #include <cstring>
-#include <utility>
 
 namespace veyrant {
 
@@ -69,68 +68,79 @@ const FoldTable& Folds() {
 // for.
 using Bytes16 = unsigned char __attribute__((vector_size(16)));
 
-Bytes16 Splat(unsigned char byte) {
-    Bytes16 all{};
-    for (int k = 0; k < 16; ++k) {
-        all[k] = byte;
-    }
-    return all;
+Bytes16 Load16(const unsigned char* bytes) {
+    Bytes16 loaded;
+    std::memcpy(&loaded, bytes, sizeof loaded);
+    return loaded;
 }
 
 } // namespace
 
-// No lower-case copies. The needle's two least common characters are looked for in both cases,
-// sixteen starting places at a time; only where both stand is the whole needle compared, through
-// the fold table.
-long FindNoCase(std::string_view text, std::string_view needle, long start) {
+// The needle's two least common characters are looked for in both cases, sixteen starting places
+// at a time; only where both stand is the whole needle compared, through the fold table. No
+// lower-case copy of the text is made.
+NoCaseFinder::NoCaseFinder(std::string_view needle) : needle_(needle.size(), '\0') {
+    const auto& table = Folds();
+    for (std::size_t k = 0; k < needle.size(); ++k) {
+        needle_[k] = static_cast<char>(table.Lower[static_cast<unsigned char>(needle[k])]);
+    }
+    if (needle_.empty()) {
+        return;
+    }
+    const auto commonness = [&](std::size_t k) {
+        return table.Commonness[static_cast<unsigned char>(needle_[k])];
+    };
+    const auto rarest = [&](std::size_t other) {
+        std::size_t best = other == 0 && needle_.size() > 1 ? 1 : 0;
+        for (std::size_t k = 0; k < needle_.size(); ++k) {
+            if (k != other && commonness(k) < commonness(best)) {
+                best = k;
+            }
+        }
+        return best;
+    };
+    first_ = rarest(needle_.size());
+    second_ = needle_.size() > 1 ? rarest(first_) : first_;
+    const auto fill = [&](std::size_t k, unsigned char(&lower)[16], unsigned char(&upper)[16]) {
+        const char folded = needle_[k];
+        std::memset(lower, static_cast<unsigned char>(folded), sizeof lower);
+        std::memset(upper, static_cast<unsigned char>(UpperChar(folded)), sizeof upper);
+    };
+    fill(first_, firstLower_, firstUpper_);
+    fill(second_, secondLower_, secondUpper_);
+}
+
+long NoCaseFinder::Find(std::string_view text, long start) const {
     if (start < 1 || static_cast<std::size_t>(start - 1) > text.size()) {
         return 0;
     }
     auto at = static_cast<std::size_t>(start - 1);
-    if (needle.empty()) {
+    if (needle_.empty()) {
         return start;
     }
-    if (needle.size() > text.size() - at) {
+    if (needle_.size() > text.size() - at) {
         return 0;
     }
     const auto& fold = Folds().Lower;
-    const auto& commonness = Folds().Commonness;
     const auto* const bytes = reinterpret_cast<const unsigned char*>(text.data());
-    const auto* const wanted = reinterpret_cast<const unsigned char*>(needle.data());
+    const auto* const wanted = reinterpret_cast<const unsigned char*>(needle_.data());
     const auto matchesAt = [&](std::size_t from) {
-        for (std::size_t k = 0; k < needle.size(); ++k) {
-            if (fold[bytes[from + k]] != fold[wanted[k]]) {
+        for (std::size_t k = 0; k < needle_.size(); ++k) {
+            if (fold[bytes[from + k]] != wanted[k]) {
                 return false;
             }
         }
         return true;
     };
 
-    const auto rarest = [&](std::size_t other) {
-        std::size_t best = other == 0 && needle.size() > 1 ? 1 : 0;
-        for (std::size_t k = 0; k < needle.size(); ++k) {
-            if (k != other && commonness[fold[wanted[k]]] < commonness[fold[wanted[best]]]) {
-                best = k;
-            }
-        }
-        return best;
-    };
-    const std::size_t first = rarest(needle.size());
-    const std::size_t second = needle.size() > 1 ? rarest(first) : first;
-    const auto caseOf = [&](std::size_t k) {
-        const unsigned char lower = fold[wanted[k]];
-        return std::pair{Splat(lower),
-                         Splat(static_cast<unsigned char>(UpperChar(static_cast<char>(lower))))};
-    };
-    const auto [firstLower, firstUpper] = caseOf(first);
-    const auto [secondLower, secondUpper] = caseOf(second);
-
-    const std::size_t last = text.size() - needle.size(); // the last place a match can start
+    const Bytes16 firstLower = Load16(firstLower_);
+    const Bytes16 firstUpper = Load16(firstUpper_);
+    const Bytes16 secondLower = Load16(secondLower_);
+    const Bytes16 secondUpper = Load16(secondUpper_);
+    const std::size_t last = text.size() - needle_.size(); // the last place a match can start
     for (; at + 16 <= last + 1; at += 16) {
-        Bytes16 one;
-        Bytes16 two;
-        std::memcpy(&one, bytes + at + first, sizeof one);
-        std::memcpy(&two, bytes + at + second, sizeof two);
+        const Bytes16 one = Load16(bytes + at + first_);
+        const Bytes16 two = Load16(bytes + at + second_);
         const auto both = ((one == firstLower) | (one == firstUpper)) &
                           ((two == secondLower) | (two == secondUpper));
         std::uint64_t halves[2];
@@ -150,6 +160,10 @@ long FindNoCase(std::string_view text, std::string_view needle, long start) {
         }
     }
     return 0;
+}
+
+long FindNoCase(std::string_view text, std::string_view needle, long start) {
+    return NoCaseFinder(needle).Find(text, start);
 }
 
 std::string LTrim(std::string_view text) {

@@ -16,6 +16,8 @@
 
 namespace veyrant {
 
+class NoCaseFinder;
+
 class Reader {
 public:
     // The window's load: geometry for the display scale, fixed colours and the key lines.
@@ -96,10 +98,10 @@ private:
     void ClickSearchBox();
     void SearchEnter();
     void SetSearchBoxText(const std::string& text);
-    bool SearchOpenDialogue();
-    bool SearchAllDialogues();
-    bool SearchFixedLibrary();
-    bool FindSearchText();
+    bool SearchOpenDialogue(const NoCaseFinder& finder);
+    bool SearchAllDialogues(const NoCaseFinder& finder);
+    bool SearchFixedLibrary(const NoCaseFinder& finder);
+    bool FindSearchText(const NoCaseFinder& finder);
     void ShowHit();
     void EndWalk(const char* notFound);
     std::string SearchHoverText() const;

@@ -208,26 +208,29 @@ void Reader::SearchStep() {
     world_.Windows.StopTimer(TimerId::ReadHover);
     state_.HoverTicks = 0;
     C(ReaderControl::cmdSelect).Enabled = false;
+    // The search text is made ready once for the whole walk.
+    const NoCaseFinder finder(state_.SearchText);
     if (!IsDialogueLibrary()) {
-        SearchFixedLibrary();
+        SearchFixedLibrary(finder);
     } else if (state_.DialogueIndexShown == 1) {
-        SearchAllDialogues();
+        SearchAllDialogues(finder);
     } else {
-        SearchOpenDialogue();
+        SearchOpenDialogue(finder);
     }
     C(ReaderControl::cmdSelect).Enabled = true;
 }
 
 // The next hit after the last one; overlapping hits count, since the next start is one past the
 // last hit's first character.
-bool Reader::FindSearchText() {
-    state_.HitPos = FindNoCase(state_.DisplayText, state_.SearchText, state_.HitPos + 1);
+bool Reader::FindSearchText(const NoCaseFinder& finder) {
+    // As FindNoCase(DisplayText, SearchText, HitPos + 1) finds it.
+    state_.HitPos = finder.Find(state_.DisplayText, state_.HitPos + 1);
     return state_.HitPos != 0;
 }
 
-bool Reader::SearchOpenDialogue() {
+bool Reader::SearchOpenDialogue(const NoCaseFinder& finder) {
     state_.DisplayText = C(ReaderControl::txtSpin).Text;
-    if (FindSearchText()) {
+    if (FindSearchText(finder)) {
         ++state_.HitCount;
         ShowHit();
         return true;
@@ -238,7 +241,7 @@ bool Reader::SearchOpenDialogue() {
     return false;
 }
 
-bool Reader::SearchAllDialogues() {
+bool Reader::SearchAllDialogues(const NoCaseFinder& finder) {
     const int count = world_.Library.Listing().LibraryCount;
     while (true) {
         if (state_.SearchRow >= count) {
@@ -252,7 +255,7 @@ bool Reader::SearchAllDialogues() {
             ++state_.SearchLoaded;
         }
         ComposeDialogueText(state_.DisplayText);
-        if (FindSearchText()) {
+        if (FindSearchText(finder)) {
             break;
         }
         ++state_.SearchRow;
@@ -273,7 +276,7 @@ bool Reader::SearchAllDialogues() {
     return true;
 }
 
-bool Reader::SearchFixedLibrary() {
+bool Reader::SearchFixedLibrary(const NoCaseFinder& finder) {
     const FixedLibrary& library = OpenLibrary();
     while (true) {
         if (state_.SearchRow > library.LastRow) {
@@ -281,7 +284,7 @@ bool Reader::SearchFixedLibrary() {
             return false;
         }
         ComposeRowText(library, state_.SearchRow, state_.DisplayText);
-        if (FindSearchText()) {
+        if (FindSearchText(finder)) {
             break;
         }
         ++state_.SearchRow;
