@@ -3,6 +3,7 @@
 // Text helpers on Windows-1252 strings: one byte is one character, and positions count from 1
 // as the program counts them.
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -22,6 +23,24 @@ std::string Right(std::string_view text, long length);
 // 1-based position of needle at or behind start, or 0. An empty needle is found at start.
 long Find(std::string_view text, std::string_view needle, long start = 1);
 long FindNoCase(std::string_view text, std::string_view needle, long start = 1);
+
+// FindNoCase with the needle made ready once, for a search that looks through many texts. It
+// finds what comparing lower-cased copies would find, without making them.
+class NoCaseFinder {
+public:
+    explicit NoCaseFinder(std::string_view needle);
+    long Find(std::string_view text, long start = 1) const;
+
+private:
+    std::string needle_; // lower-cased
+    // The needle's two least common characters, and each of their cases sixteen times over.
+    std::size_t first_ = 0;
+    std::size_t second_ = 0;
+    unsigned char firstLower_[16] = {};
+    unsigned char firstUpper_[16] = {};
+    unsigned char secondLower_[16] = {};
+    unsigned char secondUpper_[16] = {};
+};
 
 // Blanks (code 32) only, as the program trims.
 std::string Trim(std::string_view text);

@@ -51,5 +51,7 @@ std::string CleanTitle(const std::string& title);
 std::string TrimmedRecord(const FixedLibrary& library, int row);
 // The title, two line ends, and the row's text without trailing spaces.
 std::string ComposeRowText(const FixedLibrary& library, int row);
+// The same into the caller's string, whose storage a walk through the rows keeps.
+void ComposeRowText(const FixedLibrary& library, int row, std::string& text);
 
 } // namespace veyrant

@@ -1,6 +1,8 @@
 #include "core/Text.h"
 #include "reader/FixedLibrary.h"
 
+#include <string_view>
+
 namespace veyrant {
 
 namespace {
@@ -45,15 +47,44 @@ std::string CleanTitle(const std::string& title) {
     return clean;
 }
 
+namespace {
+
+// A record longer than its width is cut, as a fixed-width record would cut it; trailing blanks go.
+std::string_view RecordView(const FixedLibrary& library, int row) {
+    std::string_view record = library.Texts[static_cast<std::size_t>(row)];
+    record = record.substr(0, static_cast<std::size_t>(library.RecordWidth));
+    const auto last = record.find_last_not_of(' ');
+    return last == std::string_view::npos ? std::string_view() : record.substr(0, last + 1);
+}
+
+} // namespace
+
 std::string TrimmedRecord(const FixedLibrary& library, int row) {
-    // A record longer than its width is cut, as a fixed-width record would cut it.
-    return RTrim(library.Texts[static_cast<std::size_t>(row)].substr(
-        0, static_cast<std::size_t>(library.RecordWidth)));
+    return std::string(RecordView(library, row));
 }
 
 std::string ComposeRowText(const FixedLibrary& library, int row) {
-    return CleanTitle(library.Titles[static_cast<std::size_t>(row)]) + std::string(CrLf) +
-           std::string(CrLf) + TrimmedRecord(library, row);
+    std::string text;
+    ComposeRowText(library, row, text);
+    return text;
+}
+
+void ComposeRowText(const FixedLibrary& library, int row, std::string& text) {
+    // The title as CleanTitle gives it, without a copy: trimmed, and what follows its last tab.
+    std::string_view title = library.Titles[static_cast<std::size_t>(row)];
+    const auto first = title.find_first_not_of(' ');
+    title = first == std::string_view::npos
+                ? std::string_view()
+                : title.substr(first, title.find_last_not_of(' ') - first + 1);
+    const auto tab = title.rfind(Tab);
+    if (tab != std::string_view::npos) {
+        title.remove_prefix(tab + 1);
+    }
+    // assign, not =, so that the caller's storage is kept.
+    text.assign(title);
+    text += CrLf;
+    text += CrLf;
+    text += RecordView(library, row);
 }
 
 } // namespace veyrant

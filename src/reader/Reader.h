@@ -16,6 +16,8 @@
 
 namespace veyrant {
 
+class NoCaseFinder;
+
 class Reader {
 public:
     // The window's load: geometry for the display scale, fixed colours and the key lines.
@@ -47,6 +49,8 @@ public:
     void MouseUp(ReaderControl control, MouseButton button);
     void MouseMove(ReaderControl control);
     void FocusGained(ReaderControl control);
+    // The user changed the text of txtSearch.
+    void SearchTextChanged(const std::string& text);
     void TimerFired(TimerId timer);
 
     // The outer size of the window in twips, frame included.
@@ -63,6 +67,9 @@ private:
     void OpenFixedList();
     void FillFixedList(const FixedLibrary& library);
     void BuildDialogueList();
+    void FillDialogueList();
+    // The date line, the Inspiration and the Dialogue, as ShowDialogue shows them.
+    void ComposeDialogueText(std::string& text) const;
     void LoadDialogue(int position);
     void ShowDialogue(int position);
     std::string FitToList(const std::string& text) const;
@@ -80,8 +87,24 @@ private:
     void ReopenList();
     void SetButtons(int buttonState);
     void SetSearchButton(bool on);
-    void EndSearchMode();
     void ScrollList();
+
+    // Search: cmdSearch's caption is its state ("Search", "Enter >>", "< Go >", "< Next >",
+    // "New"), and the walk goes row by row through the composed text of each row.
+    void SetSearchMode(int on);
+    void EnterSearch();
+    void SearchStep();
+    void ClickSearch();
+    void ClickSearchBox();
+    void SearchEnter();
+    void SetSearchBoxText(const std::string& text);
+    bool SearchOpenDialogue(const NoCaseFinder& finder);
+    bool SearchAllDialogues(const NoCaseFinder& finder);
+    bool SearchFixedLibrary(const NoCaseFinder& finder);
+    bool FindSearchText(const NoCaseFinder& finder);
+    void ShowHit();
+    void EndWalk(const char* notFound);
+    std::string SearchHoverText() const;
 
     // Stepping and window modes.
     void SetStepButtons(bool on);

@@ -69,10 +69,10 @@ void Reader::BuildDialogueList() {
     }
 }
 
-void Reader::OpenDialogueList() {
-    const auto& listing = world_.Library.Listing();
-    const auto& limits = world_.UserSettings;
-    const int count = listing.LibraryCount;
+// The list runs latest first; LibraryListOrder maps a list position from 1 to the Library's
+// tables.
+void Reader::FillDialogueList() {
+    const int count = world_.Library.Listing().LibraryCount;
     auto& rows = controls_.List.Rows;
     rows.clear();
     controls_.List.Selected = -1;
@@ -81,6 +81,13 @@ void Reader::OpenDialogueList() {
         state_.LibraryListOrder[static_cast<std::size_t>(count - index + 1)] = index;
         rows.push_back(state_.LibraryListText[static_cast<std::size_t>(index)]);
     }
+}
+
+void Reader::OpenDialogueList() {
+    const auto& listing = world_.Library.Listing();
+    const auto& limits = world_.UserSettings;
+    const int count = listing.LibraryCount;
+    FillDialogueList();
     C(ReaderControl::txtSpin).Text = ReadInstructions(ReadLibraries::Dialogue);
     C(ReaderControl::txtSpin).Background = ReaderColour::IndexText;
 
@@ -142,10 +149,17 @@ void Reader::ShowDialogue(int position) {
                       std::to_string(state_.DialogueAge) + "/" +
                       std::to_string(world_.UserSettings.MaxLibraryDays) + " Days Old/Max";
     auto& spin = C(ReaderControl::txtSpin);
-    spin.Text = FormatDate(state_.DialogueDate, "dddd, h:nn am/pm, mmmm d, yyyy") +
-                "\r\n\r\nInspiration\r\n\r\n" + state_.InspirationBody + "\r\n\r\nDialogue" +
-                state_.DialogueBody;
+    ComposeDialogueText(spin.Text);
     spin.Background = ReaderColour::ReadingText;
+}
+
+void Reader::ComposeDialogueText(std::string& text) const {
+    // Written into the caller's string, so that a search of all Dialogues keeps one buffer.
+    text.assign(FormatDate(state_.DialogueDate, "dddd, h:nn am/pm, mmmm d, yyyy"));
+    text += "\r\n\r\nInspiration\r\n\r\n";
+    text += state_.InspirationBody;
+    text += "\r\n\r\nDialogue";
+    text += state_.DialogueBody;
 }
 
 } // namespace veyrant

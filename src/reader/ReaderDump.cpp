@@ -4,6 +4,8 @@
 #include "core/DumpText.h"
 #include "reader/Reader.h"
 
+#include <algorithm>
+
 namespace veyrant {
 
 std::string Reader::Dump() const {
@@ -30,6 +32,16 @@ std::string Reader::Dump() const {
         dump += DumpFlags(control, id == ReaderControl::List1 || id == ReaderControl::txtSpin,
                           id == controls_.Focus);
         dump += "\n";
+    }
+    // A hit of the search is the text selected in txtSpin.
+    const auto& spin = controls_[ReaderControl::txtSpin];
+    if (spin.Visible && spin.SelectionLength > 0) {
+        dump += "Selection: " + std::to_string(spin.Caret) + "+" +
+                std::to_string(spin.SelectionLength) + " \"" +
+                DumpLine(spin.Text.substr(
+                    static_cast<std::size_t>(std::min<long>(spin.Caret, spin.Text.size())),
+                    static_cast<std::size_t>(spin.SelectionLength))) +
+                "\"\n";
     }
     return dump;
 }

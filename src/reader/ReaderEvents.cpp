@@ -78,6 +78,12 @@ int Reader::WindowHeight() const {
 
 void Reader::Click(ReaderControl control) {
     switch (control) {
+    case ReaderControl::cmdSearch:
+        ClickSearch();
+        break;
+    case ReaderControl::txtSearch:
+        ClickSearchBox();
+        break;
     case ReaderControl::cmdNext:
         Step(1);
         break;

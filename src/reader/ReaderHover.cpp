@@ -102,6 +102,8 @@ std::string Reader::HoverTextFor(ReaderControl button) const {
                                      "click 'Index' to reset list of Sections.";
     case ReaderControl::cmdWindow:
         return WindowHoverText();
+    case ReaderControl::cmdSearch:
+        return SearchHoverText();
     default:
         return {};
     }

@@ -28,7 +28,7 @@ Reader::Reader(ReaderWorld world) : world_(world) {
         }
     }
     C(ReaderControl::Panel1).Background = ReaderColour::PanelGrey;
-    EndSearchMode();
+    SetSearchMode(0);
 }
 
 std::int16_t& Reader::OpenFlag(int library) {
@@ -118,7 +118,7 @@ void Reader::ShowLibrary() {
     C(ReaderControl::List1).Ink = ReaderColour::Black;
     ApplyFontStep();
     C(ReaderControl::List1).Height = ListIsSplit() ? SplitListHeight() : ExpandedListHeight();
-    EndSearchMode();
+    SetSearchMode(0);
     state_.ListPos = -1;
     state_.HitCount = 0;
     state_.IndexMode = 0;

@@ -104,7 +104,7 @@ void Reader::ClickSelect() {
     const std::string caption = C(ReaderControl::cmdSelect).Text;
     const int library = world_.Values.ReadLibrary;
     if (caption == CancelCaption) {
-        EndSearchMode();
+        SetSearchMode(0);
         if (state_.ListPos >= 0) {
             controls_.List.Selected = -1;
         }
@@ -214,16 +214,6 @@ void Reader::SetButtons(int buttonState) {
 
 void Reader::SetSearchButton(bool on) {
     C(ReaderControl::cmdSearch).Enabled = on;
-}
-
-void Reader::EndSearchMode() {
-    state_.SearchActive = 0;
-    auto& search = C(ReaderControl::txtSearch);
-    search.Enabled = false;
-    search.Ink = ReaderColour::IndexText;
-    search.Background = ReaderColour::ListEmpty;
-    search.Text = "Search not active";
-    C(ReaderControl::cmdSearch).Text = "Search";
 }
 
 } // namespace veyrant

@@ -23,7 +23,6 @@ inline constexpr std::int16_t Advanced = 6;
 struct ReaderState {
     std::int16_t ListPos = -1;
     std::int16_t SearchActive = 0;
-    std::int16_t HitCount = 0;
     std::int16_t DialogueIndexShown = 0;
     std::int16_t IndexMode = 0; // 0 Index-1, the Sections; 1 Index-2, every row
     std::int16_t ReopenKind = 0;
@@ -44,6 +43,19 @@ struct ReaderState {
     std::string HoverText;
     std::int16_t HoverTicks = 0;
     std::int16_t SpinRightClick = 0;
+
+    // The search. SearchText is always what stands in txtSearch, blanks included.
+    std::string SearchText;
+    long HitCount = 0;
+    // From 1, the last hit's place in DisplayText; 0 before the first hit of a row.
+    long HitPos = 0;
+    // The row, or list position from 0, at which the walk stands.
+    std::int16_t SearchRow = 0;
+    // The list position loaded for the walk, plus one, so steps inside one Dialogue read nothing.
+    std::int16_t SearchLoaded = 0;
+    // The last hit's selection in txtSpin, from 0, restored after a layout change.
+    long HitStart = 0;
+    long HitLength = 0;
 };
 
 } // namespace veyrant

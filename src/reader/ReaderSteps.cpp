@@ -85,9 +85,14 @@ void Reader::PlaceText(int top, int height) {
     auto& spin = C(ReaderControl::txtSpin);
     spin.Top = static_cast<int>(std::lround(top * world_.Scale.ScaleFactor));
     spin.Height = static_cast<int>(std::lround(height * world_.Scale.ScaleFactor));
-    // The text shows from its top again.
-    spin.Caret = 0;
-    spin.SelectionLength = 0;
+    // A hit found by the search is selected again; otherwise the text shows from its top.
+    if (state_.HitCount > 0) {
+        spin.Caret = state_.HitStart;
+        spin.SelectionLength = state_.HitLength;
+    } else {
+        spin.Caret = 0;
+        spin.SelectionLength = 0;
+    }
 }
 
 void Reader::SetWindowLayout(int mode) {
@@ -205,6 +210,12 @@ int Reader::KeyDown(int keyCode) {
 int Reader::KeyPress(int keyAscii, ReaderControl control) {
     // The text is never edited: what is typed at the resting box or the text box goes nowhere.
     if (control == ReaderControl::txtCursor || control == ReaderControl::txtSpin) {
+        return 0;
+    }
+    // Enter in the search box steps the search and goes no further: a search text holds no
+    // line end.
+    if (control == ReaderControl::txtSearch && keyAscii == KeyCode::Enter) {
+        SearchEnter();
         return 0;
     }
     return keyAscii;

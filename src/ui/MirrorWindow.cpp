@@ -7,6 +7,7 @@
 #include "shell/WindowPlacement.h"
 #include "ui/AccessKeys.h"
 #include "ui/GuardedTextBox.h"
+#include "ui/QtText.h"
 #include "ui/QtWindowLayer.h"
 
 #include <QCloseEvent>
@@ -124,19 +125,6 @@ int KeyCharacter(const QKeyEvent* event) {
     }
     const auto byte = CodePointToCp1252(text[0].unicode());
     return byte ? static_cast<unsigned char>(*byte) : -1;
-}
-
-// The logic counts CR LF as two characters where the box holds one line break.
-int BoxPosition(const std::string& text, long caret) {
-    int position = 0;
-    const long end = std::min<long>(caret, static_cast<long>(text.size()));
-    for (long index = 0; index < end; ++index) {
-        if (!(text[static_cast<std::size_t>(index)] == '\r' && index + 1 < end &&
-              text[static_cast<std::size_t>(index + 1)] == '\n')) {
-            ++position;
-        }
-    }
-    return position;
 }
 
 bool IsTextBox(MirrorControl control) {

@@ -1,5 +1,6 @@
 #include "ui/ReaderWindow.h"
 
+#include "core/Cp1252.h"
 #include "core/KeyCodes.h"
 #include "shell/WindowPlacement.h"
 #include "ui/QtText.h"
@@ -15,6 +16,7 @@
 #include <QPushButton>
 #include <QScrollBar>
 #include <QStyle>
+#include <QTextCursor>
 #include <cmath>
 
 namespace veyrant {
@@ -23,6 +25,7 @@ namespace {
 
 constexpr int FrameWidth = 90;
 constexpr int FrameHeight = 405;
+constexpr int SearchLength = 60;
 
 int Pixels(int twips) {
     return static_cast<int>(std::lround(static_cast<double>(twips) / TwipsPerPixel));
@@ -42,6 +45,7 @@ QPushButton[hoverMark="true"] { color: rgb(0, 0, 192); text-decoration: underlin
 QPushButton:disabled { color: rgb(150, 150, 156); border-style: inset; }
 QLabel#txtNote { border: 1px solid rgb(160, 160, 170); padding: 0 6px; }
 QListWidget, QPlainTextEdit { border: 1px solid rgb(150, 150, 160); color: black; }
+QLineEdit { border: 1px solid rgb(150, 150, 160); padding: 0 4px; }
 )";
 
 // The Reader's keys by the code the logic knows them by; 0 for any other key.
@@ -155,8 +159,20 @@ void ReaderWindow::Build() {
     auto* search = new QLineEdit(this);
     search->setContextMenuPolicy(Qt::NoContextMenu);
     search->setAccessibleName(QStringLiteral("Search text"));
+    // No logic depends on the length; sixty characters is more than a phrase needs.
+    search->setMaxLength(SearchLength);
+    search->setDragEnabled(false);
+    search->setAcceptDrops(false);
     widgets_[Index(ReaderControl::txtSearch)] = search;
     Watch(search, ReaderControl::txtSearch);
+    // Only the user's edits: the program's own texts come from the logic.
+    connect(search, &QLineEdit::textEdited, this, [this](const QString& text) {
+        const auto typed = Utf16ToCp1252(text.toStdU16String());
+        if (typed) {
+            reader_.SearchTextChanged(*typed);
+        }
+        Render();
+    });
 
     for (int index = 0; index < ReaderControlCount; ++index) {
         const auto control = static_cast<ReaderControl>(index);
@@ -165,6 +181,10 @@ void ReaderWindow::Build() {
         }
         auto* button = new QPushButton(this);
         button->setFocusPolicy(Qt::NoFocus);
+        // The search's captions ("Enter >>", "< Next >") fill the narrow button in its large font.
+        if (control == ReaderControl::cmdSearch) {
+            button->setStyleSheet(QStringLiteral("padding: 0 1px;"));
+        }
         widgets_[Index(control)] = button;
         Watch(button, control);
         connect(button, &QPushButton::pressed, this, [this, control] {
@@ -241,7 +261,12 @@ void ReaderWindow::RenderControl(ReaderControl control, bool force) {
         }
     }
     if (force || now.Background != was.Background || now.Ink != was.Ink) {
-        if (control == ReaderControl::List1 || control == ReaderControl::txtSpin) {
+        if (control == ReaderControl::txtSpin) {
+            // A hit stays marked while the focus is in the search box.
+            widget->setStyleSheet(QStringLiteral("background: %1; selection-background-color: "
+                                                 "rgb(0, 0, 128); selection-color: white;")
+                                      .arg(Css(now.Background)));
+        } else if (control == ReaderControl::List1) {
             widget->setStyleSheet(QStringLiteral("background: %1;").arg(Css(now.Background)));
         } else if (control == ReaderControl::txtNote) {
             widget->setStyleSheet(QStringLiteral("color: %1; background: %2;")
@@ -268,18 +293,25 @@ void ReaderWindow::RenderControl(ReaderControl control, bool force) {
             label->setText(ToQt(now.Text));
         }
     } else if (auto* line = qobject_cast<QLineEdit*>(widget)) {
-        if (force || now.Text != was.Text) {
+        // What the user typed is there already; setting it again would move the caret.
+        if ((force || now.Text != was.Text) && line->text() != ToQt(now.Text)) {
             line->setText(ToQt(now.Text));
         }
     }
     if (force || now.Visible != was.Visible) {
         widget->setVisible(now.Visible);
     }
-    const std::string text = was.Text;
+    if (control == ReaderControl::txtSpin &&
+        (force || now.Visible != was.Visible || now.Top != was.Top || now.Height != was.Height)) {
+        spinPlaced_ = true;
+    }
+    const ReaderItem kept = was;
     was = now;
-    // The text box's text is copied by RenderText, which compares it first.
+    // The text box's text and selection are copied by RenderText, which compares them first.
     if (control == ReaderControl::txtSpin) {
-        was.Text = text;
+        was.Text = kept.Text;
+        was.Caret = kept.Caret;
+        was.SelectionLength = kept.SelectionLength;
     }
 }
 
@@ -309,11 +341,29 @@ void ReaderWindow::RenderList(bool force) {
 void ReaderWindow::RenderText(bool force) {
     const auto& now = reader_.Controls()[ReaderControl::txtSpin];
     auto& was = shown_[ReaderControl::txtSpin];
-    if (force || now.Text != was.Text) {
+    const bool textChanged = force || now.Text != was.Text;
+    if (textChanged) {
         spin_->setPlainText(ToQt(now.Text));
         spin_->verticalScrollBar()->setValue(0);
     }
+    // The selection is a hit of the search, kept in view; otherwise the caret is at the top.
+    if (textChanged || spinPlaced_ || now.Caret != was.Caret ||
+        now.SelectionLength != was.SelectionLength) {
+        QTextCursor cursor = spin_->textCursor();
+        cursor.setPosition(BoxPosition(now.Text, now.Caret));
+        if (now.SelectionLength > 0) {
+            cursor.setPosition(BoxPosition(now.Text, now.Caret + now.SelectionLength),
+                               QTextCursor::KeepAnchor);
+        }
+        spin_->setTextCursor(cursor);
+        if (now.Visible) {
+            spin_->ensureCursorVisible();
+        }
+        spinPlaced_ = false;
+    }
     was.Text = now.Text;
+    was.Caret = now.Caret;
+    was.SelectionLength = now.SelectionLength;
 }
 
 void ReaderWindow::keyPressEvent(QKeyEvent* event) {
@@ -345,7 +395,10 @@ bool ReaderWindow::eventFilter(QObject* watched, QEvent* event) {
             (IsReaderButton(control) && mouse->button() == Qt::RightButton)) {
             reader_.MouseDown(control, ButtonOf(mouse));
             Render();
-            return control == ReaderControl::txtSpin || control == ReaderControl::txtSearch;
+            // A left press places the caret in the search box; no other press reaches it, so
+            // nothing is pasted by the middle button.
+            return control == ReaderControl::txtSpin ||
+                   (control == ReaderControl::txtSearch && mouse->button() != Qt::LeftButton);
         }
         break;
     }
@@ -355,8 +408,16 @@ bool ReaderWindow::eventFilter(QObject* watched, QEvent* event) {
             Render();
             return true;
         }
+        if (control == ReaderControl::txtSearch &&
+            static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton) {
+            reader_.Click(control);
+            Render();
+        }
         break;
     case QEvent::KeyPress:
+        if (control == ReaderControl::txtSearch) {
+            return SearchKey(static_cast<QKeyEvent*>(event));
+        }
         if (watched != this) {
             keyPressEvent(static_cast<QKeyEvent*>(event));
             return true;
@@ -366,6 +427,34 @@ bool ReaderWindow::eventFilter(QObject* watched, QEvent* event) {
         break;
     }
     return QWidget::eventFilter(watched, event);
+}
+
+bool ReaderWindow::SearchKey(QKeyEvent* event) {
+    // No shortcut reaches the box: text cannot be pasted, cut or copied.
+    if (event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) {
+        return true;
+    }
+    const int key = ReaderKey(event);
+    if (key != 0 && reader_.KeyDown(key) == 0) {
+        Render();
+        return true;
+    }
+    if (key == KeyCode::Enter) {
+        reader_.KeyPress(KeyCode::Enter, ReaderControl::txtSearch);
+        Render();
+        return true;
+    }
+    const QString text = event->text();
+    if (text.size() == 1 && text[0].unicode() >= 32 && text[0].unicode() != 127) {
+        const auto byte = CodePointToCp1252(text[0].unicode());
+        // A character with no Windows-1252 code is refused.
+        if (!byte ||
+            reader_.KeyPress(static_cast<unsigned char>(*byte), ReaderControl::txtSearch) == 0) {
+            Render();
+            return true;
+        }
+    }
+    return false;
 }
 
 void ReaderWindow::closeEvent(QCloseEvent* event) {

@@ -42,6 +42,8 @@ private:
     void RenderControl(ReaderControl control, bool force);
     void RenderList(bool force);
     void RenderText(bool force);
+    // A key in the search box: true when the window used it, false to let the box edit.
+    bool SearchKey(QKeyEvent* event);
 
     Application& app_;
     Reader& reader_;
@@ -50,6 +52,8 @@ private:
     QPlainTextEdit* spin_ = nullptr;
     ReaderControls shown_;
     bool rendered_ = false;
+    // txtSpin moved or came into view, so its caret must be brought into view again.
+    bool spinPlaced_ = false;
     bool rendering_ = false;
 };
 

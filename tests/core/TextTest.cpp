@@ -39,6 +39,50 @@ TEST(Text, FindsWithAndWithoutCase) {
     EXPECT_EQ(Find("abc", "", 2), 2);
 }
 
+// The search's matching skips the lower-case copies; it must find exactly what comparing two
+// lower-cased copies finds, at every start, for every byte and for overlapping hits.
+TEST(Text, FindNoCaseAgreesWithComparingLowerCasedCopies) {
+    const auto literal = [](std::string_view text, std::string_view needle, long start) {
+        return Find(Lower(text), Lower(needle), start);
+    };
+    EXPECT_EQ(FindNoCase("aaa", "aa", 1), 1);
+    EXPECT_EQ(FindNoCase("aaa", "aa", 2), 2);
+    EXPECT_EQ(FindNoCase("aaa", "aa", 3), 0);
+    EXPECT_EQ(FindNoCase("\tText of row", " text"), 0);
+    EXPECT_EQ(FindNoCase("Caf\xC9 \x8A", "\xE9 \x9A"), 4);
+    EXPECT_EQ(FindNoCase("abc", "abcd"), 0);
+    EXPECT_EQ(FindNoCase("abc", "", 4), 4);
+    EXPECT_EQ(FindNoCase("abc", "a", 5), 0);
+
+    // Every byte against every byte, so each has exactly the partners Lower gives it.
+    for (int a = 0; a < 256; ++a) {
+        for (int b = 0; b < 256; ++b) {
+            const std::string text(1, static_cast<char>(a));
+            const std::string needle(1, static_cast<char>(b));
+            ASSERT_EQ(FindNoCase(text, needle), literal(text, needle, 1)) << a << " " << b;
+        }
+    }
+    // Short random texts over a few letters in both cases, so that hits are many and overlap.
+    const std::string letters = "aAbB \xE9\xC9\xFF\x9F";
+    unsigned seed = 12345;
+    const auto draw = [&](std::size_t size) {
+        std::string text;
+        for (std::size_t k = 0; k < size; ++k) {
+            seed = seed * 1103515245u + 12345u;
+            text += letters[(seed >> 16) % letters.size()];
+        }
+        return text;
+    };
+    for (int round = 0; round < 2000; ++round) {
+        const std::string text = draw(static_cast<std::size_t>(round % 23));
+        const std::string needle = draw(1 + static_cast<std::size_t>(round % 4));
+        for (long start = 0; start <= static_cast<long>(text.size()) + 2; ++start) {
+            ASSERT_EQ(FindNoCase(text, needle, start), literal(text, needle, start))
+                << "\"" << text << "\" \"" << needle << "\" " << start;
+        }
+    }
+}
+
 TEST(Text, CaseOfWindows1252Letters) {
     EXPECT_EQ(Upper("caf\xE9 \x9C\x9A\x9E\xFF \xF7"), "CAF\xC9 \x8C\x8A\x8E\x9F \xF7");
     EXPECT_EQ(Lower("\xC0\xD7\xDE Z"), "\xE0\xD7\xFE z");

@@ -1,4 +1,5 @@
 #include "core/ProgramError.h"
+#include "core/Text.h"
 #include "reader/FixedLibrary.h"
 
 #include <gtest/gtest.h>
@@ -84,6 +85,32 @@ TEST_F(LoadedLibraries, TrailingBlanksOfAuthoredTitlesAreNotShown) {
     EXPECT_EQ(Libraries.AdvLib.Titles[23], "\tDual Identity of Self and World ");
     EXPECT_TRUE(ComposeRowText(Libraries.AdvLib, 23)
                     .starts_with("Dual Identity of Self and World\r\n\r\n\t"));
+}
+
+// The search composes each row into one string it keeps; every row must read as the shown text
+// does, whatever row the string held before.
+TEST_F(LoadedLibraries, ARowComposedIntoAKeptStringReadsAsTheShownText) {
+    std::string kept = std::string(5000, 'x');
+    for (const FixedLibrary* library :
+         {&Libraries.InfoLib, &Libraries.KnowLib, &Libraries.AdvLib}) {
+        for (int row = library->LastRow; row >= 0; --row) {
+            const auto index = static_cast<std::size_t>(row);
+            ComposeRowText(*library, row, kept);
+            const std::string shown = CleanTitle(library->Titles[index]) + "\r\n\r\n" +
+                                      RTrim(library->Texts[index].substr(
+                                          0, static_cast<std::size_t>(library->RecordWidth)));
+            ASSERT_EQ(kept, shown) << row;
+            ASSERT_EQ(ComposeRowText(*library, row), shown) << row;
+        }
+    }
+    FixedLibrary odd;
+    odd.Titles = {"  \t\tTabbed  title  ", "   "};
+    odd.Texts = {"\tA text   ", "\tTwo"};
+    odd.RecordWidth = 8;
+    ComposeRowText(odd, 0, kept);
+    EXPECT_EQ(kept, CleanTitle(odd.Titles[0]) + "\r\n\r\n\tA text");
+    ComposeRowText(odd, 1, kept);
+    EXPECT_EQ(kept, "\r\n\r\n\tTwo");
 }
 
 TEST_F(LoadedLibraries, ASectionShowsItsBracketedTitleOverItsText) {

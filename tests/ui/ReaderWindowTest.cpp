@@ -14,6 +14,7 @@
 #include "support/FakeWindowLayer.h"
 #include "support/TempFolder.h"
 
+#include <QLineEdit>
 #include <QListWidget>
 #include <QPlainTextEdit>
 #include <QPushButton>
@@ -24,6 +25,16 @@
 using namespace veyrant;
 
 namespace {
+
+// Forty pairs, so that the hit at the end is found far below the top of the text.
+std::string LongDialogue() {
+    std::string text;
+    for (int pair = 0; pair < 40; ++pair) {
+        text += "\r\n\r\n\t\x93Where is it?\x94\r\n\tIn the reeds.";
+    }
+    return text + "\r\n\r\n\t\x93"
+                  "And the Heron?\x94";
+}
 
 struct ReadWindow {
     ReadWindow() : App(AppFolder{Temp / "app"}, Temp / "program", Clock, Draws, Layer) {
@@ -41,6 +52,8 @@ struct ReadWindow {
         App.Links.OpenLibrary(library);
         Window = std::make_unique<ReaderWindow>(App, *App.Read);
         Window->show();
+        Window->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(Window.get()));
         Window->Render();
     }
     void Key(Qt::Key key) { QTest::keyClick(Window.get(), key); }
@@ -52,6 +65,35 @@ struct ReadWindow {
     }
     QPlainTextEdit* Spin() const {
         return static_cast<QPlainTextEdit*>(Window->Widget(ReaderControl::txtSpin));
+    }
+    QLineEdit* SearchBox() const {
+        return static_cast<QLineEdit*>(Window->Widget(ReaderControl::txtSearch));
+    }
+    void Click(ReaderControl button) { QTest::mouseClick(Window->Widget(button), Qt::LeftButton); }
+    // Types into the search box as the user does, and presses Enter there.
+    void SearchFor(const QString& text) {
+        Click(ReaderControl::cmdSearch);
+        QVERIFY(SearchBox()->isEnabled());
+        QVERIFY(SearchBox()->hasFocus());
+        QTest::keyClicks(SearchBox(), text);
+        QCOMPARE(Caption(ReaderControl::cmdSearch), QStringLiteral("< Go >"));
+        QTest::keyClick(SearchBox(), Qt::Key_Return);
+    }
+    // The hit is the text selected in the text box, and it stands within the box's view.
+    bool HitInView() const {
+        const QRect caret = Spin()->cursorRect();
+        return Spin()->textCursor().hasSelection() &&
+               Spin()->viewport()->rect().contains(caret.center());
+    }
+    void SaveDialogue(const DateTime& when, const std::string& inspiration,
+                      const std::string& dialogue) {
+        const std::string file = MakeFileName(when);
+        std::filesystem::create_directories(App.Folder.Isp());
+        std::filesystem::create_directories(App.Folder.Dlg());
+        WriteWholeFile(App.Folder.Isp() / file, inspiration);
+        WriteWholeFile(App.Folder.Dlg() / file, dialogue);
+        Clock.FileDates[App.Folder.Isp() / file] = when;
+        Clock.FileDates[App.Folder.Dlg() / file] = when;
     }
     // Pictures for a person to look at, when asked for.
     void Picture(const char* name) const {
@@ -149,6 +191,71 @@ private slots:
         read.Key(Qt::Key_PageDown);
         QVERIFY(read.Window->windowTitle().startsWith(QStringLiteral("Veyrant Dialogue -- 1/2")));
         QVERIFY(!read.Window->Widget(ReaderControl::cmdNext)->isEnabled());
+    }
+
+    // A search of the Knowledge Library typed into the real box: the hit is selected in the
+    // text and scrolled into view, Enter steps on, and a word not there ends in "No text found".
+    void searchesAFixedLibrary() {
+        ReadWindow read;
+        read.Open(3);
+        read.SearchFor(QStringLiteral("wisdom"));
+        QCOMPARE(read.Caption(ReaderControl::cmdSearch), QStringLiteral("< Next >"));
+        QCOMPARE(read.Spin()->textCursor().selectedText().toLower(), QStringLiteral("wisdom"));
+        QVERIFY(read.HitInView());
+        QVERIFY(
+            read.Window->windowTitle().startsWith(QStringLiteral("Veyrant Knowledge Library -- ")));
+        QVERIFY(read.SearchBox()->hasFocus());
+        read.Picture("search-hit-topic");
+        const int first = read.Spin()->textCursor().selectionStart();
+        const QString firstTitle = read.Window->windowTitle();
+        QTest::keyClick(read.SearchBox(), Qt::Key_Return);
+        QVERIFY(read.Window->windowTitle() != firstTitle ||
+                read.Spin()->textCursor().selectionStart() > first);
+        QCOMPARE(read.Spin()->textCursor().selectedText().toLower(), QStringLiteral("wisdom"));
+        QVERIFY(read.HitInView());
+
+        // The window toggle keeps the hit selected in the expanded text.
+        read.Click(ReaderControl::cmdWindow);
+        QVERIFY(!read.List()->isVisible());
+        QCOMPARE(read.Spin()->textCursor().selectedText().toLower(), QStringLiteral("wisdom"));
+        QVERIFY(read.HitInView());
+
+        // A click on the box starts a new search.
+        QTest::mouseClick(read.SearchBox(), Qt::LeftButton);
+        QCOMPARE(read.Caption(ReaderControl::cmdSearch), QStringLiteral("Enter >>"));
+        QCOMPARE(read.SearchBox()->text(), QString());
+        QCOMPARE(read.Window->windowTitle(),
+                 QStringLiteral("Veyrant Knowledge Library -- Search Text"));
+        read.Picture("search-instructions");
+        QTest::keyClicks(read.SearchBox(), QStringLiteral("xylophone zebra"));
+        QTest::keyClick(read.SearchBox(), Qt::Key_Enter);
+        QCOMPARE(read.SearchBox()->text(), QStringLiteral("No text found"));
+        QCOMPARE(read.Caption(ReaderControl::cmdSearch), QStringLiteral("New"));
+        read.Picture("search-no-text");
+        read.Key(Qt::Key_Escape);
+        QCOMPARE(read.Caption(ReaderControl::cmdSearch), QStringLiteral("Search"));
+        QVERIFY(!read.SearchBox()->isEnabled());
+    }
+
+    // A search of all Dialogues opens the one it finds, latest to earliest, with the hit selected.
+    void searchesAllDialogues() {
+        ReadWindow read;
+        read.SaveDialogue({2026, 11, 12, 9, 0, 0}, "\tA heron by the water.", LongDialogue());
+        read.SaveDialogue({2026, 11, 18, 9, 0, 0}, "\tA path.", "\r\n\r\n\t\x93Why?\x94\r\n\tOn.");
+        read.SaveDialogue({2026, 11, 21, 20, 15, 0}, "\tStones.",
+                          "\r\n\r\n\t\x93No.\x94\r\n\tYes.");
+        read.Open(1);
+        read.SearchFor(QStringLiteral("heron?"));
+        QVERIFY(read.Window->windowTitle().startsWith(QStringLiteral("Veyrant Dialogue -- 1/3")));
+        QCOMPARE(read.Spin()->textCursor().selectedText(), QStringLiteral("Heron?"));
+        QVERIFY(read.HitInView());
+        QCOMPARE(read.List()->currentRow(), 2);
+        read.Picture("search-hit-dialogue");
+        QTest::keyClick(read.SearchBox(), Qt::Key_Return);
+        QCOMPARE(read.SearchBox()->text(), QStringLiteral("Search complete"));
+        read.Click(ReaderControl::cmdSelect);
+        QVERIFY(read.Window->windowTitle().startsWith(QStringLiteral("Veyrant Dialogue -- 1/3")));
+        QCOMPARE(read.Caption(ReaderControl::cmdSelect), QStringLiteral("< Index >"));
     }
 
     // A right-click in the text box moves the font a step on and returns to the list.

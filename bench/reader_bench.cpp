@@ -1,0 +1,230 @@
+// The Read window's search: one walk with no hit through each fixed library, and one through a
+// Library of 99 Dialogues each at the system limit, driven through the Reader's own handlers
+// (Search, type, Go). Against them, the same walks done literally: each row's composed text built
+// afresh and a lower-cased copy of it made for the comparison.
+//
+// The longest Dialogue the program writes: the transcript stops at 121 kept items; the
+// longest item is a pair of a 140-character entry and the longest reply the engine composes
+// (334 characters in 3,000 samples of every message; 340 is used), so one Dialogue is
+// 121 x 490 bytes, about 59 KB, and 99 of them about 5.8 MB.
+//
+// Targets: a fixed library walked in 0.5 ms or less, the 99 Dialogues in 10 ms or less, each at
+// least five times faster than its literal walk.
+
+#include "app/Application.h"
+#include "core/DateFormat.h"
+#include "core/Random.h"
+#include "core/Text.h"
+#include "core/WholeFile.h"
+#include "reader/FixedLibrary.h"
+#include "shell/DisplayScale.h"
+#include "storage/LibraryFileName.h"
+#include "support/FakeClock.h"
+#include "support/FakeWindowLayer.h"
+#include "support/TempFolder.h"
+
+#include <benchmark/benchmark.h>
+#include <chrono>
+#include <filesystem>
+#include <memory>
+
+namespace veyrant {
+namespace {
+
+using RC = ReaderControl;
+
+// Ordinary words, so that the walk meets its letters as often as prose makes it; found nowhere.
+const std::string NoHit = "sea otters";
+
+constexpr int DialogueCount = 99;
+constexpr int PairLimit = 121;
+constexpr std::size_t EntryLength = 140;
+constexpr std::size_t ReplyLength = 340;
+constexpr std::size_t InspirationLength = 170;
+
+// A whole program in a temporary folder with the real fixed libraries, as the tests build it.
+struct ReadingProgram {
+    testing::TempFolder Temp;
+    AppFolder Folder{Temp / "veyrant-sagrel"};
+    testing::FakeClock Clock;
+    Random Series;
+    testing::FakeWindowLayer Windows;
+    Application App{Folder, Temp / "program", Clock, Series, Windows};
+
+    ReadingProgram() {
+        std::filesystem::create_directories(Folder.Exe());
+        SetDisplayScale(1, App.Scale);
+        LoadLibraries(App.Libraries);
+        for (auto* library :
+             {&App.Libraries.InfoLib, &App.Libraries.KnowLib, &App.Libraries.AdvLib}) {
+            BuildLibraryIndex(*library);
+        }
+        App.UserSettings.MaxLibraryFiles = DialogueCount;
+        App.Write =
+            std::make_unique<Mirror>(App.WriteWorld(), App.Replies, App.Buffers, App.Library);
+        App.Write->ConnectLibraries(App.Links, App.Back);
+    }
+
+    void Open(int library) {
+        App.Links.BeginOpening();
+        App.Links.OpenLibrary(library);
+    }
+    Reader& Read() { return *App.Read; }
+
+    // Prose from the Knowledge Library, lines joined, to cut entries and replies from.
+    std::string Prose() const {
+        std::string prose;
+        const FixedLibrary& library = App.Libraries.KnowLib;
+        for (int row = 0; row <= library.LastRow; ++row) {
+            for (const char c : library.Texts[static_cast<std::size_t>(row)]) {
+                prose += c == '\r' || c == '\n' || c == '\t' ? ' ' : c;
+            }
+        }
+        return prose;
+    }
+
+    // 99 Dialogues an hour apart, each of 121 pairs of the longest entry and reply.
+    void SaveLongestDialogues() {
+        std::filesystem::create_directories(Folder.Isp());
+        std::filesystem::create_directories(Folder.Dlg());
+        const std::string prose = Prose();
+        std::size_t at = 0;
+        const auto cut = [&](std::size_t length) {
+            if (at + length > prose.size()) {
+                at = 0;
+            }
+            const std::string piece = prose.substr(at, length);
+            at += length * 7 / 5;
+            return piece;
+        };
+        for (int k = 0; k < DialogueCount; ++k) {
+            const DateTime when = FromDayNumber(DayNumber(Clock.Date) - (k + 1) / 24.0);
+            const std::string name = MakeFileName(when);
+            std::string dialogue;
+            for (int pair = 0; pair < PairLimit; ++pair) {
+                dialogue += "\r\n\r\n\t\x93" + cut(EntryLength) + "\x94\r\n\t" + cut(ReplyLength);
+            }
+            WriteWholeFile(Folder.Isp() / name, "\t" + cut(InspirationLength));
+            WriteWholeFile(Folder.Dlg() / name, dialogue);
+            Clock.FileDates[Folder.Isp() / name] = when;
+            Clock.FileDates[Folder.Dlg() / name] = when;
+        }
+    }
+
+    // One walk with no hit as the user makes it: Search, the text typed, then Go, which alone is
+    // timed. Cancel then returns to the list for the next.
+    double TimedWalk(benchmark::State& state, const char* notFound) {
+        Read().Click(RC::cmdSearch);
+        Read().SearchTextChanged(NoHit);
+        const auto start = std::chrono::steady_clock::now();
+        Read().Click(RC::cmdSearch);
+        const auto end = std::chrono::steady_clock::now();
+        if (Read().Controls()[RC::txtSearch].Text != notFound) {
+            state.SkipWithError("the walk did not end without a hit");
+        }
+        Read().Click(RC::cmdSelect);
+        return std::chrono::duration<double>(end - start).count();
+    }
+};
+
+// ComposeRowText as first written: the record cut, trimmed and joined, each a new string.
+std::string LiteralRowText(const FixedLibrary& library, int row) {
+    const auto index = static_cast<std::size_t>(row);
+    const std::string record =
+        library.Texts[index].substr(0, static_cast<std::size_t>(library.RecordWidth));
+    return CleanTitle(library.Titles[index]) + std::string(CrLf) + std::string(CrLf) +
+           RTrim(record);
+}
+
+long LiteralFind(const std::string& text, const std::string& needle) {
+    return Find(Lower(text), Lower(needle), 1);
+}
+
+const FixedLibrary& LibraryFor(const ReadingProgram& program, int library) {
+    return library == 2   ? program.App.Libraries.InfoLib
+           : library == 3 ? program.App.Libraries.KnowLib
+                          : program.App.Libraries.AdvLib;
+}
+
+void BM_FixedLibraryWalk(benchmark::State& state) {
+    const int library = static_cast<int>(state.range(0));
+    ReadingProgram program;
+    program.Open(library);
+    for (auto _ : state) {
+        state.SetIterationTime(program.TimedWalk(state, "No text found"));
+    }
+}
+
+void BM_FixedLibraryWalkLiteral(benchmark::State& state) {
+    const int library = static_cast<int>(state.range(0));
+    const ReadingProgram program;
+    const FixedLibrary& rows = LibraryFor(program, library);
+    for (auto _ : state) {
+        for (int row = 0; row <= rows.LastRow; ++row) {
+            if (LiteralFind(LiteralRowText(rows, row), NoHit) != 0) {
+                state.SkipWithError("the literal walk found the text");
+            }
+        }
+    }
+}
+
+// Information, Knowledge, Advanced Knowledge.
+BENCHMARK(BM_FixedLibraryWalk)
+    ->Arg(2)
+    ->Arg(3)
+    ->Arg(4)
+    ->UseManualTime()
+    ->Unit(benchmark::kMicrosecond);
+BENCHMARK(BM_FixedLibraryWalkLiteral)->Arg(2)->Arg(3)->Arg(4)->Unit(benchmark::kMicrosecond);
+
+void BM_AllDialoguesWalk(benchmark::State& state) {
+    ReadingProgram program;
+    program.SaveLongestDialogues();
+    program.Open(ReadLibraries::Dialogue);
+    if (program.App.Library.Listing().LibraryCount != DialogueCount) {
+        state.SkipWithError("the Library does not hold 99 Dialogues");
+        return;
+    }
+    for (auto _ : state) {
+        state.SetIterationTime(program.TimedWalk(state, "No Text found"));
+    }
+    state.SetBytesProcessed(
+        state.iterations() *
+        static_cast<std::int64_t>(DialogueCount * PairLimit * (EntryLength + ReplyLength + 10)));
+}
+
+// Latest to earliest, each Dialogue read whole as LoadDialogue reads it, its shown text built
+// afresh and lower-cased for the comparison.
+void BM_AllDialoguesWalkLiteral(benchmark::State& state) {
+    ReadingProgram program;
+    program.SaveLongestDialogues();
+    program.App.Library.ScanLibrary();
+    const auto& listing = program.App.Library.Listing();
+    if (listing.LibraryCount != DialogueCount) {
+        state.SkipWithError("the Library does not hold 99 Dialogues");
+        return;
+    }
+    for (auto _ : state) {
+        for (int index = listing.LibraryCount; index >= 1; --index) {
+            const std::string& name = listing.LibraryFiles[static_cast<std::size_t>(index)];
+            const std::string inspiration = ReadWholeFile(program.Folder.Isp() / name);
+            const std::string body = ReadWholeFile(program.Folder.Dlg() / name);
+            const DateTime date = FileDateValue(ParseFileName(name).FileDateText);
+            const std::string shown = FormatDate(date, "dddd, h:nn am/pm, mmmm d, yyyy") +
+                                      "\r\n\r\nInspiration\r\n\r\n" + inspiration +
+                                      "\r\n\r\nDialogue" + body;
+            if (LiteralFind(shown, NoHit) != 0) {
+                state.SkipWithError("the literal walk found the text");
+            }
+        }
+    }
+    state.SetBytesProcessed(
+        state.iterations() *
+        static_cast<std::int64_t>(DialogueCount * PairLimit * (EntryLength + ReplyLength + 10)));
+}
+
+BENCHMARK(BM_AllDialoguesWalk)->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_AllDialoguesWalkLiteral)->Unit(benchmark::kMillisecond);
+
+} // namespace
+} // namespace veyrant
