@@ -17,6 +17,18 @@ namespace veyrant {
 
 namespace {
 
+// The Library's own limits took a Dialogue the moment it was saved: the buffers still hold it,
+// and the user must hear of it before anything deletes them.
+std::string NotKeptText(const Settings& limits) {
+    return "The Library keeps up to " + std::to_string(limits.MaxLibraryFiles) +
+           " Dialogues, none older than " + std::to_string(limits.MaxLibraryDays) +
+           " days. This Dialogue is older than the Library keeps, or the Library is full of "
+           "later ones, so it could not stay there.\r\n\r\nYour Dialogue is not lost: it "
+           "remains on the screen and in the work buffers, where it reopens at the next start. "
+           "You may print it or file it now. To keep it in the Library, right-click 'Retrieve' "
+           "to widen the Library Options, then start the program again and save it.";
+}
+
 std::string AgeText(int days) {
     if (days == 0) {
         return ", 0 Days";
@@ -251,7 +263,13 @@ void Mirror::ContinueDialogue() {
 void Mirror::SaveDialogue() {
     C(MirrorControl::cmdSave).Enabled = false;
     world_.Windows.SetBusyPointer(true);
-    if (!library_.AddToLibrary(state_.InspirationText, state_.DialogueText)) {
+    const auto saved = library_.AddToLibrary(state_.InspirationText, state_.DialogueText);
+    if (!saved || !library_.Holds(*saved)) {
+        if (saved) {
+            world_.Windows.SetBusyPointer(false);
+            Message("Dialogue Not Kept in the Library", NotKeptText(world_.UserSettings),
+                    MessageIcon::Warning, MessageButtons::Ok);
+        }
         // The box has told why; the Dialogue stays as it is, to be saved again or kept.
         C(MirrorControl::cmdSave).Enabled = true;
         world_.Windows.SetBusyPointer(false);

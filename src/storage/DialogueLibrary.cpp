@@ -179,8 +179,8 @@ void DialogueLibrary::DeletePairs(const std::vector<std::string>& fileNames) con
     }
 }
 
-bool DialogueLibrary::AddToLibrary(const std::string& inspirationText,
-                                   const std::string& dialogueText) {
+std::optional<std::string> DialogueLibrary::AddToLibrary(const std::string& inspirationText,
+                                                         const std::string& dialogueText) {
     // The buffers name the Dialogue; should savei.tmp be gone, the present minute does, so
     // that the Dialogue is still saved.
     const DateTime date = clock_.FileDate(InspirationBufferPath(folder_)).value_or(clock_.Now());
@@ -200,10 +200,16 @@ bool DialogueLibrary::AddToLibrary(const std::string& inspirationText,
         change.Commit();
     } catch (const ProgramError& error) {
         windows_.ShowMessage(SaveFailureBox(error.Number(), writing));
-        return false;
+        return std::nullopt;
     }
     ScanLibrary();
-    return true;
+    return name;
+}
+
+bool DialogueLibrary::Holds(const std::string& fileName) const {
+    const auto first = listing_.LibraryFiles.begin() + 1;
+    return std::find(first, first + listing_.LibraryCount, fileName) !=
+           first + listing_.LibraryCount;
 }
 
 bool DialogueLibrary::DeleteDialogue(const std::string& fileName) {

@@ -11,6 +11,7 @@
 #include "shell/Settings.h"
 #include "storage/LibraryListing.h"
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -29,11 +30,16 @@ public:
     // returns false.
     bool ScanLibrary();
 
-    // Saves the Dialogue under the date of the work buffer savei.tmp, isp/ first, then scans.
-    // A second save in the same minute replaces the first. False when a file could not be
-    // written: the box has been shown and the Library is as it was, so the caller must keep
-    // the Dialogue and its work buffers.
-    bool AddToLibrary(const std::string& inspirationText, const std::string& dialogueText);
+    // Saves the Dialogue under the date of the work buffer savei.tmp, isp/ first, then scans,
+    // and gives the name it was saved under. A second save in the same minute replaces the
+    // first. Nothing when a file could not be written: the box has been shown and the Library
+    // is as it was, so the caller must keep the Dialogue and its work buffers. The scan may take
+    // the new pair at once; Holds tells.
+    std::optional<std::string> AddToLibrary(const std::string& inspirationText,
+                                            const std::string& dialogueText);
+
+    // Whether the last scan listed a Dialogue of that file name.
+    bool Holds(const std::string& fileName) const;
 
     // The Reader's Delete: asks, then deletes the pair of that name, isp/ first. True when the
     // pair is gone, and the Reader then lists the Library anew and refreshes the status.

@@ -1,8 +1,10 @@
 #include "core/Text.h"
 #include "core/WholeFile.h"
 #include "dialogue/MirrorDriver.h"
+#include "storage/LibraryFileName.h"
 #include "support/FileFaults.h"
 
+#include <filesystem>
 #include <gtest/gtest.h>
 #include <ostream>
 
@@ -213,6 +215,63 @@ TEST(MirrorFinish, SaveOnAPriorDialogueFilesItAndStartsANewOneWithoutAsking) {
               "Veyrant Sagrel 4.1 -- Written Dialogues of Self-Reflection");
     EXPECT_EQ(driver.Text(MirrorControl::txtResponse), "Inspiration\r\n\tInspiration number 1.");
 }
+
+struct NotKeptCase {
+    const char* Name;
+    std::int16_t MaxFiles;
+    std::int16_t MaxDays;
+    DateTime Written;
+};
+
+void PrintTo(const NotKeptCase& c, std::ostream* out) {
+    *out << c.Name;
+}
+
+class MirrorNotKept : public ::testing::TestWithParam<NotKeptCase> {};
+
+// The Library's limits can take a Dialogue the moment it is saved: an old Prior Dialogue, or one
+// older than every Dialogue of a full Library. The user hears of it, and the Dialogue stays on
+// the screen and in the buffers instead of vanishing with the New that a save clicks.
+TEST_P(MirrorNotKept, ADialogueTheLimitsTakeAtOnceStaysOnTheScreen) {
+    const auto& c = GetParam();
+    MirrorDriver driver;
+    driver.App.UserSettings.MaxLibraryFiles = c.MaxFiles;
+    driver.App.UserSettings.MaxLibraryDays = c.MaxDays;
+    const DateTime later{2026, 11, 20, 10, 0, 0};
+    for (const auto& folder : {driver.App.Folder.Isp(), driver.App.Folder.Dlg()}) {
+        std::filesystem::create_directories(folder);
+        WriteWholeFile(folder / MakeFileName(later), "\tA later Dialogue.");
+        driver.Clock.FileDates[folder / MakeFileName(later)] = later;
+    }
+    driver.LeavePriorDialogue(2);
+    driver.Clock.FileDates[driver.App.Folder.Exe() / "savei.tmp"] = c.Written;
+    driver.mirror->StartWindow();
+    const std::string dialogue = driver.State().DialogueText;
+
+    driver.mirror->Click(MirrorControl::cmdSave);
+    ASSERT_EQ(driver.Layer.Boxes.size(), 1u);
+    EXPECT_EQ(driver.Layer.Boxes[0].Title, "Dialogue Not Kept in the Library");
+    EXPECT_EQ(driver.Layer.Boxes[0].Text.rfind(
+                  "The Library keeps up to " + std::to_string(c.MaxFiles) +
+                      " Dialogues, none older than " + std::to_string(c.MaxDays) + " days.",
+                  0),
+              0u);
+    EXPECT_FALSE(driver.Library.Holds(MakeFileName(c.Written)));
+    EXPECT_TRUE(driver.Library.Holds(MakeFileName(later)));
+    const auto buffers = driver.Buffers.ReadWorkBuffers();
+    ASSERT_TRUE(buffers.has_value());
+    EXPECT_EQ(buffers->Buffers.DialogueText, dialogue);
+    EXPECT_EQ(driver.State().DialogueText, dialogue);
+    EXPECT_EQ(driver.State().DialogueSaved, 0);
+    EXPECT_TRUE(driver.Box(MirrorControl::cmdSave).Enabled);
+    EXPECT_FALSE(driver.Layer.Busy);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Limits, MirrorNotKept,
+    ::testing::Values(NotKeptCase{"OlderThanTheDays", 30, 21, {2026, 10, 28, 9, 0, 0}},
+                      NotKeptCase{"OlderThanAFullLibrary", 1, 21, {2026, 11, 19, 9, 0, 0}}),
+    [](const auto& info) { return std::string(info.param.Name); });
 
 // Buffers that outlive the Dialogue they held reopen when an empty Dialogue is cancelled, and
 // a list of ideas open at that moment must not stay over them.

@@ -209,8 +209,8 @@ TEST_F(DialogueLibraryTest, AFailedSaveLeavesTheOldPairAndSaysWhy) {
     SetFileDate(Folder.Exe() / "savei.tmp", {2026, 11, 21, 18, 7, 0});
     ASSERT_TRUE(Library.AddToLibrary("\told", "old dialogue"));
 
-    const bool added =
-        WithDiskNearlyFull([&] { return Library.AddToLibrary("\tnew", std::string(100000, 'x')); });
+    const bool added = WithDiskNearlyFull(
+        [&] { return Library.AddToLibrary("\tnew", std::string(100000, 'x')).has_value(); });
 
     EXPECT_FALSE(added);
     EXPECT_EQ(ReadWholeFile(Folder.Isp() / "76112118.070"), "\told");
