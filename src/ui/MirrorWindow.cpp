@@ -6,6 +6,7 @@
 #include "shell/MirrorLayout.h"
 #include "shell/WindowPlacement.h"
 #include "ui/AccessKeys.h"
+#include "ui/FitText.h"
 #include "ui/GuardedTextBox.h"
 #include "ui/QtText.h"
 #include "ui/QtWindowLayer.h"
@@ -178,17 +179,6 @@ QFont DesignedFont(QFont font, const Control& now) {
     }
     font.setBold(now.FontBold);
     return font;
-}
-
-// This machine's faces run wider than the ones the layout was drawn for: a wrapped text that
-// would run out of its box at the smallest display size takes a slightly smaller type instead.
-void FitWrappedText(QLabel& label, QFont font) {
-    constexpr double Smallest = 6.5;
-    label.setFont(font);
-    while (label.heightForWidth(label.width()) > label.height() && font.pointSizeF() > Smallest) {
-        font.setPointSizeF(font.pointSizeF() - 0.5);
-        label.setFont(font);
-    }
 }
 
 MouseButton ButtonOf(const QMouseEvent* event) {

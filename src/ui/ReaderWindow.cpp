@@ -3,6 +3,7 @@
 #include "core/Cp1252.h"
 #include "core/KeyCodes.h"
 #include "shell/WindowPlacement.h"
+#include "ui/FitText.h"
 #include "ui/QtText.h"
 #include "ui/QtWindowLayer.h"
 
@@ -248,13 +249,14 @@ void ReaderWindow::RenderControl(ReaderControl control, bool force) {
     if (force || now.Enabled != was.Enabled) {
         widget->setEnabled(now.Enabled);
     }
-    if (force || now.FontSize != was.FontSize || now.FontBold != was.FontBold) {
-        const bool reading = control == ReaderControl::List1 || control == ReaderControl::txtSpin;
-        QFont font = reading ? QFont(ToQt(app_.Fonts.Main)) : this->font();
-        if (now.FontSize > 0) {
-            font.setPointSizeF(now.FontSize);
-        }
-        font.setBold(now.FontBold);
+    const bool reading = control == ReaderControl::List1 || control == ReaderControl::txtSpin;
+    QFont font = reading ? QFont(ToQt(app_.Fonts.Main)) : this->font();
+    if (now.FontSize > 0) {
+        font.setPointSizeF(now.FontSize);
+    }
+    font.setBold(now.FontBold);
+    const bool fontChanged = force || now.FontSize != was.FontSize || now.FontBold != was.FontBold;
+    if (fontChanged) {
         widget->setFont(font);
         if (control == ReaderControl::txtSpin) {
             spin_->setTabStopDistance(QFontMetricsF(font).horizontalAdvance(QLatin1Char(' ')) * 4);
@@ -289,13 +291,17 @@ void ReaderWindow::RenderControl(ReaderControl control, bool force) {
             button->style()->polish(button);
         }
     } else if (auto* label = qobject_cast<QLabel*>(widget)) {
-        if (force || now.Text != was.Text) {
+        if (fontChanged || now.Text != was.Text) {
             label->setText(ToQt(now.Text));
+            FitWrappedText(*label, font);
         }
     } else if (auto* line = qobject_cast<QLineEdit*>(widget)) {
-        // What the user typed is there already; setting it again would move the caret.
-        if ((force || now.Text != was.Text) && line->text() != ToQt(now.Text)) {
+        // What the user typed is there already; setting it again would move the caret. Only
+        // the program's own words ("Search not active", "No text found") are fitted to the box,
+        // so that the type never changes under the user's typing.
+        if ((fontChanged || now.Text != was.Text) && line->text() != ToQt(now.Text)) {
             line->setText(ToQt(now.Text));
+            FitLineText(*line, font);
         }
     }
     if (force || now.Visible != was.Visible) {
