@@ -8,6 +8,7 @@
 #include "reader/Reader.h"
 #include "reader/ReaderTexts.h"
 #include "storage/LibraryFileName.h"
+#include "storage/StorageFailure.h"
 
 #include <algorithm>
 
@@ -126,15 +127,22 @@ void Reader::LoadDialogue(int position) {
     const auto& listing = world_.Library.Listing();
     const std::string& name = listing.LibraryFiles[static_cast<std::size_t>(
         state_.LibraryListOrder[static_cast<std::size_t>(position)])];
+    state_.DialogueDate = FileDateValue(ParseFileName(name).FileDateText);
+    // A part that cannot be read shows empty, never the text of the Dialogue shown before.
+    state_.InspirationBody.clear();
+    state_.DialogueBody.clear();
     try {
         state_.InspirationBody = ReadWholeFile(world_.Folder.Isp() / name);
         state_.DialogueBody = ReadWholeFile(world_.Folder.Dlg() / name);
-        state_.DialogueDate = FileDateValue(ParseFileName(name).FileDateText);
-    } catch (const ProgramError&) {
-        // The scan listed it; a file taken away since shows as empty rather than stopping the
-        // Reader.
-        state_.InspirationBody.clear();
-        state_.DialogueBody.clear();
+    } catch (const ProgramError& error) {
+        Paint();
+        world_.Windows.ShowMessage(WarningBox(
+            "Dialogue Library Corrupted -- Cannot Retrieve",
+            "Error " + std::to_string(error.Number()) +
+                " attempting to retrieve a file from the Dialogue Library. Because the Library has "
+                "become corrupted, it is necessary for you to repair it. Open the 'User's Manual' "
+                "from the Veyrant Sagrel program group and review the section, 'Repairing the "
+                "Dialogue Library."));
     }
     state_.DialogueAge = static_cast<std::int16_t>(
         RoundDays(DayNumber(world_.Clock.Now()) - DayNumber(state_.DialogueDate)));

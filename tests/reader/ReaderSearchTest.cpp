@@ -268,19 +268,26 @@ TEST_F(ReaderSearch, ClickOnTheBoxStartsOver) {
     }
 }
 
-// A Dialogue that cannot be read shows as empty to the walk, which goes on past it.
+// A Dialogue whose dlg/ file is gone is reported each time the walk reads it; what could be read,
+// its Inspiration, is still searched, and the walk goes on past it.
 TEST_F(ReaderSearch, UnreadableDialogueDoesNotStopTheWalk) {
     SaveThree();
     std::filesystem::remove(Folder.Dlg() / MakeFileName({2026, 11, 15, 10, 0, 0}));
     Open(1);
     Search("lake");
-    EXPECT_EQ(Line(RC::txtSearch), "\"No Text found\"");
+    EXPECT_EQ(Title().substr(0, 26), "Veyrant Dialogue -- 2/3 --");
+    EXPECT_EQ(Line(RC::cmdSearch), "\"< Next >\"");
+    ASSERT_EQ(Windows.Boxes.size(), 1u);
+    EXPECT_EQ(Windows.Boxes[0].Title, "Dialogue Library Corrupted -- Cannot Retrieve");
+    EXPECT_EQ(Windows.Boxes[0].Text.substr(0, 60),
+              "Error 53 attempting to retrieve a file from the Dialogue Lib");
+
     Read().Click(RC::txtSearch);
     Read().SearchTextChanged("heron");
     Read().Click(RC::cmdSearch);
     EXPECT_EQ(Title().substr(0, 26), "Veyrant Dialogue -- 1/3 --");
     EXPECT_EQ(Line(RC::cmdSearch), "\"< Next >\"");
-    EXPECT_TRUE(Windows.Boxes.empty());
+    EXPECT_EQ(Windows.Boxes.size(), 2u);
 }
 
 // With no Dialogue saved the search cannot start; elsewhere Enter in the box is always taken.
