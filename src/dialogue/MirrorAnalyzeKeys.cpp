@@ -2,8 +2,8 @@
 // the idea being typed can be edited; Enter files the idea or prompts for the next one, and a
 // refused idea can only be mended in the direction that cures it.
 
-#include "core/Text.h"
 #include "core/KeyCodes.h"
+#include "core/Text.h"
 #include "dialogue/Mirror.h"
 #include "dialogue/MirrorTexts.h"
 

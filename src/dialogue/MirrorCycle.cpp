@@ -3,9 +3,9 @@
 
 #include "core/Clock.h"
 #include "core/DateFormat.h"
+#include "core/KeyCodes.h"
 #include "core/Text.h"
 #include "dialogue/DialogueEngine.h"
-#include "core/KeyCodes.h"
 #include "dialogue/Mirror.h"
 #include "dialogue/MirrorTexts.h"
 #include "dialogue/MirrorWorld.h"

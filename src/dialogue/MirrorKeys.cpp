@@ -2,9 +2,9 @@
 // the status mark and the instruction, Rewrite, and the record of keys that feeds the series.
 
 #include "core/Clock.h"
+#include "core/KeyCodes.h"
 #include "core/Text.h"
 #include "dialogue/DialogueEngine.h"
-#include "core/KeyCodes.h"
 #include "dialogue/Mirror.h"
 #include "dialogue/MirrorTexts.h"
 #include "dialogue/MirrorWorld.h"

@@ -2,10 +2,10 @@
 // Sagrel's choice among them or its refusal, and the end that gives the window back to Converse.
 
 #include "core/Clock.h"
+#include "core/KeyCodes.h"
 #include "core/Random.h"
 #include "core/Text.h"
 #include "dialogue/DialogueEngine.h"
-#include "core/KeyCodes.h"
 #include "dialogue/Mirror.h"
 #include "dialogue/MirrorTexts.h"
 #include "dialogue/MirrorWorld.h"

@@ -16,9 +16,9 @@
 #include "ui/UtilityWindow.h"
 
 #include <QApplication>
-#include <QPointer>
 #include <QDir>
 #include <QIcon>
+#include <QPointer>
 #include <memory>
 
 int main(int argc, char** argv) {

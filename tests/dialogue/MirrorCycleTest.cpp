@@ -1,5 +1,5 @@
-#include "core/Text.h"
 #include "core/KeyCodes.h"
+#include "core/Text.h"
 #include "dialogue/MirrorDriver.h"
 
 #include <gtest/gtest.h>

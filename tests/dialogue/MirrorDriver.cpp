@@ -1,7 +1,7 @@
 #include "dialogue/MirrorDriver.h"
 
-#include "core/Text.h"
 #include "core/KeyCodes.h"
+#include "core/Text.h"
 #include "engine/EngineFiles.h"
 
 #include <stdexcept>
