@@ -19,9 +19,10 @@ inline std::string_view AsText(const std::uint8_t* data, std::size_t size) {
     return {reinterpret_cast<const char*>(data), size};
 }
 
-// What the file system can hold as a name of its own in one folder.
+// What the file system can hold as a name of its own in one folder, with room for the longer
+// name under which the program's writer stages a file before it renames it into place.
 inline bool IsFileName(std::string_view name) {
-    return !name.empty() && name.size() <= 255 && name != "." && name != ".." &&
+    return !name.empty() && name.size() <= 200 && name != "." && name != ".." &&
            name.find_first_of(std::string_view("/\0", 2)) == std::string_view::npos;
 }
 
