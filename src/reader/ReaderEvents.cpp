@@ -77,6 +77,11 @@ int Reader::WindowHeight() const {
 }
 
 void Reader::Click(ReaderControl control) {
+    // A disabled button takes no click, however the click came: its handler assumes the state
+    // that enables it, such as an open Dialogue for Delete.
+    if (IsReaderButton(control) && !C(control).Enabled) {
+        return;
+    }
     switch (control) {
     case ReaderControl::cmdSearch:
         ClickSearch();

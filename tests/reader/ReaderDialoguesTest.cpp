@@ -20,7 +20,13 @@ TEST_F(ReaderDialogues, EmptyLibraryOffersNothingToStepOrSearch) {
     EXPECT_EQ(Line(RC::txtNote), "\"There are no Dialogues saved in the Library.\"");
     Key(KeyCode::PageDown);
     Key(KeyCode::Enter);
+    // A click that reaches a disabled button, as a screen reader's action might, does nothing.
+    for (auto button : {RC::cmdNext, RC::cmdPrint, RC::cmdFile, RC::cmdDelete, RC::cmdSearch}) {
+        Read().Click(button);
+    }
     EXPECT_EQ(Title(), "Veyrant Dialogue Library -- No Dialogues Saved");
+    EXPECT_EQ(Line(RC::List1), "0 rows, selected -1, top 0, split back=ListEmpty");
+    EXPECT_TRUE(Windows.Boxes.empty());
 }
 
 // The list runs latest first; a damaged inspiration lists as a format error; Latest opens the
