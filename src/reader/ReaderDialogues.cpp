@@ -127,11 +127,11 @@ void Reader::LoadDialogue(int position) {
     const auto& listing = world_.Library.Listing();
     const std::string& name = listing.LibraryFiles[static_cast<std::size_t>(
         state_.LibraryListOrder[static_cast<std::size_t>(position)])];
-    state_.DialogueDate = FileDateValue(ParseFileName(name).FileDateText);
     // A part that cannot be read shows empty, never the text of the Dialogue shown before.
     state_.InspirationBody.clear();
     state_.DialogueBody.clear();
     try {
+        state_.DialogueDate = FileDateValue(ParseFileName(name).FileDateText);
         state_.InspirationBody = ReadWholeFile(world_.Folder.Isp() / name);
         state_.DialogueBody = ReadWholeFile(world_.Folder.Dlg() / name);
     } catch (const ProgramError& error) {

@@ -79,5 +79,23 @@ TEST_F(ReaderDialogues, LongInspirationsAreCutToTheListWidth) {
     EXPECT_GT(Windows.TextWidthTwips("", 12, true, false, "<" + row + "ww"), listWidth);
 }
 
+// A file in the Library whose name holds no date the program can read opens as a damaged
+// Dialogue: the box says so and the Reader goes on.
+TEST_F(ReaderDialogues, ANameWithNoDateOpensAsADamagedDialogue) {
+    for (const auto& folder : {Folder.Isp(), Folder.Dlg()}) {
+        std::filesystem::create_directories(folder);
+        WriteWholeFile(folder / "99999999.999", "\tA name out of any calendar.");
+    }
+    Open(1);
+    ASSERT_EQ(Read().Controls().List.Rows.size(), 1u);
+    ASSERT_EQ(Windows.Boxes.size(), 1u);
+    Read().Click(RC::cmdNext);
+    // The scan has named the file already; the opening says it cannot be retrieved.
+    ASSERT_EQ(Windows.Boxes.size(), 2u);
+    EXPECT_EQ(Windows.Boxes[0].Title, "Error 13 Dialogue Library File Names");
+    EXPECT_EQ(Windows.Boxes[1].Title, "Dialogue Library Corrupted -- Cannot Retrieve");
+    EXPECT_EQ(Line(RC::cmdDelete), "\"Delete\"");
+}
+
 } // namespace
 } // namespace veyrant::testing
