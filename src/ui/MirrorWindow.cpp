@@ -161,6 +161,7 @@ Spoken SpokenFor(MirrorControl control) {
     case MirrorControl::txtAnalyze:
         return {"Ideas", "List ideas that might answer your question."};
     case MirrorControl::txtNote:
+        // Its description is its words, given as they change.
         return {"Instruction", ""};
     case MirrorControl::lblRem:
         return {"Entry status",
