@@ -9,11 +9,11 @@ namespace veyrant {
 
 std::string AboutText(const std::string& versionString, const std::string& programYear) {
     const std::vector<std::vector<std::string>> groups = {
-        {"Veyrant Sagrel " + Left(versionString, 1) + " for Windows", "Veyrant Ardelune",
+        {"Veyrant Sagrel " + Left(versionString, 1) + " for Linux", "Veyrant Ardelune",
          "Version " + versionString},
         {"A Program for Psychological Self-Reflection"},
         {"Powered by the Veyrant Technology Dovrin", " A 'Ambrel' Application"},
-        {"For All Windows 95 and Later"},
+        {"For Linux Desktops on X11 and Wayland"},
         {"\xA9 " + programYear + " Veyrant Technology", "veyrant-sagrel.org"},
     };
     std::string text;

@@ -75,8 +75,8 @@ public:
     virtual PrintOutcome PrintDialogue(const PrintRequest& request) = 0;
     // Opens the text in the program's own editor; Save As proposes the file name.
     virtual void ShowInEditor(const std::string& text, const std::string& proposedFileName) = 0;
-    // Asks where to save a file, proposing the name in the user's home folder; nothing when the
-    // user cancels.
+    // Asks where to save a file, proposing the name in the folder last saved into, or else the
+    // documents folder or home; nothing when the user cancels.
     virtual std::optional<std::filesystem::path>
     AskSaveFileName(const std::string& proposedFileName) = 0;
 

@@ -40,6 +40,8 @@ public:
     int KeyDown(int keyCode);
     // Key press: returns the character code to go on with, 0 when the key is dropped.
     int KeyPress(int keyAscii);
+    // A typed character that the Dialogue file cannot hold; it is never applied.
+    void RefuseUnwritable();
 
     void Click(MirrorControl control);
     void MouseDown(MirrorControl control, MouseButton button);

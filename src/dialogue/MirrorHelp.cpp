@@ -137,7 +137,7 @@ std::string Mirror::HelpFor(MirrorControl control) const {
     }
     case MirrorControl::cmdDisplay:
         if (self.Text == "File") {
-            return "Save the displayed Dialogue as a text file in Notepad.";
+            return "Save the displayed Dialogue as a text file in the program's text editor.";
         }
         if (self.Text == "Display") {
             return "Display the Dialogue full screen. You may also click the text. Click again to "

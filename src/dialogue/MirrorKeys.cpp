@@ -98,8 +98,21 @@ int Mirror::MirrorKeyDown(int keyCode) {
 }
 
 int Mirror::RefuseControlKey(int keyCode) {
-    Message("Invalid Key", "Use of the control key is not allowed.");
+    Message(std::string(MirrorText::InvalidKeyTitle), "Use of the control key is not allowed.");
     return keyCode;
+}
+
+// Refused at the key, before the count, the series or the checks could take it for a letter;
+// the user is told, as for the control key, wherever a box would have taken the key.
+void Mirror::RefuseUnwritable() {
+    const bool typing = state_.ActiveMethod > 0 && state_.DisplayFull != 1 &&
+                        (controls_.Focus == MirrorControl::txtMirror ||
+                         controls_.Focus == MirrorControl::txtAnalyze);
+    if (typing) {
+        Message(std::string(MirrorText::InvalidKeyTitle),
+                "That character cannot be kept in a Dialogue. Use the letters, numbers and "
+                "punctuation of the Western European languages.");
+    }
 }
 
 // The caret never enters the protected head, and the box has no line movement: the vertical

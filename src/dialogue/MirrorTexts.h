@@ -8,6 +8,7 @@
 namespace veyrant::MirrorText {
 
 inline constexpr std::string_view HelpTitle = "Veyrant Sagrel Help";
+inline constexpr std::string_view InvalidKeyTitle = "Invalid Key";
 inline constexpr std::string_view Processing = "Processing . . .";
 inline constexpr std::string_view TitleLead = "Veyrant Sagrel -- ";
 inline constexpr std::string_view TitleDateFormat = "dddd, h:nn am/pm, mmmm d, yyyy";

@@ -5,9 +5,10 @@ namespace veyrant {
 MessageBoxRequest PrintErrorBox() {
     MessageBoxRequest box;
     box.Title = "Print Error";
-    box.Text = "Windows has detected a printing error.\r\n\r\nIf your printer normally functions "
-               "properly with a word processer, you may have assigned 'Print' to a non-printing "
-               "device (such as a Fax/Modem, Print-to-File, etc.). Check the printer setup.";
+    box.Text =
+        "The system has detected a printing error.\r\n\r\nIf your printer normally functions "
+        "properly with a word processer, you may have assigned 'Print' to a non-printing "
+        "device (such as a Fax/Modem, Print-to-File, etc.). Check the printer setup.";
     box.Icon = MessageIcon::Warning;
     return box;
 }

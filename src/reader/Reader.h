@@ -57,6 +57,10 @@ public:
     int WindowWidth() const;
     int WindowHeight() const;
 
+    // The hover help of a button as its state stands; a screen reader gives it as the button's
+    // description.
+    std::string HoverTextFor(ReaderControl button) const;
+
     // The visible state as short stable lines, for tests and diagnosis.
     std::string Dump() const;
 
@@ -124,7 +128,6 @@ private:
     void UnmarkHover();
     void EndHover();
     void HoverTick();
-    std::string HoverTextFor(ReaderControl button) const;
     std::string WindowHoverText() const;
     void NoteHover();
     void BackgroundMove();

@@ -136,13 +136,8 @@ void Reader::LoadDialogue(int position) {
         state_.DialogueBody = ReadWholeFile(world_.Folder.Dlg() / name);
     } catch (const ProgramError& error) {
         Paint();
-        world_.Windows.ShowMessage(WarningBox(
-            "Dialogue Library Corrupted -- Cannot Retrieve",
-            "Error " + std::to_string(error.Number()) +
-                " attempting to retrieve a file from the Dialogue Library. Because the Library has "
-                "become corrupted, it is necessary for you to repair it. Open the 'User's Manual' "
-                "from the Veyrant Sagrel program group and review the section, 'Repairing the "
-                "Dialogue Library."));
+        world_.Windows.ShowMessage(LibraryCorruptedBox(
+            "Dialogue Library Corrupted -- Cannot Retrieve", error.Number(), "retrieve a file"));
     }
     state_.DialogueAge = static_cast<std::int16_t>(
         RoundDays(DayNumber(world_.Clock.Now()) - DayNumber(state_.DialogueDate)));

@@ -1,6 +1,7 @@
 // The hover help of the Read window: the button under the pointer is marked and, a tick later,
 // its help stands in txtNote for seven ticks before the instruction comes back.
 
+#include "core/Text.h"
 #include "reader/Reader.h"
 
 namespace veyrant {
@@ -68,14 +69,13 @@ std::string Reader::HoverTextFor(ReaderControl button) const {
                      "to this position when the Dialogue Library is opened."
                    : "Save the displayed position and close the Library. You will return to this "
                      "position when the " +
-                         world_.Values.LibraryName.substr(std::string("Veyrant ").size()) +
-                         " is opened.";
+                         Mid(world_.Values.LibraryName, 9) + " is opened.";
     case ReaderControl::cmdFile:
-        return "Write the displayed Dialogue into Windows Notepad. Then you may save it as a text "
-               "file.";
+        return "Write the displayed Dialogue into the program's text editor. Then you may save it "
+               "as a text file.";
     case ReaderControl::cmdPrint:
-        return caption == "Print" ? "Print the displayed Dialogue. Your printer must be enabled "
-                                    "with a 'Letter' type of printout."
+        return caption == "Print" ? "Print the displayed Dialogue. The pages are laid out for "
+                                    "'Letter' paper."
                                   : "Merge the display of all the Topics within the selected < "
                                     "Section >.";
     case ReaderControl::cmdDelete:

@@ -226,13 +226,8 @@ bool DialogueLibrary::DeleteDialogue(const std::string& fileName) {
         DeletePairs({fileName});
         return true;
     } catch (const ProgramError& error) {
-        windows_.ShowMessage(WarningBox(
-            "Dialogue Library Corrupted",
-            "Error " + std::to_string(error.Number()) +
-                " attempting to delete the file from the Dialogue Library. Because the Library "
-                "has become corrupted, it is necessary for you to repair it. Open the 'User's "
-                "Manual' from the Veyrant Sagrel program group and review the section, "
-                "'Repairing the Dialogue Library'."));
+        windows_.ShowMessage(
+            LibraryCorruptedBox("Dialogue Library Corrupted", error.Number(), "delete the file"));
         return false;
     }
 }

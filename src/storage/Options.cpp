@@ -162,13 +162,8 @@ void Options::cmdClean_Click() {
         library_.DeletePairs({listing.LibraryFiles.begin() + 1,
                               listing.LibraryFiles.begin() + 1 + listing.LibraryCount});
     } catch (const ProgramError& error) {
-        windows_.ShowMessage(WarningBox(
-            "Dialogue Library Corrupted",
-            "Error " + std::to_string(error.Number()) +
-                " attempting to delete a file from the Dialogue Library. Because the Library has "
-                "become corrupted, it is necessary for you to repair it. Open the 'User's Manual' "
-                "from the Veyrant program group and review the section, 'Repairing the Dialogue "
-                "Library'."));
+        windows_.ShowMessage(
+            LibraryCorruptedBox("Dialogue Library Corrupted", error.Number(), "delete a file"));
         return;
     }
     library_.ScanLibrary();

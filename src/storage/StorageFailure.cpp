@@ -51,6 +51,14 @@ MessageBoxRequest WarningBox(std::string title, std::string text) {
     return box;
 }
 
+MessageBoxRequest LibraryCorruptedBox(std::string title, int number, std::string_view attempt) {
+    return WarningBox(std::move(title),
+                      "Error " + std::to_string(number) + " attempting to " + std::string(attempt) +
+                          " from the Dialogue Library. Because the Library has become corrupted, "
+                          "it is necessary for you to repair it. Open the Information Library and "
+                          "review the Topic, 'Repairing the Dialogue Library'.");
+}
+
 MessageBoxRequest SaveFailureBox(int number, const std::filesystem::path& file) {
     return WarningBox(
         "Error " + std::to_string(number) + " Saving the Dialogue",

@@ -7,11 +7,16 @@
 
 #include <filesystem>
 #include <string>
+#include <string_view>
 
 namespace veyrant {
 
 // A box with the warning icon and only OK, as the program's failures show.
 MessageBoxRequest WarningBox(std::string title, std::string text);
+
+// A Library file could not be read or deleted: "Error n attempting to <attempt> from the Dialogue
+// Library." and where the user finds how to repair it.
+MessageBoxRequest LibraryCorruptedBox(std::string title, int number, std::string_view attempt);
 
 // Adding the Dialogue to the Library failed; the Library is as it was.
 MessageBoxRequest SaveFailureBox(int number, const std::filesystem::path& file);

@@ -24,9 +24,20 @@
 
 namespace veyrant {
 
-ExportEditorWindow::ExportEditorWindow(WindowLayer& windows, const QString& text,
-                                       const QString& proposedFileName)
-    : windows_(windows), proposedFileName_(proposedFileName), editor_(new QPlainTextEdit(this)) {
+QString ProposedSavePath(const SaveFolder& folder, const QString& fileName) {
+    const auto path = [](QStandardPaths::StandardLocation location) {
+        return std::filesystem::path(
+            QFile::encodeName(QStandardPaths::writableLocation(location)).toStdString());
+    };
+    const auto proposed = folder.Proposed(path(QStandardPaths::DocumentsLocation),
+                                          path(QStandardPaths::HomeLocation));
+    return QDir(QFile::decodeName(proposed.c_str())).filePath(fileName);
+}
+
+ExportEditorWindow::ExportEditorWindow(WindowLayer& windows, SaveFolder& folder,
+                                       const QString& text, const QString& proposedFileName)
+    : windows_(windows), folder_(folder), proposedFileName_(proposedFileName),
+      editor_(new QPlainTextEdit(this)) {
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowTitle(proposedFileName + QStringLiteral(" - Veyrant Sagrel"));
     editor_->setLineWrapMode(QPlainTextEdit::WidgetWidth);
@@ -40,9 +51,10 @@ ExportEditorWindow::ExportEditorWindow(WindowLayer& windows, const QString& text
     connect(saveAs, &QPushButton::clicked, this, [this] { SaveAs(); });
     connect(print, &QPushButton::clicked, this, [this] { Print(); });
     connect(close, &QPushButton::clicked, this, &QWidget::close);
-    for (const auto key : {QKeySequence::Save, QKeySequence::SaveAs}) {
-        connect(new QShortcut(key, this), &QShortcut::activated, this, [this] { SaveAs(); });
-    }
+    connect(new QShortcut(QKeySequence::Save, this), &QShortcut::activated, this,
+            [this] { Save(); });
+    connect(new QShortcut(QKeySequence::SaveAs, this), &QShortcut::activated, this,
+            [this] { SaveAs(); });
     connect(new QShortcut(QKeySequence::Print, this), &QShortcut::activated, this,
             [this] { Print(); });
 
@@ -71,7 +83,13 @@ bool ExportEditorWindow::SaveTo(const QString& path) {
     }
     editor_->document()->setModified(false);
     setWindowTitle(QFileInfo(path).fileName() + QStringLiteral(" - Veyrant Sagrel"));
+    savedPath_ = path;
+    folder_.Saved(QFile::encodeName(path).toStdString());
     return true;
+}
+
+bool ExportEditorWindow::Save() {
+    return savedPath_.isEmpty() ? SaveAs() : SaveTo(savedPath_);
 }
 
 bool ExportEditorWindow::SaveAs() {
@@ -79,8 +97,7 @@ bool ExportEditorWindow::SaveAs() {
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setNameFilters({QStringLiteral("Text files (*.txt)"), QStringLiteral("All files (*)")});
     dialog.setDefaultSuffix(QStringLiteral("txt"));
-    dialog.selectFile(QDir(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation))
-                          .filePath(proposedFileName_));
+    dialog.selectFile(ProposedSavePath(folder_, proposedFileName_));
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
         return false;
     }
@@ -108,7 +125,7 @@ void ExportEditorWindow::closeEvent(QCloseEvent* event) {
         this, QStringLiteral("Veyrant Sagrel"),
         QStringLiteral("The text has changed. Do you want to save it before closing?"),
         QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, QMessageBox::Save);
-    if (answer == QMessageBox::Discard || (answer == QMessageBox::Save && SaveAs())) {
+    if (answer == QMessageBox::Discard || (answer == QMessageBox::Save && Save())) {
         event->accept();
     } else {
         event->ignore();

@@ -5,6 +5,7 @@
 // its own; only Save As writes, and then the whole file or nothing.
 
 #include "core/WindowLayer.h"
+#include "printing/SaveFolder.h"
 
 #include <QString>
 #include <QWidget>
@@ -18,22 +19,31 @@ class ExportEditorWindow final : public QWidget {
     Q_OBJECT
 
 public:
-    ExportEditorWindow(WindowLayer& windows, const QString& text, const QString& proposedFileName);
+    ExportEditorWindow(WindowLayer& windows, SaveFolder& folder, const QString& text,
+                       const QString& proposedFileName);
 
     QPlainTextEdit& Editor() { return *editor_; }
-    // Writes the text to the path as UTF-8; false, after the user was told, when it failed.
+    // Writes the text to the path as UTF-8, which from then on is the text's file; false, after
+    // the user was told, when it failed.
     bool SaveTo(const QString& path);
 
 protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
+    // To the text's file once it has one; until then, as Save As.
+    bool Save();
     bool SaveAs();
     void Print();
 
     WindowLayer& windows_;
+    SaveFolder& folder_;
     QString proposedFileName_;
+    QString savedPath_;
     QPlainTextEdit* editor_;
 };
+
+// The path Save As proposes for a file name: in the folder the SaveFolder proposes.
+QString ProposedSavePath(const SaveFolder& folder, const QString& fileName);
 
 } // namespace veyrant

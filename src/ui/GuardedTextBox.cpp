@@ -1,5 +1,6 @@
 #include "ui/GuardedTextBox.h"
 
+#include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 
@@ -25,6 +26,16 @@ void GuardedTextBox::keyPressEvent(QKeyEvent* event) {
     if (KeyApplied) {
         KeyApplied();
     }
+}
+
+// Text from an input method goes through the key rules one character at a time, as typed keys
+// do; what it shows while composing never enters the box.
+void GuardedTextBox::inputMethodEvent(QInputMethodEvent* event) {
+    for (const char32_t character : event->commitString().toUcs4()) {
+        QKeyEvent key(QEvent::KeyPress, 0, Qt::NoModifier, QString::fromUcs4(&character, 1));
+        keyPressEvent(&key);
+    }
+    event->accept();
 }
 
 void GuardedTextBox::mousePressEvent(QMouseEvent* event) {

@@ -1,8 +1,8 @@
 #pragma once
 
 // A multi-line box that takes text only through the keys the Write window's rules let by: no
-// paste, no drop, no context menu, no middle-click insertion, no input method. Keys and mouse
-// presses go to its owner first.
+// paste, no drop, no context menu, no middle-click insertion; an input method's text comes as
+// keys. Keys and mouse presses go to its owner first.
 
 #include <QPlainTextEdit>
 #include <functional>
@@ -23,6 +23,7 @@ public:
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void inputMethodEvent(QInputMethodEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;

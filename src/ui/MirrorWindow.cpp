@@ -10,6 +10,7 @@
 #include "ui/GuardedTextBox.h"
 #include "ui/QtText.h"
 #include "ui/QtWindowLayer.h"
+#include "ui/SpokenText.h"
 
 #include <QCloseEvent>
 #include <QFrame>
@@ -120,12 +121,17 @@ int KeyCharacter(const QKeyEvent* event) {
     default:
         break;
     }
-    const QString text = event->text();
-    if (text.size() != 1 || text[0].unicode() < 32 || text[0].unicode() == 127) {
+    // By whole characters: an emoji is two UTF-16 units, and neither has a code.
+    const auto characters = event->text().toUcs4();
+    for (const char32_t character : characters) {
+        if (character >= 32 && character != 127 && !CodePointToCp1252(character)) {
+            return -1;
+        }
+    }
+    if (characters.size() != 1 || characters[0] < 32 || characters[0] == 127) {
         return 0;
     }
-    const auto byte = CodePointToCp1252(text[0].unicode());
-    return byte ? static_cast<unsigned char>(*byte) : -1;
+    return static_cast<unsigned char>(*CodePointToCp1252(characters[0]));
 }
 
 bool IsTextBox(MirrorControl control) {
@@ -155,7 +161,8 @@ Spoken SpokenFor(MirrorControl control) {
     case MirrorControl::txtAnalyze:
         return {"Ideas", "List ideas that might answer your question."};
     case MirrorControl::txtNote:
-        return {"Instruction", MirrorText::TipKeys};
+        // Its description is its words, given as they change.
+        return {"Instruction", ""};
     case MirrorControl::lblRem:
         return {"Entry status",
                 "'X' while the entry is too short or too long; near the limit, the words left."};
@@ -332,6 +339,8 @@ bool MirrorWindow::KeyFromScreen(MirrorControl, QKeyEvent* event) {
     }
     const int character = KeyCharacter(event);
     if (character < 0) {
+        mirror_.RefuseUnwritable();
+        Render();
         return false;
     }
     const int keyCode = VirtualKey(event);
@@ -353,6 +362,8 @@ void MirrorWindow::ReadBack(MirrorControl control) {
     shown.replace(QLatin1Char('\n'), QStringLiteral("\r\n"));
     const auto text = Utf16ToCp1252(std::u16string(shown.toStdU16String()));
     if (!text) {
+        // However it came, a character the Dialogue file cannot hold does not stay in the box.
+        RenderText(control, mirror_.Controls()[control], true);
         return;
     }
     const long caret = static_cast<long>(position + before.count(QLatin1Char('\n')));
@@ -380,6 +391,8 @@ void MirrorWindow::Render() {
     const auto& controls = mirror_.Controls();
     if (force || controls.Title != shown_.Title) {
         setWindowTitle(ToDisplayText(controls.Title));
+        // While the Read window shows, this window is minimised and named by its icon text.
+        setWindowIconText(windowTitle());
         shown_.Title = controls.Title;
     }
     QWidget* focus = Widget(controls.Focus);
@@ -428,7 +441,11 @@ void MirrorWindow::RenderControl(MirrorControl control, bool force) {
     } else if (IsLabel(control)) {
         auto* label = static_cast<QLabel*>(widget);
         if (force || now.Text != was.Text) {
-            label->setText(ToDisplayText(now.Text));
+            if (control == MirrorControl::txtNote) {
+                ShowSpokenText(*label, ToDisplayText(now.Text));
+            } else {
+                label->setText(ToDisplayText(now.Text));
+            }
         }
         if (control == MirrorControl::txtNote && (force || now.Ink != was.Ink)) {
             label->setStyleSheet(QStringLiteral("color: %1;").arg(Css(now.Ink)));
@@ -464,10 +481,10 @@ void MirrorWindow::RenderControl(MirrorControl control, bool force) {
     was = now;
 }
 
-void MirrorWindow::RenderText(MirrorControl control, const Control& now) {
+void MirrorWindow::RenderText(MirrorControl control, const Control& now, bool force) {
     auto* box = static_cast<GuardedTextBox*>(Widget(control));
     Control& was = shown_[control];
-    const bool textChanged = !rendered_ || now.Text != was.Text;
+    const bool textChanged = force || !rendered_ || now.Text != was.Text;
     if (textChanged) {
         box->setPlainText(ToDisplayText(now.Text));
     }

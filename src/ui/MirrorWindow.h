@@ -47,7 +47,7 @@ private:
     bool KeyFromScreen(MirrorControl control, QKeyEvent* event);
     void ReadBack(MirrorControl control);
     void RenderControl(MirrorControl control, bool force);
-    void RenderText(MirrorControl control, const Control& now);
+    void RenderText(MirrorControl control, const Control& now, bool force = false);
 
     Application& app_;
     Mirror& mirror_;

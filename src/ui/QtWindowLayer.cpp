@@ -294,8 +294,8 @@ PrintOutcome QtWindowLayer::PrintDialogue(const PrintRequest& request) {
 }
 
 void QtWindowLayer::ShowInEditor(const std::string& text, const std::string& proposedFileName) {
-    auto* editor =
-        new ExportEditorWindow(*this, ToDisplayText(text), ToDisplayText(proposedFileName));
+    auto* editor = new ExportEditorWindow(*this, saveFolder_, ToDisplayText(text),
+                                          ToDisplayText(proposedFileName));
     editor->show();
 }
 
@@ -303,12 +303,14 @@ std::optional<std::filesystem::path>
 QtWindowLayer::AskSaveFileName(const std::string& proposedFileName) {
     const QString chosen =
         QFileDialog::getSaveFileName(QApplication::activeWindow(), QStringLiteral("Save As"),
-                                     QDir::home().filePath(ToDisplayText(proposedFileName)),
+                                     ProposedSavePath(saveFolder_, ToDisplayText(proposedFileName)),
                                      QStringLiteral("Text files (*.txt);;All files (*)"));
     if (chosen.isEmpty()) {
         return std::nullopt;
     }
-    return std::filesystem::path(QFile::encodeName(chosen).toStdString());
+    const std::filesystem::path path(QFile::encodeName(chosen).toStdString());
+    saveFolder_.Saved(path);
+    return path;
 }
 
 void QtWindowLayer::EndProcessAfter(int milliseconds) {

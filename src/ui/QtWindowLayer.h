@@ -4,6 +4,7 @@
 // id, the screen, text measure and the machine's real font faces.
 
 #include "core/WindowLayer.h"
+#include "printing/SaveFolder.h"
 
 #include <QPointer>
 #include <QString>
@@ -71,6 +72,7 @@ private:
     std::map<TimerId, std::unique_ptr<QTimer>> timers_;
     std::map<TimerId, std::function<void()>> handlers_;
     std::function<std::string()> printFace_;
+    SaveFolder saveFolder_;
     bool busy_ = false;
     bool ended_ = false;
     // A Wayland client can neither learn that it was brought back from minimised nor raise

@@ -6,6 +6,7 @@
 #include "ui/FitText.h"
 #include "ui/QtText.h"
 #include "ui/QtWindowLayer.h"
+#include "ui/SpokenText.h"
 
 #include <QCloseEvent>
 #include <QFrame>
@@ -223,6 +224,8 @@ void ReaderWindow::Render() {
     const auto& controls = reader_.Controls();
     if (force || controls.Title != shown_.Title) {
         setWindowTitle(ToQt(controls.Title));
+        // A minimised window is named by its icon text; it keeps its name while it waits.
+        setWindowIconText(windowTitle());
         shown_.Title = controls.Title;
     }
     if (controls.Focus == ReaderControl::txtSearch) {
@@ -284,6 +287,10 @@ void ReaderWindow::RenderControl(ReaderControl control, bool force) {
         if (force || now.Text != was.Text) {
             button->setText(ToQt(now.Text));
         }
+        const QString help = ToQt(reader_.HoverTextFor(control));
+        if (button->accessibleDescription() != help) {
+            button->setAccessibleDescription(help);
+        }
         if (force || now.PressedIn != was.PressedIn || now.Ink != was.Ink) {
             button->setProperty("pressedIn", now.PressedIn);
             button->setProperty("hoverMark", now.Ink == ReaderColour::HoverInk);
@@ -292,7 +299,7 @@ void ReaderWindow::RenderControl(ReaderControl control, bool force) {
         }
     } else if (auto* label = qobject_cast<QLabel*>(widget)) {
         if (fontChanged || now.Text != was.Text) {
-            label->setText(ToQt(now.Text));
+            ShowSpokenText(*label, ToQt(now.Text));
             FitWrappedText(*label, font);
         }
     } else if (auto* line = qobject_cast<QLineEdit*>(widget)) {

@@ -14,6 +14,7 @@
 #include "ui/ReaderWindow.h"
 #include "ui/ResizeWindow.h"
 #include "ui/UtilityWindow.h"
+#include "ui/WindowRoles.h"
 
 #include <QApplication>
 #include <QDir>
@@ -42,6 +43,7 @@ int main(int argc, char** argv) {
         carried.addFile(QStringLiteral(":/icons/%1/veyrant-sagrel.png").arg(size));
     }
     QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("veyrant-sagrel"), carried));
+    InstallWindowRoles();
 
     QtWindowLayer windows;
     SystemClock clock;

@@ -58,7 +58,7 @@ TEST(StartUp, MainLoadsTheWriteWindowBehindTheBanner) {
               " 1 \r\n 1 \r\n 0  0  0  0 \r\n 1  1 \r\n 2 \r\n 21  30 \r\n 0 \r\n");
     EXPECT_TRUE(std::filesystem::is_directory(fixture.Folder.Dlg()));
     // The fixed libraries are loaded and indexed before the window shows.
-    EXPECT_EQ(fixture.App.Libraries.InfoLib.LastRow, 183);
+    EXPECT_EQ(fixture.App.Libraries.InfoLib.LastRow, 184);
     EXPECT_EQ(fixture.App.Libraries.KnowLib.SectionEnd[0], 11);
     EXPECT_EQ(fixture.App.Libraries.AdvLib.LastSection, 2);
 }

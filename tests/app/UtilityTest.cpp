@@ -13,7 +13,7 @@
 namespace veyrant::testing {
 namespace {
 
-const std::string AboutForVersion4 = "Veyrant Sagrel 4 for Windows\r\n"
+const std::string AboutForVersion4 = "Veyrant Sagrel 4 for Linux\r\n"
                                      "Veyrant Ardelune\r\n"
                                      "Version 4.1.26.11.22\r\n"
                                      "\r\n"
@@ -22,7 +22,7 @@ const std::string AboutForVersion4 = "Veyrant Sagrel 4 for Windows\r\n"
                                      "Powered by the Veyrant Technology Dovrin\r\n"
                                      " A 'Ambrel' Application\r\n"
                                      "\r\n"
-                                     "For All Windows 95 and Later\r\n"
+                                     "For Linux Desktops on X11 and Wayland\r\n"
                                      "\r\n"
                                      "\xA9 2026 Veyrant Technology\r\n"
                                      "veyrant-sagrel.org";
@@ -74,7 +74,7 @@ TEST(Utility, CaptionsAndTheProgramNumberInTheAboutText) {
                              "cmdResize \"Display Size Window\"\n"
                              "cmdAbout \"About Veyrant Sagrel\"\n");
     const std::string about = AboutText("5.0.27.1.3", "2027");
-    EXPECT_EQ(about.substr(0, 30), "Veyrant Sagrel 5 for Windows\r\n");
+    EXPECT_EQ(about.substr(0, 28), "Veyrant Sagrel 5 for Linux\r\n");
     EXPECT_NE(about.find("Version 5.0.27.1.3\r\n"), std::string::npos);
     EXPECT_NE(about.find("\xA9 2027 Veyrant Technology"), std::string::npos);
 }

@@ -86,7 +86,7 @@ TEST(MirrorHelp, ButtonHelpFollowsTheState) {
               "Erase the Dialogue to begin another. To save it first, click 'Save', or close the "
               "program without clicking 'New'.");
     EXPECT_EQ(HelpAfterRest(driver, MirrorControl::cmdDisplay),
-              "Save the displayed Dialogue as a text file in Notepad.");
+              "Save the displayed Dialogue as a text file in the program's text editor.");
 }
 
 TEST(MirrorHelp, TheResponseBoxTogglesAndExplainsItself) {

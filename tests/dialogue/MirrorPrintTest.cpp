@@ -46,7 +46,7 @@ TEST(MirrorPrint, OnlyAFailedPrintShowsTheErrorBox) {
         ASSERT_EQ(driver.Layer.Boxes.size(), 1u);
         EXPECT_EQ(driver.Layer.Boxes[0].Title, "Print Error");
         EXPECT_EQ(driver.Layer.Boxes[0].Text,
-                  "Windows has detected a printing error.\r\n\r\nIf your printer normally "
+                  "The system has detected a printing error.\r\n\r\nIf your printer normally "
                   "functions properly with a word processer, you may have assigned 'Print' to a "
                   "non-printing device (such as a Fax/Modem, Print-to-File, etc.). Check the "
                   "printer setup.");

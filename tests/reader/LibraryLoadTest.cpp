@@ -2,6 +2,7 @@
 #include "core/Text.h"
 #include "reader/FixedLibrary.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
 #include <string>
 #include <vector>
@@ -28,7 +29,7 @@ TEST_F(LoadedLibraries, EachOpensWithASectionAndItsLastSectionRunsToTheEnd) {
         int Rows;
         int Sections;
     } cases[] = {
-        {"Information", Libraries.InfoLib, 184, 6},
+        {"Information", Libraries.InfoLib, 185, 6},
         {"Knowledge", Libraries.KnowLib, 175, 7},
         {"Advanced Knowledge", Libraries.AdvLib, 61, 3},
     };
@@ -39,6 +40,36 @@ TEST_F(LoadedLibraries, EachOpensWithASectionAndItsLastSectionRunsToTheEnd) {
         EXPECT_EQ(library.RowKind[0], RowKinds::Section) << c.Name;
         EXPECT_EQ(library.SectionEnd.back(), library.LastRow) << c.Name;
         EXPECT_EQ(library.Texts.size(), library.Titles.size()) << c.Name;
+    }
+}
+
+// The rows tell what is so of this program on a Linux desktop, and where to mend the Library.
+TEST_F(LoadedLibraries, RowsTellWhatHoldsOnLinux) {
+    const struct {
+        const FixedLibrary& Library;
+        const char* Title;
+        const char* Says;
+    } cases[] = {
+        {Libraries.InfoLib, "\t\tRepairing the Dialogue Library", "Dialogue Library Corrupted"},
+        {Libraries.InfoLib, "\t\tCommand Buttons", "Three buttons"},
+        {Libraries.InfoLib, "\t\tCommand Buttons", "while a Suppose or a Comment is under way"},
+        {Libraries.InfoLib, "\tDialogue Commands",
+         "and \x91"
+         "Continue\x92 have none"},
+        {Libraries.InfoLib, "\tDialogue Commands", "Alt+P"},
+        {Libraries.InfoLib, "\t\tEntry Requirements and Limits", "up to 121 pairs"},
+        {Libraries.InfoLib, "\tLegal Notices", "/usr/share/doc/veyrant-sagrel/copyright"},
+        {Libraries.InfoLib, "\t\tLicense", "/usr/share/common-licenses/GPL-3"},
+        {Libraries.InfoLib, "\t\tOpening the Veyrant Libraries", "on Wayland clicking it"},
+        {Libraries.InfoLib, "\tRead Window", "on Wayland clicking it"},
+        {Libraries.AdvLib, "< The Ambrel >", "forty-seven Topics"},
+    };
+    for (const auto& c : cases) {
+        const auto& titles = c.Library.Titles;
+        const auto row = std::find(titles.begin(), titles.end(), c.Title) - titles.begin();
+        ASSERT_LT(row, std::ssize(titles)) << c.Title;
+        EXPECT_NE(c.Library.Texts[static_cast<std::size_t>(row)].find(c.Says), std::string::npos)
+            << c.Title;
     }
 }
 

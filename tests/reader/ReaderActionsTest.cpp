@@ -207,8 +207,8 @@ TEST_F(ReaderActions, MergeShowsTheSectionsTopicsExpanded) {
         {4, 0, "Veyrant Advanced Knowledge Library -- Merged Essay -- < Adv One >",
          "X\r\n\r\n\tText of row 1.\r\n\r\n", "\r\nY\r\n\r\n\tText of row 2.\r\n\r\n"},
         {2, 5, "Veyrant Information Library -- Merged Section -- < About the Veyrant Sagrel >",
-         "The Name and Its Background\r\n\r\n\tText of row 166.\r\n\r\n",
-         "\r\nTrademarks\r\n\r\n\tText of row 183.\r\n\r\n"},
+         "The Name and Its Background\r\n\r\n\tText of row 167.\r\n\r\n",
+         "\r\nTrademarks\r\n\r\n\tText of row 184.\r\n\r\n"},
     };
     for (const auto& c : cases) {
         Session t;
@@ -409,8 +409,7 @@ TEST_F(ReaderActions, AFailedDeleteKeepsThePair) {
     EXPECT_EQ(Windows.Boxes[1].Text,
               "Error 70 attempting to delete the file from the Dialogue Library. Because the "
               "Library has become corrupted, it is necessary for you to repair it. Open the "
-              "'User's Manual' from the Veyrant Sagrel program group and review the section, "
-              "'Repairing the Dialogue Library'.");
+              "Information Library and review the Topic, 'Repairing the Dialogue Library'.");
     EXPECT_EQ(Windows.Boxes[1].Icon, MessageIcon::Warning);
     EXPECT_EQ(Files(), before);
     EXPECT_EQ(Title(), shown);

@@ -94,15 +94,15 @@ TEST_F(ReaderIndex, IndexButtonTogglesTheLists) {
     EXPECT_EQ(Line(RC::List1), "3 rows, selected -1, top 0, split back=ListInUse");
 }
 
-// The first row of the Information Library names its place among 184 rows and its Section's
+// The first row of the Information Library names its place among 185 rows and its Section's
 // fourteen.
 TEST_F(ReaderIndex, InformationCaptionCountsRowSectionAndLibrary) {
     Open(2);
     Read().Click(RC::cmdNext);
     EXPECT_EQ(Title(),
-              "Veyrant Information Library -- 1/14/184 -- < Introduction for the New User >");
+              "Veyrant Information Library -- 1/14/185 -- < Introduction for the New User >");
     EXPECT_EQ(Line(RC::cmdPrior), "\"<< Prior\" disabled");
-    EXPECT_EQ(Line(RC::List1), "184 rows, selected 0, top 0, split back=ListInUse");
+    EXPECT_EQ(Line(RC::List1), "185 rows, selected 0, top 0, split back=ListInUse");
 }
 
 // Index-1 keeps the window split: Space explains instead of toggling. A Topic toggles, and the

@@ -309,12 +309,13 @@ TEST_F(ReaderSearch, SearchButtonStatesAndEnter) {
     EXPECT_EQ(Title(), "Veyrant Information Library");
 }
 
-// The hover help of cmdSearch follows the library outside search and the caption inside it.
+// The hover help of cmdSearch follows the library outside search and the caption inside it; File
+// and Print tell where the text goes on this system.
 TEST_F(ReaderSearch, HoverTextsFollowTheState) {
     SaveThree();
-    const auto hover = [&] {
+    const auto hover = [&](RC button = RC::cmdSearch) {
         Read().MouseMove(RC::List1);
-        Read().MouseMove(RC::cmdSearch);
+        Read().MouseMove(button);
         return Read().State().HoverText;
     };
     Open(1);
@@ -323,6 +324,10 @@ TEST_F(ReaderSearch, HoverTextsFollowTheState) {
     Read().Click(RC::cmdNext);
     EXPECT_EQ(hover(), "Search for words or phrases within only the displayed Dialogue. Click "
                        "'Index' to search all Dialogues, latest to earliest.");
+    EXPECT_EQ(hover(RC::cmdFile), "Write the displayed Dialogue into the program's text editor. "
+                                  "Then you may save it as a text file.");
+    EXPECT_EQ(hover(RC::cmdPrint),
+              "Print the displayed Dialogue. The pages are laid out for 'Letter' paper.");
     App.Links.CloseLibrary();
     const struct {
         int Library;

@@ -165,8 +165,7 @@ TEST_F(OptionsTest, CleanStopsAtAMissingDialogueFileWithItsBox) {
     EXPECT_EQ(Windows.Boxes[1].Text,
               "Error 53 attempting to delete a file from the Dialogue Library. Because the "
               "Library has become corrupted, it is necessary for you to repair it. Open the "
-              "'User's Manual' from the Veyrant program group and review the section, "
-              "'Repairing the Dialogue Library'.");
+              "Information Library and review the Topic, 'Repairing the Dialogue Library'.");
     EXPECT_EQ(Names(Folder.Isp()), std::vector<std::string>{second});
     EXPECT_NE(Window.Dump().find("cmdClean enabled"), std::string::npos);
 }

@@ -95,7 +95,8 @@ private slots:
         displaySize.show();
         OptionsWindow options(program.LibraryOptions);
         options.show();
-        ExportEditorWindow exported(program.Layer, QStringLiteral("Dialogue text"),
+        SaveFolder folders;
+        ExportEditorWindow exported(program.Layer, folders, QStringLiteral("Dialogue text"),
                                     QStringLiteral("Dialogue.txt"));
         const auto about = BuildMessageBox(
             {"About the Veyrant Sagrel Program", AboutText("4.1.26.11.22", "2026")});
@@ -137,9 +138,6 @@ private slots:
         const std::vector<Case> cases = {
             {MirrorControl::txtMirror, "Entry",
              "Type a question or a statement, then press 'Enter'."},
-            {MirrorControl::txtNote, "Instruction",
-             "F1=Help F2=Know F3=Retrieve F4=Aknow F5=Converse F6=Suppose F7=Comment F9=Rewrite "
-             "F10=Edit F11=Display"},
             {MirrorControl::cmdConverse, "Converse",
              "Create entry-response pairs with the Converse method. Ask questions or make "
              "statements for the Sagrel's response."},
@@ -158,10 +156,16 @@ private slots:
                 ->actionInterface();
         QCOMPARE(help->keyBindingsForAction(QAccessibleActionInterface::pressAction()),
                  QStringList{"Alt+H"});
-        // The description follows the button's state, as the hover help does.
+        // The description follows the button's state, as the hover help does; the instruction
+        // line's follows its words.
         QTest::mouseClick(write.Widget(MirrorControl::cmdConverse), Qt::LeftButton);
         QCOMPARE(Spoken(write.Widget(MirrorControl::cmdConverse), QAccessible::Description),
                  QString("Click 'Cancel' to exit Converse and reset to New Dialogue."));
+        QWidget* note = write.Widget(MirrorControl::txtNote);
+        QCOMPARE(Spoken(note, QAccessible::Name), QString("Instruction"));
+        QCOMPARE(Spoken(note, QAccessible::Description),
+                 QString("Type your question or statement. Click 'Rewrite' to erase the text. "
+                         "Press 'Enter' for the Sagrel response."));
     }
 
     void tabWalksTheDialogsInReadingOrder() {

@@ -3,8 +3,12 @@
 #include "support/FakeWindowLayer.h"
 #include "support/TempFolder.h"
 
+#include <QApplication>
+#include <QMessageBox>
 #include <QPlainTextEdit>
+#include <QPushButton>
 #include <QTest>
+#include <QTimer>
 #include <fstream>
 #include <sstream>
 
@@ -28,12 +32,14 @@ std::size_t FilesIn(const std::filesystem::path& folder) {
 class ExportEditorWindowTest : public QObject {
     Q_OBJECT
 
+    SaveFolder folders;
+
 private slots:
     // The user's edits are what is saved, as UTF-8 with the platform's line ends.
     void SavesTheEditedTextAsUtf8() {
         testing::FakeWindowLayer windows;
         testing::TempFolder folder;
-        ExportEditorWindow editor(windows,
+        ExportEditorWindow editor(windows, folders,
                                   QString::fromUtf8("Veyrant Sagrel\n\u201cCaf\u00e9\u201d"),
                                   QStringLiteral("Dialogue.txt"));
         editor.Editor().appendPlainText(QStringLiteral("A line of my own."));
@@ -51,7 +57,8 @@ private slots:
     void AFailedSaveSaysSoAndLeavesNoFile() {
         testing::FakeWindowLayer windows;
         testing::TempFolder folder;
-        ExportEditorWindow editor(windows, QStringLiteral("Text"), QStringLiteral("Dialogue.txt"));
+        ExportEditorWindow editor(windows, folders, QStringLiteral("Text"),
+                                  QStringLiteral("Dialogue.txt"));
         editor.Editor().appendPlainText(QStringLiteral("More."));
         const auto path = folder / "missing" / "Sunday.txt";
 
@@ -63,6 +70,33 @@ private slots:
         QCOMPARE(FilesIn(folder.Path()), std::size_t{0});
         // Still changed, so closing will ask.
         QVERIFY(editor.Editor().document()->isModified());
+    }
+
+    // Once saved, the text has its file: closing after more changes saves there, and no file
+    // dialog asks for a name again.
+    void ClosingAfterASaveKeepsTheFile() {
+        testing::FakeWindowLayer windows;
+        testing::TempFolder folder;
+        auto* editor = new ExportEditorWindow(windows, folders, QStringLiteral("Text"),
+                                              QStringLiteral("Dialogue.txt"));
+        editor->show();
+        const auto path = folder / "Sunday.txt";
+        QVERIFY(editor->SaveTo(QString::fromStdString(path.string())));
+        editor->Editor().appendPlainText(QStringLiteral("More."));
+        bool askedForAName = false;
+        QTimer answer;
+        connect(&answer, &QTimer::timeout, [&] {
+            if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+                box->button(QMessageBox::Save)->click();
+            } else if (auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget())) {
+                askedForAName = true;
+                dialog->reject();
+            }
+        });
+        answer.start(20);
+        QVERIFY(editor->close());
+        QVERIFY(!askedForAName);
+        QCOMPARE(ReadBytes(path), std::string("Text\nMore."));
     }
 };
 

@@ -10,6 +10,7 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QInputMethodEvent>
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QPushButton>
@@ -99,13 +100,32 @@ private slots:
         QTest::keyClick(entry, Qt::Key_Backspace);
         QTest::keyClick(entry, Qt::Key_Left);
         QTest::keyClicks(entry, QStringLiteral("X"));
-        QCOMPARE(entry->toPlainText(), Prefix + QStringLiteral("Xabc"));
-
-        // A character with no place in the program's character set is refused.
-        QKeyEvent omega(QEvent::KeyPress, 0x3A9, Qt::NoModifier, QString(QChar(0x3A9)));
-        QApplication::sendEvent(entry, &omega);
         QTest::keyClick(entry, Qt::Key_Tab);
         QCOMPARE(entry->toPlainText(), Prefix + QStringLiteral("Xabc"));
+    }
+
+    // A character the Dialogue file cannot hold, typed (an emoji is a surrogate pair) or sent by
+    // an input method, is refused with the program's notice and is never counted.
+    void UnwritableCharactersAreRefusedWithANotice() {
+        WriteWindow write;
+        write.Click(MirrorControl::cmdConverse);
+        auto* entry = write.Box(MirrorControl::txtMirror);
+        QTest::keyClicks(entry, QStringLiteral("I feel "));
+        const int count = write.Logic->State().EntryCount;
+        for (const char* typed : {"\U0001F600", "\u0151", "\u03B1"}) {
+            QKeyEvent key(QEvent::KeyPress, 0, Qt::NoModifier, QString::fromUtf8(typed));
+            QApplication::sendEvent(entry, &key);
+        }
+        QInputMethodEvent composed;
+        composed.setCommitString(QStringLiteral("\u0436"));
+        QApplication::sendEvent(entry, &composed);
+        QCOMPARE(write.Layer.Boxes.size(), std::size_t{4});
+        QCOMPARE(write.Layer.Boxes.back().Title, std::string("Invalid Key"));
+        QCOMPARE(entry->toPlainText(), Prefix + QStringLiteral("I feel "));
+        QCOMPARE(write.Logic->State().EntryCount, count);
+        QTest::keyClicks(entry, QStringLiteral("about my new home today."));
+        QTest::keyClick(entry, Qt::Key_Return);
+        QVERIFY(!write.Box(MirrorControl::txtResponse)->toPlainText().contains("too short"));
     }
 
     void PasteDropAndShortcutsAreRefused() {

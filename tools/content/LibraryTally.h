@@ -27,7 +27,7 @@ struct LibraryTarget {
 };
 
 inline constexpr std::array<LibraryTarget, 3> LibraryTargets = {{
-    {"information", "Information Library", 184, 6, 27, 151, 860, 240, 540},
+    {"information", "Information Library", 185, 6, 27, 152, 860, 240, 540},
     {"knowledge", "Knowledge Library", 175, 7, 29, 139, 874, 0, 0},
     {"advanced", "Advanced Knowledge Library", 61, 3, 58, 0, 2832, 290, 600},
 }};
