@@ -55,7 +55,8 @@ bool CheckFonts(Application& app) {
          "The Veyrant Sagrel font system is not functioning, probably because one or more fonts "
          "have been changed since installation.\r\n\r\nThese required font(s) cannot be "
          "accessed:\r\n\r\n" +
-             failures + " Details on how to resolve font problems are given in the User's Manual.",
+             failures +
+             " Details on how to resolve font problems are given in the Information Library.",
          MessageIcon::Stop, MessageButtons::Ok, 1});
     app.Windows.EndProcess();
     return false;

@@ -11,7 +11,7 @@ void WarnSmallDisplay(Application& app) {
          "parameter will be changed and the program closed. Then you may re-open it.\r\n\r\n"
          "Please note that 640x480 is not a recommended display size for the Veyrant Sagrel. "
          "Although the program will operate, its visual parameters are not optimum. Some "
-         "instruction messages may be cut off. You may also need to lower your Task Bar.",
+         "instruction messages may be cut off. You may also need to hide your desktop's panel.",
          MessageIcon::Warning, MessageButtons::Ok, 1});
     app.UserSettings.DisplayOption = 0;
     SaveSettings(app);

@@ -162,17 +162,19 @@ MessageBoxRequest SystemErrorBox(int number) {
     box.Buttons = MessageButtons::Ok;
     if (number == ErrorNumber::OutOfMemory) {
         box.Title = "Cannot Load -- Out of Memory";
-        box.Text = "Windows cannot load the Veyrant Sagrel because it has insufficient available "
-                   "memory.\r\n\r\nThe immediate solution is to close one or more open programs. "
-                   "However, we recommend that you clear your computer's memory by closing all "
-                   "open programs, then exiting and restarting Windows.";
-    } else if (number == SystemConflict) {
-        box.Title = "System Conflict, Error 35 -- Close Programs and Restart Windows";
         box.Text =
-            "A system conflict has occurred between Windows and the Veyrant Sagrel program.\r\n\r\n"
+            "The system cannot load the Veyrant Sagrel because it has insufficient available "
+            "memory.\r\n\r\nThe immediate solution is to close one or more open programs. "
+            "However, we recommend that you clear your computer's memory by closing all "
+            "open programs, then logging out and in again.";
+    } else if (number == SystemConflict) {
+        box.Title = "System Conflict, Error 35 -- Close Programs and Log In Again";
+        box.Text =
+            "A system conflict has occurred between the system and the Veyrant Sagrel "
+            "program.\r\n\r\n"
             "This is probably due to a memory conflict with a running program, most likely an "
-            "unnecessary 'fix Windows' background program (e.g. Anti-Crash, First Aid, etc.). "
-            "Close your open Windows programs, exit and restart Windows to clear your memory, "
+            "unnecessary background program. "
+            "Close your open programs, log out and in again to clear your memory, "
             "then close all open programs including those in the background. If the program "
             "runs, then closing programs when necessary and-or occaisionally refreshing your "
             "memory should prevent any further conflict.\r\n\r\nIf you continue to experience "

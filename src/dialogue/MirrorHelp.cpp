@@ -155,7 +155,7 @@ std::string Mirror::HelpFor(MirrorControl control) const {
                "That will erase the current Dialogue.";
     case MirrorControl::cmdHelp:
         return state_.ReadLibrary == 2
-                   ? "The Information Library is already open. Check your Task Bar. You must "
+                   ? "The Information Library is already open. Check your open windows. You must "
                      "close the Read window to right-click for Utilities."
                    : "Open the Information Library for instructions and information on the "
                      "program. Right-click to open the Utilities window.";

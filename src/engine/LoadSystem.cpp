@@ -25,12 +25,12 @@ std::string LoadSystemText(int number, std::int16_t systemError, std::int16_t sy
             return "Parity error loading the configuration system file. Data structure is "
                    "incorrect.";
         }
-        return "Windows cannot load the Veyrant Sagrel because it has insufficient available "
+        return "The system cannot load the Veyrant Sagrel because it has insufficient available "
                "memory." +
                Paragraph +
                "The immediate solution is to close one or more open programs. However, we "
                "recommend that you clear your computer's memory by closing all open programs, "
-               "then exiting and restarting Windows.";
+               "then logging out and in again.";
     case TooManyBlocks:
         return "DESIGN ERROR: Sysblocks too large for current system design. Sysblocks=" + blocks +
                " exceeds MaxDataBlocks=" + std::to_string(MaxDataBlocks);

@@ -85,7 +85,7 @@ TEST(FontCheck, EachFaceThatCannotBeSelectedIsNamedAndTheProgramEnds) {
                              "accessed:\r\n\r\n" +
                                  c.Slots +
                                  " Details on how to resolve font problems are given in the "
-                                 "User's Manual.");
+                                 "Information Library.");
         // One stop box per failed step before the summary.
         EXPECT_EQ(boxes.size(), c.Slots == italicSlot ? 2u : 3u);
         EXPECT_EQ(boxes.front().Icon, MessageIcon::Stop);

@@ -298,10 +298,10 @@ TEST(StartUp, SystemErrorBoxesByNumber) {
     };
     const Case cases[] = {
         {7, "Cannot Load -- Out of Memory",
-         "Windows cannot load the Veyrant Sagrel because it has insufficient available "
+         "The system cannot load the Veyrant Sagrel because it has insufficient available "
          "memory.\r\n\r\nThe immediate solution"},
-        {35, "System Conflict, Error 35 -- Close Programs and Restart Windows",
-         "A system conflict has occurred between Windows and the Veyrant Sagrel "
+        {35, "System Conflict, Error 35 -- Close Programs and Log In Again",
+         "A system conflict has occurred between the system and the Veyrant Sagrel "
          "program.\r\n\r\nThis is probably"},
         {1001, "Unknown System Error 1001 -- Please Notify Veyrant Technology",
          "A system error has occurred in the Veyrant Sagrel program.\r\n\r\nPlease notify "

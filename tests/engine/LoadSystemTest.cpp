@@ -11,10 +11,11 @@ namespace {
 using testing::FakeWindowLayer;
 
 const std::string MemoryText =
-    "Windows cannot load the Veyrant Sagrel because it has insufficient available memory.\r\n\r\n"
+    "The system cannot load the Veyrant Sagrel because it has insufficient available "
+    "memory.\r\n\r\n"
     "The immediate solution is to close one or more open programs. However, we recommend that "
-    "you clear your computer's memory by closing all open programs, then exiting and restarting "
-    "Windows.";
+    "you clear your computer's memory by closing all open programs, then logging out and in "
+    "again.";
 const std::string ParityText =
     "Parity error loading the configuration system file. Data structure is incorrect.";
 
