@@ -106,8 +106,8 @@ const char* const BeliefFrames[] = {
     "your belief about",   "your belief is",     "your belief has",      "your belief will",
     "your belief may",     "your belief can",    "than you think",       "than you realize",
     "than you know",       "than you let",       "than you feel",        "than you admit",
-    "than you seem to",    "than you fear",      "than you expect",      "than you believe",
-    "already suspect",     "you already know",   "already knows"};
+    "than you seem to",    "than you might",     "than you fear",        "than you expect",
+    "than you believe",    "already suspect",    "you already know",     "already knows"};
 
 std::string BeliefFrame(const std::string& text) {
     const std::string lower = Lower(text);
