@@ -1,6 +1,7 @@
 // What a reader would stumble on in composed replies, where a rule can be checked by machine:
-// a word said twice, the user's "I" put in the Sagrel's mouth, and replies that all begin
-// alike. Each message is drawn at many moments of the day, as the Write window draws it.
+// a word said twice, the user's "I" put in the Sagrel's mouth, a claim about what the user
+// feels, believes or has not realised, and replies that all begin alike. Each message is drawn at
+// many moments of the day, as the Write window draws it.
 
 #include "EngineFixture.h"
 #include "MessageRequests.h"
@@ -98,6 +99,26 @@ std::string UnframedFirstPerson(const std::string& text) {
     return check();
 }
 
+// Frames that tell the user what they feel, believe or have not realised, about a matter the
+// program knows nothing of. The Sagrel may ask about a belief, never state one.
+const char* const BeliefFrames[] = {
+    "perhaps you believe", "it may be that you", "it could be that you", "your feeling about",
+    "your belief about",   "your belief is",     "your belief has",      "your belief will",
+    "your belief may",     "your belief can",    "than you think",       "than you realize",
+    "than you know",       "than you let",       "than you feel",        "than you admit",
+    "than you seem to",    "than you might",     "than you fear",        "than you expect",
+    "than you believe",    "already suspect",    "you already know",     "already knows"};
+
+std::string BeliefFrame(const std::string& text) {
+    const std::string lower = Lower(text);
+    for (const char* frame : BeliefFrames) {
+        if (lower.find(frame) != std::string::npos) {
+            return frame;
+        }
+    }
+    return {};
+}
+
 std::string Opening(const std::string& text) {
     auto words = BlankWords(text);
     words.resize(std::min<std::size_t>(words.size(), 3));
@@ -124,12 +145,13 @@ bool KeepsFirstPersonFramed(std::int16_t message) {
 class ContentReading : public testing::EngineFixture,
                        public ::testing::WithParamInterface<MessageRequest> {};
 
-TEST_P(ContentReading, NoDoubledWordNoUnframedFirstPersonAndVariedOpenings) {
+TEST_P(ContentReading, NoDoubledWordNoUnframedFirstPersonNoBeliefClaimAndVariedOpenings) {
     const MessageRequest& request = GetParam();
     TheEngine.SeedSeries();
     std::map<std::string, int> openings;
     std::set<std::string> doubled;
     std::set<std::string> unframed;
+    std::set<std::string> beliefClaims;
     for (int k = 0; k < DrawnReplies; ++k) {
         TheClock.Seconds = 300.0f + 8.25f * static_cast<float>(k);
         TheEngine.SeriesSeed = TheClock.Timer();
@@ -141,10 +163,14 @@ TEST_P(ContentReading, NoDoubledWordNoUnframedFirstPersonAndVariedOpenings) {
         if (KeepsFirstPersonFramed(request.Message) && !UnframedFirstPerson(text).empty()) {
             unframed.insert(Cp1252ToUtf8(text));
         }
+        if (!BeliefFrame(text).empty()) {
+            beliefClaims.insert(Cp1252ToUtf8(text));
+        }
         ++openings[Opening(text)];
     }
     EXPECT_THAT(doubled, ::testing::IsEmpty());
     EXPECT_THAT(unframed, ::testing::IsEmpty());
+    EXPECT_THAT(beliefClaims, ::testing::IsEmpty());
     if (MustVaryOpening(request.Message)) {
         const auto most =
             std::max_element(openings.begin(), openings.end(),

@@ -6,7 +6,7 @@
 // With --joins it composes --count replies per message and lists instead every pair of phrase
 // components that stood next to each other (marks between them aside), most frequent first,
 // with how often they met and up to SAMPLES of their joins: a sentence reads badly where two
-// rows meet, so that is where to read.
+// rows meet, so that is where to read. It ends with the groups that no reply of the run met.
 
 #include "common/ConsoleSeams.h"
 #include "core/Clock.h"
@@ -23,6 +23,7 @@
 #include <filesystem>
 #include <iostream>
 #include <map>
+#include <set>
 #include <string>
 #include <utility>
 #include <vector>
@@ -105,7 +106,8 @@ struct Meetings {
 // Walks the last composition and counts each meeting of two phrase rows, with the marks that
 // stood between them in the sample.
 void CountJoins(Engine& engine, std::size_t samples,
-                std::map<std::pair<std::string, std::string>, Meetings>& joins) {
+                std::map<std::pair<std::string, std::string>, Meetings>& joins,
+                std::set<std::int16_t>& met) {
     Composer& composer = engine.MessageComposer();
     std::int16_t previous = 0;
     std::string previousRow;
@@ -114,6 +116,7 @@ void CountJoins(Engine& engine, std::size_t samples,
         const auto at = static_cast<std::size_t>(i);
         composer.Rcmp(composer.CompositionComponents[at], composer.CompositionRows[at]);
         const std::string row = composer.PhraseOut;
+        met.insert(composer.CompositionComponents[at]);
         if (IsMark(row)) {
             marks += row;
             continue;
@@ -144,6 +147,20 @@ void PrintJoins(const std::map<std::pair<std::string, std::string>, Meetings>& j
         for (const std::string& sample : met.Samples) {
             std::cout << "        " << Cp1252ToUtf8(sample) << "\n";
         }
+    }
+}
+
+void PrintNeverMet(const Engine& engine, const std::set<std::int16_t>& met) {
+    std::vector<std::string> never;
+    const std::int16_t last = engine.Tables().ComponentCount;
+    for (std::int16_t component = 0; component <= last; ++component) {
+        if (met.count(component) == 0) {
+            never.push_back(Label(engine, component));
+        }
+    }
+    std::cout << "Groups never met: " << never.size() << " of " << last + 1 << "\n";
+    for (const std::string& label : never) {
+        std::cout << "    " << label << "\n";
     }
 }
 
@@ -199,6 +216,7 @@ int main(int argc, char** argv) {
     }
     if (status == 0) {
         engine.SeedSeries();
+        std::set<std::int16_t> met;
         for (int message = only == 0 ? 1 : only; message <= (only == 0 ? 16 : only); ++message) {
             std::cout << "Message " << message << ": " << MessageNames[message] << "\n";
             std::map<std::pair<std::string, std::string>, Meetings> joins;
@@ -211,10 +229,13 @@ int main(int argc, char** argv) {
                 if (joinSamples < 0) {
                     std::cout << "    " << Cp1252ToUtf8(reply) << "\n";
                 } else {
-                    CountJoins(engine, static_cast<std::size_t>(joinSamples), joins);
+                    CountJoins(engine, static_cast<std::size_t>(joinSamples), joins, met);
                 }
             }
             PrintJoins(joins);
+        }
+        if (joinSamples >= 0) {
+            PrintNeverMet(engine, met);
         }
     }
     std::filesystem::remove_all(folderName);
