@@ -45,6 +45,7 @@ private slots:
         QVERIFY(library.AddToLibrary("\tA river.", "\r\n\r\n\t\x93Why?\x94"));
         SetFileFault({});
         QVERIFY(steps > 0);
+        qInfo() << "a second start at each of" << steps << "file calls of a save";
         QCOMPARE(held, steps);
         bool reached = false;
         std::thread second([&] { reached = SingleCopy(temp.Path()).CallFirstForward(); });
