@@ -30,7 +30,7 @@ void NarrowToUser(const std::filesystem::path& folder) {
 
 } // namespace
 
-void InstallAppFolder(const AppFolder& folder, const WindowLayer& windows) {
+void InstallAppFolder(const AppFolder& folder, WindowLayer& windows) {
     // The folder each step works in, for the box when the disk refuses.
     std::filesystem::path at = folder.Root;
     try {
@@ -43,7 +43,13 @@ void InstallAppFolder(const AppFolder& folder, const WindowLayer& windows) {
             NarrowToUser(path);
         }
         at = folder.Root;
-        FinishInterruptedChanges(folder.Root);
+        try {
+            FinishInterruptedChanges(folder);
+        } catch (const UnfinishedChange& change) {
+            // The Dialogues stand as the change left them and the note waits for a later start:
+            // nothing stops the user from writing.
+            windows.ShowMessage(UnfinishedChangeBox(change.Cause(), change.File()));
+        }
         at = folder.Exe();
         const auto fontFile = folder.Exe() / "Qdrfonts.ini";
         std::error_code error;

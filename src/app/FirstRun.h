@@ -12,7 +12,8 @@
 
 namespace veyrant {
 
-// Raises InstallFailure when the disk refuses a folder or a file, ProgramError otherwise.
-void InstallAppFolder(const AppFolder& folder, const WindowLayer& windows);
+// Raises InstallFailure when the disk refuses a folder or a file, ProgramError otherwise. A
+// change an earlier run could not finish is told in a box, and the start goes on.
+void InstallAppFolder(const AppFolder& folder, WindowLayer& windows);
 
 } // namespace veyrant

@@ -25,6 +25,8 @@ PlainCause PlainCauseOf(int cause) {
     case ENOTDIR:
     case EEXIST:
         return {"A file stands where the folder should be.", "Move that file out of the way"};
+    case EISDIR:
+        return {"A folder stands where the file should be.", "Move that folder out of the way"};
     case EACCES:
     case EPERM:
         return {"The program is not allowed to write there.", "Allow the program to write there"};
@@ -58,6 +60,21 @@ MessageBoxRequest InstallFailureBox(const InstallFailure& failure) {
                (systemWords.Ok ? " The system reports: " + systemWords.Text + "." : "") +
                "\r\n\r\nYour Dialogues are not affected. " + plain.Remedy +
                ", then start the program again.";
+    box.Icon = MessageIcon::Warning;
+    box.Buttons = MessageButtons::Ok;
+    return box;
+}
+
+MessageBoxRequest UnfinishedChangeBox(int cause, const std::filesystem::path& file) {
+    const PlainCause plain = PlainCauseOf(cause);
+    MessageBoxRequest box;
+    box.Title = "Cannot Finish Storing the Dialogues";
+    box.Text = "The Veyrant Sagrel cannot finish a change of its files that it began earlier, "
+               "because the disk refuses the file " +
+               PathText(file) + ".\r\n\r\n" + plain.Cause +
+               "\r\n\r\nNothing is lost: the change is kept and will be finished at a later "
+               "start, and you can go on writing now. " +
+               plain.Remedy + ".";
     box.Icon = MessageIcon::Warning;
     box.Buttons = MessageButtons::Ok;
     return box;

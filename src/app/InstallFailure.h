@@ -31,4 +31,7 @@ std::filesystem::path FailedFolder(const std::filesystem::path& path);
 
 MessageBoxRequest InstallFailureBox(const InstallFailure& failure);
 
+// A change an earlier run began could not be finished: the file the disk refuses, and why.
+MessageBoxRequest UnfinishedChangeBox(int cause, const std::filesystem::path& file);
+
 } // namespace veyrant

@@ -6,6 +6,7 @@
 #include "core/ProgramError.h"
 #include "core/WholeFile.h"
 #include "core/WindowLayer.h"
+#include "storage/StorageFailure.h"
 
 #include <initializer_list>
 
@@ -121,10 +122,15 @@ void LoadReadSettings(Application& app) {
 
 void SaveReadSettings(const Application& app) {
     const ReadSettings& r = app.ReaderSettings;
-    WriteWholeFile(ReadFile(app), SettingsLine({r.OpenFlagInfo, r.MarkRowInfo}) +
-                                      SettingsLine({r.OpenFlagDialogue, r.MarkRowDialogue}) +
-                                      SettingsLine({r.OpenFlagKnow, r.MarkRowKnow}) +
-                                      SettingsLine({r.OpenFlagAdv, r.MarkRowAdv}));
+    try {
+        WriteWholeFile(ReadFile(app), SettingsLine({r.OpenFlagInfo, r.MarkRowInfo}) +
+                                          SettingsLine({r.OpenFlagDialogue, r.MarkRowDialogue}) +
+                                          SettingsLine({r.OpenFlagKnow, r.MarkRowKnow}) +
+                                          SettingsLine({r.OpenFlagAdv, r.MarkRowAdv}));
+    } catch (const ProgramError& error) {
+        // The marked places are not worth the running Dialogue: the user is told, and goes on.
+        app.Windows.ShowMessage(PlacesFailureBox(error.Number(), ReadFile(app)));
+    }
 }
 
 void LoadFontNames(Application& app) {

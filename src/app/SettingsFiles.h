@@ -19,6 +19,7 @@ void SaveSettings(const Application& app);
 
 // Keeps an open request the caller set in memory when the file holds 0 for that flag.
 void LoadReadSettings(Application& app);
+// A failure is told in a box, and the program goes on.
 void SaveReadSettings(const Application& app);
 
 // On a failure the user is told, and the faces this machine has stand in.

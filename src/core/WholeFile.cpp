@@ -42,6 +42,8 @@ void RaiseFromErrno() {
 namespace {
 
 constexpr std::size_t StagedSuffix = 6;
+// Between the name and the letters, so that no file of the user's reads as one of ours.
+constexpr std::string_view StagedMark = ".veyrant-staged.";
 
 class FileDescriptor {
 public:
@@ -101,7 +103,8 @@ std::filesystem::path StageWithRights(const std::filesystem::path& path, std::st
     std::filesystem::path staged;
     int opened = -1;
     do {
-        staged = folder / ("." + path.filename().string() + "." + StagedLetters());
+        staged =
+            folder / ("." + path.filename().string() + std::string(StagedMark) + StagedLetters());
         opened = files::Open(staged, O_WRONLY | O_CREAT | O_EXCL, rights);
     } while (opened < 0 && errno == EEXIST);
     FileDescriptor fd(opened);
@@ -169,9 +172,9 @@ std::string ReadWholeFile(const std::filesystem::path& path, std::size_t limit) 
 }
 
 bool IsStagedName(const std::string& name) {
-    const auto dot = name.rfind('.');
-    return name.size() > StagedSuffix + 2 && name.front() == '.' && dot != 0 &&
-           dot == name.size() - StagedSuffix - 1;
+    const std::size_t tail = StagedMark.size() + StagedSuffix;
+    return name.size() > tail + 1 && name.front() == '.' &&
+           name.compare(name.size() - tail, StagedMark.size(), StagedMark) == 0;
 }
 
 std::filesystem::path StageWholeFile(const std::filesystem::path& path, std::string_view bytes) {

@@ -34,12 +34,13 @@ void WriteWholeFile(const std::filesystem::path& path, std::string_view bytes);
 // the user gives a new file, not the program's private ones.
 void WriteUserFile(const std::filesystem::path& path, std::string_view bytes);
 
-// Lays the text down, flushed, under a hidden name beside the path ("." + name + "." + six
-// letters) and returns that name; the caller renames it into place. Raises ProgramError as
-// WriteWholeFile does, and then leaves no file behind.
+// Lays the text down, flushed, under a hidden name beside the path ("." + name +
+// ".veyrant-staged." + six letters) and returns that name; the caller renames it into place. Raises
+// ProgramError as WriteWholeFile does, and then leaves no file behind.
 std::filesystem::path StageWholeFile(const std::filesystem::path& path, std::string_view bytes);
 
-// True for a name StageWholeFile makes: the hidden leftover of a write that never landed.
+// True for a name StageWholeFile makes, and for no other: the hidden leftover of a write that
+// never landed, which alone the start may remove.
 bool IsStagedName(const std::string& name);
 
 // The program's error number for a failed system call.

@@ -75,6 +75,7 @@ private:
     // The date line, the Inspiration and the Dialogue, as ShowDialogue shows them.
     void ComposeDialogueText(std::string& text) const;
     void LoadDialogue(int position);
+    void LoadShownDialogue();
     void ShowDialogue(int position);
     std::string FitToList(const std::string& text) const;
     const FixedLibrary& OpenLibrary() const;

@@ -62,6 +62,7 @@ void Reader::ClickPrint() {
 }
 
 void Reader::PrintOpenDialogue() {
+    LoadShownDialogue();
     // The line ends that lead every saved Dialogue stay off the page.
     PrintDialogue(world_.Windows, state_.DialogueDate, state_.InspirationBody,
                   Mid(state_.DialogueBody, 5), std::string(PrintTexts::WriteWindowTitle));
@@ -121,8 +122,15 @@ void Reader::MergeSection() {
     FocusGained(ReaderControl::txtSpin);
 }
 
+// A search walk reads every Dialogue after the last hit, so what was read last may not be what
+// is on show: Print, File and Delete all take the Dialogue at the list position.
+void Reader::LoadShownDialogue() {
+    LoadDialogue(state_.ListPos + 1);
+}
+
 void Reader::FileOpenDialogue() {
     EndHover();
+    LoadShownDialogue();
     ExportToEditor(world_.Windows, state_.DialogueDate,
                    "Inspiration" + std::string(CrLf) + std::string(CrLf) + state_.InspirationBody +
                        std::string(CrLf) + std::string(CrLf) + "Dialogue" + state_.DialogueBody);

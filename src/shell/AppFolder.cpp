@@ -28,7 +28,7 @@ AppFolder AppFolder::FromEnvironment() {
     } else {
         dataHome = HomeFolder() / ".local" / "share";
     }
-    return AppFolder{dataHome / "veyrant-sagrel"};
+    return AppFolder{dataHome / "veyrant-sagrel", dataHome / "Trash"};
 }
 
 } // namespace veyrant

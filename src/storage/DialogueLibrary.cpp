@@ -1,6 +1,8 @@
 #include "storage/DialogueLibrary.h"
 
+#include "core/Cp1252.h"
 #include "core/DateFormat.h"
+#include "core/FileCallError.h"
 #include "core/FileOperations.h"
 #include "core/ProgramError.h"
 #include "core/Text.h"
@@ -11,6 +13,7 @@
 #include "storage/WorkBuffers.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <utility>
 
 namespace veyrant {
@@ -54,6 +57,19 @@ MessageBoxRequest ScanFailureBox(int number) {
 
 } // namespace
 
+// The first tag of that minute that neither folder holds, so that no save replaces another.
+std::optional<std::string> DialogueLibrary::FreeFileName(const DateTime& date) const {
+    for (int tag = 0; tag < FileTags; ++tag) {
+        std::string name = MakeFileName(date, tag);
+        std::error_code error;
+        if (!std::filesystem::exists(folder_.Isp() / name, error) &&
+            !std::filesystem::exists(folder_.Dlg() / name, error)) {
+            return name;
+        }
+    }
+    return std::nullopt;
+}
+
 DialogueLibrary::DialogueLibrary(const AppFolder& folder, const Settings& settings,
                                  const Clock& clock, WindowLayer& windows)
     : folder_(folder), settings_(settings), clock_(clock), windows_(windows) {}
@@ -96,9 +112,14 @@ void DialogueLibrary::ScanAndRetain() {
     if (kept > 0) {
         const std::vector<std::string> oldest(ranked.begin(),
                                               ranked.begin() + static_cast<long>(kept));
-        DeletePairs(oldest);
-        ranked.erase(ranked.begin(), ranked.begin() + static_cast<long>(kept));
-        listing_.LibraryCount = static_cast<int>(ranked.size());
+        if (DeletePairs(oldest)) {
+            ranked.erase(ranked.begin(), ranked.begin() + static_cast<long>(kept));
+            listing_.LibraryCount = static_cast<int>(ranked.size());
+        } else {
+            // The user keeps them, and the next scan asks again.
+            listing_.OldestFile = ranked.front();
+            listing_.OldestAge = AgeInDays(clock_.Now(), FileNameDate(listing_.OldestFile));
+        }
     }
     FillLabels(ranked);
 }
@@ -150,33 +171,78 @@ void DialogueLibrary::MakeLibraryFolders() const {
 }
 
 // As one pair after the other, isp/ first, stopping at the first file that is missing: what
-// went before it goes in one change, and then the missing file is reported.
-void DialogueLibrary::DeletePairs(const std::vector<std::string>& fileNames) const {
+// went before it goes to the trash in one change, and then the missing file is reported.
+bool DialogueLibrary::DeletePairs(const std::vector<std::string>& fileNames) const {
     const auto inspirations = ListFiles(folder_.Isp());
     const auto dialogues = ListFiles(folder_.Dlg());
     const auto holds = [](const std::vector<std::string>& sorted, const std::string& name) {
         return std::binary_search(sorted.begin(), sorted.end(), name);
     };
-    FileTransaction change(folder_.Root);
+    std::vector<std::filesystem::path> doomed;
     bool missing = false;
     for (const auto& name : fileNames) {
         if (!holds(inspirations, name)) {
             missing = true;
             break;
         }
-        change.Remove(folder_.Isp() / name);
+        doomed.push_back(folder_.Isp() / name);
         if (!holds(dialogues, name)) {
             missing = true;
             break;
         }
-        change.Remove(folder_.Dlg() / name);
+        doomed.push_back(folder_.Dlg() / name);
     }
-    if (!change.Empty()) {
-        change.Commit();
+    if (!doomed.empty() && !MoveToTrash(doomed, fileNames.size())) {
+        return false;
     }
     if (missing) {
         throw ProgramError(ErrorNumber::FileNotFound);
     }
+    return true;
+}
+
+// Where the trash cannot take the files, they are deleted for good only when the user says so.
+bool DialogueLibrary::MoveToTrash(const std::vector<std::filesystem::path>& doomed,
+                                  std::size_t dialogues) const {
+    FileTransaction change(folder_.Root);
+    try {
+        for (const auto& file : doomed) {
+            change.MoveToTrash(file, folder_.Trash(), clock_.Now());
+        }
+    } catch (const FileCallError& error) {
+        if (windows_.ShowMessage(TrashFailureBox(error, dialogues)) != MessageAnswer::Yes) {
+            return false;
+        }
+        FileTransaction forGood(folder_.Root);
+        for (const auto& file : doomed) {
+            forGood.Remove(file);
+        }
+        forGood.Commit();
+        return true;
+    }
+    change.Commit();
+    return true;
+}
+
+MessageBoxRequest DialogueLibrary::TrashFailureBox(const FileCallError& error,
+                                                   std::size_t dialogues) const {
+    const std::string number = std::to_string(error.Number());
+    const std::string cause = error.Cause() == EXDEV ? "The trash is on another disk."
+                              : error.Number() == ErrorNumber::DiskFull ? "The disk is full."
+                              : error.Number() == ErrorNumber::PermissionDenied
+                                  ? "The program is not allowed to write there."
+                                  : "It cannot be written.";
+    const bool one = dialogues == 1;
+    MessageBoxRequest box = WarningBox(
+        "Error " + number + " Moving to the Trash",
+        "Error " + number + " attempting to move " +
+            (one ? "the Dialogue" : "the " + std::to_string(dialogues) + " Dialogues") +
+            " to the trash, " + PathText(folder_.Trash()) + ". " + cause + std::string(CrLf) +
+            std::string(CrLf) + "Delete " + (one ? "it" : "them") +
+            " for good instead? What is deleted for good cannot be restored. Click 'No' to keep " +
+            (one ? "it" : "them") + " in the Library.");
+    box.Buttons = MessageButtons::YesNo;
+    return box;
 }
 
 std::optional<std::string> DialogueLibrary::AddToLibrary(const std::string& inspirationText,
@@ -184,18 +250,28 @@ std::optional<std::string> DialogueLibrary::AddToLibrary(const std::string& insp
     // The buffers name the Dialogue; should savei.tmp be gone, the present minute does, so
     // that the Dialogue is still saved.
     const DateTime date = clock_.FileDate(InspirationBufferPath(folder_)).value_or(clock_.Now());
-    const std::string name = MakeFileName(date);
+    const auto name = FreeFileName(date);
+    if (!name) {
+        windows_.ShowMessage(WarningBox(
+            "Cannot Save -- Ten Dialogues in One Minute",
+            "Ten Dialogues of this minute are in the Library already, which is as many as their "
+            "file names can tell apart." +
+                std::string(CrLf) + std::string(CrLf) +
+                "Your Dialogue is not lost: it stays on the screen and in the work buffers. Click "
+                "'Continue', and 'Finish' again once this minute has passed; then click 'Save'."));
+        return std::nullopt;
+    }
     // Both files go in as one change: a failure or a crash leaves the pair as it was, old or
     // absent, or the new pair whole.
-    std::filesystem::path writing = folder_.Isp() / name;
+    std::filesystem::path writing = folder_.Isp() / *name;
     try {
         MakeFolder(folder_.Isp());
-        writing = folder_.Dlg() / name;
+        writing = folder_.Dlg() / *name;
         MakeFolder(folder_.Dlg());
         FileTransaction change(folder_.Root);
-        writing = folder_.Isp() / name;
+        writing = folder_.Isp() / *name;
         change.Write(writing, inspirationText);
-        writing = folder_.Dlg() / name;
+        writing = folder_.Dlg() / *name;
         change.Write(writing, dialogueText);
         change.Commit();
     } catch (const ProgramError& error) {
@@ -203,7 +279,7 @@ std::optional<std::string> DialogueLibrary::AddToLibrary(const std::string& insp
         return std::nullopt;
     }
     ScanLibrary();
-    return name;
+    return *name;
 }
 
 bool DialogueLibrary::Holds(const std::string& fileName) const {
@@ -223,8 +299,7 @@ bool DialogueLibrary::DeleteDialogue(const std::string& fileName) {
         return false;
     }
     try {
-        DeletePairs({fileName});
-        return true;
+        return DeletePairs({fileName});
     } catch (const ProgramError& error) {
         windows_.ShowMessage(
             LibraryCorruptedBox("Dialogue Library Corrupted", error.Number(), "delete the file"));

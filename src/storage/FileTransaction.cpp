@@ -1,19 +1,22 @@
 #include "storage/FileTransaction.h"
 
+#include "core/FileCallError.h"
 #include "core/FileCalls.h"
 #include "core/FileOperations.h"
 #include "core/ProgramError.h"
 #include "core/WholeFile.h"
+#include "storage/Trash.h"
 
 #include <cerrno>
 #include <set>
 #include <sstream>
+#include <system_error>
 
 namespace veyrant {
 
 namespace {
 
-using Steps = std::vector<std::pair<std::filesystem::path, std::filesystem::path>>;
+using Steps = std::vector<ChangeStep>;
 
 constexpr const char* NoteName = ".change";
 constexpr const char* LegacySuffix = ".new";
@@ -22,37 +25,65 @@ std::filesystem::path NotePath(const std::filesystem::path& root) {
     return root / NoteName;
 }
 
-// One step a line: "R", staged and file, or "D" and file, each name relative to the root and
-// parted by tabs.
+// One step a line: "R", staged and file; "D" and file; or "T", the place in the trash and
+// file; each name relative to the root and parted by tabs.
 std::string NoteText(const std::filesystem::path& root, const Steps& steps) {
     std::string text;
-    for (const auto& [staged, file] : steps) {
-        const auto relative = file.lexically_relative(root).string();
-        text += staged.empty()
+    for (const auto& step : steps) {
+        const auto relative = step.File.lexically_relative(root).string();
+        text += step.Kind == 'D'
                     ? "D\t" + relative + "\n"
-                    : "R\t" + staged.lexically_relative(root).string() + "\t" + relative + "\n";
+                    : std::string(1, step.Kind) + "\t" +
+                          step.Other.lexically_relative(root).string() + "\t" + relative + "\n";
     }
     return text;
 }
 
-// Renames and deletes may have been done already by an earlier try: a staged file that is gone
-// has been renamed, a file that is gone has been deleted.
-void CarryOut(const std::filesystem::path& root, const Steps& steps) {
+// A file that is gone has been deleted or moved already; a staged file that is gone has been
+// renamed.
+int CarryOutStep(const ChangeStep& step) {
+    switch (step.Kind) {
+    case 'D':
+        return files::Unlink(step.File);
+    case 'T':
+        return files::Rename(step.File, step.Other);
+    default:
+        return files::Rename(step.Other, step.File);
+    }
+}
+
+// A step the disk refused: its place in the note, the file and the system's cause.
+struct Refusal {
+    std::size_t Step = 0;
+    std::filesystem::path File;
+    int Cause = 0;
+};
+
+// Renames and deletes may have been done already by an earlier try. Every step is tried, so that
+// one file the disk refuses holds up no other; the note goes only when all are done.
+std::vector<Refusal> CarryOut(const std::filesystem::path& root, const Steps& steps) {
     std::set<std::filesystem::path> folders;
-    for (const auto& [staged, file] : steps) {
-        const int result = staged.empty() ? files::Unlink(file) : files::Rename(staged, file);
-        if (result != 0 && errno != ENOENT) {
-            RaiseFromErrno();
+    std::vector<Refusal> refused;
+    for (std::size_t step = 0; step < steps.size(); ++step) {
+        if (CarryOutStep(steps[step]) != 0 && errno != ENOENT) {
+            refused.push_back({step, steps[step].File, errno});
         }
-        folders.insert(file.parent_path());
+        folders.insert(steps[step].File.parent_path());
+        if (steps[step].Kind == 'T') {
+            folders.insert(steps[step].Other.parent_path());
+        }
     }
     for (const auto& folder : folders) {
         SyncFolder(folder);
+    }
+    if (!refused.empty()) {
+        return refused;
     }
     if (files::Unlink(NotePath(root)) != 0 && errno != ENOENT) {
         RaiseFromErrno();
     }
     SyncFolder(root);
+    return refused;
 }
 
 Steps ReadNote(const std::filesystem::path& root, const std::string& text) {
@@ -66,10 +97,11 @@ Steps ReadNote(const std::filesystem::path& root, const std::string& text) {
         while (std::getline(parts, field, '\t')) {
             fields.push_back(field);
         }
-        if (fields.size() == 3 && fields[0] == "R") {
-            steps.emplace_back(root / fields[1], root / fields[2]);
+        if (fields.size() == 3 && (fields[0] == "R" || fields[0] == "T")) {
+            steps.push_back(
+                {fields[0][0], (root / fields[1]).lexically_normal(), root / fields[2]});
         } else if (fields.size() == 2 && fields[0] == "D") {
-            steps.emplace_back(std::filesystem::path(), root / fields[1]);
+            steps.push_back({'D', {}, root / fields[1]});
         }
     }
     return steps;
@@ -106,7 +138,32 @@ void FinishLegacyWrites(const std::filesystem::path& root) {
     }
 }
 
+// A change an earlier run could not finish goes first in the new note, less the steps on the
+// files this change rewrites: those would undo it if they were tried again after it.
+Steps PendingSteps(const std::filesystem::path& root, const Steps& own) {
+    std::error_code error;
+    if (!std::filesystem::exists(NotePath(root), error)) {
+        return own;
+    }
+    std::set<std::filesystem::path> rewritten;
+    for (const auto& step : own) {
+        rewritten.insert(step.File);
+    }
+    Steps all;
+    for (auto& step : ReadNote(root, ReadWholeFile(NotePath(root)))) {
+        if (!rewritten.contains(step.File)) {
+            all.push_back(std::move(step));
+        }
+    }
+    all.insert(all.end(), own.begin(), own.end());
+    return all;
+}
+
 } // namespace
+
+UnfinishedChange::UnfinishedChange(int cause, std::filesystem::path file)
+    : FileCallError(ErrorNumberFor(std::error_code(cause, std::generic_category())), cause),
+      file_(std::move(file)) {}
 
 FileTransaction::FileTransaction(std::filesystem::path root) : root_(std::move(root)) {}
 
@@ -114,23 +171,33 @@ FileTransaction::~FileTransaction() {
     if (noteDown_) {
         return;
     }
-    for (const auto& [staged, file] : steps_) {
-        if (!staged.empty()) {
-            files::Unlink(staged);
+    // A staged text, or the .trashinfo of a place claimed in the trash.
+    for (const auto& step : steps_) {
+        if (step.Kind == 'R') {
+            files::Unlink(step.Other);
+        } else if (step.Kind == 'T') {
+            files::Unlink(TrashInfoPath(step.Other));
         }
     }
 }
 
 void FileTransaction::Write(const std::filesystem::path& file, std::string_view bytes) {
-    steps_.emplace_back(StageWholeFile(file, bytes), file);
+    steps_.push_back({'R', StageWholeFile(file, bytes), file});
 }
 
 void FileTransaction::Remove(const std::filesystem::path& file) {
-    steps_.emplace_back(std::filesystem::path(), file);
+    steps_.push_back({'D', {}, file});
+}
+
+void FileTransaction::MoveToTrash(const std::filesystem::path& file,
+                                  const std::filesystem::path& trash, const DateTime& deleted) {
+    steps_.push_back({'T', ClaimTrashPlace(trash, file, deleted).Trashed, file});
 }
 
 void FileTransaction::Commit() {
-    const auto staged = StageWholeFile(NotePath(root_), NoteText(root_, steps_));
+    const Steps all = PendingSteps(root_, steps_);
+    const std::size_t own = all.size() - steps_.size();
+    const auto staged = StageWholeFile(NotePath(root_), NoteText(root_, all));
     if (files::Rename(staged, NotePath(root_)) != 0) {
         const int error = errno;
         files::Unlink(staged);
@@ -145,28 +212,46 @@ void FileTransaction::Commit() {
         throw;
     }
     noteDown_ = true;
+    std::vector<Refusal> refused;
     try {
-        CarryOut(root_, steps_);
+        refused = CarryOut(root_, all);
     } catch (const ProgramError&) {
-        CarryOut(root_, steps_);
+        refused.clear();
+    }
+    if (!refused.empty() || std::filesystem::exists(NotePath(root_))) {
+        refused = CarryOut(root_, all);
+    }
+    // What an earlier run left unfinished waits for a later start; only this change's own steps
+    // decide whether it has been made.
+    for (const auto& refusal : refused) {
+        if (refusal.Step >= own) {
+            errno = refusal.Cause;
+            RaiseFromErrno();
+        }
     }
 }
 
-void FinishInterruptedChanges(const std::filesystem::path& root) {
+void FinishInterruptedChanges(const AppFolder& folder) {
+    const auto& root = folder.Root;
     std::error_code error;
     if (!std::filesystem::is_directory(root, error)) {
         return;
     }
     if (std::filesystem::exists(NotePath(root), error)) {
-        CarryOut(root, ReadNote(root, ReadWholeFile(NotePath(root))));
+        const auto refused = CarryOut(root, ReadNote(root, ReadWholeFile(NotePath(root))));
+        if (!refused.empty()) {
+            // The note stays, and with it every file it names, staged ones included.
+            throw UnfinishedChange(refused.front().Cause, refused.front().File);
+        }
     }
-    for (const auto& folder : {root, root / "exe", root / "dlg", root / "isp"}) {
-        if (!std::filesystem::is_directory(folder, error)) {
+    for (const auto& place :
+         {root, folder.Exe(), folder.Dlg(), folder.Isp(), folder.Trash() / "info"}) {
+        if (!std::filesystem::is_directory(place, error)) {
             continue;
         }
-        for (const auto& name : ListFiles(folder)) {
+        for (const auto& name : ListFiles(place)) {
             if (IsStagedName(name)) {
-                RemoveFile(folder / name);
+                RemoveFile(place / name);
             }
         }
     }

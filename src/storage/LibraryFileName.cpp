@@ -56,10 +56,9 @@ std::optional<DateTime> ReadDateText(std::string_view text) {
 
 } // namespace
 
-std::string MakeFileName(const DateTime& when) {
-    constexpr int FileTag = 0;
+std::string MakeFileName(const DateTime& when, int fileTag) {
     return std::to_string(when.Year - 1950) + FormatDate(when, "mmddhh") + "." +
-           FormatDate(when, "nn") + std::to_string(FileTag);
+           FormatDate(when, "nn") + std::to_string(fileTag);
 }
 
 ParsedFileName ParseFileName(std::string_view name) {

@@ -2,7 +2,8 @@
 
 // The name of a saved Dialogue is its date and time, and it is the only date that counts: the
 // same name stands in dlg/ and isp/. Twelve characters, "yymmddhh.nnT": the year less 1950
-// without padding, month, day, hour, a point, minute and the file tag. Seconds are not kept.
+// without padding, month, day, hour, a point, minute and the file tag. Seconds are not kept: the
+// tag, 0 to 9, tells apart the Dialogues saved within one minute.
 
 #include "core/DateTime.h"
 
@@ -11,9 +12,11 @@
 
 namespace veyrant {
 
-// The name for a date, with the file tag 0. From 2050 on the year takes three digits and the
+inline constexpr int FileTags = 10;
+
+// The name for a date, with the file tag. From 2050 on the year takes three digits and the
 // name thirteen characters, which the reading side cannot follow: the form ends in 2049.
-std::string MakeFileName(const DateTime& when);
+std::string MakeFileName(const DateTime& when, int fileTag = 0);
 
 struct ParsedFileName {
     // Month first, as the date conversion reads it: "m/d/yyyy h:n" from the characters at the

@@ -159,8 +159,11 @@ void Options::cmdClean_Click() {
     }
     unloadReader_();
     try {
-        library_.DeletePairs({listing.LibraryFiles.begin() + 1,
-                              listing.LibraryFiles.begin() + 1 + listing.LibraryCount});
+        if (!library_.DeletePairs({listing.LibraryFiles.begin() + 1,
+                                   listing.LibraryFiles.begin() + 1 + listing.LibraryCount})) {
+            MoveFocus(OptionsControl::cmdCancel);
+            return;
+        }
     } catch (const ProgramError& error) {
         windows_.ShowMessage(
             LibraryCorruptedBox("Dialogue Library Corrupted", error.Number(), "delete a file"));

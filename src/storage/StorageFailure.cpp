@@ -100,4 +100,15 @@ MessageBoxRequest SettingsFailureBox(int number, const std::filesystem::path& fi
                                      Remedy(number) + " before the next start."));
 }
 
+MessageBoxRequest PlacesFailureBox(int number, const std::filesystem::path& file) {
+    return WarningBox("Error " + std::to_string(number) + " Storing the Library Places",
+                      Paragraphs("Error " + std::to_string(number) +
+                                     " attempting to store the places marked in the libraries, "
+                                     "in the file " +
+                                     PathText(file) + ". " + Cause(number, file),
+                                 "Your Dialogues are not affected, and the program goes on. "
+                                 "The libraries may not open at their marked places. " +
+                                     Remedy(number) + "."));
+}
+
 } // namespace veyrant

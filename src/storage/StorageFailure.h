@@ -31,4 +31,8 @@ MessageBoxRequest LeavingKeepFailureBox(int number, const std::filesystem::path&
 // Storing the settings on the way out failed; the program ends without them.
 MessageBoxRequest SettingsFailureBox(int number, const std::filesystem::path& file);
 
+// Storing the Reader's marked places (Read.ini) failed; nothing else is at stake, so the program
+// goes on.
+MessageBoxRequest PlacesFailureBox(int number, const std::filesystem::path& file);
+
 } // namespace veyrant

@@ -1,5 +1,7 @@
 #include "storage/WorkBuffers.h"
 
+#include "core/Cp1252.h"
+#include "core/DateFormat.h"
 #include "core/FieldReader.h"
 #include "core/FileOperations.h"
 #include "core/ProgramError.h"
@@ -11,6 +13,7 @@
 #include <array>
 #include <string_view>
 #include <system_error>
+#include <tuple>
 #include <utility>
 
 namespace veyrant {
@@ -149,18 +152,33 @@ std::optional<PriorDialogue> WorkBuffers::ReadWorkBuffers() const {
     if (settings_.GuestMode == 1) {
         return std::nullopt;
     }
-    try {
-        PriorDialogue prior;
-        prior.Buffers.InspirationText =
-            ReadWholeFile(folder_.Exe() / InspirationBuffer, MostRunBytes);
-        prior.Buffers.DialogueText =
-            ReadWholeFile(folder_.Exe() / DialogueBuffer, MostRuns * MostRunBytes);
-        prior.Buffers.SuggestionText =
-            ReadWholeFile(folder_.Exe() / SuggestionBuffer, MostRunBytes);
-        const std::string pairCount = ReadCountBuffer(folder_.Exe() / PairCountBuffer);
-        if (!LinesFit(prior.Buffers.DialogueText)) {
-            return std::nullopt;
+    PriorDialogue prior;
+    const std::array<std::tuple<const char*, std::size_t, std::string*>, 3> texts = {{
+        {InspirationBuffer, MostRunBytes, &prior.Buffers.InspirationText},
+        {DialogueBuffer, MostRuns * MostRunBytes, &prior.Buffers.DialogueText},
+        {SuggestionBuffer, MostRunBytes, &prior.Buffers.SuggestionText},
+    }};
+    bool whole = true;
+    for (const auto& [name, limit, text] : texts) {
+        const auto path = folder_.Exe() / name;
+        try {
+            *text = ReadWholeFile(path, limit);
+            if (LinesFit(*text)) {
+                continue;
+            }
+            SetAside(path);
+        } catch (const ProgramError& error) {
+            if (error.Number() != ErrorNumber::FileNotFound) {
+                SetAside(path);
+            }
         }
+        whole = false;
+    }
+    if (!whole) {
+        return std::nullopt;
+    }
+    try {
+        const std::string pairCount = ReadCountBuffer(folder_.Exe() / PairCountBuffer);
         prior.Buffers.PairCount = PairCountOf(pairCount, prior.Buffers.DialogueText);
         const auto written = clock_.FileDate(folder_.Exe() / InspirationBuffer);
         if (!written) {
@@ -171,6 +189,38 @@ std::optional<PriorDialogue> WorkBuffers::ReadWorkBuffers() const {
         return prior;
     } catch (const ProgramError&) {
         return std::nullopt;
+    }
+}
+
+// A buffer the program cannot use would be written over at the next close: it is moved aside
+// under a dated name next to it, and the user is told where.
+void WorkBuffers::SetAside(const std::filesystem::path& buffer) const {
+    const std::string stamp = FormatDate(clock_.Now(), "yyyy-mm-dd-hhnnss");
+    std::filesystem::path aside;
+    std::error_code error;
+    for (int copy = 1;; ++copy) {
+        aside = buffer.parent_path() / (buffer.filename().string() + "." + stamp +
+                                        (copy > 1 ? "-" + std::to_string(copy) : "") + ".unusable");
+        if (!std::filesystem::exists(std::filesystem::symlink_status(aside, error))) {
+            break;
+        }
+    }
+    const std::string told = "The work buffer " + PathText(buffer) +
+                             " cannot be read as a Dialogue: it is too large, no text the "
+                             "program wrote, or no plain file.";
+    try {
+        RenameFile(buffer, aside);
+        windows_.ShowMessage(
+            WarningBox("Prior Dialogue Set Aside",
+                       told + std::string(CrLf) + std::string(CrLf) + "It has been kept as " +
+                           PathText(aside) +
+                           ", where nothing will write over it, and a new Dialogue " + "begins."));
+    } catch (const ProgramError& failure) {
+        windows_.ShowMessage(WarningBox(
+            "Error " + std::to_string(failure.Number()) + " Setting the Prior Dialogue Aside",
+            told + std::string(CrLf) + std::string(CrLf) +
+                "It could not be moved aside, and a new Dialogue begins: copy the file to a safe "
+                "place before you close the program, which writes over it."));
     }
 }
 

@@ -53,8 +53,9 @@ public:
     // Dialogue elsewhere instead, and the answer comes back.
     KeepOutcome WriteWorkBuffersLeaving(const DialogueBuffers& dialogue);
 
-    // Nothing in Guest Mode, or when any of the four is missing or unreadable: the caller then
-    // begins a new Dialogue, and says nothing.
+    // Nothing in Guest Mode, or when any of the four is missing or unusable: the caller then
+    // begins a new Dialogue. An Inspiration, Dialogue or Suggestion buffer that is there but
+    // unusable is first set aside under a dated name, and a box says where.
     std::optional<PriorDialogue> ReadWorkBuffers() const;
 
     // Deletes savei.tmp, savem.tmp and savep.tmp as one change, silently; one that is missing
@@ -68,6 +69,7 @@ private:
         std::filesystem::path File;
     };
     std::optional<WriteFailure> Write(const DialogueBuffers& dialogue) const;
+    void SetAside(const std::filesystem::path& buffer) const;
 
     const AppFolder& folder_;
     const Settings& settings_;

@@ -5,6 +5,7 @@
 #include "core/Random.h"
 #include "shell/AppFolder.h"
 #include "shell/Resize.h"
+#include "storage/StorageFailure.h"
 #include "ui/BackWindow.h"
 #include "ui/BannerWindow.h"
 #include "ui/GuardedApplication.h"
@@ -13,6 +14,7 @@
 #include "ui/QtWindowLayer.h"
 #include "ui/ReaderWindow.h"
 #include "ui/ResizeWindow.h"
+#include "ui/SingleCopy.h"
 #include "ui/UtilityWindow.h"
 #include "ui/WindowRoles.h"
 
@@ -20,6 +22,7 @@
 #include <QDir>
 #include <QIcon>
 #include <QPointer>
+#include <QWidget>
 #include <memory>
 
 int main(int argc, char** argv) {
@@ -50,6 +53,40 @@ int main(int argc, char** argv) {
     Random random;
     Application app(AppFolder::FromEnvironment(), "/proc/self/exe", clock, random, windows);
     running = &app;
+    SingleCopy copy(app.Folder.Root);
+    if (!copy.First()) {
+        if (!copy.CallFirstForward()) {
+            windows.ShowMessage(WarningBox(
+                "The Veyrant Sagrel Is Already Running",
+                "The Veyrant Sagrel is already open on your Dialogues. Switch to its window to go "
+                "on writing: a second copy would write over what the first one keeps."));
+        }
+        return 0;
+    }
+    // A later start brings this copy's windows to the front, the one the user worked in last on
+    // top.
+    QPointer<QWidget> lastActive;
+    QObject::connect(&qt, &QApplication::focusChanged, [&](QWidget*, QWidget* now) {
+        if (now != nullptr) {
+            lastActive = now->window();
+        }
+    });
+    copy.OnCalled = [&] {
+        for (QWidget* window : QApplication::topLevelWidgets()) {
+            if (window->isVisible()) {
+                window->setWindowState(window->windowState() & ~Qt::WindowMinimized);
+                window->raise();
+            }
+        }
+        QWidget* front = QApplication::activeModalWidget();
+        if (front == nullptr && lastActive && lastActive->isVisible()) {
+            front = lastActive;
+        }
+        if (front != nullptr) {
+            front->raise();
+            front->activateWindow();
+        }
+    };
     windows.SetPrintFace([&] { return app.Fonts.Main; });
     MirrorWindow* writeWindow = nullptr;
     std::unique_ptr<Options> libraryOptions;

@@ -62,6 +62,17 @@ TEST(FaultSweep, TheSettingsAndTheFolderLeaveOldOrNewAndSayWhatFailed) {
                 ::chmod((run.Folder.Exe() / "Tolmira.ini").c_str(), 0644);
             },
             [](AppRun& run) { run.Install(); }),
+        PathIn<AppRun>(
+            "two starts over a change the disk will not let finish",
+            [](AppRun& run) {
+                run.Install();
+                std::filesystem::create_directories(run.Folder.Exe() / "savep.tmp" / "inside");
+                WriteWholeFile(run.Folder.Root / ".change", "D\texe/savep.tmp\n");
+            },
+            [](AppRun& run) {
+                run.Install();
+                run.Install();
+            }),
     };
     SweepAll(paths);
 }

@@ -172,6 +172,17 @@ TEST(SettingsFiles, DamagedReadFileIsLaidDownAsZerosAndTheRequestStands) {
     }
 }
 
+// Read.ini is not worth the running Dialogue: when it cannot be written, a box says so and the
+// program goes on.
+TEST(SettingsFiles, AReadFileThatCannotBeWrittenIsToldAndTheProgramGoesOn) {
+    AppFixture fixture;
+    std::filesystem::create_directories(fixture.Folder.Exe() / "Read.ini");
+    LoadReadSettings(fixture.App);
+    SaveReadSettings(fixture.App);
+    ASSERT_EQ(fixture.Windows.Boxes.size(), 2u);
+    EXPECT_EQ(fixture.Windows.Boxes[1].Title, "Error 75 Storing the Library Places");
+}
+
 // A pipe would hold the start for ever and a device would fill the memory; a file past the
 // limit is no file the program wrote. Each is damaged, and the usual repair or box follows.
 TEST(SettingsFiles, OnlyASmallRegularFileIsRead) {

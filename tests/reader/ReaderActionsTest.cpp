@@ -404,13 +404,16 @@ TEST_F(ReaderActions, AFailedDeleteKeepsThePair) {
         faults.FailEvery(FileCall::Rename, EROFS);
         Click(RC::cmdDelete);
     }
-    ASSERT_EQ(Windows.Boxes.size(), 2u);
-    EXPECT_EQ(Windows.Boxes[1].Title, "Dialogue Library Corrupted");
-    EXPECT_EQ(Windows.Boxes[1].Text,
+    // The trash cannot take the pair either, and the user's Yes to deleting it for good meets
+    // the same refusal.
+    ASSERT_EQ(Windows.Boxes.size(), 3u);
+    EXPECT_EQ(Windows.Boxes[1].Title, "Error 70 Moving to the Trash");
+    EXPECT_EQ(Windows.Boxes[2].Title, "Dialogue Library Corrupted");
+    EXPECT_EQ(Windows.Boxes[2].Text,
               "Error 70 attempting to delete the file from the Dialogue Library. Because the "
               "Library has become corrupted, it is necessary for you to repair it. Open the "
               "Information Library and review the Topic, 'Repairing the Dialogue Library'.");
-    EXPECT_EQ(Windows.Boxes[1].Icon, MessageIcon::Warning);
+    EXPECT_EQ(Windows.Boxes[2].Icon, MessageIcon::Warning);
     EXPECT_EQ(Files(), before);
     EXPECT_EQ(Title(), shown);
 }

@@ -164,6 +164,18 @@ TEST_F(ReaderSearch, AllDialoguesLandOnTheThird) {
     EXPECT_EQ(Read().State().DialogueIndexShown, 1);
     Read().Click(RC::cmdSearch);
     EXPECT_EQ(Title(), "Veyrant Dialogue Library -- Search Text");
+
+    // Past the last hit the walk reads the earliest; Print and File still take the one on show.
+    Read().SearchTextChanged("calm");
+    for (int click = 0; click < 2; ++click) {
+        Read().Click(RC::cmdSearch);
+    }
+    Key(KeyCode::Escape);
+    Read().Click(RC::cmdPrint);
+    Read().Click(RC::cmdFile);
+    ASSERT_EQ(Windows.Printed.size(), 1u);
+    EXPECT_EQ(Windows.Printed[0].Inspiration, "\tA calm lake.");
+    EXPECT_NE(Windows.EditorTexts.at(0).Text.find("calm lake"), std::string::npos);
 }
 
 // With a Dialogue open only that Dialogue is searched, and it stays on view.

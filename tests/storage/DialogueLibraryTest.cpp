@@ -1,5 +1,6 @@
 #include "LibraryFixture.h"
 #include "core/ProgramError.h"
+#include "storage/Trash.h"
 
 namespace veyrant::testing {
 namespace {
@@ -174,19 +175,28 @@ TEST_F(DialogueLibraryTest, SavingTakesTheDateOfTheWorkBuffersAndWritesBothFiles
     EXPECT_EQ(ReadWholeFile(Folder.Dlg() / "76112118.070"), dialogue);
     EXPECT_EQ(Library.Listing().LibraryCount, 1);
 
-    // A second save in the same minute replaces the pair.
+    // A second save in the same minute takes the next file tag; the first pair stays.
     SetFileDate(Folder.Exe() / "savei.tmp", {2026, 11, 21, 18, 7, 5});
-    ASSERT_TRUE(Library.AddToLibrary(inspiration, dialogue + " More."));
-    EXPECT_EQ(Library.Listing().LibraryCount, 1);
-    EXPECT_EQ(ReadWholeFile(Folder.Dlg() / "76112118.070"), dialogue + " More.");
-    EXPECT_EQ(Names(Folder.Isp()), std::vector<std::string>{"76112118.070"});
+    EXPECT_EQ(Library.AddToLibrary(inspiration, dialogue + " More."), "76112118.071");
+    EXPECT_EQ(Library.Listing().LibraryCount, 2);
+    EXPECT_EQ(ReadWholeFile(Folder.Dlg() / "76112118.070"), dialogue);
+    EXPECT_EQ(ReadWholeFile(Folder.Dlg() / "76112118.071"), dialogue + " More.");
 
     // An inspiration without its tab is kept as it stands.
     SetFileDate(Folder.Exe() / "savei.tmp", {2026, 11, 21, 18, 8, 0});
     ASSERT_TRUE(Library.AddToLibrary("no tab here", dialogue));
     EXPECT_EQ(ReadWholeFile(Folder.Isp() / "76112118.080"), "no tab here");
-    EXPECT_EQ(Library.Listing().LibraryCount, 2);
+    EXPECT_EQ(Library.Listing().LibraryCount, 3);
     EXPECT_TRUE(Windows.Boxes.empty());
+
+    // With all ten tags of a minute taken the save is refused, and the box says why.
+    for (int tag = 1; tag < FileTags; ++tag) {
+        ASSERT_TRUE(Library.AddToLibrary(inspiration, dialogue));
+    }
+    EXPECT_FALSE(Library.AddToLibrary(inspiration, dialogue));
+    EXPECT_EQ(Names(Folder.Dlg()).size(), 12u);
+    EXPECT_EQ(Titles(Windows),
+              std::vector<std::string>{"Cannot Save -- Ten Dialogues in One Minute"});
 }
 
 TEST_F(DialogueLibraryTest, ASaveIn2050IsWrittenButTheLibraryCannotReadIt) {
@@ -235,6 +245,28 @@ TEST_F(DialogueLibraryTest, ASaveIntoAFileWhereTheFolderShouldBeFails) {
     EXPECT_NE(
         Windows.Boxes[0].Text.find("The folder " + Folder.Dlg().string() + " cannot be written."),
         std::string::npos);
+}
+
+// Retention and a delete move the pairs to the trash, each file with its .trashinfo; where the
+// trash cannot take them, nothing goes for good without a Yes.
+TEST_F(DialogueLibraryTest, DeletedDialoguesGoToTheTrash) {
+    const auto old = SaveAt(DaysAgo(30));
+    const auto kept = SaveAt(DaysAgo(1));
+    Library.ScanLibrary();
+    EXPECT_EQ(Names(Folder.Trash() / "files"), (std::vector<std::string>{old, old + ".2"}));
+    EXPECT_EQ(ReadWholeFile(Folder.Trash() / "files" / old), "\tInspiration of " + old);
+    EXPECT_EQ(ReadWholeFile(Folder.Trash() / "info" / (old + ".2.trashinfo")),
+              "[Trash Info]\nPath=" + PercentEncoded((Folder.Dlg() / old).string()) +
+                  "\nDeletionDate=2026-11-22T12:00:00\n");
+    std::filesystem::remove_all(Folder.Trash());
+    WriteWholeFile(Folder.Trash(), "a file where the trash should be");
+    Windows.Answers = {MessageAnswer::Yes, MessageAnswer::No, MessageAnswer::Yes,
+                       MessageAnswer::Yes};
+    EXPECT_FALSE(Library.DeleteDialogue(kept));
+    EXPECT_TRUE(std::filesystem::exists(Folder.Dlg() / kept));
+    EXPECT_TRUE(Library.DeleteDialogue(kept));
+    EXPECT_FALSE(std::filesystem::exists(Folder.Dlg() / kept));
+    EXPECT_EQ(Titles(Windows)[1], "Error 76 Moving to the Trash");
 }
 
 TEST_F(DialogueLibraryTest, DeletingAsksFirstAndReportsAMissingFile) {

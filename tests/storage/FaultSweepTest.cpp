@@ -56,7 +56,7 @@ struct StorageRun : LibraryStorage {
     }
 
     std::optional<std::string> Restart(const FolderImage& before, const FolderImage& after) {
-        FinishInterruptedChanges(Folder.Root);
+        FinishInterruptedChanges(Folder);
         DialogueLibrary library(Folder, UserSettings, Clock, Windows);
         library.ScanLibrary();
         const auto& listing = library.Listing();
@@ -142,6 +142,18 @@ TEST(FaultSweep, EveryStoragePathLeavesOldOrNewAndSaysWhatFailed) {
                                    run.Library.ScanLibrary();
                                }
                            }),
+        PathIn<StorageRun>(
+            "delete from the Reader, the trash refusing: deleted for good after Yes",
+            [](StorageRun& run) {
+                WithLibrary(run);
+                WriteWholeFile(run.Folder.Trash(), "a file where the trash should be");
+            },
+            [](StorageRun& run) {
+                run.Windows.Answers = {MessageAnswer::Yes, MessageAnswer::Yes};
+                if (run.Library.DeleteDialogue(run.Library.Listing().LibraryFiles[1])) {
+                    run.Library.ScanLibrary();
+                }
+            }),
         PathIn<StorageRun>(
             "retention at start",
             [](StorageRun& run) {

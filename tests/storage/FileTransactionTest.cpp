@@ -18,13 +18,19 @@ TEST(FileTransaction, TheNextStartFinishesOrClearsWhatACrashLeft) {
         Files Expected; // everything the folder then holds
     };
     const Case cases[] = {
-        {"a write of ours cut short in each folder",
-         {{"exe/.savei.tmp.Ab12Cd", "\thalf"},
-          {"dlg/.76112010.000.x9Y8z7", "half"},
-          {"isp/.76112010.000.Qq1Ww2", "\thalf"},
-          {".change.Zz9Yy8", "R\tisp/.a.Qq1Ww2\tisp/a\n"},
-          {"exe/savei.tmp", "\told"}},
-         {{"exe/savei.tmp", "\told"}}},
+        {"a write of ours cut short in each folder; the user's own hidden files stay",
+         {{"exe/.savei.tmp.veyrant-staged.Ab12Cd", "\thalf"},
+          {"dlg/.76112010.000.veyrant-staged.x9Y8z7", "half"},
+          {"isp/.76112010.000.veyrant-staged.Qq1Ww2", "\thalf"},
+          {"..change.veyrant-staged.Zz9Yy8", "R\tisp/.a.Qq1Ww2\tisp/a\n"},
+          {"exe/savei.tmp", "\told"},
+          {"dlg/.76112321.030.backup", "mine"},
+          {"exe/.Tolmira.ini.backup", "mine"},
+          {".notes.backup", "mine"}},
+         {{"exe/savei.tmp", "\told"},
+          {"dlg/.76112321.030.backup", "mine"},
+          {"exe/.Tolmira.ini.backup", "mine"},
+          {".notes.backup", "mine"}}},
         {"a change whose note is down: the renames and deletes are done",
          {{".change", "R\tisp/.76112010.000.Qq1Ww2\tisp/76112010.000\n"
                       "R\tdlg/.76112010.000.x9Y8z7\tdlg/76112010.000\n"
@@ -72,7 +78,7 @@ TEST(FileTransaction, TheNextStartFinishesOrClearsWhatACrashLeft) {
         for (const auto& [file, bytes] : c.Left) {
             WriteWholeFile(temp / file, bytes);
         }
-        FinishInterruptedChanges(temp.Path());
+        FinishInterruptedChanges(AppFolder{temp.Path()});
         Files found;
         for (const auto& entry : std::filesystem::recursive_directory_iterator(temp.Path())) {
             if (entry.is_regular_file()) {

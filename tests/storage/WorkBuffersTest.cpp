@@ -171,7 +171,18 @@ TEST_F(WorkBuffersTest, BuffersBeyondWhatTheProgramWritesAreDamaged) {
         if (prior) {
             EXPECT_EQ(prior->Buffers.DialogueText, c.Buffers.DialogueText);
         }
+        // An unusable buffer is set aside under a dated name, never written over, and the box
+        // says where.
+        EXPECT_EQ(Windows.Boxes.size(), c.Read ? 0u : 1u);
+        Windows.Boxes.clear();
     }
+    std::filesystem::remove(Folder.Exe() / "savem.tmp");
+    std::filesystem::create_directory(Folder.Exe() / "savem.tmp");
+    EXPECT_FALSE(Buffers.ReadWorkBuffers());
+    EXPECT_TRUE(
+        std::filesystem::is_directory(Folder.Exe() / "savem.tmp.2026-11-22-120000-3.unusable"));
+    EXPECT_EQ(ReadWholeFile(Folder.Exe() / "saves.tmp.2026-11-22-120000.unusable"),
+              std::string(9000, 's'));
 }
 
 TEST_F(WorkBuffersTest, AFailedWriteLeavesTheOldSetWhole) {

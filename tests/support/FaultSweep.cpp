@@ -99,7 +99,14 @@ FolderImage ImageOf(const std::filesystem::path& root) {
             std::ifstream in(entry->path(), std::ios::binary);
             std::ostringstream bytes;
             bytes << in.rdbuf();
-            image[entry->path().lexically_relative(root).string()] = bytes.str();
+            // A .trashinfo names the file's first place, which differs from run to run only by
+            // the root.
+            std::string text = bytes.str();
+            for (auto at = text.find(root.string()); at != std::string::npos;
+                 at = text.find(root.string(), at)) {
+                text.replace(at, root.string().size(), "ROOT");
+            }
+            image[entry->path().lexically_relative(root).string()] = text;
         }
     }
     return image;

@@ -19,7 +19,8 @@
 
 namespace veyrant::testing {
 
-// Every plain file under the root by its relative path, with its bytes.
+// Every plain file under the root by its relative path, with its bytes, the root's own path in
+// them written as ROOT.
 using FolderImage = std::map<std::string, std::string>;
 
 FolderImage ImageOf(const std::filesystem::path& root);
