@@ -233,6 +233,8 @@ bool DialogueLibrary::DeleteDialogue(const std::string& fileName) {
                 "has become corrupted, it is necessary for you to repair it. Open the 'User's "
                 "Manual' from the Veyrant Sagrel program group and review the section, "
                 "'Repairing the Dialogue Library'."));
+        // The listing follows what the failure left on the disk.
+        ScanLibrary();
         return false;
     }
 }

@@ -42,7 +42,8 @@ public:
     bool Holds(const std::string& fileName) const;
 
     // The Reader's Delete: asks, then deletes the pair of that name, isp/ first. True when the
-    // pair is gone, and the Reader then lists the Library anew and refreshes the status.
+    // pair is gone, and the Reader then lists the Library anew and refreshes the status. After a
+    // failure the listing is scanned again, since part of the pair may be gone.
     bool DeleteDialogue(const std::string& fileName);
 
     // Deletes the pairs of those names as one change, as if isp/ then dlg/ of each in turn;
