@@ -494,8 +494,12 @@ void ReaderWindow::changeEvent(QEvent* event) {
     QWidget::changeEvent(event);
     if (event->type() == QEvent::ActivationChange && isActiveWindow()) {
         // From the event loop: the events the logic lets through may close the library, which
-        // unloads this window, and none may run inside the window's own event.
+        // unloads this window, and none may run inside the window's own event. A window closed
+        // meanwhile has no library to show.
         QTimer::singleShot(0, this, [this] {
+            if (!isVisible()) {
+                return;
+            }
             const QPointer<ReaderWindow> alive(this);
             reader_.CameToFront();
             if (alive) {
