@@ -170,8 +170,8 @@ void Mirror::MouseDown(MirrorControl control, MouseButton button) {
     } else if ((control == MirrorControl::cmdHelp || control == MirrorControl::cmdRetrieve) &&
                button == MouseButton::Left) {
         PressLibraryButton(control);
-    } else if ((control == MirrorControl::Window || control == MirrorControl::Panel1) &&
-               button == MouseButton::Left) {
+    } else if (control == MirrorControl::Window || control == MirrorControl::Panel1) {
+        // Any button on the bare window brings the backdrop back.
         BackgroundPress();
     }
 }

@@ -49,6 +49,8 @@ public:
     void MouseUp(ReaderControl control, MouseButton button);
     void MouseMove(ReaderControl control);
     void FocusGained(ReaderControl control);
+    // The window came to the front, by the user or the desktop.
+    void CameToFront();
     // The user changed the text of txtSearch.
     void SearchTextChanged(const std::string& text);
     void TimerFired(TimerId timer);
@@ -81,7 +83,7 @@ private:
     const FixedLibrary& OpenLibrary() const;
     std::int16_t& CurrentRow();
     std::int16_t& OpenFlag(int library);
-    std::int16_t MarkRow(int library) const;
+    std::int16_t& MarkRow(int library);
 
     // Selection and the index button.
     void SelectRow(int row);

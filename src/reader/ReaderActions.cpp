@@ -1,5 +1,5 @@
-// The four action buttons along the foot of the Read window: Mark Exit keeps the place in every
-// library and closes; Print hands the open Dialogue to the printer, or Merge shows a whole
+// The four action buttons along the foot of the Read window: Mark Exit keeps the place in the
+// library on show and closes; Print hands the open Dialogue to the printer, or Merge shows a whole
 // Section as one essay; File hands the Dialogue to the editor; Delete removes it from the Library.
 
 #include "core/Text.h"
@@ -18,14 +18,6 @@ constexpr std::size_t MergeLimit = 62000;
 // The most the text box shows at once; the merge limit keeps the authored essays well below it.
 constexpr std::size_t TextBoxCapacity = 65535;
 
-// A place shown in a library becomes its mark.
-void MarkPlace(std::int16_t shownRow, std::int16_t& openFlag, std::int16_t& markRow) {
-    if (shownRow >= 0) {
-        openFlag = OpenFlags::Marked;
-        markRow = shownRow;
-    }
-}
-
 } // namespace
 
 void Reader::Yield() {
@@ -35,15 +27,15 @@ void Reader::Yield() {
 
 void Reader::ClickMarkExit() {
     EndHover();
-    auto& marks = world_.Marks;
-    const auto& values = world_.Values;
-    // A selected Dialogue has written its position already.
-    if (marks.MarkRowDialogue >= 0) {
-        marks.OpenFlagDialogue = OpenFlags::Marked;
+    // Only the library on show is marked. A selected Dialogue has written its position already;
+    // a fixed library's shown row becomes its mark.
+    const int library = world_.Values.ReadLibrary;
+    if (IsDialogueLibrary() ? MarkRow(library) >= 0 : CurrentRow() >= 0) {
+        if (!IsDialogueLibrary()) {
+            MarkRow(library) = CurrentRow();
+        }
+        OpenFlag(library) = OpenFlags::Marked;
     }
-    MarkPlace(values.CurRowInfo, marks.OpenFlagInfo, marks.MarkRowInfo);
-    MarkPlace(values.CurRowKnow, marks.OpenFlagKnow, marks.MarkRowKnow);
-    MarkPlace(values.CurRowAdv, marks.OpenFlagAdv, marks.MarkRowAdv);
     world_.Host.UnloadReader();
 }
 
@@ -74,12 +66,15 @@ void Reader::MergeSection() {
     const int section = state_.ListPos;
     auto& spin = C(ReaderControl::txtSpin);
     const std::string shownText = spin.Text;
+    const std::string shownTitle = controls_.Title;
     controls_.Title =
         world_.Values.LibraryName +
         (world_.Values.ReadLibrary == ReadLibraries::Information ? " -- Merged Section -- "
                                                                  : " -- Merged Essay -- ") +
         Trim(library.Titles[static_cast<std::size_t>(section)]);
+    // A refused merge leaves the Section as it was, caption and all.
     const auto cannotMerge = [&] {
+        controls_.Title = shownTitle;
         world_.Windows.SetBusyPointer(false);
         Message("Cannot Merge", "This Essay is too long to be merged.");
     };
@@ -141,9 +136,11 @@ void Reader::DeleteOpenDialogue() {
     Paint();
     const auto& listing = world_.Library.Listing();
     const int index = state_.LibraryListOrder[static_cast<std::size_t>(state_.ListPos + 1)];
-    // The Library deletes the pair as one change. On a failure it has shown its box, and the
-    // list stays as it stands.
-    if (!world_.Library.DeleteDialogue(listing.LibraryFiles[static_cast<std::size_t>(index)])) {
+    const std::string fileName = listing.LibraryFiles[static_cast<std::size_t>(index)];
+    // The Library deletes the pair as one change. On a failure it has shown its box and
+    // scanned the disk again: the list is made anew only when the Dialogue is no longer there,
+    // so that it never offers one that is gone.
+    if (!world_.Library.DeleteDialogue(fileName) && world_.Library.Holds(fileName)) {
         return;
     }
     ShowLibrary();

@@ -127,6 +127,11 @@ void Reader::Click(ReaderControl control) {
 }
 
 void Reader::MouseDown(ReaderControl control, MouseButton button) {
+    // A left press begins a click of its own: the release of a font step's right-click has
+    // passed, even where the step's box took it.
+    if (control == ReaderControl::txtSpin && button == MouseButton::Left) {
+        state_.SpinRightClick = 0;
+    }
     if (control == ReaderControl::txtSpin && button == MouseButton::Right) {
         state_.SpinRightClick = 1;
         Message("Change Font Size", "There are three font sizes available in the Read window.");
@@ -150,8 +155,8 @@ void Reader::MouseDown(ReaderControl control, MouseButton button) {
                                        "copied or entered with cut and paste procedures.");
         return;
     }
-    if ((control == ReaderControl::Window || control == ReaderControl::Panel1) &&
-        button == MouseButton::Left) {
+    // Any button on the bare window brings the backdrop back.
+    if (control == ReaderControl::Window || control == ReaderControl::Panel1) {
         BackgroundPress();
     }
 }

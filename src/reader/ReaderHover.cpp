@@ -187,6 +187,18 @@ void Reader::BackgroundPress() {
     }
 }
 
+void Reader::CameToFront() {
+    // With the Write window minimised this is the program's one window: it shows itself again,
+    // lets the screen catch up, and takes the keys.
+    if (!world_.Windows.IsWindowMinimised(WindowId::Mirror)) {
+        return;
+    }
+    world_.Windows.RestoreWindow(WindowId::Read);
+    Yield();
+    controls_.Focus =
+        state_.SearchActive == 0 ? ReaderControl::txtCursor : ReaderControl::txtSearch;
+}
+
 void Reader::FocusGained(ReaderControl control) {
     if (control != ReaderControl::List1 && control != ReaderControl::txtSpin) {
         return;

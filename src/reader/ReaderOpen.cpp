@@ -45,8 +45,8 @@ std::int16_t& Reader::OpenFlag(int library) {
     }
 }
 
-std::int16_t Reader::MarkRow(int library) const {
-    const auto& marks = world_.Marks;
+std::int16_t& Reader::MarkRow(int library) {
+    auto& marks = world_.Marks;
     switch (library) {
     case ReadLibraries::Dialogue:
         return marks.MarkRowDialogue;
@@ -210,6 +210,10 @@ void Reader::CloseReader() {
     marks.OpenFlagInfo = OpenFlags::None;
     marks.OpenFlagKnow = OpenFlags::None;
     marks.OpenFlagDialogue = OpenFlags::None;
+    // The rows on show go with the window, so that no later Mark Exit takes an old place.
+    world_.Values.CurRowInfo = -1;
+    world_.Values.CurRowKnow = -1;
+    world_.Values.CurRowAdv = -1;
     world_.Host.LibraryClosed();
 }
 

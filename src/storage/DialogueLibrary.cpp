@@ -303,6 +303,8 @@ bool DialogueLibrary::DeleteDialogue(const std::string& fileName) {
     } catch (const ProgramError& error) {
         windows_.ShowMessage(
             LibraryCorruptedBox("Dialogue Library Corrupted", error.Number(), "delete the file"));
+        // The listing follows what the failure left on the disk.
+        ScanLibrary();
         return false;
     }
 }

@@ -45,6 +45,7 @@ public:
 
     // The Reader's Delete: asks, then moves the pair of that name to the trash, isp/ first. True
     // when the pair is gone, and the Reader then lists the Library anew and refreshes the status.
+    // After a failure the listing is scanned again, since part of the pair may be gone.
     bool DeleteDialogue(const std::string& fileName);
 
     // Moves the pairs of those names to the desktop's trash as one change, as if isp/ then dlg/

@@ -13,6 +13,13 @@ BackWindow::BackWindow(Backdrop& backdrop) : QWidget(nullptr), backdrop_(backdro
     setAccessibleName(QString::fromLatin1(Backdrop::Title));
     setAccessibleDescription(QString::fromLatin1(Backdrop::HintText));
     setMouseTracking(true);
+    // It stands behind the program's windows: showing it never takes the focus from them.
+    setAttribute(Qt::WA_ShowWithoutActivating);
+    // A Wayland client draws its own title bar, whose buttons would offer to minimise, maximise
+    // or close a backdrop.
+    if (QGuiApplication::platformName().startsWith(QStringLiteral("wayland"))) {
+        setWindowFlag(Qt::FramelessWindowHint);
+    }
     setStyleSheet(QStringLiteral("BackWindow, QWidget { background: rgb(92, 100, 122); }"));
     setGeometry(QGuiApplication::primaryScreen()->availableGeometry());
     label1_ = new QLabel(QString::fromLatin1(Backdrop::HintText), this);

@@ -198,8 +198,12 @@ void QtWindowLayer::ShowWindow(WindowId window) {
             widget->hide();
         }
         widget->show();
-        widget->raise();
-        widget->activateWindow();
+        // A window shown without taking the focus is a backdrop: raised, it would cover the
+        // window the user is in.
+        if (!widget->testAttribute(Qt::WA_ShowWithoutActivating)) {
+            widget->raise();
+            widget->activateWindow();
+        }
     }
 }
 

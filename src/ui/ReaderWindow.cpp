@@ -15,11 +15,14 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPlainTextEdit>
+#include <QPointer>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QStyle>
 #include <QTextCursor>
+#include <QTimer>
 #include <cmath>
+#include <utility>
 
 namespace veyrant {
 
@@ -38,9 +41,11 @@ QString Css(ReaderColour colour) {
     return QStringLiteral("rgb(%1, %2, %3)").arg(rgb.Red).arg(rgb.Green).arg(rgb.Blue);
 }
 
+// The window and its buttons take the logic's own colour, filled in at %1.
 const char* const ReaderStyle = R"(
+QWidget#Read { background: %1; }
 QPushButton { border: 1px solid rgb(150, 150, 160); border-radius: 3px; padding: 0 6px;
-              background: rgb(214, 214, 220); }
+              background: %1; }
 QPushButton:pressed, QPushButton[pressedIn="true"] { background: rgb(176, 178, 192);
               border-top: 2px solid rgb(90, 92, 110); }
 QPushButton[hoverMark="true"] { color: rgb(0, 0, 192); text-decoration: underline; }
@@ -101,7 +106,8 @@ MouseButton ButtonOf(const QMouseEvent* event) {
 ReaderWindow::ReaderWindow(Application& app, Reader& reader)
     : QWidget(nullptr), app_(app), reader_(reader) {
     setObjectName(QStringLiteral("Read"));
-    setStyleSheet(QString::fromLatin1(ReaderStyle));
+    setStyleSheet(QString::fromLatin1(ReaderStyle)
+                      .arg(Css(reader_.Controls()[ReaderControl::Window].Background)));
     setFocusPolicy(Qt::StrongFocus);
     Build();
     reader_.SetPainter([this] { Render(); });
@@ -273,10 +279,7 @@ void ReaderWindow::RenderControl(ReaderControl control, bool force) {
                                       .arg(Css(now.Background)));
         } else if (control == ReaderControl::List1) {
             widget->setStyleSheet(QStringLiteral("background: %1;").arg(Css(now.Background)));
-        } else if (control == ReaderControl::txtNote) {
-            widget->setStyleSheet(QStringLiteral("color: %1; background: %2;")
-                                      .arg(Css(now.Ink), Css(ReaderColour::White)));
-        } else if (control == ReaderControl::txtSearch) {
+        } else if (control == ReaderControl::txtSearch || control == ReaderControl::txtNote) {
             widget->setStyleSheet(QStringLiteral("color: %1; background: %2;")
                                       .arg(Css(now.Ink), Css(now.Background)));
         } else if (control == ReaderControl::Panel1) {
@@ -380,14 +383,33 @@ void ReaderWindow::RenderText(bool force) {
 }
 
 void ReaderWindow::keyPressEvent(QKeyEvent* event) {
-    const int key = ReaderKey(event);
-    if (key != 0 && reader_.KeyDown(key) == 0) {
-        Render();
-        event->accept();
-        return;
+    // With Ctrl held the arrows and page keys only scroll, so that a long text can be read
+    // where the same keys step to the next Topic or Dialogue.
+    const int key = event->modifiers() & Qt::ControlModifier ? 0 : ReaderKey(event);
+    if (key == 0 || reader_.KeyDown(key) != 0) {
+        ScrollText(event->key());
     }
     Render();
     event->accept();
+}
+
+void ReaderWindow::ScrollText(int key) {
+    static constexpr std::pair<int, QAbstractSlider::SliderAction> Scrolls[] = {
+        {Qt::Key_Up, QAbstractSlider::SliderSingleStepSub},
+        {Qt::Key_Down, QAbstractSlider::SliderSingleStepAdd},
+        {Qt::Key_PageUp, QAbstractSlider::SliderPageStepSub},
+        {Qt::Key_PageDown, QAbstractSlider::SliderPageStepAdd},
+        {Qt::Key_Home, QAbstractSlider::SliderToMinimum},
+        {Qt::Key_End, QAbstractSlider::SliderToMaximum},
+    };
+    if (!spin_->isVisible()) {
+        return;
+    }
+    for (const auto& [scrollKey, action] : Scrolls) {
+        if (scrollKey == key) {
+            spin_->verticalScrollBar()->triggerAction(action);
+        }
+    }
 }
 
 bool ReaderWindow::eventFilter(QObject* watched, QEvent* event) {
@@ -400,6 +422,11 @@ bool ReaderWindow::eventFilter(QObject* watched, QEvent* event) {
     case QEvent::MouseMove:
         reader_.MouseMove(control);
         Render();
+        // A control would pass the move on to the window behind it, whose own move ends the
+        // help just begun.
+        if (watched != this && static_cast<QMouseEvent*>(event)->buttons() == Qt::NoButton) {
+            return true;
+        }
         break;
     case QEvent::MouseButtonPress: {
         auto* mouse = static_cast<QMouseEvent*>(event);
@@ -468,6 +495,25 @@ bool ReaderWindow::SearchKey(QKeyEvent* event) {
         }
     }
     return false;
+}
+
+void ReaderWindow::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange && isActiveWindow()) {
+        // From the event loop: the events the logic lets through may close the library, which
+        // unloads this window, and none may run inside the window's own event. A window closed
+        // meanwhile has no library to show.
+        QTimer::singleShot(0, this, [this] {
+            if (!isVisible()) {
+                return;
+            }
+            const QPointer<ReaderWindow> alive(this);
+            reader_.CameToFront();
+            if (alive) {
+                Render();
+            }
+        });
+    }
 }
 
 void ReaderWindow::closeEvent(QCloseEvent* event) {

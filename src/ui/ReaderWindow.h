@@ -30,6 +30,7 @@ public:
     std::function<void()> OnClose;
 
 protected:
+    void changeEvent(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -42,6 +43,8 @@ private:
     void RenderControl(ReaderControl control, bool force);
     void RenderList(bool force);
     void RenderText(bool force);
+    // A key the logic left unused scrolls the text box, if it shows.
+    void ScrollText(int key);
     // A key in the search box: true when the window used it, false to let the box edit.
     bool SearchKey(QKeyEvent* event);
 

@@ -76,6 +76,18 @@ TEST_P(BackgroundHelp, SaysNothingWhileTheBackdropShowsAndSilencesItsHint) {
     EXPECT_EQ(Note(), instruction);
 }
 
+TEST_P(BackgroundHelp, AnyButtonOnTheBackgroundRestoresTheBackdrop) {
+    for (const auto button : {MouseButton::Left, MouseButton::Right, MouseButton::Middle}) {
+        App.Back.MouseDown();
+        if (OnReader()) {
+            Read().MouseDown(RC::Window, button);
+        } else {
+            App.Write->MouseDown(MC::Window, button);
+        }
+        EXPECT_TRUE(Windows.IsWindowVisible(WindowId::Back));
+    }
+}
+
 INSTANTIATE_TEST_SUITE_P(Windows, BackgroundHelp, ::testing::Values(false, true),
                          [](const auto& info) { return info.param ? "Read" : "Write"; });
 

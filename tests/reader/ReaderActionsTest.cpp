@@ -127,6 +127,18 @@ TEST_F(ReaderActions, MarkExitReopensAtTheMark) {
          "Veyrant Knowledge Library -- 4/4/7 -- B", 3,
          "7 rows, selected 3, top 0, split back=IndexText",
          "low \"B |  | \\tText of row 3. | \" back=ReadingText", "\"Next >>\"", 2},
+        // The Information row shown earlier in the run is no mark.
+        {"Knowledge mark after a visit to Information",
+         [](Session& t) {
+             t.OpenRow(2, 1);
+             t.App.Links.CloseLibrary();
+             t.OpenRow(3, 3);
+             t.MarkExit();
+         },
+         " 0 -1 \r\n 0 -1 \r\n 1  3 \r\n 0 -1 \r\n", [](Session& t) { t.Open(2); },
+         "Veyrant Information Library", -1, "6 rows, selected -1, top 0, split back=ListInUse",
+         "low \"Information Library | \\tSections are listed in the main (colla\" back=IndexText",
+         "\"First\"", 0},
         {"Advanced Knowledge mark, then the Write window's Help",
          [](Session& t) {
              t.OpenRow(4, 2);
@@ -266,6 +278,7 @@ TEST_F(ReaderActions, OnlyTheAmbrelIsTooLongToMerge) {
             Windows.Boxes.clear();
             OpenSection(library, section);
             const std::string sectionText = Read().Controls()[RC::txtSpin].Text;
+            const std::string sectionTitle = Title();
             Click(RC::cmdPrint);
             const std::string& title = content.SectionTitle[static_cast<std::size_t>(section)];
             if (title != "< The Ambrel >") {
@@ -277,6 +290,7 @@ TEST_F(ReaderActions, OnlyTheAmbrelIsTooLongToMerge) {
                 EXPECT_EQ(Windows.Boxes[0].Title, "Cannot Merge");
                 EXPECT_EQ(Windows.Boxes[0].Text, "This Essay is too long to be merged.");
                 EXPECT_EQ(Read().Controls()[RC::txtSpin].Text, sectionText);
+                EXPECT_EQ(Title(), sectionTitle);
                 EXPECT_EQ(Line(RC::txtSpin).substr(0, 4), "low ");
                 EXPECT_EQ(Line(RC::cmdPrint), "\"Merge\" disabled");
                 EXPECT_EQ(Line(RC::cmdSelect), "\"< Index >\"");
@@ -416,6 +430,13 @@ TEST_F(ReaderActions, AFailedDeleteKeepsThePair) {
     EXPECT_EQ(Windows.Boxes[2].Icon, MessageIcon::Warning);
     EXPECT_EQ(Files(), before);
     EXPECT_EQ(Title(), shown);
+
+    // With its dialogue file gone the pair is half deleted: the list no longer offers it.
+    std::filesystem::remove(Folder.Dlg() / "76112109.300");
+    Windows.Answers = {MessageAnswer::Yes};
+    Click(RC::cmdDelete);
+    EXPECT_EQ(Windows.Boxes.back().Title, "Dialogue Library Corrupted");
+    EXPECT_EQ(Line(RC::List1), "1 rows, selected -1, top 0, split back=ListInUse");
 }
 
 } // namespace

@@ -75,6 +75,11 @@ TEST_F(ReaderMarks, RightClickCyclesTheFontSteps) {
     EXPECT_EQ(Windows.Boxes.size(), 3u);
     SaveSettings(App);
     EXPECT_EQ(ReadWholeFile(Folder.Exe() / "Tolmira.ini").substr(0, 10), " 1 \r\n 1 \r\n");
+    // Where the step's box took the right button's release, the next left click still counts.
+    Read().MouseDown(RC::txtSpin, MouseButton::Right);
+    Read().MouseDown(RC::txtSpin, MouseButton::Left);
+    Read().Click(RC::txtSpin);
+    EXPECT_EQ(Windows.Boxes.back().Title, "Split Window Mode for Section Display");
 }
 
 // Hover help comes one tick after the pointer and gives way at the eighth tick.

@@ -18,6 +18,7 @@
 #include <QListWidget>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QtTest>
 #include <filesystem>
 #include <memory>
@@ -273,6 +274,19 @@ private slots:
         QCOMPARE(read.Layer.Boxes.back().Title, std::string("Change Font Size"));
     }
 
+    // The window, its instruction line and its buttons wear the Read window's grey.
+    void theWindowWearsItsColours() {
+        ReadWindow read;
+        read.Open(3);
+        const QImage shot = read.Window->grab().toImage();
+        for (const auto control :
+             {ReaderControl::Window, ReaderControl::txtNote, ReaderControl::cmdExitM}) {
+            const QWidget* widget = read.Window->Widget(control);
+            const QPoint inside = widget->mapTo(read.Window.get(), QPoint(3, widget->height() / 2));
+            QCOMPARE(shot.pixelColor(inside), QColor(190, 190, 196));
+        }
+    }
+
     // Merge fills the window with the Section's Topics under a busy pointer; Mark Exit closes
     // the library with its place kept.
     void mergeFillsTheWindowAndMarkExitCloses() {
@@ -292,6 +306,17 @@ private slots:
         QVERIFY(read.Layer.Yields > 0);
         QVERIFY(!read.Layer.Busy);
         read.Picture("merged");
+        // No step takes the keys here: they scroll the long essay.
+        QScrollBar* bar = read.Spin()->verticalScrollBar();
+        for (const auto key : {Qt::Key_PageDown, Qt::Key_Down}) {
+            const int before = bar->value();
+            read.Key(key);
+            QVERIFY(bar->value() > before);
+        }
+        read.Key(Qt::Key_End);
+        QCOMPARE(bar->value(), bar->maximum());
+        read.Key(Qt::Key_Home);
+        QCOMPARE(bar->value(), 0);
 
         QTest::mouseClick(read.Window->Widget(ReaderControl::cmdExitM), Qt::LeftButton);
         QCOMPARE(read.App.Reading.ReaderOpen, std::int16_t{0});

@@ -1,0 +1,126 @@
+// The program on a desktop with a window manager, openbox under Xvfb: the pointer rests and
+// presses on the windows, the program's real boxes take the clicks, and the window manager tells
+// which window stands in front.
+
+#include "StartedProgram.h"
+
+#include <QApplication>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QProcess>
+#include <QTimer>
+#include <QtTest>
+
+using namespace veyrant;
+
+namespace {
+
+// The program started as the user starts it, the Write window up and the banner gone.
+struct Desktop : StartedProgram {
+    Desktop() {
+        Main(App);
+        QTRY_VERIFY_WITH_TIMEOUT(Write != nullptr && Write->isActiveWindow() &&
+                                     !Windows.IsWindowVisible(WindowId::Banner),
+                                 10000);
+    }
+    void OpenKnowledge() {
+        QTest::mouseClick(Write->Widget(MirrorControl::cmdKnow), Qt::LeftButton);
+        QTRY_VERIFY(Read && Read->isActiveWindow());
+    }
+    QString Note() const {
+        return static_cast<QLabel*>(Read->Widget(ReaderControl::txtNote))->text();
+    }
+};
+
+// Where a window stands in the window manager's stack, counted from the bottom.
+qsizetype StackPlace(const QWidget* window) {
+    QProcess xprop;
+    xprop.start(QStringLiteral("xprop"),
+                {QStringLiteral("-root"), QStringLiteral("_NET_CLIENT_LIST_STACKING")});
+    xprop.waitForFinished();
+    const QString ids = QString::fromLatin1(xprop.readAllStandardOutput()).section('#', 1);
+    return ids.simplified().remove(' ').split(',').indexOf(
+        QStringLiteral("0x%1").arg(window->winId(), 0, 16));
+}
+
+} // namespace
+
+class DesktopTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    // The pointer resting on a button or on the instruction line shows its help there.
+    void theReadWindowsHelpFollowsThePointer() {
+        Desktop program;
+        program.OpenKnowledge();
+        const std::pair<ReaderControl, const char*> rests[] = {
+            {ReaderControl::cmdNext, "Display the first Section content. You may also press the "
+                                     "'Down' arrow or page key."},
+            {ReaderControl::txtNote, "F1=Help  SpaceBar=Window  Page/ArrowUp=Prior  "
+                                     "Page/ArrowDown=Next  Esc=Index/Cancel"},
+        };
+        for (const auto& [control, help] : rests) {
+            QTest::mouseMove(program.Read->Widget(control));
+            QTRY_COMPARE_WITH_TIMEOUT(program.Note(), QString::fromLatin1(help), 4000);
+        }
+    }
+
+    // The font step's box takes the right button's release; the user's next click on the text
+    // still works the window.
+    void aFontStepLeavesTheNextClickToTheText() {
+        Desktop program;
+        program.OpenKnowledge();
+        auto* spin = static_cast<QPlainTextEdit*>(program.Read->Widget(ReaderControl::txtSpin));
+        // The box takes the release, as the pointer's grab gives it on a desktop.
+        QTimer::singleShot(
+            500, [] { QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Return); });
+        QTest::mousePress(spin->viewport(), Qt::RightButton);
+        QCOMPARE(program.App.UserSettings.ReaderFontStep, std::int16_t{2});
+        QTest::keyClick(program.Read, Qt::Key_Down);
+        QTest::keyClick(program.Read, Qt::Key_Down);
+        QVERIFY(program.Read->Widget(ReaderControl::List1)->isVisible());
+        QTest::mouseClick(spin->viewport(), Qt::LeftButton);
+        QVERIFY(!program.Read->Widget(ReaderControl::List1)->isVisible());
+    }
+
+    // Any button pressed on the bare Write or Read window brings the backdrop back behind it:
+    // the window stays in front and keeps the keys.
+    void aPressOnTheBackgroundKeepsTheWindowInFront() {
+        Desktop program;
+        for (const bool reading : {false, true}) {
+            if (reading) {
+                program.OpenKnowledge();
+            }
+            QWidget* window = reading ? static_cast<QWidget*>(program.Read) : program.Write;
+            for (const auto button : {Qt::LeftButton, Qt::RightButton}) {
+                QTest::mouseClick(program.Back, Qt::LeftButton);
+                QTRY_VERIFY(!program.Back->isVisible());
+                QTest::mouseClick(window, button, {}, QPoint(2, 2));
+                QTest::qWait(500);
+                QVERIFY(program.Back->isVisible());
+                QCOMPARE(QApplication::activeWindow(), window);
+                const qsizetype back = StackPlace(program.Back);
+                QVERIFY(back >= 0 && StackPlace(window) > back);
+            }
+        }
+    }
+
+    // With the Write window minimised, the Read window brought to the front from the task bar
+    // shows itself again and takes the keys.
+    void theReadWindowComesBackToTheFront() {
+        Desktop program;
+        program.OpenKnowledge();
+        QVERIFY(program.Windows.IsWindowMinimised(WindowId::Mirror));
+        program.Read->showMinimized();
+        QTRY_VERIFY(program.Read->isMinimized());
+        QProcess::execute(QStringLiteral("xdotool"), {QStringLiteral("windowactivate"),
+                                                      QString::number(program.Read->winId())});
+        QTRY_VERIFY(!program.Read->isMinimized() && program.Read->isActiveWindow());
+        QTest::keyClick(program.Read, Qt::Key_Down);
+        QVERIFY(program.Read->windowTitle().startsWith(
+            QStringLiteral("Veyrant Knowledge Library -- 1/")));
+    }
+};
+
+QTEST_MAIN(DesktopTest)
+#include "DesktopTest.moc"
