@@ -294,8 +294,8 @@ PrintOutcome QtWindowLayer::PrintDialogue(const PrintRequest& request) {
 }
 
 void QtWindowLayer::ShowInEditor(const std::string& text, const std::string& proposedFileName) {
-    auto* editor =
-        new ExportEditorWindow(*this, ToDisplayText(text), ToDisplayText(proposedFileName));
+    auto* editor = new ExportEditorWindow(*this, *spelling_, ToDisplayText(text),
+                                          ToDisplayText(proposedFileName));
     editor->show();
 }
 

@@ -33,7 +33,7 @@ namespace {
 // Every window of the program over one fresh folder, the Write window shown and started.
 struct Program : WriteWindow {
     Utility Utilities{Layer, "4.1.26.11.22", "2026", [] {}};
-    Resize DisplaySize{App.UserSettings, Layer, [] {}};
+    Resize DisplaySize{App.UserSettings, App.UserPreferences, Layer, [] {}};
     Options LibraryOptions{Library, App.UserSettings, Layer, [] {}, [] {}};
 };
 
@@ -95,7 +95,8 @@ private slots:
         displaySize.show();
         OptionsWindow options(program.LibraryOptions);
         options.show();
-        ExportEditorWindow exported(program.Layer, QStringLiteral("Dialogue text"),
+        ExportEditorWindow exported(program.Layer, program.App.Spelling,
+                                    QStringLiteral("Dialogue text"),
                                     QStringLiteral("Dialogue.txt"));
         const auto about = BuildMessageBox(
             {"About the Veyrant Sagrel Program", AboutText("4.1.26.11.22", "2026")});

@@ -34,8 +34,9 @@ private:
     struct DisplaySize {
         testing::FakeWindowLayer Windows;
         Settings UserSettings;
+        Preferences UserPreferences;
         int Exits = 0;
-        Resize Logic{UserSettings, Windows, [this] { ++Exits; }};
+        Resize Logic{UserSettings, UserPreferences, Windows, [this] { ++Exits; }};
         ResizeWindow Window{Logic, 1.0};
 
         explicit DisplaySize(std::int16_t option) {
