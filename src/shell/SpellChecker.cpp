@@ -72,8 +72,10 @@ void SpellChecker::Open(std::unique_ptr<Dictionary> dictionary,
     if (!dictionary_) {
         return;
     }
+    // In lower case too, as the program's web address and file names spell them.
     for (const std::string_view word : OwnWords) {
         dictionary_->Add(word);
+        dictionary_->Add(Lower(word));
     }
     for (const std::string& word : personalWords_) {
         dictionary_->Add(word);

@@ -20,11 +20,10 @@ ResizeWindow::ResizeWindow(Resize& resize, double scaleFactor, QWidget* parent)
     setObjectName("frmResize");
     setWindowTitle(ToQt(controls.Title));
 
-    auto* note = new QLabel(
-        tr("Choose the size of the Veyrant Sagrel windows. The new size "
-           "takes effect when you start the program again, and so does the choice of spelling "
-           "marks."),
-        this);
+    auto* note = new QLabel(tr("Choose the size of the Veyrant Sagrel windows and whether misspelt "
+                               "words are marked. Your choices take effect when you start the "
+                               "program again."),
+                            this);
     note->setWordWrap(true);
 
     auto* sizes = new QGroupBox(tr("&Window size"), this);
