@@ -176,7 +176,7 @@ private slots:
         };
         const std::vector<Case> cases = {
             {&utilities, {"cmdOptions", "cmdResize", "cmdAbout"}},
-            {&displaySize, {"Option1", "cmdOK", "cmdCancel"}},
+            {&displaySize, {"Option1", "chkSpelling", "cmdOK", "cmdCancel"}},
             // An empty Library has nothing to clean, and its button is passed over.
             {&options, {"txtSetSave", "txtSetDays", "Check1", "cmdOK", "cmdCancel"}},
         };

@@ -2,6 +2,7 @@
 #include "ui/ResizeWindow.h"
 #include "ui/UtilityWindow.h"
 
+#include <QCheckBox>
 #include <QGroupBox>
 #include <QPushButton>
 #include <QRadioButton>
@@ -95,9 +96,12 @@ private slots:
         QTest::keyClick(program.Choice("Option1"), Qt::Key_Down);
         QVERIFY(program.Choice("Option2")->isChecked());
         QCOMPARE(program.UserSettings.DisplayOption, 2);
+        QTest::mouseClick(program.Window.findChild<QCheckBox*>("chkSpelling"), Qt::LeftButton);
+        QVERIFY(!program.UserPreferences.SpellingMarks);
         SaveShot(program.Window, "/tmp/resize-window.png");
         QTest::keyClick(&program.Window, Qt::Key_Escape);
         QCOMPARE(program.UserSettings.DisplayOption, 1);
+        QVERIFY(program.UserPreferences.SpellingMarks);
         QVERIFY(program.Choice("Option1")->isChecked());
         QCOMPARE(program.Exits, 1);
 
