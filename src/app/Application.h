@@ -17,7 +17,9 @@
 #include "shell/Backdrop.h"
 #include "shell/ClosingState.h"
 #include "shell/DisplayScale.h"
+#include "shell/Preferences.h"
 #include "shell/Settings.h"
+#include "shell/SpellChecker.h"
 #include "storage/DialogueLibrary.h"
 #include "storage/WorkBuffers.h"
 
@@ -42,6 +44,7 @@ struct Application {
     std::filesystem::path ProgramFile;
 
     veyrant::Settings UserSettings;
+    veyrant::Preferences UserPreferences;
     veyrant::ReadSettings ReaderSettings;
     veyrant::FontNames Fonts;
     veyrant::DisplayScale Scale;
@@ -61,6 +64,9 @@ struct Application {
     WorkBuffers Buffers;
     // The Information, Knowledge and Advanced Knowledge Libraries, filled behind the banner.
     FixedLibraries Libraries;
+    // The spelling marks of the Write window and the export editor, idle until a dictionary is
+    // opened.
+    SpellChecker Spelling;
     // The Write window's logic, made when the window loads.
     std::unique_ptr<Mirror> Write;
 

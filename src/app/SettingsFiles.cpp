@@ -1,6 +1,7 @@
 #include "app/SettingsFiles.h"
 
 #include "app/FontCheck.h"
+#include "app/PreferencesFile.h"
 #include "core/Cp1252.h"
 #include "core/FieldReader.h"
 #include "core/ProgramError.h"
@@ -85,6 +86,8 @@ std::filesystem::path SettingsFile(const Application& app) {
 }
 
 void LoadSettings(Application& app) {
+    // First, so that the repair below writes back the choices read, not the defaults.
+    LoadPreferences(app);
     try {
         app.UserSettings = ReadSettingsText(ReadSettingsFile(SettingsFile(app)));
     } catch (const ProgramError&) {
@@ -103,6 +106,7 @@ void SaveSettings(const Application& app) {
             SettingsLine({s.WindowMode[1], s.WindowMode[2], s.WindowMode[3], s.WindowMode[4]}) +
             SettingsLine({s.IntroDone, s.IntroDone2}) + SettingsLine({s.DisplayOption}) +
             SettingsLine({s.MaxLibraryDays, s.MaxLibraryFiles}) + SettingsLine({s.GuestMode}));
+    SavePreferences(app);
 }
 
 void LoadReadSettings(Application& app) {

@@ -12,7 +12,7 @@ namespace veyrant {
 std::filesystem::path SettingsFile(const Application& app);
 
 // On any failure every value takes its default, the display option is chosen from the screen,
-// and the file is written afresh.
+// and the file is written afresh. Preferences.ini is read and written with it.
 void LoadSettings(Application& app);
 // A failure goes to the caller's handler.
 void SaveSettings(const Application& app);

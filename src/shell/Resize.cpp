@@ -4,17 +4,26 @@
 
 namespace veyrant {
 
-Resize::Resize(Settings& settings, WindowLayer& windows, std::function<void()> exitProgram)
-    : settings_(settings), windows_(windows), exitProgram_(std::move(exitProgram)) {}
+Resize::Resize(Settings& settings, Preferences& preferences, WindowLayer& windows,
+               std::function<void()> exitProgram)
+    : settings_(settings), preferences_(preferences), windows_(windows),
+      exitProgram_(std::move(exitProgram)) {}
 
 void Resize::Form_Load() {
     priorOption_ = settings_.DisplayOption;
+    priorSpelling_ = preferences_.SpellingMarks;
     Tick(settings_.DisplayOption);
+    controls_.chkSpelling.Checked = preferences_.SpellingMarks;
 }
 
 void Resize::Option_Click(int value) {
     settings_.DisplayOption = static_cast<std::int16_t>(value);
     Tick(value);
+}
+
+void Resize::chkSpelling_Click(bool checked) {
+    preferences_.SpellingMarks = checked;
+    controls_.chkSpelling.Checked = checked;
 }
 
 void Resize::cmdOK_Click() {
@@ -24,6 +33,7 @@ void Resize::cmdOK_Click() {
 void Resize::cmdCancel_Click() {
     settings_.DisplayOption = priorOption_;
     Tick(priorOption_);
+    chkSpelling_Click(priorSpelling_);
     Leave();
 }
 
@@ -43,7 +53,9 @@ std::string Resize::Dump() const {
     for (const ResizeOption& choice : controls_.Choices) {
         text += choice.Name + (choice.Checked ? " (x) \"" : " ( ) \"") + choice.Caption + "\"\n";
     }
-    return text;
+    const ResizeCheck& spelling = controls_.chkSpelling;
+    return text + spelling.Name + (spelling.Checked ? " [x] \"" : " [ ] \"") + spelling.Caption +
+           "\"\n";
 }
 
 } // namespace veyrant

@@ -1,9 +1,11 @@
 #pragma once
 
-// The logic of the Display Size window (frmResize): the four scales of every window. A choice is
-// stored at once and takes effect at the next start, since every way out ends the program.
+// The logic of the Display Size window (frmResize): the four scales of every window, and whether
+// misspelt words are marked. A choice is stored at once and takes effect at the next start, since
+// every way out ends the program.
 
 #include "core/WindowLayer.h"
+#include "shell/Preferences.h"
 #include "shell/Settings.h"
 
 #include <array>
@@ -19,6 +21,12 @@ struct ResizeOption {
     bool Checked = false;
 };
 
+struct ResizeCheck {
+    std::string Name; // the control's name
+    std::string Caption;
+    bool Checked = false;
+};
+
 struct ResizeControls {
     std::string Title = "Display Size";
     // In the order the window shows them, smallest scale first.
@@ -28,16 +36,19 @@ struct ResizeControls {
         {"Option2", "120% for 17\" display, 1280x960 resolution", 2},
         {"Option3", "145% for 19\" display, 1600x1200 resolution", 3},
     }};
+    ResizeCheck chkSpelling{"chkSpelling", "Mark misspelt words while typing"};
 };
 
 class Resize {
 public:
-    Resize(Settings& settings, WindowLayer& windows, std::function<void()> exitProgram);
+    Resize(Settings& settings, Preferences& preferences, WindowLayer& windows,
+           std::function<void()> exitProgram);
 
     const ResizeControls& Controls() const { return controls_; }
 
     void Form_Load();
     void Option_Click(int value);
+    void chkSpelling_Click(bool checked);
     void cmdOK_Click();
     // Closing the window is the same as Cancel.
     void cmdCancel_Click();
@@ -50,10 +61,12 @@ private:
     void Leave();
 
     Settings& settings_;
+    Preferences& preferences_;
     WindowLayer& windows_;
     std::function<void()> exitProgram_;
     ResizeControls controls_;
     std::int16_t priorOption_ = 1;
+    bool priorSpelling_ = true;
 };
 
 } // namespace veyrant

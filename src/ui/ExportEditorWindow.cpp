@@ -6,6 +6,8 @@
 #include "printing/ExportText.h"
 #include "printing/PrintDialogue.h"
 #include "ui/PrintFlow.h"
+#include "ui/QtText.h"
+#include "ui/SpellingHighlighter.h"
 
 #include <QCloseEvent>
 #include <QDir>
@@ -14,6 +16,7 @@
 #include <QFileInfo>
 #include <QHBoxLayout>
 #include <QKeySequence>
+#include <QMenu>
 #include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QPrinter>
@@ -35,15 +38,23 @@ QString ProposedSavePath(const SaveFolder& folder, const QString& fileName) {
 }
 
 ExportEditorWindow::ExportEditorWindow(WindowLayer& windows, SaveFolder& folder,
-                                       const QString& text, const QString& proposedFileName)
+                                       SpellChecker& spelling, const QString& text,
+                                       const QString& proposedFileName)
     : windows_(windows), folder_(folder), proposedFileName_(proposedFileName),
-      editor_(new QPlainTextEdit(this)) {
+      editor_(new QPlainTextEdit(this)), spelling_(spelling),
+      marks_(new SpellingHighlighter(*editor_, spelling)) {
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowTitle(proposedFileName + QStringLiteral(" - Veyrant Sagrel"));
     editor_->setLineWrapMode(QPlainTextEdit::WidgetWidth);
     editor_->setAccessibleName(QStringLiteral("Dialogue"));
     editor_->setPlainText(text);
     editor_->document()->setModified(false);
+    editor_->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(editor_, &QWidget::customContextMenuRequested, this, [this](const QPoint& point) {
+        QMenu* menu = ContextMenu(point);
+        menu->exec(editor_->viewport()->mapToGlobal(point));
+        delete menu;
+    });
 
     auto* saveAs = new QPushButton(QStringLiteral("Save As..."), this);
     auto* print = new QPushButton(QStringLiteral("Print..."), this);
@@ -113,6 +124,39 @@ void ExportEditorWindow::Print() {
     });
     if (outcome == PrintOutcome::Failed) {
         windows_.ShowMessage(PrintErrorBox());
+    }
+}
+
+QMenu* ExportEditorWindow::ContextMenu(const QPoint& point) {
+    QMenu* menu = editor_->createStandardContextMenu(point);
+    const auto word = marks_->MarkedWordAt(editor_->cursorForPosition(point));
+    if (!word) {
+        return menu;
+    }
+    QAction* first = menu->actions().value(0);
+    const QString misspelt = word->selectedText();
+    for (const std::string& correction : spelling_.Suggestions(CheckedText(misspelt))) {
+        auto* replace = new QAction(ToQt(correction), menu);
+        connect(replace, &QAction::triggered, this,
+                [word = *word, correction]() mutable { word.insertText(ToQt(correction)); });
+        menu->insertAction(first, replace);
+    }
+    auto* add = new QAction(QStringLiteral("Add to Dictionary"), menu);
+    connect(add, &QAction::triggered, this, [this, misspelt] { AddToDictionary(misspelt); });
+    menu->insertAction(first, add);
+    menu->insertSeparator(first);
+    return menu;
+}
+
+void ExportEditorWindow::AddToDictionary(const QString& word) {
+    try {
+        spelling_.Add(CheckedText(word));
+    } catch (const ProgramError& error) {
+        windows_.ShowMessage({"Veyrant Sagrel",
+                              "Error " + std::to_string(error.Number()) +
+                                  " saving the list of your added words. The word is known "
+                                  "until the program ends.",
+                              MessageIcon::Warning});
     }
 }
 

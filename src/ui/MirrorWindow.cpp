@@ -10,6 +10,7 @@
 #include "ui/GuardedTextBox.h"
 #include "ui/QtText.h"
 #include "ui/QtWindowLayer.h"
+#include "ui/SpellingHighlighter.h"
 #include "ui/SpokenText.h"
 
 #include <QCloseEvent>
@@ -271,6 +272,9 @@ GuardedTextBox* MirrorWindow::MakeBox(MirrorControl control) {
     }
     if (control == MirrorControl::txtMirror) {
         box->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    }
+    if (control == MirrorControl::txtMirror || control == MirrorControl::txtAnalyze) {
+        new SpellingHighlighter(*box, app_.Spelling);
     }
     widgets_[Index(control)] = box;
     MakeSpoken(box, control);

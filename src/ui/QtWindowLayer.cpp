@@ -298,7 +298,7 @@ PrintOutcome QtWindowLayer::PrintDialogue(const PrintRequest& request) {
 }
 
 void QtWindowLayer::ShowInEditor(const std::string& text, const std::string& proposedFileName) {
-    auto* editor = new ExportEditorWindow(*this, saveFolder_, ToDisplayText(text),
+    auto* editor = new ExportEditorWindow(*this, saveFolder_, *spelling_, ToDisplayText(text),
                                           ToDisplayText(proposedFileName));
     editor->show();
 }

@@ -5,6 +5,7 @@
 
 #include "core/WindowLayer.h"
 #include "printing/SaveFolder.h"
+#include "shell/SpellChecker.h"
 
 #include <QPointer>
 #include <QString>
@@ -36,6 +37,8 @@ public:
     QWidget* Window(WindowId window) const;
     // The program's serif face, as the font check chose it, for the printed pages.
     void SetPrintFace(std::function<std::string()> face) { printFace_ = std::move(face); }
+    // The spelling marks the export editor shares with the Write window.
+    void SetSpelling(SpellChecker& spelling) { spelling_ = &spelling; }
     // True once the program has asked to end; the event loop must then not be entered.
     bool Ended() const { return ended_; }
 
@@ -73,6 +76,8 @@ private:
     std::map<TimerId, std::function<void()>> handlers_;
     std::function<std::string()> printFace_;
     SaveFolder saveFolder_;
+    SpellChecker idleSpelling_;
+    SpellChecker* spelling_ = &idleSpelling_;
     bool busy_ = false;
     bool ended_ = false;
     // A Wayland client can neither learn that it was brought back from minimised nor raise

@@ -4,6 +4,7 @@
 #include "ui/QtText.h"
 #include "ui/UtilityWindow.h"
 
+#include <QCheckBox>
 #include <QDialogButtonBox>
 #include <QGroupBox>
 #include <QLabel>
@@ -19,8 +20,9 @@ ResizeWindow::ResizeWindow(Resize& resize, double scaleFactor, QWidget* parent)
     setObjectName("frmResize");
     setWindowTitle(ToQt(controls.Title));
 
-    auto* note = new QLabel(tr("Choose the size of the Veyrant Sagrel windows. The new size "
-                               "takes effect when you start the program again."),
+    auto* note = new QLabel(tr("Choose the size of the Veyrant Sagrel windows and whether misspelt "
+                               "words are marked. Your choices take effect when you start the "
+                               "program again."),
                             this);
     note->setWordWrap(true);
 
@@ -42,6 +44,14 @@ ResizeWindow::ResizeWindow(Resize& resize, double scaleFactor, QWidget* parent)
         });
     }
 
+    // The caption's first letter is free among the window's access keys.
+    chkSpelling_ = new QCheckBox(QStringLiteral("&") + ToQt(controls.chkSpelling.Caption), this);
+    chkSpelling_->setObjectName(QString::fromStdString(controls.chkSpelling.Name));
+    connect(chkSpelling_, &QCheckBox::clicked, this, [this](bool checked) {
+        resize_.chkSpelling_Click(checked);
+        Render();
+    });
+
     const OkCancelButtons row = MakeOkCancelButtons(this);
     QDialogButtonBox* buttons = row.Box;
     cmdOK_ = row.cmdOK;
@@ -52,6 +62,7 @@ ResizeWindow::ResizeWindow(Resize& resize, double scaleFactor, QWidget* parent)
     layout->setSpacing(14);
     layout->addWidget(note);
     layout->addWidget(sizes);
+    layout->addWidget(chkSpelling_);
     layout->addWidget(buttons);
     setMinimumWidth(420);
 
@@ -84,6 +95,7 @@ void ResizeWindow::Render() {
     for (std::size_t index = 0; index < controls.Choices.size(); ++index) {
         choices_[index]->setChecked(controls.Choices[index].Checked);
     }
+    chkSpelling_->setChecked(controls.chkSpelling.Checked);
 }
 
 } // namespace veyrant

@@ -1,13 +1,14 @@
 #pragma once
 
-// The Display Size window (frmResize) over its logic: four scales to choose from, stored at the
-// click, and OK or Cancel, both of which end the program.
+// The Display Size window (frmResize) over its logic: four scales to choose from and the spelling
+// marks to turn on or off, stored at the click, and OK or Cancel, both of which end the program.
 
 #include "shell/Resize.h"
 
 #include <QDialog>
 #include <array>
 
+class QCheckBox;
 class QPushButton;
 class QRadioButton;
 
@@ -31,6 +32,7 @@ private:
     double scaleFactor_;
     bool loaded_ = false;
     std::array<QRadioButton*, 4> choices_{};
+    QCheckBox* chkSpelling_;
     QPushButton* cmdOK_;
     QPushButton* cmdCancel_;
 };

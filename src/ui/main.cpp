@@ -9,6 +9,7 @@
 #include "ui/BackWindow.h"
 #include "ui/BannerWindow.h"
 #include "ui/GuardedApplication.h"
+#include "ui/HunspellDictionary.h"
 #include "ui/MirrorWindow.h"
 #include "ui/OptionsWindow.h"
 #include "ui/QtWindowLayer.h"
@@ -88,6 +89,7 @@ int main(int argc, char** argv) {
         }
     };
     windows.SetPrintFace([&] { return app.Fonts.Main; });
+    windows.SetSpelling(app.Spelling);
     MirrorWindow* writeWindow = nullptr;
     std::unique_ptr<Options> libraryOptions;
     std::unique_ptr<Utility> utilities;
@@ -100,6 +102,9 @@ int main(int argc, char** argv) {
     windows.RegisterWindow(WindowId::Banner, [&] { return new BannerWindow(windows); });
     // The start-up makes the Write window's logic before it loads the window.
     windows.RegisterWindow(WindowId::Mirror, [&] {
+        // The settings are read by now; a choice made in the Display Size window counts from the
+        // next start.
+        OpenSpelling(app, SystemDictionaryFolder);
         writeWindow = new MirrorWindow(app, *app.Write);
         writeWindow->OnClose = [&] { UnloadMirror(app); };
         return writeWindow;
@@ -118,8 +123,8 @@ int main(int argc, char** argv) {
         return new UtilityWindow(*utilities, utilityScale());
     });
     windows.RegisterWindow(WindowId::Resize, [&] {
-        displaySize =
-            std::make_unique<Resize>(app.UserSettings, windows, [&] { ExitProgram(app); });
+        displaySize = std::make_unique<Resize>(app.UserSettings, app.UserPreferences, windows,
+                                               [&] { ExitProgram(app); });
         return new ResizeWindow(*displaySize, utilityScale());
     });
     // The Reader's logic is made afresh at each opening, before its window loads.

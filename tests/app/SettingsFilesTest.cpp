@@ -19,6 +19,37 @@ std::vector<int> Values(const Settings& s) {
 const char* const DefaultFileOnMiddleScreen =
     " 1 \r\n 1 \r\n 0  0  0  0 \r\n 1  1 \r\n 1 \r\n 21  30 \r\n 0 \r\n";
 
+// Preferences.ini is read and written with Tolmira.ini. A damaged one becomes the defaults in
+// silence, a key of another build is kept, and a damaged Tolmira.ini leaves it as it was.
+TEST(SettingsFiles, PreferencesAreKeptByKeyAndRepairThemselves) {
+    struct Case {
+        const char* Text; // nullptr: no file
+        bool SpellingMarks;
+        const char* Saved;
+    };
+    const char* const defaults = "version 1\r\nSpellingMarks 1\r\n";
+    const Case cases[] = {
+        {nullptr, true, defaults},
+        {"version 1\nLastFolder /home/a b\nSpellingMarks 0\n", false,
+         "version 1\r\nSpellingMarks 0\r\nLastFolder /home/a b\r\n"},
+        {"SpellingMarks 0\r\n", true, defaults},
+        {"version 1\r\nSpellingMarks 2\r\n", true, defaults},
+        {"version 1\r\nSpellingMarks\r\n", true, defaults},
+        {"version 2\r\nSpellingMarks 0\r\n", true, defaults},
+    };
+    for (const Case& c : cases) {
+        AppFixture fixture;
+        fixture.PutExeFile("Tolmira.ini", "damaged");
+        if (c.Text != nullptr) {
+            fixture.PutExeFile("Preferences.ini", c.Text);
+        }
+        LoadSettings(fixture.App);
+        EXPECT_EQ(fixture.App.UserPreferences.SpellingMarks, c.SpellingMarks) << c.Text;
+        EXPECT_EQ(fixture.ExeFile("Preferences.ini"), c.Saved) << c.Text;
+        EXPECT_TRUE(fixture.Windows.Boxes.empty());
+    }
+}
+
 TEST(SettingsFiles, ReadTheSameInAnySpacingOrSeparator) {
     const std::vector<int> expected{2, 3, 1, 0, 1, 0, 1, 1, 2, 14, 99, 1};
     const char* const forms[] = {
@@ -113,8 +144,8 @@ TEST(SettingsFiles, SavingReplacesTheFileWholeInsteadOfWritingIntoIt) {
     EXPECT_EQ(fixture.ExeFile("Tolmira.ini"), DefaultFileOnMiddleScreen);
     EXPECT_EQ(std::distance(std::filesystem::directory_iterator(fixture.Folder.Exe()),
                             std::filesystem::directory_iterator()),
-              2)
-        << "no temporary file is left behind";
+              3)
+        << "no temporary file is left behind beside the two files and Preferences.ini";
 }
 
 TEST(SettingsFiles, NegativeMarkIsWrittenWithItsMinusSign) {

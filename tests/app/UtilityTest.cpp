@@ -84,31 +84,39 @@ TEST(Resize, TheChosenScaleIsStoredAtOnceAndCancelPutsItBack) {
         const char* Name;
         std::int16_t Stored;
         int Clicked;
+        bool SpellingOff;
         bool Cancel;
         std::int16_t Kept;
+        bool SpellingKept;
     };
     const Case cases[] = {
-        {"OK keeps a larger scale", 1, 3, false, 3},
-        {"OK keeps the smallest scale", 2, 0, false, 0},
-        {"Cancel puts back the stored scale", 1, 2, true, 1},
-        {"Cancel without a click", 3, -1, true, 3},
+        {"OK keeps a larger scale", 1, 3, false, false, 3, true},
+        {"OK keeps the smallest scale and no spelling marks", 2, 0, true, false, 0, false},
+        {"Cancel puts back the stored scale and the marks", 1, 2, true, true, 1, true},
+        {"Cancel without a click", 3, -1, false, true, 3, true},
     };
     for (const Case& c : cases) {
         FakeWindowLayer layer;
         Settings settings;
         settings.DisplayOption = c.Stored;
+        Preferences preferences;
         int exits = 0;
-        Resize window(settings, layer, [&] { ++exits; });
+        Resize window(settings, preferences, layer, [&] { ++exits; });
         window.Form_Load();
         if (c.Clicked >= 0) {
             window.Option_Click(c.Clicked);
             EXPECT_EQ(settings.DisplayOption, c.Clicked) << c.Name;
             EXPECT_EQ(exits, 0) << c.Name;
         }
+        if (c.SpellingOff) {
+            window.chkSpelling_Click(false);
+            EXPECT_FALSE(preferences.SpellingMarks) << c.Name;
+        }
 
         c.Cancel ? window.cmdCancel_Click() : window.cmdOK_Click();
 
         EXPECT_EQ(settings.DisplayOption, c.Kept) << c.Name;
+        EXPECT_EQ(preferences.SpellingMarks, c.SpellingKept) << c.Name;
         EXPECT_EQ(exits, 1) << c.Name;
         EXPECT_EQ(layer.WindowEvents.back(), "hide Resize") << c.Name;
     }
@@ -118,13 +126,15 @@ TEST(Resize, OpensWithTheStoredScaleTicked) {
     FakeWindowLayer layer;
     Settings settings;
     settings.DisplayOption = 2;
-    Resize window(settings, layer, [] {});
+    Preferences preferences;
+    Resize window(settings, preferences, layer, [] {});
     window.Form_Load();
     EXPECT_EQ(window.Dump(), "title \"Display Size\"\n"
                              "Option4 ( ) \"90% for 12\" display, 640x480 (not recomnd)\"\n"
                              "Option1 ( ) \"100% for 15\" display, 800x600 resolution\"\n"
                              "Option2 (x) \"120% for 17\" display, 1280x960 resolution\"\n"
-                             "Option3 ( ) \"145% for 19\" display, 1600x1200 resolution\"\n");
+                             "Option3 ( ) \"145% for 19\" display, 1600x1200 resolution\"\n"
+                             "chkSpelling [x] \"Mark misspelt words while typing\"\n");
     window.Option_Click(0);
     EXPECT_EQ(window.Dump().substr(21, 12), "Option4 (x) ");
 }

@@ -33,7 +33,7 @@ namespace {
 // Every window of the program over one fresh folder, the Write window shown and started.
 struct Program : WriteWindow {
     Utility Utilities{Layer, "4.1.26.11.22", "2026", [] {}};
-    Resize DisplaySize{App.UserSettings, Layer, [] {}};
+    Resize DisplaySize{App.UserSettings, App.UserPreferences, Layer, [] {}};
     Options LibraryOptions{Library, App.UserSettings, Layer, [] {}, [] {}};
 };
 
@@ -96,7 +96,8 @@ private slots:
         OptionsWindow options(program.LibraryOptions);
         options.show();
         SaveFolder folders;
-        ExportEditorWindow exported(program.Layer, folders, QStringLiteral("Dialogue text"),
+        ExportEditorWindow exported(program.Layer, folders, program.App.Spelling,
+                                    QStringLiteral("Dialogue text"),
                                     QStringLiteral("Dialogue.txt"));
         const auto about = BuildMessageBox(
             {"About the Veyrant Sagrel Program", AboutText("4.1.26.11.22", "2026")});
@@ -179,7 +180,7 @@ private slots:
         };
         const std::vector<Case> cases = {
             {&utilities, {"cmdOptions", "cmdResize", "cmdAbout"}},
-            {&displaySize, {"Option1", "cmdOK", "cmdCancel"}},
+            {&displaySize, {"Option1", "chkSpelling", "cmdOK", "cmdCancel"}},
             // An empty Library has nothing to clean, and its button is passed over.
             {&options, {"txtSetSave", "txtSetDays", "Check1", "cmdOK", "cmdCancel"}},
         };

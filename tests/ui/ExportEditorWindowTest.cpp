@@ -1,9 +1,12 @@
 #include "ui/ExportEditorWindow.h"
 
+#include "SpellingMarks.h"
 #include "support/FakeWindowLayer.h"
 #include "support/TempFolder.h"
+#include "ui/HunspellDictionary.h"
 
 #include <QApplication>
+#include <QMenu>
 #include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QPushButton>
@@ -27,6 +30,28 @@ std::size_t FilesIn(const std::filesystem::path& folder) {
                                                   std::filesystem::directory_iterator()));
 }
 
+// The checker over the machine's dictionary for a language, whatever the machine's own locale.
+void OpenFor(SpellChecker& spelling, const char* language, const std::filesystem::path& words) {
+    qunsetenv("LC_ALL");
+    qunsetenv("LC_MESSAGES");
+    qputenv("LANG", language);
+    spelling.Open(OpenInstalledDictionary(SystemDictionaryFolder), words);
+}
+
+QPoint PointOf(QPlainTextEdit& editor, const QString& word) {
+    QTextCursor at(editor.document());
+    at.setPosition(static_cast<int>(editor.toPlainText().indexOf(word)) + 1);
+    return editor.cursorRect(at).center();
+}
+
+QStringList Texts(const QMenu& menu) {
+    QStringList texts;
+    for (const QAction* action : menu.actions()) {
+        texts << action->text();
+    }
+    return texts;
+}
+
 } // namespace
 
 class ExportEditorWindowTest : public QObject {
@@ -39,7 +64,8 @@ private slots:
     void SavesTheEditedTextAsUtf8() {
         testing::FakeWindowLayer windows;
         testing::TempFolder folder;
-        ExportEditorWindow editor(windows, folders,
+        SpellChecker spelling;
+        ExportEditorWindow editor(windows, folders, spelling,
                                   QString::fromUtf8("Veyrant Sagrel\n\u201cCaf\u00e9\u201d"),
                                   QStringLiteral("Dialogue.txt"));
         editor.Editor().appendPlainText(QStringLiteral("A line of my own."));
@@ -57,7 +83,8 @@ private slots:
     void AFailedSaveSaysSoAndLeavesNoFile() {
         testing::FakeWindowLayer windows;
         testing::TempFolder folder;
-        ExportEditorWindow editor(windows, folders, QStringLiteral("Text"),
+        SpellChecker spelling;
+        ExportEditorWindow editor(windows, folders, spelling, QStringLiteral("Text"),
                                   QStringLiteral("Dialogue.txt"));
         editor.Editor().appendPlainText(QStringLiteral("More."));
         const auto path = folder / "missing" / "Sunday.txt";
@@ -77,7 +104,8 @@ private slots:
     void ClosingAfterASaveKeepsTheFile() {
         testing::FakeWindowLayer windows;
         testing::TempFolder folder;
-        auto* editor = new ExportEditorWindow(windows, folders, QStringLiteral("Text"),
+        SpellChecker spelling;
+        auto* editor = new ExportEditorWindow(windows, folders, spelling, QStringLiteral("Text"),
                                               QStringLiteral("Dialogue.txt"));
         editor->show();
         const auto path = folder / "Sunday.txt";
@@ -97,6 +125,61 @@ private slots:
         QVERIFY(editor->close());
         QVERIFY(!askedForAName);
         QCOMPARE(ReadBytes(path), std::string("Text\nMore."));
+    }
+
+    // A correction replaces the word in this text only; an added word is known in every window at
+    // once and after a restart, and its list is the user's alone.
+    void MarkedWordsOfferCorrectionsAndAddToDictionary() {
+        testing::FakeWindowLayer windows;
+        testing::TempFolder folder;
+        const auto words = folder / "Words.txt";
+        SpellChecker spelling;
+        OpenFor(spelling, "en_US.UTF-8", words);
+        ExportEditorWindow editor(windows, folders, spelling,
+                                  QStringLiteral("Veyrant Sagrel\nI wrte to the Sagrel about "
+                                                 "Tolmira's lettr, 12 times.\n"),
+                                  QStringLiteral("Dialogue.txt"));
+        ExportEditorWindow other(windows, folders, spelling, QStringLiteral("A lettr.\n"),
+                                 QStringLiteral("Dialogue.txt"));
+        editor.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&editor));
+        QCOMPARE(MarkedWords(editor.Editor()), QStringList({"wrte", "lettr"}));
+
+        std::unique_ptr<QMenu> menu(editor.ContextMenu(PointOf(editor.Editor(), "wrte")));
+        const QStringList offered = Texts(*menu);
+        QVERIFY(offered.contains("write"));
+        QVERIFY(offered.indexOf("Add to Dictionary") <= 5);
+        menu->actions()[static_cast<int>(offered.indexOf("write"))]->trigger();
+        QVERIFY(editor.Editor().toPlainText().contains("I write to"));
+        QCOMPARE(MarkedWords(editor.Editor()), QStringList({"lettr"}));
+
+        menu.reset(editor.ContextMenu(PointOf(editor.Editor(), "lettr")));
+        menu->actions()[static_cast<int>(Texts(*menu).indexOf("Add to Dictionary"))]->trigger();
+        QCOMPARE(MarkedWords(editor.Editor()), QStringList());
+        QCOMPARE(MarkedWords(other.Editor()), QStringList());
+        QCOMPARE(other.Editor().toPlainText(), QStringLiteral("A lettr.\n"));
+        QCOMPARE(std::filesystem::status(words).permissions(),
+                 std::filesystem::perms::owner_read | std::filesystem::perms::owner_write);
+        SpellChecker restarted;
+        OpenFor(restarted, "en_US.UTF-8", words);
+        QVERIFY(restarted.Knows("lettr"));
+
+        menu.reset(editor.ContextMenu(PointOf(editor.Editor(), "Sagrel")));
+        QVERIFY(!Texts(*menu).contains("Add to Dictionary"));
+        QVERIFY(windows.Boxes.empty());
+    }
+
+    // The dictionary of the user's language judges its accented words.
+    void TheUsersLanguageKnowsItsAccentedWords() {
+        testing::FakeWindowLayer windows;
+        testing::TempFolder folder;
+        SpellChecker spelling;
+        OpenFor(spelling, "de_DE.UTF-8", folder / "Words.txt");
+        ExportEditorWindow editor(windows, folders, spelling,
+                                  QString::fromUtf8("Die Stra\u00dfe ist gem\u00fctlich, die "
+                                                    "Strase nicht.\n"),
+                                  QStringLiteral("Dialogue.txt"));
+        QCOMPARE(MarkedWords(editor.Editor()), QStringList({"Strase"}));
     }
 };
 

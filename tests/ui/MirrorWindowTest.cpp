@@ -3,6 +3,7 @@
 
 #include "ui/MirrorWindow.h"
 
+#include "SpellingMarks.h"
 #include "WriteWindowFixture.h"
 #include "dialogue/Mirror.h"
 #include "shell/DisplayScale.h"
@@ -89,6 +90,52 @@ private slots:
                     .startsWith(QStringLiteral("Dialogue")));
         // The entry now stands above the response.
         QVERIFY(entry->y() < write.Box(MirrorControl::txtResponse)->y());
+    }
+
+    // A finished word the dictionary does not know is marked and loses the mark when corrected.
+    // With the marks off or no dictionary nothing is marked and nothing complains, and in every
+    // case the keys make the same text and the same random series.
+    void MisspeltWordsAreMarkedAndNothingElseChanges() {
+        qunsetenv("LC_ALL");
+        qunsetenv("LC_MESSAGES");
+        qputenv("LANG", "en_US.UTF-8");
+        const testing::TempFolder noDictionaries;
+        struct Case {
+            const char* Name;
+            bool On;
+            std::filesystem::path Dictionaries;
+            QStringList Finished;
+        };
+        const Case cases[] = {
+            {"on", true, SystemDictionaryFolder, {"wrte"}},
+            {"off", false, SystemDictionaryFolder, {}},
+            {"no dictionary", true, noDictionaries.Path(), {}},
+        };
+        std::optional<std::pair<decltype(Engine::SeriesBase), decltype(Engine::SeriesScale)>>
+            series;
+        for (const Case& c : cases) {
+            WriteWindow write;
+            write.App.UserPreferences.SpellingMarks = c.On;
+            OpenSpelling(write.App, c.Dictionaries);
+            write.Click(MirrorControl::cmdConverse);
+            auto* entry = write.Box(MirrorControl::txtMirror);
+            QTest::keyClicks(entry, QStringLiteral("Sagrel, I wrte"));
+            QVERIFY2(MarkedWords(*entry).isEmpty(), c.Name);
+            QTest::keyClicks(entry, QStringLiteral(" to you "));
+            QCOMPARE(MarkedWords(*entry), c.Finished);
+            for (int back = 0; back < 10; ++back) {
+                QTest::keyClick(entry, Qt::Key_Backspace);
+            }
+            QTest::keyClicks(entry, QStringLiteral("ite to you at 9."));
+            QVERIFY2(MarkedWords(*entry).isEmpty(), c.Name);
+            QCOMPARE(entry->toPlainText(), Prefix + QStringLiteral("Sagrel, I write to you at 9."));
+            QVERIFY2(write.Layer.Boxes.empty(), c.Name);
+            if (!series) {
+                series.emplace(write.Composer.SeriesBase, write.Composer.SeriesScale);
+            }
+            QVERIFY2(series->first == write.Composer.SeriesBase, c.Name);
+            QVERIFY2(series->second == write.Composer.SeriesScale, c.Name);
+        }
     }
 
     void HeadIsProtectedAndRefusedKeysLeaveNoTrace() {

@@ -44,10 +44,11 @@ struct Utilities {
     QtWindowLayer Windows;
     testing::FakeClock Clock;
     Settings UserSettings;
+    Preferences UserPreferences;
     DialogueLibrary Library{Folder, UserSettings, Clock, Windows};
     int Exits = 0;
     Utility Logic{Windows, "4.1.26.11.22", "2026", [this] { ++Exits; }};
-    Resize DisplaySize{UserSettings, Windows, [this] { ++Exits; }};
+    Resize DisplaySize{UserSettings, UserPreferences, Windows, [this] { ++Exits; }};
     Options LibraryOptions{Library, UserSettings, Windows, [this] { ++Exits; }, [] {}};
 };
 

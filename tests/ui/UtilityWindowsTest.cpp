@@ -2,6 +2,7 @@
 #include "ui/ResizeWindow.h"
 #include "ui/UtilityWindow.h"
 
+#include <QCheckBox>
 #include <QGroupBox>
 #include <QPushButton>
 #include <QRadioButton>
@@ -34,8 +35,9 @@ private:
     struct DisplaySize {
         testing::FakeWindowLayer Windows;
         Settings UserSettings;
+        Preferences UserPreferences;
         int Exits = 0;
-        Resize Logic{UserSettings, Windows, [this] { ++Exits; }};
+        Resize Logic{UserSettings, UserPreferences, Windows, [this] { ++Exits; }};
         ResizeWindow Window{Logic, 1.0};
 
         explicit DisplaySize(std::int16_t option) {
@@ -94,9 +96,12 @@ private slots:
         QTest::keyClick(program.Choice("Option1"), Qt::Key_Down);
         QVERIFY(program.Choice("Option2")->isChecked());
         QCOMPARE(program.UserSettings.DisplayOption, 2);
+        QTest::mouseClick(program.Window.findChild<QCheckBox*>("chkSpelling"), Qt::LeftButton);
+        QVERIFY(!program.UserPreferences.SpellingMarks);
         SaveShot(program.Window, "/tmp/resize-window.png");
         QTest::keyClick(&program.Window, Qt::Key_Escape);
         QCOMPARE(program.UserSettings.DisplayOption, 1);
+        QVERIFY(program.UserPreferences.SpellingMarks);
         QVERIFY(program.Choice("Option1")->isChecked());
         QCOMPARE(program.Exits, 1);
 

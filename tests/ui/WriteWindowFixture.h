@@ -14,6 +14,7 @@
 #include "support/FakeClock.h"
 #include "support/FakeWindowLayer.h"
 #include "support/TempFolder.h"
+#include "ui/HunspellDictionary.h"
 #include "ui/MirrorWindow.h"
 
 #include <QPlainTextEdit>
@@ -33,6 +34,8 @@ struct WriteWindow {
         InstallEngineFiles(App.Folder);
         Composer.LoadSystem(App.Folder);
         Composer.SeedSeries();
+        // Every window test types with the spelling marks on.
+        OpenSpelling(App, SystemDictionaryFolder);
         Logic = std::make_unique<Mirror>(App.WriteWorld(), Replies, Buffers, Library);
         Window = std::make_unique<MirrorWindow>(App, *Logic);
         Window->show();

@@ -1,0 +1,98 @@
+#include "shell/SpellChecker.h"
+
+#include "core/WholeFile.h"
+#include "shell/DictionaryChoice.h"
+#include "support/FakeDictionary.h"
+#include "support/TempFolder.h"
+
+#include <gtest/gtest.h>
+
+namespace veyrant::testing {
+namespace {
+
+std::unique_ptr<Dictionary> FewWords() {
+    return std::make_unique<FakeDictionary>(
+        std::set<std::string, std::less<>>{"I", "the", "cat", "sat", "caf\xE9", "don't", "on"});
+}
+
+std::vector<std::string> Marked(const SpellChecker& checker, std::string_view text,
+                                std::size_t caret) {
+    std::vector<std::string> words;
+    for (const WordSpan& word : checker.Misspelt(text, caret)) {
+        words.emplace_back(text.substr(word.Start, word.Length));
+    }
+    return words;
+}
+
+TEST(SpellChecker, MarksFinishedWordsTheDictionaryDoesNotKnow) {
+    struct Case {
+        std::string_view Text;
+        std::size_t Caret;
+        std::vector<std::string> Marked;
+    };
+    const Case cases[] = {
+        {"the cta sat", NoCaret, {"cta"}},
+        {"the cta", 7, {}},            // still being typed
+        {"the cta sta", 5, {"sta"}},   // the caret is back in it
+        {"the cta, sat", 11, {"cta"}}, // finished by a mark
+        {"Sagrel's Veyrant, Ardelune and Tolmira at veyrant-sagrel", NoCaret, {"and", "at"}},
+        {"caf\xE9 c\xE0t", NoCaret, {"c\xE0t"}},
+        {"I don\x92t 'sat' on R2D2 in 1999 \x81x", NoCaret, {"in"}},
+        {"the-cta\xD7sat", NoCaret, {"cta"}},
+    };
+    TempFolder folder;
+    SpellChecker checker;
+    checker.Open(FewWords(), folder / "Words.txt");
+    for (const Case& c : cases) {
+        EXPECT_EQ(Marked(checker, c.Text, c.Caret), c.Marked) << c.Text;
+    }
+    SpellChecker idle;
+    idle.Open(nullptr, folder / "Words.txt");
+    EXPECT_EQ(Marked(idle, "the cta sat", NoCaret), std::vector<std::string>{});
+}
+
+TEST(SpellChecker, AnAddedWordIsKnownAtOnceAndAfterARestart) {
+    TempFolder folder;
+    SpellChecker checker;
+    checker.Open(FewWords(), folder / "Words.txt");
+    int looks = 0;
+    checker.Watch([&] { return ++looks < 2; });
+    EXPECT_FALSE(checker.Knows("Qwerty"));
+    checker.Add("Qwerty");
+    checker.Add("Zorp");
+    checker.Add("Zorp");
+    EXPECT_TRUE(checker.Knows("Qwerty"));
+    EXPECT_EQ(looks, 2); // the watcher that answered false was forgotten
+    EXPECT_EQ(ReadWholeFile(folder / "Words.txt"), "Qwerty\r\nZorp\r\n");
+
+    SpellChecker restarted;
+    restarted.Open(FewWords(), folder / "Words.txt");
+    EXPECT_TRUE(restarted.Knows("Qwerty"));
+    EXPECT_TRUE(restarted.Knows("Zorp"));
+}
+
+TEST(DictionaryChoice, TheUsersLanguageComesFirstAndAmericanEnglishLast) {
+    struct Case {
+        std::string_view All, Messages, Lang;
+        std::vector<std::string> Names;
+    };
+    const Case cases[] = {
+        {"", "", "de_DE.UTF-8", {"de_DE", "de", "en_US"}},
+        {"", "fr_CA.UTF-8@euro", "de_DE.UTF-8", {"fr_CA", "fr", "en_US"}},
+        {"C", "fr_CA", "de_DE", {"en_US"}},
+        {"", "", "en_US.UTF-8", {"en_US", "en"}},
+        {"", "", "", {"en_US"}},
+    };
+    for (const Case& c : cases) {
+        EXPECT_EQ(DictionaryNames(c.All, c.Messages, c.Lang), c.Names) << c.Lang;
+    }
+    TempFolder folder;
+    WriteWholeFile(folder / "de_DE.aff", "SET UTF-8\n");
+    EXPECT_FALSE(FindDictionary(folder.Path(), {"de_DE", "en_US"}));
+    WriteWholeFile(folder / "en_US.aff", "SET UTF-8\n");
+    WriteWholeFile(folder / "en_US.dic", "0\n");
+    EXPECT_EQ(FindDictionary(folder.Path(), {"de_DE", "en_US"})->Words, folder / "en_US.dic");
+}
+
+} // namespace
+} // namespace veyrant::testing
