@@ -101,17 +101,23 @@ std::string UnframedFirstPerson(const std::string& text) {
 
 // Frames that tell the user what they feel, believe or have not realised, about a matter the
 // program knows nothing of. The Sagrel may ask about a belief, never state one.
-const char* const BeliefFrames[] = {
+const char* const FaultyFrames[] = {
     "perhaps you believe", "it may be that you", "it could be that you", "your feeling about",
-    "your belief about",   "your belief is",     "your belief has",      "your belief will",
-    "your belief may",     "your belief can",    "than you think",       "than you realize",
-    "than you know",       "than you let",       "than you feel",        "than you admit",
-    "than you seem to",    "than you might",     "than you fear",        "than you expect",
-    "than you believe",    "already suspect",    "you already know",     "already knows"};
+    "your belief about", "your belief is", "your belief has", "your belief will", "your belief may",
+    "your belief can", "than you think", "than you realize", "than you know", "than you let",
+    "than you feel", "than you admit", "than you seem to", "than you might", "than you fear",
+    "than you expect", "than you believe", "already suspect", "you already know", "already knows",
+    // Shapes that read as machine-made: a tag glued to an answer, two images yoked in one
+    // sentence, a probe put to an image, a condition or a lack imputed from nowhere.
+    "you see that now?", "you say that aloud?", "you allow that?", "make peace with that?",
+    "yet the reply may", "yet the answer may", "if you associate it", "than feared", "as feared",
+    "what would it ask", "does it need from you", "feel as you look at it", "the thing itself",
+    "its use ", "a memory of", "you have rested", "you feel rested", "choose nothing out",
+    "being put off", "a tale that tells", "world that can be", ". or "};
 
-std::string BeliefFrame(const std::string& text) {
+std::string FaultyFrame(const std::string& text) {
     const std::string lower = Lower(text);
-    for (const char* frame : BeliefFrames) {
+    for (const char* frame : FaultyFrames) {
         if (lower.find(frame) != std::string::npos) {
             return frame;
         }
@@ -163,7 +169,7 @@ TEST_P(ContentReading, NoDoubledWordNoUnframedFirstPersonNoBeliefClaimAndVariedO
         if (KeepsFirstPersonFramed(request.Message) && !UnframedFirstPerson(text).empty()) {
             unframed.insert(Cp1252ToUtf8(text));
         }
-        if (!BeliefFrame(text).empty()) {
+        if (!FaultyFrame(text).empty()) {
             beliefClaims.insert(Cp1252ToUtf8(text));
         }
         ++openings[Opening(text)];
