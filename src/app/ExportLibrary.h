@@ -17,7 +17,7 @@ namespace veyrant {
 
 struct ExportControls {
     std::string Title = "Export Library";
-    std::string lblStatus;
+    std::string lblStatus = "Every saved Dialogue goes into a new folder of its own.";
     int prgExport = 0;
     int prgExportMax = 1;
     std::string cmdCancelCaption = "Cancel";

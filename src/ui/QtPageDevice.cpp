@@ -16,9 +16,10 @@ constexpr double TopInches = 0.25;
 } // namespace
 
 QtPageDevice::QtPageDevice(QPainter& painter, QPagedPaintDevice& pages, const QString& face)
-    : painter_(painter), pages_(pages), font_(face),
+    : painter_(painter), pages_(pages), font_(face), metrics_(font_, &pages),
       dotsPerInch_(static_cast<double>(pages.logicalDpiY())), y_(TopInches * dotsPerInch_) {
     font_.setStyleHint(QFont::Serif);
+    metrics_ = QFontMetricsF(font_, &pages_);
 }
 
 void QtPageDevice::SetFont(const PrintFont& font) {
@@ -26,16 +27,15 @@ void QtPageDevice::SetFont(const PrintFont& font) {
     font_.setBold(font.Bold);
     font_.setItalic(font.Italic);
     painter_.setFont(font_);
+    metrics_ = QFontMetricsF(font_, &pages_);
 }
 
 double QtPageDevice::TextWidth(std::string_view text) const {
-    const QFontMetricsF metrics(font_, &pages_);
-    return metrics.horizontalAdvance(ToQt(std::string(text))) / dotsPerInch_;
+    return metrics_.horizontalAdvance(ToQt(std::string(text))) / dotsPerInch_;
 }
 
 void QtPageDevice::Print(std::string_view text) {
-    const QFontMetricsF metrics(font_, &pages_);
-    painter_.drawText(QPointF(x_ * dotsPerInch_, y_ + metrics.ascent()), ToQt(std::string(text)));
+    painter_.drawText(QPointF(x_ * dotsPerInch_, y_ + metrics_.ascent()), ToQt(std::string(text)));
     x_ += TextWidth(text);
 }
 
@@ -60,7 +60,7 @@ void QtPageDevice::EndDocument() {
 }
 
 double QtPageDevice::LineSpacing() const {
-    return QFontMetricsF(font_, &pages_).lineSpacing();
+    return metrics_.lineSpacing();
 }
 
 } // namespace veyrant

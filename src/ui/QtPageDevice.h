@@ -6,6 +6,7 @@
 #include "printing/PageDevice.h"
 
 #include <QFont>
+#include <QFontMetricsF>
 #include <QString>
 
 class QPagedPaintDevice;
@@ -35,6 +36,8 @@ private:
     QPainter& painter_;
     QPagedPaintDevice& pages_;
     QFont font_;
+    // Measured again only when the font changes: the word wrap measures at every character.
+    QFontMetricsF metrics_;
     double dotsPerInch_;
     double x_ = 0;
     double y_; // the top of the present line, in printer dots
