@@ -117,7 +117,7 @@ namespace {
 
 bool WriteFile(ExportReport& report, const std::string& name, const std::string& bytes) {
     try {
-        WriteUserFile(report.Folder / name, bytes);
+        PlaceUserFile(report.Folder / name, bytes);
         report.Written.push_back(name);
         return true;
     } catch (const ProgramError& error) {
@@ -136,21 +136,34 @@ ExportReport LibraryExport::Write(const std::filesystem::path& folder, LibraryPd
     if (saved_.empty()) {
         return report;
     }
-    const bool drawPdf = pdf != nullptr;
-    const int dialogues = static_cast<int>(saved_.size());
-    // The PDF counts as much as all the Markdown: its pages take far longer.
-    const int total = dialogues + 1 + (drawPdf ? dialogues : 0);
     try {
         MakeFolder(folder);
     } catch (const ProgramError& error) {
         report.NotWritten.push_back({PathText(folder), WriteFailure(error.Number())});
         return report;
     }
+    WriteFiles(report, pdf, goOn);
+    try {
+        SyncFolder(folder);
+    } catch (const ProgramError& error) {
+        report.NotWritten.push_back(
+            {PathText(folder), "the disk did not confirm the names of the files (error " +
+                                   std::to_string(error.Number()) + ")"});
+    }
+    return report;
+}
+
+void LibraryExport::WriteFiles(ExportReport& report, LibraryPdfMaker* pdf,
+                               const std::function<bool(int done, int total)>& goOn) const {
+    const bool drawPdf = pdf != nullptr;
+    const int dialogues = static_cast<int>(saved_.size());
+    // The PDF counts as much as all the Markdown: its pages take far longer.
+    const int total = dialogues + 1 + (drawPdf ? dialogues : 0);
     std::vector<IndexEntry> index;
     for (int done = 0; done < dialogues; ++done) {
         if (!goOn(done, total)) {
             report.Cancelled = true;
-            return report;
+            return;
         }
         const auto& saved = saved_[static_cast<std::size_t>(done)];
         const auto& name = fileNames_[static_cast<std::size_t>(done)];
@@ -162,11 +175,11 @@ ExportReport LibraryExport::Write(const std::filesystem::path& folder, LibraryPd
     }
     if (!goOn(dialogues, total)) {
         report.Cancelled = true;
-        return report;
+        return;
     }
     WriteFile(report, std::string(IndexFileName), IndexMarkdown(index));
     if (!drawPdf) {
-        return report;
+        return;
     }
     std::vector<PrintRequest> pages;
     for (const auto& saved : saved_) {
@@ -185,7 +198,6 @@ ExportReport LibraryExport::Write(const std::filesystem::path& folder, LibraryPd
     } else {
         WriteFile(report, std::string(LibraryPdfName), *bytes);
     }
-    return report;
 }
 
 } // namespace veyrant

@@ -65,6 +65,9 @@ public:
                        const std::function<bool(int done, int total)>& goOn) const;
 
 private:
+    void WriteFiles(ExportReport& report, LibraryPdfMaker* pdf,
+                    const std::function<bool(int done, int total)>& goOn) const;
+
     std::vector<SavedDialogue> saved_;
     std::vector<std::string> fileNames_; // the Markdown file of each saved Dialogue
     std::vector<ExportFailure> unread_;

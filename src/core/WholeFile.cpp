@@ -120,7 +120,8 @@ std::filesystem::path StageWithRights(const std::filesystem::path& path, std::st
     return staged;
 }
 
-void WriteWithRights(const std::filesystem::path& path, std::string_view bytes, unsigned rights) {
+void WriteWithRights(const std::filesystem::path& path, std::string_view bytes, unsigned rights,
+                     bool syncFolder = true) {
     const auto staged = StageWithRights(path, bytes, rights);
     if (files::Rename(staged, path) != 0) {
         const int error = errno;
@@ -128,7 +129,9 @@ void WriteWithRights(const std::filesystem::path& path, std::string_view bytes, 
         errno = error;
         RaiseFromErrno();
     }
-    SyncFolder(staged.parent_path());
+    if (syncFolder) {
+        SyncFolder(staged.parent_path());
+    }
 }
 
 } // namespace
@@ -184,6 +187,10 @@ void WriteWholeFile(const std::filesystem::path& path, std::string_view bytes) {
 
 void WriteUserFile(const std::filesystem::path& path, std::string_view bytes) {
     WriteWithRights(path, bytes, UserFileRights);
+}
+
+void PlaceUserFile(const std::filesystem::path& path, std::string_view bytes) {
+    WriteWithRights(path, bytes, UserFileRights, false);
 }
 
 } // namespace veyrant

@@ -34,6 +34,11 @@ void WriteWholeFile(const std::filesystem::path& path, std::string_view bytes);
 // the user gives a new file, not the program's private ones.
 void WriteUserFile(const std::filesystem::path& path, std::string_view bytes);
 
+// The same for one of the many files an export writes into one folder, but the folder's names are
+// left for the caller to flush once, with SyncFolder, after the last file: half the flushes. Until
+// then a power loss may leave a file under its hidden staged name, still whole.
+void PlaceUserFile(const std::filesystem::path& path, std::string_view bytes);
+
 // Lays the text down, flushed, under a hidden name beside the path ("." + name + "." + six
 // letters) and returns that name; the caller renames it into place. Raises ProgramError as
 // WriteWholeFile does, and then leaves no file behind.
