@@ -24,7 +24,7 @@ std::string ReadFailure(int number) {
     case ErrorNumber::OutOfMemory:
         return "one of its files is too large to be a Dialogue";
     default:
-        return "one of its files cannot be read (error " + std::to_string(number) + ")";
+        return "one of its files cannot be read";
     }
 }
 
@@ -37,7 +37,7 @@ std::string WriteFailure(int number) {
     case ErrorNumber::PathNotFound:
         return "the folder cannot be found";
     default:
-        return "it cannot be written (error " + std::to_string(number) + ")";
+        return "it cannot be written";
     }
 }
 
@@ -67,7 +67,9 @@ std::string ReportText(const ExportReport& report) {
     if (!report.NotWritten.empty()) {
         text += lineEnd + lineEnd + "Not written:";
         for (const auto& failure : report.NotWritten) {
-            text += lineEnd + failure.What + ": " + failure.Why + ".";
+            const std::string error =
+                failure.Number == 0 ? "" : "Error " + std::to_string(failure.Number) + ", ";
+            text += lineEnd + failure.What + ": " + error + failure.Why + ".";
         }
     }
     return text + lineEnd + lineEnd + "The exported files are not encrypted.";
@@ -78,13 +80,13 @@ LibraryExport::LibraryExport(const AppFolder& library) {
     try {
         names = RankByDate(ListedDialogueNames(library.Isp()));
     } catch (const ProgramError& error) {
-        unread_.push_back({PathText(library.Isp()), ReadFailure(error.Number())});
+        unread_.push_back({PathText(library.Isp()), ReadFailure(error.Number()), error.Number()});
     }
     for (const auto& name : names) {
         try {
             saved_.push_back(ReadSavedDialogue(library, name));
         } catch (const ProgramError& error) {
-            unread_.push_back({name, ReadFailure(error.Number())});
+            unread_.push_back({name, ReadFailure(error.Number()), error.Number()});
         }
     }
     std::vector<DateTime> dates;
@@ -121,7 +123,7 @@ bool WriteFile(ExportReport& report, const std::string& name, const std::string&
         report.Written.push_back(name);
         return true;
     } catch (const ProgramError& error) {
-        report.NotWritten.push_back({name, WriteFailure(error.Number())});
+        report.NotWritten.push_back({name, WriteFailure(error.Number()), error.Number()});
         return false;
     }
 }
@@ -138,8 +140,11 @@ ExportReport LibraryExport::Write(const std::filesystem::path& folder, LibraryPd
     }
     try {
         MakeFolder(folder);
+        // An export that was killed mid-file left it staged; this one writes it anew.
+        RemoveStagedFiles(folder);
     } catch (const ProgramError& error) {
-        report.NotWritten.push_back({PathText(folder), WriteFailure(error.Number())});
+        report.NotWritten.push_back(
+            {PathText(folder), WriteFailure(error.Number()), error.Number()});
         return report;
     }
     WriteFiles(report, pdf, goOn);
@@ -177,7 +182,13 @@ void LibraryExport::WriteFiles(ExportReport& report, LibraryPdfMaker* pdf,
         report.Cancelled = true;
         return;
     }
-    WriteFile(report, std::string(IndexFileName), IndexMarkdown(index));
+    // An index that left out a Dialogue would mislead; it waits for an export that writes them all.
+    if (index.size() == saved_.size()) {
+        WriteFile(report, std::string(IndexFileName), IndexMarkdown(index));
+    } else {
+        report.NotWritten.push_back(
+            {std::string(IndexFileName), "not every Dialogue it lists could be written"});
+    }
     if (!drawPdf) {
         return;
     }

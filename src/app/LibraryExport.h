@@ -32,6 +32,7 @@ inline constexpr std::string_view LibraryPdfName = "Library.pdf";
 struct ExportFailure {
     std::string What; // a Dialogue's file name in the Library, or a file of the export
     std::string Why;
+    int Number = 0; // the program's error number, 0 where there is none
 };
 
 struct ExportReport {

@@ -177,6 +177,18 @@ bool IsStagedName(const std::string& name) {
            dot == name.size() - StagedSuffix - 1;
 }
 
+void RemoveStagedFiles(const std::filesystem::path& folder) {
+    std::error_code error;
+    if (!std::filesystem::is_directory(folder, error)) {
+        return;
+    }
+    for (const auto& name : ListFiles(folder)) {
+        if (IsStagedName(name)) {
+            RemoveFile(folder / name);
+        }
+    }
+}
+
 std::filesystem::path StageWholeFile(const std::filesystem::path& path, std::string_view bytes) {
     return StageWithRights(path, bytes, PrivateFileRights);
 }

@@ -47,6 +47,9 @@ std::filesystem::path StageWholeFile(const std::filesystem::path& path, std::str
 // True for a name StageWholeFile makes: the hidden leftover of a write that never landed.
 bool IsStagedName(const std::string& name);
 
+// Deletes the leftovers of interrupted writes in the folder, if there is one. Raises ProgramError.
+void RemoveStagedFiles(const std::filesystem::path& folder);
+
 // The program's error number for a failed system call.
 int ErrorNumberFor(const std::error_code& error);
 

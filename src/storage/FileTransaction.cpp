@@ -161,14 +161,7 @@ void FinishInterruptedChanges(const std::filesystem::path& root) {
         CarryOut(root, ReadNote(root, ReadWholeFile(NotePath(root))));
     }
     for (const auto& folder : {root, root / "exe", root / "dlg", root / "isp"}) {
-        if (!std::filesystem::is_directory(folder, error)) {
-            continue;
-        }
-        for (const auto& name : ListFiles(folder)) {
-            if (IsStagedName(name)) {
-                RemoveFile(folder / name);
-            }
-        }
+        RemoveStagedFiles(folder);
     }
     FinishLegacyWrites(root);
 }

@@ -102,7 +102,7 @@ TEST(LibraryExport, CommandLineWritesReportsAndExits) {
          2,
          "@/2026-11-22 12.00.md\n@/2026-11-22 21.05.md\n@/2026-11-23 09.15.md\n@/index.md\n"
          "@/Library.pdf\n3 Dialogues written to @.\n\nNot written:\n"
-         "76112301.150: one of its two files is missing from the Library.\n\n"
+         "76112301.150: Error 53, one of its two files is missing from the Library.\n\n"
          "The exported files are not encrypted.\n",
          {{"2026-11-22 12.00.md", "# Sunday, 12:00 PM, November 22, 2026"},
           {"2026-11-22 21.05.md", "# Sunday, 9:05 PM, November 22, 2026"},
@@ -128,8 +128,9 @@ TEST(LibraryExport, CommandLineWritesReportsAndExits) {
          2,
          2,
          "@/2026-11-22 12.00.md\n@/2026-11-22 21.05.md\n2 Dialogues written to @.\n\n"
-         "Not written:\n76112301.150: one of its two files is missing from the Library.\n"
-         "2026-11-23 09.15.md: the disk is full.\nindex.md: the disk is full.\n\n"
+         "Not written:\n76112301.150: Error 53, one of its two files is missing from the Library.\n"
+         "2026-11-23 09.15.md: Error 61, the disk is full.\n"
+         "index.md: not every Dialogue it lists could be written.\n\n"
          "The exported files are not encrypted.\n",
          {{"2026-11-22 12.00.md", "# Sunday, 12:00 PM, November 22, 2026"},
           {"2026-11-22 21.05.md", "# Sunday, 9:05 PM, November 22, 2026"}}},
