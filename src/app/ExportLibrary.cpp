@@ -4,6 +4,7 @@
 #include "core/DateFormat.h"
 #include "core/Text.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace veyrant {
@@ -63,9 +64,15 @@ void ExportLibrary::Run() {
     const bool addPdf = withPdf == MessageAnswer::Yes;
     const auto existing = exporting.ExistingFiles(folder, addPdf);
     if (!existing.empty()) {
+        // A box of a hundred names would stand taller than the screen.
+        constexpr std::size_t ShownNames = 10;
         std::string names;
-        for (const auto& name : existing) {
-            names += std::string(CrLf) + PathText(name);
+        for (std::size_t i = 0; i < std::min(existing.size(), ShownNames); ++i) {
+            names += std::string(CrLf) + PathText(existing[i]);
+        }
+        if (existing.size() > ShownNames) {
+            names +=
+                std::string(CrLf) + "and " + std::to_string(existing.size() - ShownNames) + " more";
         }
         if (Ask("These files already stand in " + PathText(folder) + ":" + names +
                     std::string(CrLf) + std::string(CrLf) + "Replace them?",
