@@ -22,6 +22,9 @@ constexpr std::size_t SettingsFileLimit = 64 * 1024;
 std::string ReadSettingsFile(const std::filesystem::path& path) {
     return ReadWholeFile(path, SettingsFileLimit);
 }
+std::filesystem::path SettingsFileIn(const AppFolder& folder) {
+    return folder.Exe() / "Tolmira.ini";
+}
 std::filesystem::path ReadFile(const Application& app) {
     return app.Folder.Exe() / "Read.ini";
 }
@@ -82,7 +85,15 @@ void KeepRequest(std::int16_t& flag, std::int16_t requested) {
 } // namespace
 
 std::filesystem::path SettingsFile(const Application& app) {
-    return app.Folder.Exe() / "Tolmira.ini";
+    return SettingsFileIn(app.Folder);
+}
+
+bool InGuestMode(const AppFolder& folder) {
+    try {
+        return ReadSettingsText(ReadSettingsFile(SettingsFileIn(folder))).GuestMode == 1;
+    } catch (const ProgramError&) {
+        return false;
+    }
 }
 
 void LoadSettings(Application& app) {

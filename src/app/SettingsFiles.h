@@ -17,6 +17,10 @@ void LoadSettings(Application& app);
 // A failure goes to the caller's handler.
 void SaveSettings(const Application& app);
 
+// Whether Tolmira.ini in that folder sets the Guest Mode; read only, so a missing or damaged
+// file is no Guest Mode and stays as it is.
+bool InGuestMode(const AppFolder& folder);
+
 // Keeps an open request the caller set in memory when the file holds 0 for that flag.
 void LoadReadSettings(Application& app);
 // A failure is told in a box, and the program goes on.

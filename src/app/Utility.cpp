@@ -44,6 +44,10 @@ void Utility::cmdResize_Click() {
     ShowInstead(WindowId::Resize);
 }
 
+void Utility::cmdExport_Click() {
+    ShowInstead(WindowId::Export);
+}
+
 void Utility::cmdAbout_Click() {
     windows_.HideWindow(WindowId::Utility);
     windows_.ShowMessage({"About the Veyrant Sagrel Program",
@@ -63,8 +67,9 @@ void Utility::ShowInstead(WindowId window) {
 
 std::string Utility::Dump() const {
     return "title \"" + controls_.Title + "\"\n" + "cmdOptions \"" + controls_.cmdOptions.Caption +
-           "\"\n" + "cmdResize \"" + controls_.cmdResize.Caption + "\"\n" + "cmdAbout \"" +
-           controls_.cmdAbout.Caption + "\"\n";
+           "\"\n" + "cmdResize \"" + controls_.cmdResize.Caption + "\"\n" + "cmdExport \"" +
+           controls_.cmdExport.Caption + "\"\n" + "cmdAbout \"" + controls_.cmdAbout.Caption +
+           "\"\n";
 }
 
 } // namespace veyrant

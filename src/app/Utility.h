@@ -19,6 +19,7 @@ struct UtilityControls {
     std::string Title = "Veyrant Sagrel Utilities";
     UtilityButton cmdOptions{"Library Options Window"};
     UtilityButton cmdResize{"Display Size Window"};
+    UtilityButton cmdExport{"Export Library"};
     UtilityButton cmdAbout{"About Veyrant Sagrel"};
 };
 
@@ -34,6 +35,7 @@ public:
 
     void cmdOptions_Click();
     void cmdResize_Click();
+    void cmdExport_Click();
     void cmdAbout_Click();
     void Form_Close();
 

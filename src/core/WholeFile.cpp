@@ -123,7 +123,8 @@ std::filesystem::path StageWithRights(const std::filesystem::path& path, std::st
     return staged;
 }
 
-void WriteWithRights(const std::filesystem::path& path, std::string_view bytes, unsigned rights) {
+void WriteWithRights(const std::filesystem::path& path, std::string_view bytes, unsigned rights,
+                     bool syncFolder = true) {
     const auto staged = StageWithRights(path, bytes, rights);
     if (files::Rename(staged, path) != 0) {
         const int error = errno;
@@ -131,7 +132,9 @@ void WriteWithRights(const std::filesystem::path& path, std::string_view bytes, 
         errno = error;
         RaiseFromErrno();
     }
-    SyncFolder(staged.parent_path());
+    if (syncFolder) {
+        SyncFolder(staged.parent_path());
+    }
 }
 
 } // namespace
@@ -177,6 +180,18 @@ bool IsStagedName(const std::string& name) {
            name.compare(name.size() - tail, StagedMark.size(), StagedMark) == 0;
 }
 
+void RemoveStagedFiles(const std::filesystem::path& folder) {
+    std::error_code error;
+    if (!std::filesystem::is_directory(folder, error)) {
+        return;
+    }
+    for (const auto& name : ListFiles(folder)) {
+        if (IsStagedName(name)) {
+            RemoveFile(folder / name);
+        }
+    }
+}
+
 std::filesystem::path StageWholeFile(const std::filesystem::path& path, std::string_view bytes) {
     return StageWithRights(path, bytes, PrivateFileRights);
 }
@@ -187,6 +202,10 @@ void WriteWholeFile(const std::filesystem::path& path, std::string_view bytes) {
 
 void WriteUserFile(const std::filesystem::path& path, std::string_view bytes) {
     WriteWithRights(path, bytes, UserFileRights);
+}
+
+void PlaceUserFile(const std::filesystem::path& path, std::string_view bytes) {
+    WriteWithRights(path, bytes, UserFileRights, false);
 }
 
 } // namespace veyrant

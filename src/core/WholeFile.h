@@ -34,6 +34,11 @@ void WriteWholeFile(const std::filesystem::path& path, std::string_view bytes);
 // the user gives a new file, not the program's private ones.
 void WriteUserFile(const std::filesystem::path& path, std::string_view bytes);
 
+// The same for one of the many files an export writes into one folder, but the folder's names are
+// left for the caller to flush once, with SyncFolder, after the last file: half the flushes. Until
+// then a power loss may leave a file under its hidden staged name, still whole.
+void PlaceUserFile(const std::filesystem::path& path, std::string_view bytes);
+
 // Lays the text down, flushed, under a hidden name beside the path ("." + name +
 // ".veyrant-staged." + six letters) and returns that name; the caller renames it into place. Raises
 // ProgramError as WriteWholeFile does, and then leaves no file behind.
@@ -42,6 +47,9 @@ std::filesystem::path StageWholeFile(const std::filesystem::path& path, std::str
 // True for a name StageWholeFile makes, and for no other: the hidden leftover of a write that
 // never landed, which alone the start may remove.
 bool IsStagedName(const std::string& name);
+
+// Deletes the leftovers of interrupted writes in the folder, if there is one. Raises ProgramError.
+void RemoveStagedFiles(const std::filesystem::path& folder);
 
 // The program's error number for a failed system call.
 int ErrorNumberFor(const std::error_code& error);

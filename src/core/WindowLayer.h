@@ -34,7 +34,7 @@ struct PrintRequest {
 // Closing the print dialog or the preview unprinted is a cancel, not a failure.
 enum class PrintOutcome { Printed, Cancelled, Failed };
 
-enum class WindowId { Banner, Back, Mirror, Read, Options, Utility, Resize, Check };
+enum class WindowId { Banner, Back, Mirror, Read, Options, Utility, Resize, Check, Export };
 enum class TimerId { BannerTimer, BackTimer, MirrorTimer1, MirrorHover, ReadHover };
 
 class WindowLayer {
@@ -79,6 +79,11 @@ public:
     // documents folder or home; nothing when the user cancels.
     virtual std::optional<std::filesystem::path>
     AskSaveFileName(const std::string& proposedFileName) = 0;
+    // Asks for a folder with the system's folder dialog, titled as given; nothing when the user
+    // cancels.
+    virtual std::optional<std::filesystem::path> AskFolder(const std::string& title) = 0;
+    // Opens the folder in the desktop's file manager.
+    virtual void OpenFolder(const std::filesystem::path& folder) = 0;
 
     // Ends the process after the given delay; the event loop runs until then.
     virtual void EndProcessAfter(int milliseconds) = 0;

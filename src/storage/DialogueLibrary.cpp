@@ -9,6 +9,7 @@
 #include "core/WholeFile.h"
 #include "storage/FileTransaction.h"
 #include "storage/LibraryFileName.h"
+#include "storage/SavedDialogues.h"
 #include "storage/StorageFailure.h"
 #include "storage/WorkBuffers.h"
 
@@ -22,26 +23,6 @@ namespace {
 
 DateTime FileNameDate(const std::string& name) {
     return FileDateValue(ParseFileName(name).FileDateText);
-}
-
-// Latest first by key, each key read once: equal keys leave the one listed first at the higher
-// rank, and a name whose key is not above 0 ranks below every dated one, in listing order.
-// Returned oldest first.
-std::vector<std::string> RankByDate(const std::vector<std::string>& names) {
-    std::vector<std::pair<double, std::size_t>> keys;
-    keys.reserve(names.size());
-    for (std::size_t i = 0; i < names.size(); ++i) {
-        const double key = SortKey(names[i]);
-        keys.emplace_back(key > 0 ? key : 0, i);
-    }
-    std::stable_sort(keys.begin(), keys.end(),
-                     [](const auto& a, const auto& b) { return a.first > b.first; });
-    std::vector<std::string> ranked;
-    ranked.reserve(names.size());
-    for (auto key = keys.rbegin(); key != keys.rend(); ++key) {
-        ranked.push_back(names[key->second]);
-    }
-    return ranked;
 }
 
 MessageBoxRequest ScanFailureBox(int number) {
@@ -88,7 +69,7 @@ bool DialogueLibrary::ScanLibrary() {
 // change, which leaves the same Library as deleting one pair at a time would.
 void DialogueLibrary::ScanAndRetain() {
     MakeLibraryFolders();
-    const auto names = ListInspirations();
+    const auto names = ListedDialogueNames(folder_.Isp());
     if (names.empty()) {
         listing_.LibraryCount = 0;
         return;
@@ -150,19 +131,6 @@ void DialogueLibrary::FillLabels(const std::vector<std::string>& ranked) {
         listing_.LibrarySortDates[k] = FormatDate(date, "yy-mm-dd");
         listing_.LibraryListOrder[count - k + 1] = static_cast<int>(k);
     }
-}
-
-// Plain files only, in name order so that ties fall the same way on every file system. Names
-// that begin with a point are left out: they are hidden files, among them a write of ours that
-// a crash interrupted.
-std::vector<std::string> DialogueLibrary::ListInspirations() const {
-    std::vector<std::string> names;
-    for (auto& name : ListFiles(folder_.Isp())) {
-        if (name.front() != '.') {
-            names.push_back(std::move(name));
-        }
-    }
-    return names;
 }
 
 void DialogueLibrary::MakeLibraryFolders() const {

@@ -61,7 +61,6 @@ private:
     void ScanAndRetain();
     void MakeRoom(std::size_t count);
     void FillLabels(const std::vector<std::string>& ranked);
-    std::vector<std::string> ListInspirations() const;
     void MakeLibraryFolders() const;
 
     const AppFolder& folder_;

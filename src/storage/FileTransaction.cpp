@@ -246,14 +246,7 @@ void FinishInterruptedChanges(const AppFolder& folder) {
     }
     for (const auto& place :
          {root, folder.Exe(), folder.Dlg(), folder.Isp(), folder.Trash() / "info"}) {
-        if (!std::filesystem::is_directory(place, error)) {
-            continue;
-        }
-        for (const auto& name : ListFiles(place)) {
-            if (IsStagedName(name)) {
-                RemoveFile(place / name);
-            }
-        }
+        RemoveStagedFiles(place);
     }
     FinishLegacyWrites(root);
 }

@@ -15,10 +15,11 @@ constexpr double TopInches = 0.25;
 
 } // namespace
 
-QtPageDevice::QtPageDevice(QPainter& painter, QPrinter& printer, const QString& face)
-    : painter_(painter), printer_(printer), font_(face),
-      dotsPerInch_(static_cast<double>(printer.resolution())), y_(TopInches * dotsPerInch_) {
+QtPageDevice::QtPageDevice(QPainter& painter, QPagedPaintDevice& pages, const QString& face)
+    : painter_(painter), pages_(pages), font_(face), metrics_(font_, &pages),
+      dotsPerInch_(static_cast<double>(pages.logicalDpiY())), y_(TopInches * dotsPerInch_) {
     font_.setStyleHint(QFont::Serif);
+    metrics_ = QFontMetricsF(font_, &pages_);
 }
 
 void QtPageDevice::SetFont(const PrintFont& font) {
@@ -26,16 +27,15 @@ void QtPageDevice::SetFont(const PrintFont& font) {
     font_.setBold(font.Bold);
     font_.setItalic(font.Italic);
     painter_.setFont(font_);
+    metrics_ = QFontMetricsF(font_, &pages_);
 }
 
 double QtPageDevice::TextWidth(std::string_view text) const {
-    const QFontMetricsF metrics(font_, &printer_);
-    return metrics.horizontalAdvance(ToQt(std::string(text))) / dotsPerInch_;
+    return metrics_.horizontalAdvance(ToQt(std::string(text))) / dotsPerInch_;
 }
 
 void QtPageDevice::Print(std::string_view text) {
-    const QFontMetricsF metrics(font_, &printer_);
-    painter_.drawText(QPointF(x_ * dotsPerInch_, y_ + metrics.ascent()), ToQt(std::string(text)));
+    painter_.drawText(QPointF(x_ * dotsPerInch_, y_ + metrics_.ascent()), ToQt(std::string(text)));
     x_ += TextWidth(text);
 }
 
@@ -45,7 +45,7 @@ void QtPageDevice::EndLine() {
 }
 
 void QtPageDevice::NewPage() {
-    if (!printer_.newPage()) {
+    if (!pages_.newPage()) {
         succeeded_ = false;
     }
     x_ = 0;
@@ -53,13 +53,14 @@ void QtPageDevice::NewPage() {
 }
 
 void QtPageDevice::EndDocument() {
-    if (!painter_.end() || printer_.printerState() == QPrinter::Error) {
+    const auto* printer = dynamic_cast<const QPrinter*>(&pages_);
+    if (!painter_.end() || (printer != nullptr && printer->printerState() == QPrinter::Error)) {
         succeeded_ = false;
     }
 }
 
 double QtPageDevice::LineSpacing() const {
-    return QFontMetricsF(font_, &printer_).lineSpacing();
+    return metrics_.lineSpacing();
 }
 
 } // namespace veyrant

@@ -1,22 +1,23 @@
 #pragma once
 
-// The print layout's page device over a painter on a printer: inches from the paper's edge,
-// text measured with the printer's own font metrics.
+// The print layout's page device over a painter on a printer or a PDF writer: inches from the
+// paper's edge, text measured with the device's own font metrics.
 
 #include "printing/PageDevice.h"
 
 #include <QFont>
+#include <QFontMetricsF>
 #include <QString>
 
+class QPagedPaintDevice;
 class QPainter;
-class QPrinter;
 
 namespace veyrant {
 
 class QtPageDevice final : public PageDevice {
 public:
-    // The painter is active on the printer; the face is the program's serif face.
-    QtPageDevice(QPainter& painter, QPrinter& printer, const QString& face);
+    // The painter is active on the pages; the face is the program's serif face.
+    QtPageDevice(QPainter& painter, QPagedPaintDevice& pages, const QString& face);
 
     void SetFont(const PrintFont& font) override;
     double TextWidth(std::string_view text) const override;
@@ -33,8 +34,10 @@ private:
     double LineSpacing() const;
 
     QPainter& painter_;
-    QPrinter& printer_;
+    QPagedPaintDevice& pages_;
     QFont font_;
+    // Measured again only when the font changes: the word wrap measures at every character.
+    QFontMetricsF metrics_;
     double dotsPerInch_;
     double x_ = 0;
     double y_; // the top of the present line, in printer dots

@@ -8,6 +8,7 @@
 
 #include <QApplication>
 #include <QCoreApplication>
+#include <QDesktopServices>
 #include <QDir>
 #include <QFile>
 #include <QFileDialog>
@@ -19,6 +20,7 @@
 #include <QPrinter>
 #include <QScreen>
 #include <QTimer>
+#include <QUrl>
 #include <algorithm>
 #include <cmath>
 #include <vector>
@@ -315,6 +317,20 @@ QtWindowLayer::AskSaveFileName(const std::string& proposedFileName) {
     const std::filesystem::path path(QFile::encodeName(chosen).toStdString());
     saveFolder_.Saved(path);
     return path;
+}
+
+std::optional<std::filesystem::path> QtWindowLayer::AskFolder(const std::string& title) {
+    const QString chosen =
+        QFileDialog::getExistingDirectory(QApplication::activeWindow(), ToDisplayText(title),
+                                          ProposedSavePath(saveFolder_, QString()));
+    if (chosen.isEmpty()) {
+        return std::nullopt;
+    }
+    return std::filesystem::path(QFile::encodeName(chosen).toStdString());
+}
+
+void QtWindowLayer::OpenFolder(const std::filesystem::path& folder) {
+    QDesktopServices::openUrl(QUrl::fromLocalFile(QFile::decodeName(folder.c_str())));
 }
 
 void QtWindowLayer::EndProcessAfter(int milliseconds) {

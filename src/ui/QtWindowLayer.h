@@ -64,6 +64,8 @@ public:
     void ShowInEditor(const std::string& text, const std::string& proposedFileName) override;
     std::optional<std::filesystem::path>
     AskSaveFileName(const std::string& proposedFileName) override;
+    std::optional<std::filesystem::path> AskFolder(const std::string& title) override;
+    void OpenFolder(const std::filesystem::path& folder) override;
     void EndProcessAfter(int milliseconds) override;
     void EndProcess() override;
 

@@ -55,6 +55,8 @@ UtilityWindow::UtilityWindow(Utility& utility, double scaleFactor, QWidget* pare
     cmdOptions_ =
         MakeButton("cmdOptions", controls.cmdOptions.Caption, QStringLiteral("Library"), this);
     cmdResize_ = MakeButton("cmdResize", controls.cmdResize.Caption, QStringLiteral("Size"), this);
+    cmdExport_ =
+        MakeButton("cmdExport", controls.cmdExport.Caption, QStringLiteral("Export"), this);
     cmdAbout_ = MakeButton("cmdAbout", controls.cmdAbout.Caption, QStringLiteral("About"), this);
     cmdOptions_->setDefault(true);
 
@@ -65,11 +67,13 @@ UtilityWindow::UtilityWindow(Utility& utility, double scaleFactor, QWidget* pare
     layout->addSpacing(6);
     layout->addWidget(cmdOptions_);
     layout->addWidget(cmdResize_);
+    layout->addWidget(cmdExport_);
     layout->addWidget(cmdAbout_);
     setMinimumWidth(360);
 
     connect(cmdOptions_, &QPushButton::clicked, this, [this] { utility_.cmdOptions_Click(); });
     connect(cmdResize_, &QPushButton::clicked, this, [this] { utility_.cmdResize_Click(); });
+    connect(cmdExport_, &QPushButton::clicked, this, [this] { utility_.cmdExport_Click(); });
     connect(cmdAbout_, &QPushButton::clicked, this, [this] { utility_.cmdAbout_Click(); });
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-// The Utilities window (frmUtility) over its logic: three buttons, each leading to one other
+// The Utilities window (frmUtility) over its logic: four buttons, each leading to one other
 // window, and the close box, which ends the program.
 
 #include "app/Utility.h"
@@ -31,6 +31,7 @@ private:
     bool placed_ = false;
     QPushButton* cmdOptions_;
     QPushButton* cmdResize_;
+    QPushButton* cmdExport_;
     QPushButton* cmdAbout_;
 };
 

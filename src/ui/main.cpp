@@ -1,4 +1,5 @@
 #include "app/Application.h"
+#include "app/ExportLibrary.h"
 #include "app/StartUp.h"
 #include "app/Utility.h"
 #include "core/Clock.h"
@@ -8,10 +9,14 @@
 #include "storage/StorageFailure.h"
 #include "ui/BackWindow.h"
 #include "ui/BannerWindow.h"
+#include "ui/ExportLibraryCommand.h"
+#include "ui/ExportWindow.h"
 #include "ui/GuardedApplication.h"
 #include "ui/HunspellDictionary.h"
 #include "ui/MirrorWindow.h"
 #include "ui/OptionsWindow.h"
+#include "ui/QtLibraryPdf.h"
+#include "ui/QtText.h"
 #include "ui/QtWindowLayer.h"
 #include "ui/ReaderWindow.h"
 #include "ui/ResizeWindow.h"
@@ -28,6 +33,9 @@
 
 int main(int argc, char** argv) {
     using namespace veyrant;
+    if (const auto exitCode = RunExportLibraryCommand(argc, argv)) {
+        return *exitCode;
+    }
     // The net needs the application, which needs the window layer, which needs Qt running: it
     // is handed the application once that is made.
     Application* running = nullptr;
@@ -94,6 +102,8 @@ int main(int argc, char** argv) {
     std::unique_ptr<Options> libraryOptions;
     std::unique_ptr<Utility> utilities;
     std::unique_ptr<Resize> displaySize;
+    std::unique_ptr<ExportLibrary> libraryExport;
+    QtLibraryPdf libraryPdf([&] { return ToQt(app.Fonts.Main); });
     // The windows reached from the Utilities grow with the display scale, the smallest excepted.
     const auto utilityScale = [&] {
         return app.UserSettings.DisplayOption > 0 ? app.Scale.ScaleFactor : 1.0;
@@ -121,6 +131,11 @@ int main(int argc, char** argv) {
         utilities = std::make_unique<Utility>(windows, app.VersionString, app.ProgramYear,
                                               [&] { ExitProgram(app); });
         return new UtilityWindow(*utilities, utilityScale());
+    });
+    windows.RegisterWindow(WindowId::Export, [&] {
+        libraryExport = std::make_unique<ExportLibrary>(
+            app.Folder, app.UserSettings, clock, windows, libraryPdf, [&] { ExitProgram(app); });
+        return new ExportWindow(*libraryExport, utilityScale());
     });
     windows.RegisterWindow(WindowId::Resize, [&] {
         displaySize = std::make_unique<Resize>(app.UserSettings, app.UserPreferences, windows,

@@ -1,10 +1,12 @@
 // The writing paths of the frame of the program, swept with a failing or killed file call at
-// every step: the settings stored on the way out, and the folder laid down at start.
+// every step: the settings stored on the way out, the folder laid down at start, and the Library
+// exported.
 
 #include "support/FaultSweep.h"
 
 #include "app/AppFixture.h"
 #include "app/FirstRun.h"
+#include "app/LibraryExport.h"
 #include "app/SettingsFiles.h"
 #include "app/StartUp.h"
 #include "core/CaughtError.h"
@@ -35,6 +37,18 @@ struct AppRun : AppFixture {
         } catch (...) {
             ReportSystemError(App, CaughtErrorNumber());
         }
+    }
+};
+
+// The Library is read before the sweep, which covers the writing; a Dialogue that cannot be read
+// has its own test.
+struct ExportRun : AppRun {
+    std::optional<LibraryExport> Export;
+
+    // The next export into the folder clears what a kill left staged there.
+    std::optional<std::string> Restart(const FolderImage&, const FolderImage&) {
+        RemoveStagedFiles(Folder.Root / "export");
+        return std::nullopt;
     }
 };
 
@@ -72,6 +86,21 @@ TEST(FaultSweep, TheSettingsAndTheFolderLeaveOldOrNewAndSayWhatFailed) {
             [](AppRun& run) {
                 run.Install();
                 run.Install();
+            }),
+        PathIn<ExportRun>(
+            "Export Library: the files written beside the Library",
+            [](ExportRun& run) {
+                run.Install();
+                for (const char* name : {"76112212.000", "76112212.001", "76112221.050"}) {
+                    WriteWholeFile(run.Folder.Isp() / name, "\tAn Inspiration.");
+                    WriteWholeFile(run.Folder.Dlg() / name, "\r\n\r\n\t\x93Why?\x94\r\n\tSo.");
+                }
+                run.Export.emplace(run.Folder);
+            },
+            [](ExportRun& run) {
+                const auto report = run.Export->Write(run.Folder.Root / "export", nullptr,
+                                                      [](int, int) { return true; });
+                run.Windows.ShowMessage({"Export Library", ReportText(report)});
             }),
     };
     SweepAll(paths);

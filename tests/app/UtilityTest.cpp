@@ -42,6 +42,11 @@ TEST(Utility, EachButtonHidesTheWindowAndLeadsOn) {
          false,
          false},
         {"Display Size", &Utility::cmdResize_Click, {"hide Utility", "show Resize"}, false, false},
+        {"Export Library",
+         &Utility::cmdExport_Click,
+         {"hide Utility", "show Export"},
+         false,
+         false},
         {"About", &Utility::cmdAbout_Click, {"hide Utility"}, true, true},
         {"closing", &Utility::Form_Close, {"hide Utility"}, false, true},
     };
@@ -72,6 +77,7 @@ TEST(Utility, CaptionsAndTheProgramNumberInTheAboutText) {
     EXPECT_EQ(window.Dump(), "title \"Veyrant Sagrel Utilities\"\n"
                              "cmdOptions \"Library Options Window\"\n"
                              "cmdResize \"Display Size Window\"\n"
+                             "cmdExport \"Export Library\"\n"
                              "cmdAbout \"About Veyrant Sagrel\"\n");
     const std::string about = AboutText("5.0.27.1.3", "2027");
     EXPECT_EQ(about.substr(0, 28), "Veyrant Sagrel 5 for Linux\r\n");

@@ -22,6 +22,8 @@ const char* WindowName(WindowId window) {
         return "Resize";
     case WindowId::Check:
         return "Check";
+    case WindowId::Export:
+        return "Export";
     }
     return "?";
 }
@@ -48,6 +50,15 @@ FakeWindowLayer::AskSaveFileName(const std::string& proposedFileName) {
     }
     auto answer = SaveNameAnswers.front();
     SaveNameAnswers.pop_front();
+    return answer;
+}
+
+std::optional<std::filesystem::path> FakeWindowLayer::AskFolder(const std::string&) {
+    if (FolderAnswers.empty()) {
+        return std::nullopt;
+    }
+    auto answer = FolderAnswers.front();
+    FolderAnswers.pop_front();
     return answer;
 }
 

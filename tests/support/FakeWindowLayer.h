@@ -45,6 +45,11 @@ public:
     // Answers from the script, a cancel when it is empty.
     std::optional<std::filesystem::path>
     AskSaveFileName(const std::string& proposedFileName) override;
+    // Answers from the script, a cancel when it is empty.
+    std::optional<std::filesystem::path> AskFolder(const std::string& title) override;
+    void OpenFolder(const std::filesystem::path& folder) override {
+        OpenedFolders.push_back(folder);
+    }
     void EndProcessAfter(int milliseconds) override { EndAfter = milliseconds; }
     void EndProcess() override { Ended = true; }
 
@@ -72,6 +77,8 @@ public:
     // The names the save dialog proposed, and what the user chooses there, in order.
     std::vector<std::string> ProposedSaveNames;
     std::deque<std::optional<std::filesystem::path>> SaveNameAnswers;
+    std::deque<std::filesystem::path> FolderAnswers;
+    std::vector<std::filesystem::path> OpenedFolders;
     int Yields = 0;
     bool Busy = false;
     int EndAfter = -1;

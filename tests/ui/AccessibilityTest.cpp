@@ -179,7 +179,7 @@ private slots:
             QStringList Order;
         };
         const std::vector<Case> cases = {
-            {&utilities, {"cmdOptions", "cmdResize", "cmdAbout"}},
+            {&utilities, {"cmdOptions", "cmdResize", "cmdExport", "cmdAbout"}},
             {&displaySize, {"Option1", "chkSpelling", "cmdOK", "cmdCancel"}},
             // An empty Library has nothing to clean, and its button is passed over.
             {&options, {"txtSetSave", "txtSetDays", "Check1", "cmdOK", "cmdCancel"}},

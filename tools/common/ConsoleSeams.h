@@ -43,6 +43,10 @@ public:
     std::optional<std::filesystem::path> AskSaveFileName(const std::string&) override {
         return std::nullopt;
     }
+    std::optional<std::filesystem::path> AskFolder(const std::string&) override {
+        return std::nullopt;
+    }
+    void OpenFolder(const std::filesystem::path&) override {}
     void EndProcessAfter(int) override {}
     void EndProcess() override {}
 };

@@ -1,0 +1,265 @@
+// Export Library from the command line and from its window: what is written, what the user is
+// told, and that a damaged Dialogue, a full disk or a Cancel leave only whole files behind.
+
+#include "app/ExportCommand.h"
+#include "app/ExportLibrary.h"
+#include "core/FileCalls.h"
+#include "support/FakeClock.h"
+#include "support/FakeWindowLayer.h"
+#include "support/TempFolder.h"
+
+#include <cerrno>
+#include <fstream>
+#include <gtest/gtest.h>
+#include <sstream>
+
+namespace veyrant::testing {
+namespace {
+
+struct SavedPair {
+    std::string Name;
+    std::string Inspiration;
+    const char* Dialogue; // nullptr: the dlg/ file is missing
+};
+
+// Three Dialogues of 22 and 23 November 2026, one of them lacking its dlg/ file.
+const std::vector<SavedPair> FullLibrary = {
+    {"76112309.150", "\tThe latest.", "\r\n\r\n\t\x93Why now?\x94\r\n\tBecause."},
+    {"76112212.000", "\tThe first.", "\r\n\r\n\t\x93What is it?\x94\r\n\tA start."},
+    {"76112301.150", "\tBroken.", nullptr},
+    {"76112221.050", "\tThe evening.",
+     "\r\n\r\n\t\x93"
+     "A comment.\x94"},
+};
+
+class FakePdf final : public LibraryPdfMaker {
+public:
+    std::optional<std::string> LibraryPdf(const std::vector<PrintRequest>& dialogues,
+                                          const std::function<bool(std::size_t)>&) override {
+        return "%PDF " + std::to_string(dialogues.size());
+    }
+};
+
+void Write(const std::filesystem::path& path, const std::string& bytes) {
+    std::filesystem::create_directories(path.parent_path());
+    std::ofstream(path, std::ios::binary) << bytes;
+}
+
+AppFolder LibraryOf(const TempFolder& folder, const std::vector<SavedPair>& pairs) {
+    const AppFolder library{folder / "veyrant-sagrel"};
+    for (const auto& pair : pairs) {
+        Write(library.Isp() / pair.Name, pair.Inspiration);
+        if (pair.Dialogue != nullptr) {
+            Write(library.Dlg() / pair.Name, pair.Dialogue);
+        }
+    }
+    return library;
+}
+
+// The export folder's files, each with its first line.
+std::map<std::string, std::string> FilesIn(const std::filesystem::path& folder) {
+    std::map<std::string, std::string> files;
+    std::error_code missing;
+    for (const auto& entry : std::filesystem::directory_iterator(folder, missing)) {
+        std::ifstream in(entry.path());
+        std::getline(in, files[entry.path().filename().string()]);
+    }
+    return files;
+}
+
+TEST(LibraryExport, CommandLineWritesReportsAndExits) {
+    struct Case {
+        const char* Name;
+        std::vector<SavedPair> Library;
+        std::vector<std::string> Options;
+        int RenamesBeforeFullDisk; // 0: the disk never fills
+        int ExitCode;
+        std::string Output; // "@" stands for the export folder
+        std::map<std::string, std::string> Files;
+    };
+    const std::string latest = "# Monday, 9:15 AM, November 23, 2026";
+    const Case cases[] = {
+        {"an empty Library",
+         {},
+         {},
+         0,
+         1,
+         "There are no Dialogues saved in the Library, so there is nothing to export.\n",
+         {}},
+        {"one Dialogue",
+         {FullLibrary[1]},
+         {},
+         0,
+         0,
+         "@/2026-11-22 12.00.md\n@/index.md\n1 Dialogue written to @.\n\n"
+         "The exported files are not encrypted.\n",
+         {{"2026-11-22 12.00.md", "# Sunday, 12:00 PM, November 22, 2026"},
+          {"index.md", "# Veyrant Sagrel Dialogue Library"}}},
+        {"a full Library with a damaged Dialogue",
+         FullLibrary,
+         {"--pdf"},
+         0,
+         2,
+         "@/2026-11-22 12.00.md\n@/2026-11-22 21.05.md\n@/2026-11-23 09.15.md\n@/index.md\n"
+         "@/Library.pdf\n3 Dialogues written to @.\n\nNot written:\n"
+         "76112301.150: Error 53, one of its two files is missing from the Library.\n\n"
+         "The exported files are not encrypted.\n",
+         {{"2026-11-22 12.00.md", "# Sunday, 12:00 PM, November 22, 2026"},
+          {"2026-11-22 21.05.md", "# Sunday, 9:05 PM, November 22, 2026"},
+          {"2026-11-23 09.15.md", latest},
+          {"index.md", "# Veyrant Sagrel Dialogue Library"},
+          {"Library.pdf", "%PDF 3"}}},
+        {"a pair saved in one minute",
+         {FullLibrary[0],
+          {"76112309.151", "\tAgain.",
+           "\r\n\r\n\t\x93"
+           "Again?\x94\r\n\tYes."}},
+         {},
+         0,
+         0,
+         "@/2026-11-23 09.15.md\n@/2026-11-23 09.15 (2).md\n@/index.md\n"
+         "2 Dialogues written to @.\n\nThe exported files are not encrypted.\n",
+         {{"2026-11-23 09.15.md", latest},
+          {"2026-11-23 09.15 (2).md", latest},
+          {"index.md", "# Veyrant Sagrel Dialogue Library"}}},
+        {"a full disk half-way",
+         FullLibrary,
+         {},
+         2,
+         2,
+         "@/2026-11-22 12.00.md\n@/2026-11-22 21.05.md\n2 Dialogues written to @.\n\n"
+         "Not written:\n76112301.150: Error 53, one of its two files is missing from the Library.\n"
+         "2026-11-23 09.15.md: Error 61, the disk is full.\n"
+         "index.md: not every Dialogue it lists could be written.\n\n"
+         "The exported files are not encrypted.\n",
+         {{"2026-11-22 12.00.md", "# Sunday, 12:00 PM, November 22, 2026"},
+          {"2026-11-22 21.05.md", "# Sunday, 9:05 PM, November 22, 2026"}}},
+        {"arguments not understood",
+         {FullLibrary[1]},
+         {"--pfd"},
+         0,
+         2,
+         "usage: veyrant-sagrel --export-library FOLDER [--pdf]\n",
+         {}},
+    };
+    for (const Case& c : cases) {
+        TempFolder folder;
+        const AppFolder library = LibraryOf(folder, c.Library);
+        const auto out = folder / "export";
+        std::vector<std::string> arguments{"--export-library", out.string()};
+        arguments.insert(arguments.end(), c.Options.begin(), c.Options.end());
+        int renames = 0;
+        SetFileFault([&](FileCall call, const std::filesystem::path&) {
+            renames += call == FileCall::Rename ? 1 : 0;
+            const bool full = c.RenamesBeforeFullDisk > 0 && renames >= c.RenamesBeforeFullDisk;
+            return full && call == FileCall::Write ? ENOSPC : 0;
+        });
+        FakePdf pdf;
+        std::ostringstream output;
+
+        const int exitCode = ExportLibraryCommand(arguments, library, pdf, output);
+        SetFileFault({});
+
+        std::string expected = c.Output;
+        for (auto at = expected.find('@'); at != std::string::npos; at = expected.find('@')) {
+            expected.replace(at, 1, out.string());
+        }
+        EXPECT_EQ(exitCode, c.ExitCode) << c.Name;
+        EXPECT_EQ(output.str(), expected) << c.Name;
+        EXPECT_EQ(FilesIn(out), c.Files) << c.Name;
+    }
+}
+
+TEST(LibraryExport, CommandLineNeitherReplacesNorExportsAGuest) {
+    TempFolder folder;
+    const AppFolder library = LibraryOf(folder, {FullLibrary[1]});
+    Write(folder / "export/index.md", "mine");
+    FakePdf pdf;
+    std::ostringstream refused;
+    EXPECT_EQ(ExportLibraryCommand({"--export-library", (folder / "export").string()}, library, pdf,
+                                   refused),
+              2);
+    EXPECT_EQ(refused.str(), "Nothing written: these files already stand in " +
+                                 (folder / "export").string() +
+                                 " and are not replaced:\nindex.md\n");
+    EXPECT_EQ(FilesIn(folder / "export"),
+              (std::map<std::string, std::string>{{"index.md", "mine"}}));
+
+    Write(library.Exe() / "Tolmira.ini",
+          " 0 \r\n 0 \r\n 0  0  0  0 \r\n 1  1 \r\n 0 \r\n 21  30 \r\n 1 \r\n");
+    std::ostringstream guest;
+    EXPECT_EQ(ExportLibraryCommand({"--export-library", (folder / "guest").string()}, library, pdf,
+                                   guest),
+              1);
+    EXPECT_EQ(guest.str(), "The Library is in the Guest Mode. No Dialogues are saved, so there "
+                           "is nothing to export.\n");
+}
+
+TEST(LibraryExport, WindowAsksWritesUnderProgressAndCancels) {
+    struct Case {
+        const char* Name;
+        std::int16_t GuestMode;
+        std::vector<SavedPair> Library;
+        int CancelAtStep;                  // 0: never
+        std::deque<MessageAnswer> Answers; // the PDF, then opening the folder
+        std::size_t FilesWritten;
+        std::string Told;
+        bool Opened;
+    };
+    const Case cases[] = {
+        {"with the PDF, opening the folder",
+         0,
+         FullLibrary,
+         0,
+         {MessageAnswer::Yes, MessageAnswer::Yes},
+         5,
+         "3 Dialogues written to @.",
+         true},
+        {"a cancel half-way",
+         0,
+         FullLibrary,
+         2,
+         {MessageAnswer::No, MessageAnswer::No},
+         2,
+         "2 Dialogues written to @. The export was cancelled before it was finished.",
+         false},
+        {"an empty Library", 0, {}, 0, {}, 0, "There are no Dialogues saved in the Library", false},
+        {"Guest Mode", 1, FullLibrary, 0, {}, 0, "The Library is in the Guest Mode.", false},
+    };
+    for (const Case& c : cases) {
+        TempFolder folder;
+        const AppFolder library = LibraryOf(folder, c.Library);
+        FakeWindowLayer layer;
+        layer.FolderAnswers = {folder.Path()};
+        layer.Answers = c.Answers;
+        const FakeClock clock;
+        Settings settings;
+        settings.GuestMode = c.GuestMode;
+        FakePdf pdf;
+        int exits = 0;
+        ExportLibrary window(library, settings, clock, layer, pdf, [&] { ++exits; });
+        bool cancelled = false;
+        window.Changed = [&] {
+            if (!cancelled && c.CancelAtStep > 0 && window.Controls().prgExport == c.CancelAtStep) {
+                cancelled = true;
+                window.cmdCancel_Click();
+            }
+        };
+
+        window.Form_Activate();
+
+        const auto out = folder / "Veyrant Sagrel Library 2026-11-22";
+        EXPECT_EQ(FilesIn(out).size(), c.FilesWritten) << c.Name;
+        std::string told = c.Told;
+        if (const auto at = told.find('@'); at != std::string::npos) {
+            told.replace(at, 1, out.string());
+        }
+        ASSERT_FALSE(layer.Boxes.empty()) << c.Name;
+        EXPECT_EQ(layer.Boxes.back().Text.substr(0, told.size()), told) << c.Name;
+        EXPECT_EQ(layer.OpenedFolders.size(), c.Opened ? 1u : 0u) << c.Name;
+        EXPECT_EQ(exits, 1) << c.Name;
+    }
+}
+
+} // namespace
+} // namespace veyrant::testing
