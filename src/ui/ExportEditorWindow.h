@@ -25,8 +25,7 @@ class ExportEditorWindow final : public QWidget {
 
 public:
     ExportEditorWindow(WindowLayer& windows, SaveFolder& folder, SpellChecker& spelling,
-                       const QString& text,
-                       const QString& proposedFileName);
+                       const QString& text, const QString& proposedFileName);
 
     QPlainTextEdit& Editor() { return *editor_; }
     // Writes the text to the path as UTF-8, which from then on is the text's file; false, after
