@@ -126,7 +126,8 @@ const char* const FaultyFrames[] = {
     "braver question", "question change as you change", "instead of any answer",
     "answered before in", "from the wrong place", "promise your words make",
     "words that needs help", "the part in view", "the question leads", "change as you ask",
-    "thing you ask about", "change more than it looks"};
+    "thing you ask about", "change more than it looks", "are you choosing", "habit you can unlearn",
+    "and still a choice"};
 
 std::string FaultyFrame(const std::string& text) {
     const std::string lower = Lower(text);
