@@ -113,7 +113,21 @@ const char* const FaultyFrames[] = {
     "yet the reply may", "yet the answer may", "if you associate it", "than feared", "as feared",
     "what would it ask", "does it need from you", "feel as you look at it", "the thing itself",
     "its use ", "a memory of", "you have rested", "you feel rested", "choose nothing out",
-    "being put off", "a tale that tells", "world that can be", ". or "};
+    "being put off", "a tale that tells", "world that can be", ". or ",
+    // Shapes that failed a blind reading: an answer of how often or a bare hedge to a yes or no,
+    // an "it" with nothing before it, a saying or a habit pinned on people from nowhere, a gloss
+    // on a story, a reason for the asking instead of the thing, a history of the conversation.
+    "than you hope", "the way you hope", "on certain days", "in the right light",
+    "no answer cannot", "is it what", "as they fear", "you ever end up", "may be asking about",
+    "might be teaching you", "no wrong way to want", "you keep asking", "you search for a reason",
+    "so that fear", "who you were told", "apologizing for", "role of that", "origin of that",
+    "reveals a conviction", "carries a promise", "carries a commitment", "the word you repeated",
+    "come a long way", "been hopeful so far", "been restless so far", "question into a statement",
+    "braver question", "question change as you change", "instead of any answer",
+    "answered before in", "from the wrong place", "promise your words make",
+    "words that needs help", "the part in view", "the question leads", "change as you ask",
+    "thing you ask about", "change more than it looks", "are you choosing", "habit you can unlearn",
+    "and still a choice"};
 
 std::string FaultyFrame(const std::string& text) {
     const std::string lower = Lower(text);
