@@ -127,7 +127,20 @@ const char* const FaultyFrames[] = {
     "answered before in", "from the wrong place", "promise your words make",
     "words that needs help", "the part in view", "the question leads", "change as you ask",
     "thing you ask about", "change more than it looks", "are you choosing", "habit you can unlearn",
-    "and still a choice"};
+    "and still a choice",
+    // Shapes that failed the third blind reading: a motive pinned on a choice, a verdict taken
+    // back, a calm or a doubt imputed in a lead, a change urged on a remark, an image frame that
+    // cannot hold a person, a strain with someone stated as fact.
+    "choosing in haste", "only as true as", "until experience says", "fair trial before",
+    "given your wish", "mindful of your hopes", "despite your doubts", "responsible for more than",
+    "you can slow down", "change your direction", "change course at any",
+    "different choice next time", "is still true", "still fit the person", "show a friend",
+    "would choose to try", "step on the stairs", "unsent letters", "other ideas on your list",
+    "a kinder answer", "more honest answer", "no one stays", "hardly anyone stays", "a vision of",
+    "a painting of", "a snapshot of", "the person in your question", "the one you ask about",
+    "let your story begin", "slip into", "a reflection of the answer", "more afraid than unkind",
+    "beliefs you chose", "what you believe is fair", "no past experience",
+    "which of these is true"};
 
 std::string FaultyFrame(const std::string& text) {
     const std::string lower = Lower(text);
