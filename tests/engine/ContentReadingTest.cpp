@@ -139,9 +139,9 @@ const char* const FaultyFrames[] = {
     "a kinder answer", "more honest answer", "no one stays", "hardly anyone stays", "a vision of",
     "a painting of", "a snapshot of", "the person in your question", "the one you ask about",
     "let your story begin", "slip into", "a reflection of the answer", "more afraid than unkind",
-    "beliefs you chose", "would say aloud", "rigidity with", "playfulness with",
-    "reveals the theme", "carries a care", "so this time", "what you believe is fair",
-    "no past experience", "which of these is true"};
+    "beliefs you chose", "would say aloud", "make you feel less alone", "closer than your list",
+    "rigidity with", "playfulness with", "reveals the theme", "carries a care", "so this time",
+    "what you believe is fair", "no past experience", "which of these is true"};
 
 std::string FaultyFrame(const std::string& text) {
     const std::string lower = Lower(text);
