@@ -6,6 +6,8 @@
 
 #include "app/FontCheck.h"
 #include "app/LibraryExport.h"
+#include "storage/DialogueFile.h"
+#include "storage/FileTransaction.h"
 #include "storage/LibraryFileName.h"
 #include "support/FakeClock.h"
 #include "support/TempFolder.h"
@@ -15,8 +17,8 @@
 
 #include <QApplication>
 #include <benchmark/benchmark.h>
-#include <fstream>
 #include <memory>
+#include <string>
 
 namespace veyrant {
 namespace {
@@ -33,12 +35,16 @@ void LayDownLibrary(const AppFolder& folder) {
     const double latest = DayNumber(testing::FakeClock{}.Date);
     for (int k = 0; k < LibraryDialogues; ++k) {
         const std::string name = MakeFileName(FromDayNumber(latest - k));
-        std::ofstream(folder.Isp() / name) << "\tWhat you notice today is worth a line.";
-        std::ofstream dialogue(folder.Dlg() / name, std::ios::binary);
+        std::string dialogue;
         for (int pair = 0; pair < DialoguePairs; ++pair) {
-            dialogue << "\r\n\r\n\t\x93" << entry << " " << pair << "?\x94\r\n\t" << reply << reply
-                     << reply;
+            dialogue += "\r\n\r\n\t\x93" + entry + " " + std::to_string(pair) + "?\x94\r\n\t" +
+                        reply + reply + reply;
         }
+        FileTransaction change(folder.Root);
+        DialogueFile::SavedInspiration(folder, name)
+            .Stage(change, "\tWhat you notice today is worth a line.");
+        DialogueFile::SavedDialogue(folder, name).Stage(change, dialogue);
+        change.Commit();
     }
 }
 

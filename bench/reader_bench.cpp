@@ -15,9 +15,10 @@
 #include "core/DateFormat.h"
 #include "core/Random.h"
 #include "core/Text.h"
-#include "core/WholeFile.h"
 #include "reader/FixedLibrary.h"
 #include "shell/DisplayScale.h"
+#include "storage/DialogueFile.h"
+#include "storage/FileTransaction.h"
 #include "storage/LibraryFileName.h"
 #include "support/FakeClock.h"
 #include "support/FakeWindowLayer.h"
@@ -104,8 +105,11 @@ struct ReadingProgram {
             for (int pair = 0; pair < PairLimit; ++pair) {
                 dialogue += "\r\n\r\n\t\x93" + cut(EntryLength) + "\x94\r\n\t" + cut(ReplyLength);
             }
-            WriteWholeFile(Folder.Isp() / name, "\t" + cut(InspirationLength));
-            WriteWholeFile(Folder.Dlg() / name, dialogue);
+            FileTransaction change(Folder.Root);
+            DialogueFile::SavedInspiration(Folder, name)
+                .Stage(change, "\t" + cut(InspirationLength));
+            DialogueFile::SavedDialogue(Folder, name).Stage(change, dialogue);
+            change.Commit();
             Clock.FileDates[Folder.Isp() / name] = when;
             Clock.FileDates[Folder.Dlg() / name] = when;
         }
@@ -207,8 +211,9 @@ void BM_AllDialoguesWalkLiteral(benchmark::State& state) {
     for (auto _ : state) {
         for (int index = listing.LibraryCount; index >= 1; --index) {
             const std::string& name = listing.LibraryFiles[static_cast<std::size_t>(index)];
-            const std::string inspiration = ReadWholeFile(program.Folder.Isp() / name);
-            const std::string body = ReadWholeFile(program.Folder.Dlg() / name);
+            const std::string inspiration =
+                DialogueFile::SavedInspiration(program.Folder, name).Read();
+            const std::string body = DialogueFile::SavedDialogue(program.Folder, name).Read();
             const DateTime date = FileDateValue(ParseFileName(name).FileDateText);
             const std::string shown = FormatDate(date, "dddd, h:nn am/pm, mmmm d, yyyy") +
                                       "\r\n\r\nInspiration\r\n\r\n" + inspiration +

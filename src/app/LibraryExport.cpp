@@ -7,6 +7,7 @@
 #include "core/WholeFile.h"
 #include "printing/LibraryMarkdown.h"
 #include "printing/PrintTexts.h"
+#include "storage/DialogueFile.h"
 
 #include <system_error>
 #include <utility>
@@ -194,7 +195,7 @@ void LibraryExport::WriteFiles(ExportReport& report, LibraryPdfMaker* pdf,
     }
     std::vector<PrintRequest> pages;
     for (const auto& saved : saved_) {
-        pages.push_back({saved.Inspiration, Mid(saved.Dialogue, 5),
+        pages.push_back({saved.Inspiration, WithoutLead(saved.Dialogue),
                          std::string(PrintTexts::WriteWindowTitle), saved.Date});
     }
     bool stopped = false;

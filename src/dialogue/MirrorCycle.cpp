@@ -9,6 +9,7 @@
 #include "dialogue/Mirror.h"
 #include "dialogue/MirrorTexts.h"
 #include "dialogue/MirrorWorld.h"
+#include "storage/DialogueFile.h"
 
 namespace veyrant {
 
@@ -460,7 +461,7 @@ void Mirror::ProcessComment() {
     const std::string comment =
         std::string{Tab, OpenQuote} + Mid(state_.EntryText, 3) + std::string(1, CloseQuote);
     state_.DialogueBackup = state_.DialogueText;
-    state_.PairText = std::string(CrLf) + std::string(CrLf) + comment;
+    state_.PairText = std::string(RunLead) + comment;
     state_.DialogueText += state_.PairText;
 
     mirror.Text = comment;

@@ -5,6 +5,7 @@
 #include "printing/ExportText.h"
 #include "printing/PrintDialogue.h"
 #include "printing/PrintTexts.h"
+#include "storage/DialogueFile.h"
 
 namespace veyrant {
 
@@ -13,9 +14,8 @@ void Mirror::PrintFinishedDialogue() {
     C(MirrorControl::cmdPrint).Enabled = false;
     world_.Windows.SetBusyPointer(true);
     Yield();
-    // The blank line that leads the Dialogue's first run is left off the pages.
     PrintDialogue(world_.Windows, world_.Clock.Now(), state_.InspirationText,
-                  Mid(state_.DialogueText, 5), std::string(PrintTexts::WriteWindowTitle));
+                  WithoutLead(state_.DialogueText), std::string(PrintTexts::WriteWindowTitle));
     world_.Windows.SetBusyPointer(false);
     C(MirrorControl::cmdPrint).Enabled = true;
 }

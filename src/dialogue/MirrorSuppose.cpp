@@ -9,6 +9,7 @@
 #include "dialogue/Mirror.h"
 #include "dialogue/MirrorTexts.h"
 #include "dialogue/MirrorWorld.h"
+#include "storage/DialogueFile.h"
 
 namespace veyrant {
 
@@ -191,8 +192,8 @@ void Mirror::EndSupposition() {
     state_.IdeaCount = 0;
 
     state_.DialogueBackup = state_.DialogueText;
-    state_.PairText = std::string(CrLf) + std::string(CrLf) + state_.SupposeQuestion +
-                      std::string(CrLf) + state_.ConclusionView;
+    state_.PairText =
+        std::string(RunLead) + state_.SupposeQuestion + std::string(CrLf) + state_.ConclusionView;
     C(MirrorControl::cmdDisplay).Enabled = true;
     C(MirrorControl::cmdNotate).Enabled = true;
     C(MirrorControl::cmdRemove).Enabled = true;

@@ -6,6 +6,7 @@
 #include "dialogue/Mirror.h"
 #include "dialogue/MirrorWorld.h"
 #include "dialogue/Transcript.h"
+#include "storage/DialogueFile.h"
 
 namespace veyrant {
 
@@ -37,8 +38,8 @@ std::string FullViewText(const std::string& inspirationText, const std::string& 
 }
 
 void Mirror::BuildPairText() {
-    state_.PairText = std::string(CrLf) + std::string(CrLf) + state_.EntryText + std::string(CrLf) +
-                      state_.ResponseText;
+    state_.PairText =
+        std::string(RunLead) + state_.EntryText + std::string(CrLf) + state_.ResponseText;
 }
 
 void Mirror::ShowSmallView() {

@@ -7,6 +7,7 @@
 #include "printing/PrintDialogue.h"
 #include "printing/PrintTexts.h"
 #include "reader/Reader.h"
+#include "storage/DialogueFile.h"
 
 namespace veyrant {
 
@@ -55,9 +56,8 @@ void Reader::ClickPrint() {
 
 void Reader::PrintOpenDialogue() {
     LoadShownDialogue();
-    // The line ends that lead every saved Dialogue stay off the page.
     PrintDialogue(world_.Windows, state_.DialogueDate, state_.InspirationBody,
-                  Mid(state_.DialogueBody, 5), std::string(PrintTexts::WriteWindowTitle));
+                  WithoutLead(state_.DialogueBody), std::string(PrintTexts::WriteWindowTitle));
     C(ReaderControl::cmdPrint).Enabled = true;
 }
 

@@ -4,9 +4,9 @@
 #include "core/DateFormat.h"
 #include "core/ProgramError.h"
 #include "core/Text.h"
-#include "core/WholeFile.h"
 #include "reader/Reader.h"
 #include "reader/ReaderTexts.h"
+#include "storage/DialogueFile.h"
 #include "storage/LibraryFileName.h"
 #include "storage/StorageFailure.h"
 
@@ -61,7 +61,8 @@ void Reader::BuildDialogueList() {
         const auto slot = static_cast<std::size_t>(index);
         std::string inspiration;
         try {
-            inspiration = ReadWholeFile(world_.Folder.Isp() / listing.LibraryFiles[slot]);
+            inspiration =
+                DialogueFile::SavedInspiration(world_.Folder, listing.LibraryFiles[slot]).Read();
         } catch (const ProgramError&) {
             // A file gone since the scan lists as a damaged one would.
         }
@@ -132,8 +133,8 @@ void Reader::LoadDialogue(int position) {
     state_.DialogueBody.clear();
     try {
         state_.DialogueDate = FileDateValue(ParseFileName(name).FileDateText);
-        state_.InspirationBody = ReadWholeFile(world_.Folder.Isp() / name);
-        state_.DialogueBody = ReadWholeFile(world_.Folder.Dlg() / name);
+        state_.InspirationBody = DialogueFile::SavedInspiration(world_.Folder, name).Read();
+        state_.DialogueBody = DialogueFile::SavedDialogue(world_.Folder, name).Read();
     } catch (const ProgramError& error) {
         Paint();
         world_.Windows.ShowMessage(LibraryCorruptedBox(

@@ -6,7 +6,7 @@
 #include "core/FileOperations.h"
 #include "core/ProgramError.h"
 #include "core/Text.h"
-#include "core/WholeFile.h"
+#include "storage/DialogueFile.h"
 #include "storage/FileTransaction.h"
 #include "storage/LibraryFileName.h"
 #include "storage/SavedDialogues.h"
@@ -231,16 +231,18 @@ std::optional<std::string> DialogueLibrary::AddToLibrary(const std::string& insp
     }
     // Both files go in as one change: a failure or a crash leaves the pair as it was, old or
     // absent, or the new pair whole.
-    std::filesystem::path writing = folder_.Isp() / *name;
+    const auto inspiration = DialogueFile::SavedInspiration(folder_, *name);
+    const auto dialogue = DialogueFile::SavedDialogue(folder_, *name);
+    std::filesystem::path writing = inspiration.Path();
     try {
         MakeFolder(folder_.Isp());
-        writing = folder_.Dlg() / *name;
+        writing = dialogue.Path();
         MakeFolder(folder_.Dlg());
         FileTransaction change(folder_.Root);
-        writing = folder_.Isp() / *name;
-        change.Write(writing, inspirationText);
-        writing = folder_.Dlg() / *name;
-        change.Write(writing, dialogueText);
+        writing = inspiration.Path();
+        inspiration.Stage(change, inspirationText);
+        writing = dialogue.Path();
+        dialogue.Stage(change, dialogueText);
         change.Commit();
     } catch (const ProgramError& error) {
         windows_.ShowMessage(SaveFailureBox(error.Number(), writing));

@@ -1,7 +1,7 @@
 #include "storage/SavedDialogues.h"
 
 #include "core/FileOperations.h"
-#include "core/WholeFile.h"
+#include "storage/DialogueFile.h"
 #include "storage/LibraryFileName.h"
 
 #include <algorithm>
@@ -47,8 +47,8 @@ SavedDialogue ReadSavedDialogue(const AppFolder& folder, const std::string& file
     SavedDialogue saved;
     saved.FileName = fileName;
     saved.Date = FileDateValue(ParseFileName(fileName).FileDateText);
-    saved.Inspiration = ReadWholeFile(folder.Isp() / fileName);
-    saved.Dialogue = ReadWholeFile(folder.Dlg() / fileName);
+    saved.Inspiration = DialogueFile::SavedInspiration(folder, fileName).Read();
+    saved.Dialogue = DialogueFile::SavedDialogue(folder, fileName).Read();
     return saved;
 }
 

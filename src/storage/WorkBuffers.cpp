@@ -6,52 +6,23 @@
 #include "core/FileOperations.h"
 #include "core/ProgramError.h"
 #include "core/Text.h"
-#include "core/WholeFile.h"
+#include "storage/DialogueFile.h"
 #include "storage/FileTransaction.h"
 #include "storage/StorageFailure.h"
 
 #include <array>
 #include <string_view>
 #include <system_error>
-#include <tuple>
 #include <utility>
 
 namespace veyrant {
 
 namespace {
 
-constexpr const char* InspirationBuffer = "savei.tmp";
-constexpr const char* DialogueBuffer = "savem.tmp";
-constexpr const char* SuggestionBuffer = "saves.tmp";
-constexpr const char* PairCountBuffer = "savep.tmp";
-
-// What the program itself can write. The Dialogue limit lets a Dialogue grow to 121 kept runs,
-// and a run is one entry of at most 280 characters with its marks and one reply of at most
-// MaxComponents composed rows: 8 KiB holds either with room to spare, and an Inspiration or a
-// Suggestion too. More, or a longer line, is no buffer of ours: it would keep the window's
-// text layout busy for minutes.
-constexpr std::size_t MostRuns = 121;
-constexpr std::size_t MostRunBytes = 8 * 1024;
-constexpr std::size_t MostCountBytes = 64;
-
-bool LinesFit(std::string_view text) {
-    std::size_t start = 0;
-    for (;;) {
-        const auto end = text.find('\n', start);
-        if ((end == std::string_view::npos ? text.size() : end) - start > MostRunBytes) {
-            return false;
-        }
-        if (end == std::string_view::npos) {
-            return true;
-        }
-        start = end + 1;
-    }
-}
-
 // Every run begins with a blank line, a tab and the opening mark, and nothing the program puts
 // inside a run holds that sequence, so the runs can be counted again when savep.tmp is damaged.
 int RunsIn(std::string_view dialogueText) {
-    static constexpr std::string_view RunStart = "\r\n\r\n\t\x93";
+    static const std::string RunStart = std::string(RunLead) + "\t\x93";
     int runs = 0;
     for (auto at = dialogueText.find(RunStart); at != std::string_view::npos;
          at = dialogueText.find(RunStart, at + RunStart.size())) {
@@ -76,9 +47,9 @@ int PairCountOf(const std::string& countText, std::string_view dialogueText) {
 
 // savep.tmp as it stands. Missing, as after a delete by hand, it raises; there but unreadable,
 // it reads as damaged.
-std::string ReadCountBuffer(const std::filesystem::path& path) {
+std::string ReadCountBuffer(const DialogueFile& buffer) {
     try {
-        return ReadWholeFile(path, MostCountBytes);
+        return buffer.Read();
     } catch (const ProgramError& error) {
         if (error.Number() == ErrorNumber::FileNotFound) {
             throw;
@@ -96,7 +67,7 @@ std::string NumberLine(int value) {
 } // namespace
 
 std::filesystem::path InspirationBufferPath(const AppFolder& folder) {
-    return folder.Exe() / InspirationBuffer;
+    return DialogueFile::Buffer(folder, WorkBuffer::Inspiration).Path();
 }
 
 WorkBuffers::WorkBuffers(const AppFolder& folder, const Settings& settings, const Clock& clock,
@@ -124,11 +95,11 @@ std::optional<WorkBuffers::WriteFailure> WorkBuffers::Write(const DialogueBuffer
     if (settings_.GuestMode == 1) {
         return std::nullopt;
     }
-    const std::array<std::pair<std::filesystem::path, std::string>, 4> files = {{
-        {folder_.Exe() / InspirationBuffer, dialogue.InspirationText},
-        {folder_.Exe() / DialogueBuffer, dialogue.DialogueText},
-        {folder_.Exe() / SuggestionBuffer, dialogue.SuggestionText},
-        {folder_.Exe() / PairCountBuffer, NumberLine(dialogue.PairCount)},
+    const std::array<std::pair<WorkBuffer, std::string>, 4> files = {{
+        {WorkBuffer::Inspiration, dialogue.InspirationText},
+        {WorkBuffer::Dialogue, dialogue.DialogueText},
+        {WorkBuffer::Suggestion, dialogue.SuggestionText},
+        {WorkBuffer::PairCount, NumberLine(dialogue.PairCount)},
     }};
     // All four are laid down beside the old set and then put in place as one change, so that a
     // full disk or a crash halfway leaves the old set whole.
@@ -136,9 +107,10 @@ std::optional<WorkBuffers::WriteFailure> WorkBuffers::Write(const DialogueBuffer
     try {
         MakeFolder(folder_.Exe());
         FileTransaction change(folder_.Root);
-        for (const auto& [path, text] : files) {
-            writing = path;
-            change.Write(path, text);
+        for (const auto& [buffer, text] : files) {
+            const auto file = DialogueFile::Buffer(folder_, buffer);
+            writing = file.Path();
+            file.Stage(change, text);
         }
         writing = folder_.Exe();
         change.Commit();
@@ -153,23 +125,20 @@ std::optional<PriorDialogue> WorkBuffers::ReadWorkBuffers() const {
         return std::nullopt;
     }
     PriorDialogue prior;
-    const std::array<std::tuple<const char*, std::size_t, std::string*>, 3> texts = {{
-        {InspirationBuffer, MostRunBytes, &prior.Buffers.InspirationText},
-        {DialogueBuffer, MostRuns * MostRunBytes, &prior.Buffers.DialogueText},
-        {SuggestionBuffer, MostRunBytes, &prior.Buffers.SuggestionText},
+    const std::array<std::pair<WorkBuffer, std::string*>, 3> texts = {{
+        {WorkBuffer::Inspiration, &prior.Buffers.InspirationText},
+        {WorkBuffer::Dialogue, &prior.Buffers.DialogueText},
+        {WorkBuffer::Suggestion, &prior.Buffers.SuggestionText},
     }};
     bool whole = true;
-    for (const auto& [name, limit, text] : texts) {
-        const auto path = folder_.Exe() / name;
+    for (const auto& [buffer, text] : texts) {
+        const auto file = DialogueFile::Buffer(folder_, buffer);
         try {
-            *text = ReadWholeFile(path, limit);
-            if (LinesFit(*text)) {
-                continue;
-            }
-            SetAside(path);
+            *text = file.Read();
+            continue;
         } catch (const ProgramError& error) {
             if (error.Number() != ErrorNumber::FileNotFound) {
-                SetAside(path);
+                SetAside(file.Path());
             }
         }
         whole = false;
@@ -178,9 +147,10 @@ std::optional<PriorDialogue> WorkBuffers::ReadWorkBuffers() const {
         return std::nullopt;
     }
     try {
-        const std::string pairCount = ReadCountBuffer(folder_.Exe() / PairCountBuffer);
+        const std::string pairCount =
+            ReadCountBuffer(DialogueFile::Buffer(folder_, WorkBuffer::PairCount));
         prior.Buffers.PairCount = PairCountOf(pairCount, prior.Buffers.DialogueText);
-        const auto written = clock_.FileDate(folder_.Exe() / InspirationBuffer);
+        const auto written = clock_.FileDate(InspirationBufferPath(folder_));
         if (!written) {
             return std::nullopt;
         }
@@ -229,8 +199,9 @@ void WorkBuffers::DeleteWorkBuffers() {
         return;
     }
     FileTransaction change(folder_.Root);
-    for (const char* name : {InspirationBuffer, DialogueBuffer, PairCountBuffer}) {
-        change.Remove(folder_.Exe() / name);
+    for (const auto buffer :
+         {WorkBuffer::Inspiration, WorkBuffer::Dialogue, WorkBuffer::PairCount}) {
+        change.Remove(DialogueFile::Buffer(folder_, buffer).Path());
     }
     try {
         change.Commit();

@@ -1,4 +1,5 @@
 #include "LibraryFixture.h"
+#include "storage/SavedDialogues.h"
 #include "support/FileFaults.h"
 
 namespace veyrant::testing {
@@ -170,6 +171,10 @@ TEST_F(WorkBuffersTest, BuffersBeyondWhatTheProgramWritesAreDamaged) {
         ASSERT_EQ(prior.has_value(), c.Read);
         if (prior) {
             EXPECT_EQ(prior->Buffers.DialogueText, c.Buffers.DialogueText);
+            // Saved, the longest Dialogue reads back whole from the Library.
+            const auto saved =
+                Library.AddToLibrary(c.Buffers.InspirationText, c.Buffers.DialogueText);
+            EXPECT_EQ(ReadSavedDialogue(Folder, saved.value()).Dialogue, c.Buffers.DialogueText);
         }
         // An unusable buffer is set aside under a dated name, never written over, and the box
         // says where.

@@ -8,9 +8,9 @@
 #include "app/FontCheck.h"
 #include "core/ProgramError.h"
 #include "core/Text.h"
-#include "core/WholeFile.h"
 #include "printing/ExportText.h"
 #include "printing/PrintTexts.h"
+#include "storage/DialogueFile.h"
 #include "storage/LibraryFileName.h"
 #include "ui/DialoguePrinter.h"
 #include "ui/QtWindowLayer.h"
@@ -29,7 +29,7 @@ using namespace veyrant;
 PrintRequest ReadSavedDialogue(const std::filesystem::path& dialogueFile) {
     const auto name = dialogueFile.filename().string();
     const auto inspirationFile = dialogueFile.parent_path().parent_path() / "isp" / name;
-    return {ReadWholeFile(inspirationFile), Mid(ReadWholeFile(dialogueFile), 5),
+    return {DialogueFile(inspirationFile).Read(), WithoutLead(DialogueFile(dialogueFile).Read()),
             std::string(PrintTexts::WriteWindowTitle),
             FileDateValue(ParseFileName(name).FileDateText)};
 }
