@@ -174,6 +174,15 @@ TEST(MirrorFinish, APriorDialogueReopensWithItsAge) {
         driver.Clock.FileDates[driver.App.Folder.Exe() / "savei.tmp"] = c.Written;
         driver.mirror->StartWindow();
         EXPECT_EQ(driver.mirror->Controls().Title, c.Title);
+        EXPECT_EQ(driver.State().ActiveMethod, 0);
+        EXPECT_EQ(driver.Text(MirrorControl::cmdNew), "New");
+        EXPECT_EQ(driver.Text(MirrorControl::cmdRemove), "Continue");
+        EXPECT_EQ(driver.Text(MirrorControl::cmdDisplay), "File");
+        EXPECT_EQ(driver.Text(MirrorControl::txtSaved).substr(0, 35),
+                  "Inspiration\r\n\r\n\tAn old inspiration.");
+        EXPECT_EQ(driver.Text(MirrorControl::txtNote),
+                  "Click 'Continue' to open and continue the prior Dialogue. Or click 'New' to "
+                  "erase the Dialogue and begin another.");
         EXPECT_EQ(driver.State().PairCount, 3);
         EXPECT_EQ(driver.State().DisplayFull, 1);
         EXPECT_EQ(driver.Box(MirrorControl::txtSaved).Background, Colour::EntryYellow);

@@ -48,7 +48,6 @@ TEST(MirrorSuppose, AnAcceptedQuestionOpensTheListOfIdeas) {
     MirrorDriver driver;
     OpenList(driver);
     EXPECT_EQ(driver.Text(MirrorControl::txtResponse), "Question\r\n" + Quoted(Question));
-    EXPECT_EQ(driver.Text(MirrorControl::txtMirror), Quoted(Question));
     EXPECT_EQ(Line(driver, "txtMirror"),
               "txtMirror: \"\\t\xE2\x80\x9CWhat could make the mornings easier for the whole "
               "family?\xE2\x80\x9D\" disabled back=Yellow");
@@ -94,7 +93,6 @@ TEST(MirrorSuppose, ThreeIdeasAndSelectPutTheChosenIdeaAndItsVerdictInTheDialogu
         "\tYour idea \x93Get up earlier.\x94 is verdict 1."; // the heaviest of 201, 901, 501
     EXPECT_EQ(driver.State().DialogueText, "\r\n\r\n" + Quoted(Question) + "\r\n" + conclusion);
     EXPECT_EQ(driver.State().PairCount, 1);
-    EXPECT_EQ(driver.Text(MirrorControl::txtResponse), conclusion);
     EXPECT_EQ(Line(driver, "txtResponse"),
               "txtResponse: \"\\tYour idea \xE2\x80\x9CGet up earlier.\xE2\x80\x9D is verdict 1.\" "
               "back=Added");

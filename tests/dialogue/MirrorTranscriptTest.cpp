@@ -15,23 +15,6 @@ void ContinuePrior(MirrorDriver& driver, int pairCount) {
     driver.mirror->Click(MirrorControl::cmdRemove);
 }
 
-TEST(MirrorTranscript, PriorDialogueReopensInTheFullView) {
-    MirrorDriver driver;
-    driver.LeavePriorDialogue(6);
-    driver.mirror->StartWindow();
-    EXPECT_EQ(driver.State().ActiveMethod, 0);
-    EXPECT_EQ(driver.Text(MirrorControl::cmdNew), "New");
-    EXPECT_EQ(driver.Text(MirrorControl::cmdRemove), "Continue");
-    EXPECT_EQ(driver.Text(MirrorControl::cmdDisplay), "File");
-    EXPECT_EQ(driver.mirror->Controls().Title.substr(0, 47),
-              "Veyrant Sagrel -- Dialogue, 2 Pages, 0 Days -- ");
-    EXPECT_EQ(driver.Text(MirrorControl::txtSaved).substr(0, 35),
-              "Inspiration\r\n\r\n\tAn old inspiration.");
-    EXPECT_EQ(driver.Text(MirrorControl::txtNote),
-              "Click 'Continue' to open and continue the prior Dialogue. Or click 'New' to erase "
-              "the Dialogue and begin another.");
-}
-
 TEST(MirrorTranscript, DisplayTellsTheLengthAndWriteRestoresTheState) {
     const std::pair<int, std::string> cases[] = {{1, "less than 1 page"},
                                                  {4, "less than 1 page"},
