@@ -53,10 +53,12 @@ TEST(FieldReader, FailuresCarryTheirNumbers) {
     }
 }
 
-TEST(FieldReader, LimitsOfEachWidthRead) {
-    FieldReader reader("32767,-32768,2147483647,-2147483648");
+// The limits of each width read, and an empty field between commas reads as zero.
+TEST(FieldReader, LimitsOfEachWidthAndEmptyFields) {
+    FieldReader reader("32767,-32768,,2147483647,-2147483648");
     EXPECT_EQ(reader.ReadInt16(), 32767);
     EXPECT_EQ(reader.ReadInt16(), -32768);
+    EXPECT_EQ(reader.ReadInt16(), 0);
     EXPECT_EQ(reader.ReadInt32(), 2147483647);
     EXPECT_EQ(reader.ReadInt32(), INT32_MIN);
     EXPECT_TRUE(reader.AtEnd());
@@ -76,13 +78,6 @@ TEST(FieldReader, StringsQuotedOrBare) {
     EXPECT_EQ(reader.ReadInt16(), 8);
     EXPECT_TRUE(reader.AtEnd());
     EXPECT_THROW(reader.ReadString(), ProgramError);
-}
-
-TEST(FieldReader, EmptyFieldBetweenCommasReadsAsZero) {
-    FieldReader reader("4,,5");
-    EXPECT_EQ(reader.ReadInt16(), 4);
-    EXPECT_EQ(reader.ReadInt16(), 0);
-    EXPECT_EQ(reader.ReadInt16(), 5);
 }
 
 } // namespace

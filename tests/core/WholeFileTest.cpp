@@ -13,29 +13,25 @@ namespace {
 
 using testing::TempFolder;
 
-TEST(WholeFile, BytesComeBackExactlyWithNoLineEndAdded) {
+// Bytes come back exactly with no line end added; a missing file or folder has its number.
+TEST(WholeFile, BytesComeBackExactlyAndMissingPlacesHaveTheirNumbers) {
     TempFolder folder;
     const std::string bytes("\r\n\r\n\t\x93Why?\x94\r\n\tBecause\0tail", 26);
     WriteWholeFile(folder / "savem.tmp", bytes);
     EXPECT_EQ(ReadWholeFile(folder / "savem.tmp"), bytes);
     WriteWholeFile(folder / "savem.tmp", "");
     EXPECT_EQ(ReadWholeFile(folder / "savem.tmp"), "");
-}
-
-TEST(WholeFile, MissingFileAndMissingFolderHaveTheirNumbers) {
-    TempFolder folder;
-    try {
-        ReadWholeFile(folder / "absent");
-        ADD_FAILURE();
-    } catch (const ProgramError& error) {
-        EXPECT_EQ(error.Number(), ErrorNumber::FileNotFound);
-    }
-    try {
-        WriteWholeFile(folder / "absent" / "file", "x");
-        ADD_FAILURE();
-    } catch (const ProgramError& error) {
-        EXPECT_EQ(error.Number(), ErrorNumber::FileNotFound);
-    }
+    const auto numberOf = [](auto call) {
+        try {
+            call();
+        } catch (const ProgramError& error) {
+            return error.Number();
+        }
+        return 0;
+    };
+    EXPECT_EQ(numberOf([&] { ReadWholeFile(folder / "absent"); }), ErrorNumber::FileNotFound);
+    EXPECT_EQ(numberOf([&] { WriteWholeFile(folder / "absent" / "file", "x"); }),
+              ErrorNumber::FileNotFound);
 }
 
 // What stands under a file's name is no file the program wrote: a pipe would wait for a writer

@@ -3,7 +3,6 @@
 #include "dialogue/MirrorDriver.h"
 
 #include <gtest/gtest.h>
-#include <ostream>
 
 namespace veyrant::testing {
 namespace {
@@ -29,6 +28,8 @@ TEST(MirrorCycle, NewDialogueOffersTheMethodsAndTheInspiration) {
               "Veyrant Sagrel 4.1 -- Written Dialogues of Self-Reflection");
 }
 
+// The entry is accepted, "Processing" shows before the reply is composed, the pair is kept, and
+// the next Enter begins a fresh entry below the response.
 TEST(MirrorCycle, ConverseEntryIsAcceptedAnsweredAndKept) {
     MirrorDriver driver;
     driver.StartConverse();
@@ -36,10 +37,14 @@ TEST(MirrorCycle, ConverseEntryIsAcceptedAnsweredAndKept) {
               "Veyrant Sagrel -- Conversation -- Sunday, 12:00 pm, November 22, 2026");
     EXPECT_EQ(driver.Box(MirrorControl::txtResponse).Background, Colour::ColourReady);
     EXPECT_EQ(driver.Text(MirrorControl::cmdNew), "Cancel");
+    std::vector<std::string> painted;
+    driver.mirror->SetPainter([&] { painted.push_back(driver.Text(MirrorControl::txtResponse)); });
 
     driver.Engine.Judgements.push_back({1, 50});
     driver.Converse(Question);
-
+    ASSERT_FALSE(painted.empty());
+    EXPECT_EQ(painted.front(), "Processing . . .");
+    EXPECT_GE(driver.Layer.Yields, 2);
     const std::string entry = Quoted(Question);
     EXPECT_EQ(driver.Text(MirrorControl::txtMirror), entry);
     EXPECT_EQ(driver.Text(MirrorControl::txtResponse), "\tAnswer 1 to type 50.");
@@ -55,22 +60,20 @@ TEST(MirrorCycle, ConverseEntryIsAcceptedAnsweredAndKept) {
     EXPECT_EQ(driver.Text(MirrorControl::txtNote),
               "Text was added into the Dialogue. Click 'Remove' to erase it, before continuing. "
               "Press 'Enter' to continue.");
-    // The entry stands above the response once answered.
+    // The entry stands above the response once answered, and below it for the next one.
     EXPECT_LT(driver.Box(MirrorControl::txtMirror).Top, driver.Box(MirrorControl::txtResponse).Top);
     EXPECT_EQ(driver.Engine.RollPercents, std::vector<int>{25});
     EXPECT_EQ(driver.Engine.CheckedEntries.front(), Prefix + Question);
-}
 
-TEST(MirrorCycle, ProcessingShowsBeforeTheReplyIsComposed) {
-    MirrorDriver driver;
-    driver.StartConverse();
-    std::vector<std::string> painted;
-    driver.mirror->SetPainter([&] { painted.push_back(driver.Text(MirrorControl::txtResponse)); });
-    driver.Converse(Question);
-    ASSERT_FALSE(painted.empty());
-    EXPECT_EQ(painted.front(), "Processing . . .");
-    EXPECT_EQ(driver.Engine.Compositions, 1);
-    EXPECT_GE(driver.Layer.Yields, 2);
+    driver.Enter();
+    EXPECT_EQ(driver.State().AwaitingEnter, 0);
+    EXPECT_EQ(driver.Text(MirrorControl::txtMirror), Prefix);
+    EXPECT_EQ(driver.Text(MirrorControl::txtResponse), driver.State().InspirationView);
+    EXPECT_EQ(driver.Text(MirrorControl::txtNote),
+              "Type your question or statement. Then press 'Enter' for the Sagrel response.");
+    EXPECT_EQ(driver.Text(MirrorControl::cmdRemove), "Edit");
+    EXPECT_FALSE(driver.Box(MirrorControl::cmdRemove).Enabled);
+    EXPECT_GT(driver.Box(MirrorControl::txtMirror).Top, driver.Box(MirrorControl::txtResponse).Top);
 }
 
 TEST(MirrorCycle, ClosingTheWindowKeepsARunningDialogueForNextTime) {
@@ -85,21 +88,6 @@ TEST(MirrorCycle, ClosingTheWindowKeepsARunningDialogueForNextTime) {
     EXPECT_EQ(prior->Buffers.DialogueText, driver.State().DialogueText);
     EXPECT_EQ(prior->Buffers.PairCount, 1);
     EXPECT_FALSE(driver.Box(MirrorControl::txtMirror).Enabled);
-}
-
-TEST(MirrorCycle, NextEnterBeginsAFreshEntryBelowTheResponse) {
-    MirrorDriver driver;
-    driver.StartConverse();
-    driver.Converse(Question);
-    driver.Enter();
-    EXPECT_EQ(driver.State().AwaitingEnter, 0);
-    EXPECT_EQ(driver.Text(MirrorControl::txtMirror), Prefix);
-    EXPECT_EQ(driver.Text(MirrorControl::txtResponse), driver.State().InspirationView);
-    EXPECT_EQ(driver.Text(MirrorControl::txtNote),
-              "Type your question or statement. Then press 'Enter' for the Sagrel response.");
-    EXPECT_EQ(driver.Text(MirrorControl::cmdRemove), "Edit");
-    EXPECT_FALSE(driver.Box(MirrorControl::cmdRemove).Enabled);
-    EXPECT_GT(driver.Box(MirrorControl::txtMirror).Top, driver.Box(MirrorControl::txtResponse).Top);
 }
 
 TEST(MirrorCycle, RemarkStaysOutUntilKeptAndKeepRemoveRestoreTheTextExactly) {
@@ -172,108 +160,89 @@ TEST(MirrorCycle, RemovedPairsStillBringTheNotice) {
               "turned inward.");
 }
 
-struct Rejection {
-    int Status;
-    int Method;
-    std::string Message;
-    std::string Instruction;
-    int AwaitingEnter;
-};
-
-void PrintTo(const Rejection& c, std::ostream* out) {
-    *out << "status " << c.Status << " method " << c.Method;
-}
-
-class MirrorRejection : public ::testing::TestWithParam<Rejection> {};
-
-TEST_P(MirrorRejection, ShowsItsMessageAndInstruction) {
-    const auto& rejection = GetParam();
-    MirrorDriver driver;
-    driver.mirror->StartWindow();
-    driver.mirror->Click(rejection.Method == 2 ? MirrorControl::cmdSuppose
-                                               : MirrorControl::cmdConverse);
-    driver.Engine.Judgements.push_back({rejection.Status, rejection.Status == -100 ? 1 : 2});
-    driver.Type(Question);
-    driver.Enter();
-    EXPECT_EQ(driver.Text(MirrorControl::txtResponse), rejection.Message);
-    EXPECT_EQ(driver.Box(MirrorControl::txtResponse).Background, Colour::ColourError);
-    EXPECT_EQ(driver.Text(MirrorControl::txtNote), rejection.Instruction);
-    EXPECT_EQ(driver.State().AwaitingEnter, rejection.AwaitingEnter);
-    EXPECT_EQ(driver.State().EntryFailed, 1);
-    EXPECT_EQ(driver.State().CycleCount, 0);
-    EXPECT_EQ(driver.State().PairCount, 0);
-    EXPECT_FALSE(driver.Box(MirrorControl::cmdRemove).Enabled);
-    // A refused entry keeps its text; the caret leaves it only when the entry must begin again.
-    EXPECT_EQ(driver.Text(MirrorControl::txtMirror), Prefix + Question);
-    EXPECT_EQ(driver.Box(MirrorControl::txtMirror).Caret == 0, rejection.AwaitingEnter == 1);
-}
-
-const std::string StartAgain = "Press 'Enter' to start again.";
-
-INSTANTIATE_TEST_SUITE_P(
-    Statuses, MirrorRejection,
-    ::testing::Values(
-        Rejection{-1, 1,
+// Each refusal shows its message and instruction; the entry keeps its text and the caret
+// leaves it only when the entry must begin again.
+TEST(MirrorCycle, ARejectionShowsItsMessageAndInstruction) {
+    const std::string startAgain = "Press 'Enter' to start again.";
+    const struct {
+        int Status, Method;
+        std::string Message, Instruction;
+        int AwaitingEnter;
+    } cases[] = {{-1, 1,
                   ">> Do not add a quotation mark at the end of your entry. That is done for you "
                   "automatically. Backspace out the quote, then press 'Enter' to continue.",
                   "Backspace out the quote, then press 'Enter' to continue.", 0},
-        Rejection{0, 1,
+                 {0, 1,
                   ">> Your entry is not punctuated. Add your period or question mark, then press "
                   "'Enter'.",
                   "Enter your punctuation, then press 'Enter' to continue.", 0},
-        Rejection{-2, 1,
+                 {-2, 1,
                   ">> Insufficient number of words. Add more content to your entry. Press 'Enter' "
                   "to start again.",
-                  StartAgain, 1},
-        Rejection{-3, 1,
+                  startAgain, 1},
+                 {-3, 1,
                   ">> Insufficient number of meaningful words. Add complexity to your entry. "
                   "Press 'Enter' to start again.",
-                  StartAgain, 1},
-        Rejection{-10, 1,
+                  startAgain, 1},
+                 {-10, 1,
                   ">> The syntax of your entry is not clear. Use simple, properly-spelled "
                   "language that asks a question or makes a statement. Press 'Enter' to start "
                   "again.",
-                  StartAgain, 1},
-        Rejection{-10, 2,
+                  startAgain, 1},
+                 {-10, 2,
                   ">> The syntax of your entry is not clear. Use simple, properly-spelled "
                   "language that asks a Supposition-type question. Press 'Enter' to start again.",
-                  StartAgain, 1},
-        Rejection{-11, 1,
+                  startAgain, 1},
+                 {-11, 1,
                   ">> The subject of your entry is not clear. Keep it simple. Avoid unnecessary "
                   "language. Break up complex sentences with a comma. Press 'Enter' to start "
                   "again.",
-                  StartAgain, 1},
-        Rejection{-12, 2,
+                  startAgain, 1},
+                 {-12, 2,
                   ">> The point of your entry is not clear. Ask a direct Supposition-type "
                   "question. Use commas to separate phrases. Press 'Enter' to start again.",
-                  StartAgain, 1},
-        Rejection{-13, 1,
+                  startAgain, 1},
+                 {-13, 1,
                   ">> The meaning of your entry is not clear. Ask a direct question or make a "
                   "simple statement. Break up complex sentences with a comma. Press 'Enter' to "
                   "start again.",
-                  StartAgain, 1},
-        Rejection{-14, 1,
+                  startAgain, 1},
+                 {-14, 1,
                   ">> The meaning of your entry cannot be deciphered. Ask a direct question or "
                   "make a simple statement. Break up complex sentences with a comma. Press "
                   "'Enter' to start again.",
-                  StartAgain, 1},
-        Rejection{2, 2,
+                  startAgain, 1},
+                 {2, 2,
                   ">> Statements are not valid for Supposition. Press 'Enter' to start again.",
-                  StartAgain, 1},
-        Rejection{-100, 2,
+                  startAgain, 1},
+                 {-100, 2,
                   ">> Questions asking for a yes-no-type answer are not valid for Supposition. "
                   "Press 'Enter' to start again.",
-                  StartAgain, 1}));
-
-TEST(MirrorCycle, EnterAfterARejectionBeginsTheEntryAgain) {
-    MirrorDriver driver;
-    driver.StartConverse();
-    driver.Engine.Judgements.push_back({-2, 2});
-    driver.Converse(Question);
-    driver.Enter();
-    EXPECT_EQ(driver.Text(MirrorControl::txtMirror), Prefix);
-    EXPECT_EQ(driver.State().EntryFailed, 0);
-    EXPECT_EQ(driver.Box(MirrorControl::txtResponse).Background, Colour::ColourReady);
+                  startAgain, 1}};
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.Message);
+        MirrorDriver driver;
+        driver.mirror->StartWindow();
+        driver.mirror->Click(c.Method == 2 ? MirrorControl::cmdSuppose
+                                           : MirrorControl::cmdConverse);
+        driver.Engine.Judgements.push_back({c.Status, c.Status == -100 ? 1 : 2});
+        driver.Converse(Question);
+        EXPECT_EQ(driver.Text(MirrorControl::txtResponse), c.Message);
+        EXPECT_EQ(driver.Box(MirrorControl::txtResponse).Background, Colour::ColourError);
+        EXPECT_EQ(driver.Text(MirrorControl::txtNote), c.Instruction);
+        EXPECT_EQ(driver.State().AwaitingEnter, c.AwaitingEnter);
+        EXPECT_EQ(driver.State().EntryFailed, 1);
+        EXPECT_EQ(driver.State().CycleCount + driver.State().PairCount, 0);
+        EXPECT_FALSE(driver.Box(MirrorControl::cmdRemove).Enabled);
+        EXPECT_EQ(driver.Text(MirrorControl::txtMirror), Prefix + Question);
+        EXPECT_EQ(driver.Box(MirrorControl::txtMirror).Caret == 0, c.AwaitingEnter == 1);
+        if (c.AwaitingEnter == 1) { // the next Enter begins the entry again
+            driver.Enter();
+            EXPECT_EQ(driver.Text(MirrorControl::txtMirror), Prefix);
+            EXPECT_EQ(driver.State().EntryFailed, 0);
+            EXPECT_EQ(driver.Box(MirrorControl::txtResponse).Background, Colour::ColourReady);
+        }
+    }
 }
 
 TEST(MirrorCycle, TooShortAndTooLongAreJudgedBeforeTheParser) {
@@ -376,35 +345,6 @@ TEST(MirrorCycle, CancelInAnEmptyConverseReturnsToNewDialogue) {
     EXPECT_EQ(driver.State().ActiveMethod, 0);
     EXPECT_EQ(driver.mirror->Controls().Title, "Veyrant Sagrel -- New Dialogue");
     EXPECT_EQ(driver.Engine.Inspirations, 2);
-}
-
-TEST(MirrorCycle, FinishShowsTheWholeDialogueAndWritesTheBuffers) {
-    MirrorDriver driver;
-    driver.StartConverse();
-    driver.Converse(Question);
-    driver.mirror->Click(MirrorControl::cmdNew);
-    EXPECT_EQ(driver.State().ActiveMethod, 0);
-    EXPECT_EQ(driver.Text(MirrorControl::cmdNew), "New");
-    EXPECT_EQ(driver.Text(MirrorControl::cmdRemove), "Continue");
-    EXPECT_EQ(driver.Text(MirrorControl::cmdDisplay), "File");
-    const auto buffers = driver.Buffers.ReadWorkBuffers();
-    ASSERT_TRUE(buffers.has_value());
-    EXPECT_EQ(buffers->Buffers.DialogueText, driver.State().DialogueText);
-    EXPECT_EQ(driver.Text(MirrorControl::txtSaved),
-              "Inspiration\r\n\r\n\tInspiration number 1.\r\n\r\nDialogue" +
-                  driver.State().DialogueText);
-
-    // A finished Dialogue takes no keys and refuses the method buttons with a help box.
-    driver.Type("more");
-    EXPECT_EQ(driver.Engine.KeyCodes.size(), std::string(Question).size());
-    driver.mirror->Click(MirrorControl::cmdConverse);
-    ASSERT_EQ(driver.Layer.Boxes.size(), 1u);
-    EXPECT_EQ(driver.Layer.Boxes[0].Title, "Veyrant Sagrel Help");
-
-    driver.mirror->Click(MirrorControl::cmdRemove);
-    EXPECT_EQ(driver.State().ActiveMethod, 1);
-    EXPECT_EQ(driver.Text(MirrorControl::cmdNew), "Finish");
-    EXPECT_EQ(driver.State().PairCount, 1);
 }
 
 } // namespace

@@ -2,7 +2,6 @@
 #include "dialogue/MirrorTexts.h"
 
 #include <gtest/gtest.h>
-#include <ostream>
 
 namespace veyrant::testing {
 namespace {
@@ -39,12 +38,7 @@ TEST(MirrorHelp, HelpShowsAfterATickAndEndsByItselfAfterSeven) {
     EXPECT_EQ(driver.Box(MirrorControl::cmdNew).Ink, Colour::HoverInk);
     driver.mirror->MouseMove(MirrorControl::txtSaved);
     EXPECT_EQ(driver.Box(MirrorControl::cmdNew).Ink, Colour::Black);
-}
-
-TEST(MirrorHelp, MovingToTheEntryBoxBringsTheInstructionBackAtOnce) {
-    MirrorDriver driver;
-    driver.StartConverse();
-    const std::string instruction = driver.Text(MirrorControl::txtNote);
+    // Moving to the entry box brings the instruction back at once.
     HelpAfterRest(driver, MirrorControl::cmdNew);
     driver.mirror->MouseMove(MirrorControl::txtMirror);
     EXPECT_EQ(driver.Text(MirrorControl::txtNote), instruction);
@@ -125,62 +119,44 @@ TEST(MirrorHelp, TheInstructionBoxNamesTheFunctionKeys) {
               "F10=Edit F11=Display");
 }
 
-struct Arrival {
-    MirrorControl Control;
-    std::string Help;
-};
-
-void PrintTo(const Arrival& c, std::ostream* out) {
-    *out << c.Help.substr(0, 20);
-}
-
-class MirrorHoverArrival : public ::testing::TestWithParam<Arrival> {};
-
 // The help shows 1.25 seconds after the mouse arrives, however it moves on the control.
-TEST_P(MirrorHoverArrival, TheCountStartsWhenTheMouseArrives) {
-    const auto& arrival = GetParam();
-    MirrorDriver driver;
-    driver.StartConverse();
-    auto& starts = driver.Layer.TimerStarts[TimerId::MirrorHover];
-    const int before = starts;
-    for (int move = 0; move < 3; ++move) {
-        driver.mirror->MouseMove(arrival.Control);
+TEST(MirrorHelp, TheCountStartsWhenTheMouseArrives) {
+    const std::pair<MirrorControl, std::string> cases[] = {
+        {MirrorControl::txtResponse, std::string(MirrorText::TipDirection)},
+        {MirrorControl::txtNote, std::string(MirrorText::TipKeys)},
+        {MirrorControl::cmdNew, "Cancel your interaction and return to New Dialogue."}};
+    for (const auto& [control, help] : cases) {
+        MirrorDriver driver;
+        driver.StartConverse();
+        auto& starts = driver.Layer.TimerStarts[TimerId::MirrorHover];
+        const int before = starts;
+        for (int move = 0; move < 3; ++move) {
+            driver.mirror->MouseMove(control);
+        }
+        EXPECT_EQ(starts - before, 1);
+        driver.mirror->TimerFired(TimerId::MirrorHover);
+        EXPECT_EQ(driver.Text(MirrorControl::txtNote), help);
+        // Leaving and coming back is another arrival.
+        driver.mirror->MouseMove(MirrorControl::txtMirror);
+        driver.mirror->MouseMove(control);
+        EXPECT_EQ(starts - before, 2);
     }
-    EXPECT_EQ(starts - before, 1);
-    driver.mirror->TimerFired(TimerId::MirrorHover);
-    EXPECT_EQ(driver.Text(MirrorControl::txtNote), arrival.Help);
-    // Leaving and coming back is another arrival.
-    driver.mirror->MouseMove(MirrorControl::txtMirror);
-    driver.mirror->MouseMove(arrival.Control);
-    EXPECT_EQ(starts - before, 2);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Controls, MirrorHoverArrival,
-    ::testing::Values(Arrival{MirrorControl::txtResponse, std::string(MirrorText::TipDirection)},
-                      Arrival{MirrorControl::txtNote, std::string(MirrorText::TipKeys)},
-                      Arrival{MirrorControl::cmdNew,
-                              "Cancel your interaction and return to New Dialogue."}));
-
-class MirrorRetrieveHelp : public ::testing::TestWithParam<std::pair<int, std::string>> {};
-
-TEST_P(MirrorRetrieveHelp, CountsTheSavedDialogues) {
-    const auto& [saved, help] = GetParam();
-    MirrorDriver driver;
-    for (int dialogue = 0; dialogue < saved; ++dialogue) {
-        driver.Clock.Date.Minute = dialogue; // one file name per minute
-        ASSERT_TRUE(driver.Library.AddToLibrary("\tInspiration.", "\r\n\r\n\tA comment."));
+TEST(MirrorHelp, TheLibraryButtonCountsTheSavedDialogues) {
+    for (const int saved : {1, 3}) {
+        MirrorDriver driver;
+        for (int dialogue = 0; dialogue < saved; ++dialogue) {
+            driver.Clock.Date.Minute = dialogue; // one file name per minute
+            ASSERT_TRUE(driver.Library.AddToLibrary("\tInspiration.", "\r\n\r\n\tA comment."));
+        }
+        driver.mirror->StartWindow();
+        EXPECT_EQ(HelpAfterRest(driver, MirrorControl::cmdRetrieve),
+                  "Open the Dialogue Library to access your " + std::to_string(saved) +
+                      (saved == 1 ? " saved Dialogue." : " saved Dialogues.") +
+                      " Right-click for Library Options.");
     }
-    driver.mirror->StartWindow();
-    EXPECT_EQ(HelpAfterRest(driver, MirrorControl::cmdRetrieve), help);
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Saved, MirrorRetrieveHelp,
-    ::testing::Values(std::pair{1, std::string("Open the Dialogue Library to access your 1 saved "
-                                               "Dialogue. Right-click for Library Options.")},
-                      std::pair{3, std::string("Open the Dialogue Library to access your 3 saved "
-                                               "Dialogues. Right-click for Library Options.")}));
 
 // A comment on show has already handed the window to Converse, so the button speaks of pairs.
 TEST(MirrorHelp, RemoveAndKeepOfACommentSpeakOfThePair) {

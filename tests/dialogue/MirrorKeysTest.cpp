@@ -3,76 +3,58 @@
 #include "dialogue/MirrorDriver.h"
 
 #include <gtest/gtest.h>
-#include <ostream>
 
 namespace veyrant::testing {
 namespace {
 
 const std::string Prefix{Tab, OpenQuote};
 
-struct CountCase {
-    int Method; // 1 Converse, 4 Comment
-    int Typed;  // characters typed
-    bool Mark;  // lblRem visible
-    std::string MarkText;
-    Colour Ink;
-    int EntryFit;
-};
-
-void PrintTo(const CountCase& c, std::ostream* out) {
-    *out << "method " << c.Method << ", " << c.Typed << " typed";
-}
-
-class MirrorCount : public ::testing::TestWithParam<CountCase> {};
-
 // The count lags one key behind the text: it is taken before the key lands.
-TEST_P(MirrorCount, MarkAndInstructionFollowTheLaggingCount) {
-    const auto& c = GetParam();
-    MirrorDriver driver;
-    driver.mirror->StartWindow();
-    driver.mirror->Click(c.Method == 4 ? MirrorControl::cmdNotate : MirrorControl::cmdConverse);
-    driver.Type(std::string(static_cast<std::size_t>(c.Typed), 'a'));
-    EXPECT_EQ(driver.Box(MirrorControl::lblRem).Visible, c.Mark);
-    if (c.Mark) {
-        EXPECT_EQ(driver.Text(MirrorControl::lblRem), c.MarkText);
+TEST(MirrorKeys, MarkAndInstructionFollowTheLaggingCount) {
+    const struct {
+        int Method; // 1 Converse, 4 Comment
+        int Typed;
+        const char* Mark; // lblRem, nullptr when hidden
+        Colour Ink;
+        int EntryFit;
+        std::string Note = {}; // the instruction, when the row checks it
+    } cases[] = {
+        {1, 1, "X", Colour::InkWarn, -1,
+         "Type to reach the minimum number of words. Then press 'Enter' when your question or "
+         "statement is ready."},
+        {1, 18, "X", Colour::InkWarn, -1},
+        {1, 19, nullptr, Colour::Black, 0,
+         "Ready to enter your question or statement. Continue typing, or press 'Enter' to advance "
+         "the cycle of conversation."},
+        {1, 91, nullptr, Colour::Black, 0},
+        {1, 92, "8", Colour::InkNear, 0,
+         "Limit on word count is near. There is space for about 8 more words. Press 'Enter' when "
+         "ready."},
+        {1, 135, "1", Colour::InkNear, 0},
+        {1, 142, "X", Colour::InkOver, 1,
+         "Over the maximum text limit. Delete words until this display status changes. Or click "
+         "'Rewrite' to erase the text."},
+        {4, 5, "X", Colour::InkWarn, -1},
+        {4, 6, nullptr, Colour::Black, 0},
+        {4, 201, nullptr, Colour::Black, 0},
+        {4, 202, "13", Colour::InkNear, 0},
+        {4, 282, "X", Colour::InkOver, 1}};
+    for (const auto& c : cases) {
+        SCOPED_TRACE(std::to_string(c.Method) + ", " + std::to_string(c.Typed) + " typed");
+        MirrorDriver driver;
+        driver.mirror->StartWindow();
+        driver.mirror->Click(c.Method == 4 ? MirrorControl::cmdNotate : MirrorControl::cmdConverse);
+        driver.Type(std::string(static_cast<std::size_t>(c.Typed), 'a'));
+        EXPECT_EQ(driver.Box(MirrorControl::lblRem).Visible, c.Mark != nullptr);
+        if (c.Mark != nullptr) {
+            EXPECT_EQ(driver.Text(MirrorControl::lblRem), c.Mark);
+        }
+        EXPECT_EQ(driver.Box(MirrorControl::txtNote).Ink, c.Ink);
+        EXPECT_EQ(driver.State().EntryFit, c.EntryFit);
+        if (!c.Note.empty()) {
+            EXPECT_EQ(driver.Text(MirrorControl::txtNote), c.Note);
+        }
     }
-    EXPECT_EQ(driver.Box(MirrorControl::txtNote).Ink, c.Ink);
-    EXPECT_EQ(driver.State().EntryFit, c.EntryFit);
-}
-
-INSTANTIATE_TEST_SUITE_P(Thresholds, MirrorCount,
-                         ::testing::Values(CountCase{1, 1, true, "X", Colour::InkWarn, -1},
-                                           CountCase{1, 18, true, "X", Colour::InkWarn, -1},
-                                           CountCase{1, 19, false, "", Colour::Black, 0},
-                                           CountCase{1, 91, false, "", Colour::Black, 0},
-                                           CountCase{1, 92, true, "8", Colour::InkNear, 0},
-                                           CountCase{1, 135, true, "1", Colour::InkNear, 0},
-                                           CountCase{1, 142, true, "X", Colour::InkOver, 1},
-                                           CountCase{4, 5, true, "X", Colour::InkWarn, -1},
-                                           CountCase{4, 6, false, "", Colour::Black, 0},
-                                           CountCase{4, 201, false, "", Colour::Black, 0},
-                                           CountCase{4, 202, true, "13", Colour::InkNear, 0},
-                                           CountCase{4, 282, true, "X", Colour::InkOver, 1}));
-
-TEST(MirrorKeys, InstructionsOfTheCountByMethod) {
-    MirrorDriver driver;
-    driver.StartConverse();
-    driver.Type("a");
-    EXPECT_EQ(driver.Text(MirrorControl::txtNote),
-              "Type to reach the minimum number of words. Then press 'Enter' when your question "
-              "or statement is ready.");
-    driver.Type(std::string(18, 'a'));
-    EXPECT_EQ(driver.Text(MirrorControl::txtNote),
-              "Ready to enter your question or statement. Continue typing, or press 'Enter' to "
-              "advance the cycle of conversation.");
-    driver.Type(std::string(73, 'a'));
-    EXPECT_EQ(driver.Text(MirrorControl::txtNote),
-              "Limit on word count is near. There is space for about 8 more words. Press 'Enter' "
-              "when ready.");
-    driver.Type(std::string(50, 'a'));
-    EXPECT_EQ(driver.Text(MirrorControl::txtNote),
-              "Over the maximum text limit. Delete words until this display status changes. Or "
-              "click 'Rewrite' to erase the text.");
 }
 
 TEST(MirrorKeys, OverTheLimitOnlyBackspaceWorks) {
@@ -125,11 +107,7 @@ TEST(MirrorKeys, ProtectedHeadAndCaretMoves) {
     EXPECT_EQ(driver.Box(MirrorControl::txtMirror).Caret, 12);
     driver.Type("\t");
     EXPECT_EQ(driver.Text(MirrorControl::txtMirror), Prefix + "abcdefghij");
-}
-
-TEST(MirrorKeys, ControlKeyIsRefusedWithABox) {
-    MirrorDriver driver;
-    driver.StartConverse();
+    // The control key is refused with a box.
     driver.Press(KeyCode::Control);
     ASSERT_EQ(driver.Layer.Boxes.size(), 1u);
     EXPECT_EQ(driver.Layer.Boxes[0].Title, "Invalid Key");

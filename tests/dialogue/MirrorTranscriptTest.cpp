@@ -2,7 +2,6 @@
 #include "dialogue/Transcript.h"
 
 #include <gtest/gtest.h>
-#include <ostream>
 
 namespace veyrant::testing {
 namespace {
@@ -16,64 +15,34 @@ void ContinuePrior(MirrorDriver& driver, int pairCount) {
     driver.mirror->Click(MirrorControl::cmdRemove);
 }
 
-TEST(MirrorTranscript, PriorDialogueReopensInTheFullView) {
-    MirrorDriver driver;
-    driver.LeavePriorDialogue(6);
-    driver.mirror->StartWindow();
-    EXPECT_EQ(driver.State().ActiveMethod, 0);
-    EXPECT_EQ(driver.Text(MirrorControl::cmdNew), "New");
-    EXPECT_EQ(driver.Text(MirrorControl::cmdRemove), "Continue");
-    EXPECT_EQ(driver.Text(MirrorControl::cmdDisplay), "File");
-    EXPECT_EQ(driver.mirror->Controls().Title.substr(0, 47),
-              "Veyrant Sagrel -- Dialogue, 2 Pages, 0 Days -- ");
-    EXPECT_EQ(driver.Text(MirrorControl::txtSaved).substr(0, 35),
-              "Inspiration\r\n\r\n\tAn old inspiration.");
-    EXPECT_EQ(driver.Text(MirrorControl::txtNote),
-              "Click 'Continue' to open and continue the prior Dialogue. Or click 'New' to erase "
-              "the Dialogue and begin another.");
+TEST(MirrorTranscript, DisplayTellsTheLengthAndWriteRestoresTheState) {
+    const std::pair<int, std::string> cases[] = {{1, "less than 1 page"},
+                                                 {4, "less than 1 page"},
+                                                 {5, "about 1 page"},
+                                                 {6, "about 2 pages"},
+                                                 {14, "about 3 pages"}};
+    for (const auto& [pairCount, length] : cases) {
+        MirrorDriver driver;
+        ContinuePrior(driver, pairCount);
+        driver.Type("half an entry");
+        const std::string before = driver.mirror->Dump();
+
+        driver.mirror->Click(MirrorControl::cmdDisplay);
+        EXPECT_EQ(driver.Text(MirrorControl::cmdDisplay), "Write");
+        EXPECT_EQ(driver.Text(MirrorControl::txtNote),
+                  "Your Dialogue is " + length +
+                      " long. Click 'Write' or the Dialogue text to restore the display to the "
+                      "interactive mode.");
+        EXPECT_FALSE(driver.Box(MirrorControl::cmdNew).Enabled);
+        EXPECT_FALSE(driver.Box(MirrorControl::lblRem).Visible);
+        EXPECT_EQ(driver.Box(MirrorControl::txtSaved).Background, Colour::EntryYellow);
+        EXPECT_EQ(driver.Text(MirrorControl::txtSaved).substr(0, 13), "Inspiration\r\n");
+        // Keys are not typed into the hidden entry while the full view is up.
+        driver.Type("zz");
+        driver.mirror->Click(MirrorControl::txtSaved);
+        EXPECT_EQ(driver.mirror->Dump(), before);
+    }
 }
-
-struct PageCase {
-    int PairCount;
-    std::string Phrase;
-};
-
-void PrintTo(const PageCase& c, std::ostream* out) {
-    *out << c.PairCount << " items";
-}
-
-class MirrorFullView : public ::testing::TestWithParam<PageCase> {};
-
-TEST_P(MirrorFullView, DisplayTellsTheLengthAndWriteRestoresTheState) {
-    const auto& c = GetParam();
-    MirrorDriver driver;
-    ContinuePrior(driver, c.PairCount);
-    driver.Type("half an entry");
-    const std::string before = driver.mirror->Dump();
-
-    driver.mirror->Click(MirrorControl::cmdDisplay);
-    EXPECT_EQ(driver.Text(MirrorControl::cmdDisplay), "Write");
-    EXPECT_EQ(driver.Text(MirrorControl::txtNote),
-              c.Phrase + "Click 'Write' or the Dialogue text to restore the display to the "
-                         "interactive mode.");
-    EXPECT_FALSE(driver.Box(MirrorControl::cmdNew).Enabled);
-    EXPECT_FALSE(driver.Box(MirrorControl::lblRem).Visible);
-    EXPECT_EQ(driver.Box(MirrorControl::txtSaved).Background, Colour::EntryYellow);
-    EXPECT_EQ(driver.Text(MirrorControl::txtSaved).substr(0, 13), "Inspiration\r\n");
-    // Keys are not typed into the hidden entry while the full view is up.
-    driver.Type("zz");
-    EXPECT_EQ(driver.Text(MirrorControl::txtMirror).find("zz"), std::string::npos);
-
-    driver.mirror->Click(MirrorControl::txtSaved);
-    EXPECT_EQ(driver.mirror->Dump(), before);
-}
-
-INSTANTIATE_TEST_SUITE_P(Pages, MirrorFullView,
-                         ::testing::Values(PageCase{1, "Your Dialogue is less than 1 page long. "},
-                                           PageCase{4, "Your Dialogue is less than 1 page long. "},
-                                           PageCase{5, "Your Dialogue is about 1 page long. "},
-                                           PageCase{6, "Your Dialogue is about 2 pages long. "},
-                                           PageCase{14, "Your Dialogue is about 3 pages long. "}));
 
 TEST(MirrorTranscript, PagesOfTheTitle) {
     EXPECT_EQ(PagesTitle(4), "Dialogue, 1 Page");
@@ -159,22 +128,6 @@ TEST(MirrorTranscript, ClickOnTheNewDialoguePanelDrawsAnotherSuggestion) {
     EXPECT_EQ(driver.Text(MirrorControl::txtSaved).substr(0, 12), "Suggestion 2");
     driver.mirror->Click(MirrorControl::txtResponse);
     EXPECT_EQ(driver.Text(MirrorControl::txtResponse), "Inspiration\r\n\tInspiration number 2.");
-}
-
-TEST(MirrorTranscript, NewAsksBeforeErasingAnUnsavedDialogue) {
-    MirrorDriver driver;
-    driver.StartConverse();
-    driver.Converse(Entry);
-    driver.mirror->Click(MirrorControl::cmdNew); // Finish
-    driver.Layer.Answers.push_back(MessageAnswer::Cancel);
-    driver.mirror->Click(MirrorControl::cmdNew);
-    EXPECT_EQ(driver.Layer.Boxes.back().Title, "Save Finished Dialogue");
-    EXPECT_EQ(driver.State().PairCount, 1);
-    driver.Layer.Answers.push_back(MessageAnswer::No);
-    driver.mirror->Click(MirrorControl::cmdNew);
-    EXPECT_EQ(driver.State().PairCount, 0);
-    EXPECT_FALSE(driver.Buffers.ReadWorkBuffers().has_value());
-    EXPECT_EQ(driver.mirror->Controls().Title, "Veyrant Sagrel -- New Dialogue");
 }
 
 } // namespace

@@ -65,92 +65,67 @@ TEST(ContentCompiler, WritesTheEngineFilesOfTheSmallContent) {
     EXPECT_EQ(plans.TrueCombos("Section", 1), tables.SectionCombos[1]);
 }
 
-struct RefusalCase {
-    const char* Name;
-    std::string Stock1;
-    std::string Plans;
-    std::string Suggestions;
-    std::string Message;
-};
-
-// ctest lists a case by what this prints.
-void PrintTo(const RefusalCase& c, std::ostream* out) {
-    *out << c.Name;
-}
-
-class ContentRefusals : public ::testing::TestWithParam<RefusalCase> {};
-
-TEST_P(ContentRefusals, NameFileAndLine) {
-    const RefusalCase& c = GetParam();
-    try {
-        Compile(c.Stock1, c.Plans, c.Suggestions);
-        FAIL() << "accepted";
-    } catch (const ContentError& error) {
-        EXPECT_EQ(std::string(error.what()).substr(0, c.Message.size()), c.Message);
+// Each refusal names its file and line.
+TEST(ContentCompiler, RefusalsNameFileAndLine) {
+    struct Case {
+        std::string Stock1, Plans, Message;
+        std::string Suggestions = "= Heading\nA short text.\n";
+    };
+    const Case cases[] = {
+        {SmallStock1 + "of course\n", SmallPlans(),
+         "01.txt:11: a row must begin with a capital letter"},
+        {SmallStock1 + "Of course.\n", SmallPlans(), "01.txt:11: a row may not end in punctuation"},
+        {SmallStock1 + "Of  course\n", SmallPlans(), "01.txt:11: a row may not hold two blanks"},
+        {Replaced(SmallStock1, "[.]\n.\n", "[.]\n"), SmallPlans(),
+         "01.txt:5: the group . has no rows"},
+        {SmallStock1 + "Of course \xE2\x98\x83\n", SmallPlans(),
+         "01.txt:11: a character at byte 11 has no Windows-1252 code"},
+        {SmallStock1 + "[No]\nNo\n", SmallPlans(), "01.txt:11: the group No belongs in stock 2"},
+        {SmallStock1 + "[Sure]\nSure\n", SmallPlans(),
+         "01.txt:11: the group Sure belongs before Yes"},
+        {SmallStock1 + "[Yes]\nYes\n", SmallPlans(),
+         "01.txt:11: the label Yes is used by another group"},
+        {SmallStock1, Replaced(SmallPlans(), "Yes | Maybe", "Yes | No"),
+         "plans.txt:6: unknown label No"},
+        {SmallStock1, Replaced(SmallPlans(), "2: Verdict | -", "2: Verdict | Verdit"),
+         "plans.txt:11: unknown section Verdit"},
+        {SmallStock1, Replaced(SmallPlans(), "2: .", "2:"), "plans.txt:7: slot 2 has no choice"},
+        {SmallStock1, Replaced(SmallPlans(), "Yes | Maybe", "Yes | "),
+         "plans.txt:6: a slot has a choice with nothing in it"},
+        {SmallStock1,
+         Replaced(SmallPlans(), "2: .\n",
+                  [] {
+                      std::string slot = "2: .";
+                      for (int i = 0; i < 250; ++i) {
+                          slot += "\n| .";
+                      }
+                      return slot + "\n";
+                  }()),
+         "plans.txt:7: slot 2 holds 251 choices, more than 250"},
+        {SmallStock1, Replaced(SmallPlans(), "CaseKeepers , .", "CaseKeepers . ,"),
+         "plans.txt:3: the first of the CaseKeepers must be the comma"},
+        {SmallStock1, Replaced(SmallPlans(), "MaxComponents 4", "MaxComponents 3"),
+         "plans.txt:8: message 1 can hold 4 components, more than MaxComponents 3"},
+        {SmallStock1, Replaced(SmallPlans(), "MaxSections 2", "MaxSections 1"),
+         "plans.txt:8: message 1 can hold 2 sections, more than MaxSections 1"},
+        {SmallStock1, Replaced(SmallPlans(), "message 16 Other", "message 1 Other"),
+         "plans.txt:54: message 1 has a second plan"},
+        {SmallStock1, Replaced(SmallPlans(), "message 16 Other\nblock\n1: Verdict\n", ""),
+         "data/plans:0: message 16 has no plan"},
+        {SmallStock1, Replaced(SmallPlans(), "2: .", "1: ."),
+         "plans.txt:7: slots of a block stand in order 1 to 6"},
+        {SmallStock1, SmallPlans(),
+         "suggestions.txt:1: the Suggestion \"Heading\" is longer than 209",
+         "= Heading\n" + std::string(200, 'x') + "\n"}};
+    for (const Case& c : cases) {
+        try {
+            Compile(c.Stock1, c.Plans, c.Suggestions);
+            ADD_FAILURE() << "accepted: " << c.Message;
+        } catch (const ContentError& error) {
+            EXPECT_EQ(std::string(error.what()).substr(0, c.Message.size()), c.Message);
+        }
     }
 }
-
-const std::string Ok = "= Heading\nA short text.\n";
-
-INSTANTIATE_TEST_SUITE_P(
-    Faults, ContentRefusals,
-    ::testing::Values(
-        RefusalCase{"LowerCaseRow", SmallStock1 + "of course\n", SmallPlans(), Ok,
-                    "01.txt:11: a row must begin with a capital letter"},
-        RefusalCase{"RowEndsInPunctuation", SmallStock1 + "Of course.\n", SmallPlans(), Ok,
-                    "01.txt:11: a row may not end in punctuation"},
-        RefusalCase{"TwoBlanks", SmallStock1 + "Of  course\n", SmallPlans(), Ok,
-                    "01.txt:11: a row may not hold two blanks"},
-        RefusalCase{"GroupWithoutRows", Replaced(SmallStock1, "[.]\n.\n", "[.]\n"), SmallPlans(),
-                    Ok, "01.txt:5: the group . has no rows"},
-        RefusalCase{"NoWindowsCode", SmallStock1 + "Of course \xE2\x98\x83\n", SmallPlans(), Ok,
-                    "01.txt:11: a character at byte 11 has no Windows-1252 code"},
-        RefusalCase{"GroupInAnotherStock", SmallStock1 + "[No]\nNo\n", SmallPlans(), Ok,
-                    "01.txt:11: the group No belongs in stock 2"},
-        RefusalCase{"GroupOutOfOrder", SmallStock1 + "[Sure]\nSure\n", SmallPlans(), Ok,
-                    "01.txt:11: the group Sure belongs before Yes"},
-        RefusalCase{"LabelTwice", SmallStock1 + "[Yes]\nYes\n", SmallPlans(), Ok,
-                    "01.txt:11: the label Yes is used by another group"},
-        RefusalCase{"UnknownLabel", SmallStock1, Replaced(SmallPlans(), "Yes | Maybe", "Yes | No"),
-                    Ok, "plans.txt:6: unknown label No"},
-        RefusalCase{"UnknownSection", SmallStock1,
-                    Replaced(SmallPlans(), "2: Verdict | -", "2: Verdict | Verdit"), Ok,
-                    "plans.txt:11: unknown section Verdit"},
-        RefusalCase{"SlotWithNoChoice", SmallStock1, Replaced(SmallPlans(), "2: .", "2:"), Ok,
-                    "plans.txt:7: slot 2 has no choice"},
-        RefusalCase{"EmptyChoice", SmallStock1, Replaced(SmallPlans(), "Yes | Maybe", "Yes | "), Ok,
-                    "plans.txt:6: a slot has a choice with nothing in it"},
-        RefusalCase{"SlotTooFull", SmallStock1,
-                    Replaced(SmallPlans(), "2: .\n",
-                             [] {
-                                 std::string slot = "2: .";
-                                 for (int i = 0; i < 250; ++i) {
-                                     slot += "\n| .";
-                                 }
-                                 return slot + "\n";
-                             }()),
-                    Ok, "plans.txt:7: slot 2 holds 251 choices, more than 250"},
-        RefusalCase{"CaseKeepersNotLedByTheComma", SmallStock1,
-                    Replaced(SmallPlans(), "CaseKeepers , .", "CaseKeepers . ,"), Ok,
-                    "plans.txt:3: the first of the CaseKeepers must be the comma"},
-        RefusalCase{"TooManyComponents", SmallStock1,
-                    Replaced(SmallPlans(), "MaxComponents 4", "MaxComponents 3"), Ok,
-                    "plans.txt:8: message 1 can hold 4 components, more than MaxComponents 3"},
-        RefusalCase{"TooManySections", SmallStock1,
-                    Replaced(SmallPlans(), "MaxSections 2", "MaxSections 1"), Ok,
-                    "plans.txt:8: message 1 can hold 2 sections, more than MaxSections 1"},
-        RefusalCase{"MessageTwice", SmallStock1,
-                    Replaced(SmallPlans(), "message 16 Other", "message 1 Other"), Ok,
-                    "plans.txt:54: message 1 has a second plan"},
-        RefusalCase{"MissingMessage", SmallStock1,
-                    Replaced(SmallPlans(), "message 16 Other\nblock\n1: Verdict\n", ""), Ok,
-                    "data/plans:0: message 16 has no plan"},
-        RefusalCase{"SlotsOutOfOrder", SmallStock1, Replaced(SmallPlans(), "2: .", "1: ."), Ok,
-                    "plans.txt:7: slots of a block stand in order 1 to 6"},
-        RefusalCase{"SuggestionTooLong", SmallStock1, SmallPlans(),
-                    "= Heading\n" + std::string(200, 'x') + "\n",
-                    "suggestions.txt:1: the Suggestion \"Heading\" is longer than 209"}),
-    [](const auto& info) { return std::string(info.param.Name); });
 
 } // namespace
 } // namespace veyrant

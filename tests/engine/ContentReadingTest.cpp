@@ -6,12 +6,14 @@
 #include "EngineFixture.h"
 #include "MessageRequests.h"
 #include "core/Cp1252.h"
+#include "core/WholeFile.h"
 
 #include <algorithm>
 #include <cctype>
 #include <gmock/gmock.h>
 #include <map>
 #include <set>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -99,53 +101,24 @@ std::string UnframedFirstPerson(const std::string& text) {
     return check();
 }
 
-// Frames that tell the user what they feel, believe or have not realised, about a matter the
-// program knows nothing of. The Sagrel may ask about a belief, never state one.
-const char* const FaultyFrames[] = {
-    "perhaps you believe", "it may be that you", "it could be that you", "your feeling about",
-    "your belief about", "your belief is", "your belief has", "your belief will", "your belief may",
-    "your belief can", "than you think", "than you realize", "than you know", "than you let",
-    "than you feel", "than you admit", "than you seem to", "than you might", "than you fear",
-    "than you expect", "than you believe", "already suspect", "you already know", "already knows",
-    // Shapes that read as machine-made: a tag glued to an answer, two images yoked in one
-    // sentence, a probe put to an image, a condition or a lack imputed from nowhere.
-    "you see that now?", "you say that aloud?", "you allow that?", "make peace with that?",
-    "yet the reply may", "yet the answer may", "if you associate it", "than feared", "as feared",
-    "what would it ask", "does it need from you", "feel as you look at it", "the thing itself",
-    "its use ", "a memory of", "you have rested", "you feel rested", "choose nothing out",
-    "being put off", "a tale that tells", "world that can be", ". or ",
-    // Shapes that failed a blind reading: an answer of how often or a bare hedge to a yes or no,
-    // an "it" with nothing before it, a saying or a habit pinned on people from nowhere, a gloss
-    // on a story, a reason for the asking instead of the thing, a history of the conversation.
-    "than you hope", "the way you hope", "on certain days", "in the right light",
-    "no answer cannot", "is it what", "as they fear", "you ever end up", "may be asking about",
-    "might be teaching you", "no wrong way to want", "you keep asking", "you search for a reason",
-    "so that fear", "who you were told", "apologizing for", "role of that", "origin of that",
-    "reveals a conviction", "carries a promise", "carries a commitment", "the word you repeated",
-    "come a long way", "been hopeful so far", "been restless so far", "question into a statement",
-    "braver question", "question change as you change", "instead of any answer",
-    "answered before in", "from the wrong place", "promise your words make",
-    "words that needs help", "the part in view", "the question leads", "change as you ask",
-    "thing you ask about", "change more than it looks", "are you choosing", "habit you can unlearn",
-    "and still a choice",
-    // Shapes that failed the third blind reading: a motive pinned on a choice, a verdict taken
-    // back, a calm or a doubt imputed in a lead, a change urged on a remark, an image frame that
-    // cannot hold a person, a strain with someone stated as fact.
-    "choosing in haste", "only as true as", "until experience says", "fair trial before",
-    "given your wish", "mindful of your hopes", "despite your doubts", "responsible for more than",
-    "you can slow down", "change your direction", "change course at any",
-    "different choice next time", "is still true", "still fit the person", "show a friend",
-    "would choose to try", "step on the stairs", "unsent letters", "other ideas on your list",
-    "a kinder answer", "more honest answer", "no one stays", "hardly anyone stays", "a vision of",
-    "a painting of", "a snapshot of", "the person in your question", "the one you ask about",
-    "let your story begin", "slip into", "a reflection of the answer", "more afraid than unkind",
-    "beliefs you chose", "would say aloud", "make you feel less alone", "closer than your list",
-    "rigidity with", "playfulness with", "reveals the theme", "carries a care", "so this time",
-    "what you believe is fair", "no past experience", "which of these is true"};
+// Frames that tell the user what they feel, believe or have not realised, or shapes that read
+// as machine-made, one a line in lower case; comments begin with '#'.
+std::vector<std::string> FaultyFrames() {
+    std::vector<std::string> frames;
+    std::istringstream lines(
+        ReadWholeFile(std::filesystem::path(VEYRANT_TEST_DATA) / "engine" / "faulty-frames.txt"));
+    for (std::string line; std::getline(lines, line);) {
+        if (!line.empty() && line.front() != '#') {
+            frames.push_back(line);
+        }
+    }
+    return frames;
+}
 
 std::string FaultyFrame(const std::string& text) {
+    static const std::vector<std::string> frames = FaultyFrames();
     const std::string lower = Lower(text);
-    for (const char* frame : FaultyFrames) {
+    for (const std::string& frame : frames) {
         if (lower.find(frame) != std::string::npos) {
             return frame;
         }

@@ -7,37 +7,26 @@
 namespace veyrant {
 namespace {
 
-class InstallEngineFilesTest : public ::testing::Test {
-protected:
-    std::string OnDisk(std::string_view name) { return ReadWholeFile(folder.Exe() / name); }
-
+// The first run lays down the shipped files; a file damaged in place is left for the program's
+// box, and a newer build replaces them all.
+TEST(InstallEngineFiles, LaysDownTheShippedFilesOnceAndAgainForANewerBuild) {
     testing::TempFolder temp;
-    AppFolder folder{temp.Path()};
-};
-
-TEST_F(InstallEngineFilesTest, TheFirstRunLaysDownTheShippedFiles) {
+    const AppFolder folder{temp.Path()};
+    const auto onDisk = [&](std::string_view name) { return ReadWholeFile(folder.Exe() / name); };
+    const auto expectShipped = [&] {
+        EXPECT_EQ(onDisk("qdr41.sys"), ShippedSystemFile());
+        EXPECT_EQ(onDisk("qdr41.mtx"), ShippedPlanFile());
+        EXPECT_EQ(onDisk("qdr41.ver"), ShippedEngineStamp());
+    };
     InstallEngineFiles(folder);
-    EXPECT_EQ(OnDisk("qdr41.sys"), ShippedSystemFile());
-    EXPECT_EQ(OnDisk("qdr41.mtx"), ShippedPlanFile());
-    EXPECT_EQ(OnDisk("qdr41.ver"), ShippedEngineStamp());
-}
-
-TEST_F(InstallEngineFilesTest, AFileDamagedInPlaceIsLeftForTheProgramsBox) {
-    InstallEngineFiles(folder);
+    expectShipped();
     WriteWholeFile(folder.Exe() / "qdr41.sys", "damaged");
     InstallEngineFiles(folder);
-    EXPECT_EQ(OnDisk("qdr41.sys"), "damaged");
-}
-
-TEST_F(InstallEngineFilesTest, ANewerBuildReplacesBothFiles) {
-    InstallEngineFiles(folder);
-    WriteWholeFile(folder.Exe() / "qdr41.sys", "old tables");
+    EXPECT_EQ(onDisk("qdr41.sys"), "damaged");
     WriteWholeFile(folder.Exe() / "qdr41.mtx", "old plans");
     WriteWholeFile(folder.Exe() / "qdr41.ver", "0123456789abcdef");
     InstallEngineFiles(folder);
-    EXPECT_EQ(OnDisk("qdr41.sys"), ShippedSystemFile());
-    EXPECT_EQ(OnDisk("qdr41.mtx"), ShippedPlanFile());
-    EXPECT_EQ(OnDisk("qdr41.ver"), ShippedEngineStamp());
+    expectShipped();
 }
 
 } // namespace

@@ -1,7 +1,6 @@
 #include "LibraryTally.h"
 
 #include <gtest/gtest.h>
-#include <ostream>
 #include <string>
 #include <vector>
 
@@ -43,17 +42,6 @@ TEST(LibraryTally, CountsRowsByKindAndSumsEachMergeUpToTheNextSection) {
     EXPECT_TRUE(tally.Fits()) << tally.Departures.front();
 }
 
-struct DepartureCase {
-    const char* Name;
-    LibrarySource Library;
-    LibraryTarget Target;
-    std::vector<std::string> Departures;
-};
-
-void PrintTo(const DepartureCase& c, std::ostream* out) {
-    *out << c.Name;
-}
-
 LibraryTarget With(int LibraryTarget::*field, int value) {
     LibraryTarget target = Target;
     target.*field = value;
@@ -67,51 +55,37 @@ LibrarySource WithLongMerge(const std::string& section) {
     return library;
 }
 
-class LibraryDepartures : public ::testing::TestWithParam<DepartureCase> {};
-
-TEST_P(LibraryDepartures, AreNamed) {
-    const DepartureCase& c = GetParam();
-    EXPECT_EQ(TallyLibrary(c.Library, c.Target).Departures, c.Departures);
+TEST(LibraryTally, DeparturesAreNamed) {
+    const struct {
+        LibrarySource Library;
+        LibraryTarget Target;
+        std::vector<std::string> Departures;
+    } cases[] = {
+        {Small(), With(&LibraryTarget::Rows, 6), {"rows 5, designed 6"}},
+        {Small(), With(&LibraryTarget::TwoTabTopics, 0), {"two-tab Topics 1, designed 0"}},
+        {Small("< Second >", 111, 121), Target, {"longest body 111, designed 100 within a tenth"}},
+        {Small("< Second >", 110, 120), Target, {}},
+        {Small("< Second >", 100, 120),
+         Target,
+         {"RecordWidth 120 in data/libraries/widths.txt, designed 110 (longest body + 10)"}},
+        {Small(),
+         With(&LibraryTarget::SectionBodyHigh, 55),
+         {"Section bodies 50-60, designed 40-55"}},
+        {WithLongMerge("< Second >"),
+         Target,
+         {"longest body 62000, designed 100 within a tenth",
+          "RecordWidth 110 in data/libraries/widths.txt, designed 62010 (longest body + 10)",
+          "merge sum of < Second > 62005, more than 62000"}},
+        {WithLongMerge("< The Ambrel >"),
+         With(&LibraryTarget::Longest, 62000),
+         {"RecordWidth 110 in data/libraries/widths.txt, designed 62010 (longest body + 10)"}},
+        {Small("< The Ambrel >"),
+         Target,
+         {"merge sum of < The Ambrel > 35, designed above 62000"}}};
+    for (const auto& c : cases) {
+        EXPECT_EQ(TallyLibrary(c.Library, c.Target).Departures, c.Departures);
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Departures, LibraryDepartures,
-    ::testing::Values(
-        DepartureCase{"RowCount", Small(), With(&LibraryTarget::Rows, 6), {"rows 5, designed 6"}},
-        DepartureCase{"TopicLevels",
-                      Small(),
-                      With(&LibraryTarget::TwoTabTopics, 0),
-                      {"two-tab Topics 1, designed 0"}},
-        DepartureCase{"LongestBeyondATenth",
-                      Small("< Second >", 111, 121),
-                      Target,
-                      {"longest body 111, designed 100 within a tenth"}},
-        DepartureCase{"LongestWithinATenth", Small("< Second >", 110, 120), Target, {}},
-        DepartureCase{
-            "WidthNotTenMoreThanTheLongest",
-            Small("< Second >", 100, 120),
-            Target,
-            {"RecordWidth 120 in data/libraries/widths.txt, designed 110 (longest body + 10)"}},
-        DepartureCase{"SectionBodyOutOfRange",
-                      Small(),
-                      With(&LibraryTarget::SectionBodyHigh, 55),
-                      {"Section bodies 50-60, designed 40-55"}},
-        DepartureCase{
-            "MergeTooLong",
-            WithLongMerge("< Second >"),
-            Target,
-            {"longest body 62000, designed 100 within a tenth",
-             "RecordWidth 110 in data/libraries/widths.txt, designed 62010 (longest body + 10)",
-             "merge sum of < Second > 62005, more than 62000"}},
-        DepartureCase{
-            "TheAmbrelAboveTheLimit",
-            WithLongMerge("< The Ambrel >"),
-            With(&LibraryTarget::Longest, 62000),
-            {"RecordWidth 110 in data/libraries/widths.txt, designed 62010 (longest body + 10)"}},
-        DepartureCase{"TheAmbrelWithinTheLimit",
-                      Small("< The Ambrel >"),
-                      Target,
-                      {"merge sum of < The Ambrel > 35, designed above 62000"}}));
 
 } // namespace
 } // namespace veyrant::content

@@ -36,70 +36,53 @@ std::string ShippedWith(std::string_view from, std::string_view to) {
     return text.replace(at, from.size(), to);
 }
 
-struct DamageCase {
-    const char* Name;
-    std::string SystemFile; // empty: no file at all
-    std::string Text;
-};
-
-// ctest lists a case by what this prints.
-void PrintTo(const DamageCase& c, std::ostream* out) {
-    *out << c.Name;
-}
-
-class LoadSystemBoxes : public ::testing::TestWithParam<DamageCase> {};
-
-TEST_P(LoadSystemBoxes, EndTheStartWithTheProgramsBox) {
-    testing::TempFolder temp;
-    const AppFolder folder{temp.Path()};
-    std::filesystem::create_directories(folder.Exe());
-    if (!GetParam().SystemFile.empty()) {
-        WriteWholeFile(folder.Exe() / "qdr41.sys", GetParam().SystemFile);
-    }
-    FakeWindowLayer windows;
-    testing::FakeClock clock;
-    Random random;
-    Engine engine(random, clock, windows);
-    EXPECT_FALSE(engine.LoadSystem(folder));
-    ASSERT_EQ(windows.Boxes.size(), 1u);
-    EXPECT_EQ(windows.Boxes[0].Title, "Error LoadSystem");
-    EXPECT_EQ(windows.Boxes[0].Icon, MessageIcon::Warning);
-    EXPECT_EQ(windows.Boxes[0].Text, GetParam().Text);
-    EXPECT_EQ(engine.SystemError, 1);
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Damaged, LoadSystemBoxes,
-    ::testing::Values(
-        DamageCase{"FieldTooMany", ShippedWith("\"Parity\"", "7, \"Parity\""), ParityText},
-        DamageCase{"MarkMisspelt", ShippedWith("\"Parity\"", "\"parity\""), ParityText},
-        DamageCase{"BadNumber", ShippedWith("\"Parity\"", "\"Parity\"").replace(0, 1, "x"),
-                   MemoryText},
-        DamageCase{"Missing", "", MemoryText},
-        DamageCase{"CutShort", std::string(ShippedSystemFile().substr(0, 200)), MemoryText},
+// A damaged table file ends the start with the program's box.
+TEST(LoadSystem, ADamagedTableFileEndsTheStartWithItsBox) {
+    const std::pair<std::string, std::string> cases[] = {
+        {ShippedWith("\"Parity\"", "7, \"Parity\""), ParityText},
+        {ShippedWith("\"Parity\"", "\"parity\""), ParityText},
+        {ShippedWith("\"Parity\"", "\"Parity\"").replace(0, 1, "x"), MemoryText},
+        {"", MemoryText},
+        {std::string(ShippedSystemFile().substr(0, 200)), MemoryText},
         // One byte changed: the line end before MaxSections turned to a minus sign.
-        DamageCase{"NegativeMaxSections", ShippedWith("40\r\n8, 0", "40\r-8, 0"), MemoryText},
-        DamageCase{"MaxSectionsMinusTwo", ShippedWith("40\r\n8, 0", "40\r\n-2, 0"), MemoryText},
-        DamageCase{"NegativeRowCap", SmallSystemFile(14).replace(0, 4, "1, -2"), MemoryText},
-        DamageCase{"RowsBeyondRowCap", SmallSystemFile(14).replace(0, 4, "1, 1"), MemoryText},
+        {ShippedWith("40\r\n8, 0", "40\r-8, 0"), MemoryText},
+        {ShippedWith("40\r\n8, 0", "40\r\n-2, 0"), MemoryText},
+        {SmallSystemFile(14).replace(0, 4, "1, -2"), MemoryText},
+        {SmallSystemFile(14).replace(0, 4, "1, 1"), MemoryText},
         // Counts that would size tables far beyond what the file holds are refused before
         // anything is allocated for them.
-        DamageCase{"MoreMessagesThanTheFileHolds", SmallSystemFile(14).replace(6, 4, "32767, 1"),
-                   MemoryText},
-        DamageCase{"MoreStocksThanTheFileHolds",
-                   ShippedWith("\r\n4\r\n1\r\n14\r\n", "\r\n4\r\n1\r\n32767\r\n"), MemoryText},
-        DamageCase{"FifteenStocks", SmallSystemFile(15),
-                   "DESIGN ERROR: Sysblocks too large for current system design. Sysblocks=15 "
-                   "exceeds MaxDataBlocks=14"},
-        DamageCase{"MostStocks", SmallSystemFile(32767),
-                   "DESIGN ERROR: Sysblocks too large for current system design. Sysblocks=32767 "
-                   "exceeds MaxDataBlocks=14"},
-        DamageCase{"ThirteenStocks", SmallSystemFile(13),
-                   "Incorrect number=14 of LCMs in LoadSystem. Probable missing BAS file(s) in "
-                   "system MAK. Required SysBlocks=13\r\n\r\nThe missing cmp.BAS files must be "
-                   "added to the MAK file, sub LoadSystem reconfigured, and the EXE "
-                   "re-compiled."}),
-    [](const auto& info) { return std::string(info.param.Name); });
+        {SmallSystemFile(14).replace(6, 4, "32767, 1"), MemoryText},
+        {ShippedWith("\r\n4\r\n1\r\n14\r\n", "\r\n4\r\n1\r\n32767\r\n"), MemoryText},
+        {SmallSystemFile(15),
+         "DESIGN ERROR: Sysblocks too large for current system design. Sysblocks=15 "
+         "exceeds MaxDataBlocks=14"},
+        {SmallSystemFile(32767),
+         "DESIGN ERROR: Sysblocks too large for current system design. Sysblocks=32767 "
+         "exceeds MaxDataBlocks=14"},
+        {SmallSystemFile(13),
+         "Incorrect number=14 of LCMs in LoadSystem. Probable missing BAS file(s) in "
+         "system MAK. Required SysBlocks=13\r\n\r\nThe missing cmp.BAS files must be "
+         "added to the MAK file, sub LoadSystem reconfigured, and the EXE "
+         "re-compiled."}};
+    for (const auto& [systemFile, text] : cases) {
+        testing::TempFolder temp;
+        const AppFolder folder{temp.Path()};
+        std::filesystem::create_directories(folder.Exe());
+        if (!systemFile.empty()) { // empty: no file at all
+            WriteWholeFile(folder.Exe() / "qdr41.sys", systemFile);
+        }
+        FakeWindowLayer windows;
+        testing::FakeClock clock;
+        Random random;
+        Engine engine(random, clock, windows);
+        EXPECT_FALSE(engine.LoadSystem(folder));
+        ASSERT_EQ(windows.Boxes.size(), 1u);
+        EXPECT_EQ(windows.Boxes[0].Title, "Error LoadSystem");
+        EXPECT_EQ(windows.Boxes[0].Icon, MessageIcon::Warning);
+        EXPECT_EQ(windows.Boxes[0].Text, text);
+        EXPECT_EQ(engine.SystemError, 1);
+    }
+}
 
 TEST(ReadEngineTables, PutsRowZeroIntoTheIdlePlane) {
     testing::TempFolder temp;

@@ -40,76 +40,51 @@ TEST(ReadPlan, KeepsEveryTermWithItsTextAndEmptyTermsEmpty) {
     EXPECT_EQ(plan.TermText[6], "40");
 }
 
-struct FaultCase {
-    const char* Name;
-    std::string From;
-    std::string To;
-    int Error;
-};
-
-// ctest lists a case by what this prints.
-void PrintTo(const FaultCase& c, std::ostream* out) {
-    *out << c.Name;
-}
-
-class ReadPlanFaults : public ::testing::TestWithParam<FaultCase> {};
-
-TEST_P(ReadPlanFaults, RaiseTheirNumber) {
-    std::string text = TwoBlockPlan;
-    text.replace(text.find(GetParam().From), GetParam().From.size(), GetParam().To);
-    try {
-        ReadOne(text);
-        FAIL() << "no error";
-    } catch (const ProgramError& error) {
-        EXPECT_EQ(error.Number(), GetParam().Error);
+TEST(ReadPlan, FaultsRaiseTheirNumber) {
+    const struct {
+        std::string From, To;
+        int Error;
+    } cases[] = {{"\r\n0\r\n", "\r\n3\r\n", 1002},       // blocks not closed
+                 {"3, 1, \"20\"", "4, 1, \"20\"", 1004}, // a term out of step
+                 {"\"s4\", 1, 6", "\"s4\", 251, 6", 9},  // a slot too full
+                 {"6, 1, \"40\"\r\n", "6, 1", 62}};      // cut short
+    for (const auto& c : cases) {
+        std::string text = TwoBlockPlan;
+        text.replace(text.find(c.From), c.From.size(), c.To);
+        try {
+            ReadOne(text);
+            ADD_FAILURE() << "no error for " << c.Error;
+        } catch (const ProgramError& error) {
+            EXPECT_EQ(error.Number(), c.Error);
+        }
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Plans, ReadPlanFaults,
-    ::testing::Values(FaultCase{"BlocksNotClosed", "\r\n0\r\n", "\r\n3\r\n", 1002},
-                      FaultCase{"TermOutOfStep", "3, 1, \"20\"", "4, 1, \"20\"", 1004},
-                      FaultCase{"SlotTooFull", "\"s4\", 1, 6", "\"s4\", 251, 6", 9},
-                      FaultCase{"CutShort", "6, 1, \"40\"\r\n", "6, 1", 62}),
-    [](const auto& info) { return std::string(info.param.Name); });
-
-struct SequenceCase {
-    std::int32_t Target;
-    const char* Sequence;
-};
-
-// ctest lists a case by what this prints.
-void PrintTo(const SequenceCase& c, std::ostream* out) {
-    *out << c.Target;
-}
-
-class GenMatrixSeqTable : public ::testing::TestWithParam<SequenceCase> {};
-
-TEST_P(GenMatrixSeqTable, CountsBlocksInOrderWithSlotSixFastest) {
+// Blocks count in order, slot 6 fastest.
+TEST(GenMatrixSeq, CountsBlocksInOrderWithSlotSixFastest) {
     const MessagePlan plan = ReadOne(TwoBlockPlan);
-    EXPECT_EQ(GenMatrixSeq(plan, GetParam().Target), GetParam().Sequence);
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Targets, GenMatrixSeqTable,
-    ::testing::Values(
+    const std::pair<std::int32_t, const char*> cases[] = {
         // An empty term in slots 1 to 5 adds neither text nor separator.
-        SequenceCase{1, "10, 20, 40, 40, 40"},
+        {1, "10, 20, 40, 40, 40"},
         // An empty term in slot 6 leaves a trailing ", " that is cut.
-        SequenceCase{2, "10, 20, 40, 40"}, SequenceCase{3, "10, 20, 30 31, 40, 40, 40"},
-        SequenceCase{5, "11, 12, 20, 40, 40, 40"}, SequenceCase{8, "11, 12, 20, 30 31, 40, 40"},
+        {2, "10, 20, 40, 40"},
+        {3, "10, 20, 30 31, 40, 40, 40"},
+        {5, "11, 12, 20, 40, 40, 40"},
+        {8, "11, 12, 20, 30 31, 40, 40"},
         // The product of block 1 plus 1 is the first choice of each slot in block 2.
-        SequenceCase{9, "30 31, 10"},
-        // All slots empty give an empty text.
-        SequenceCase{10, "30 31"}, SequenceCase{11, "30 31, 40"}, SequenceCase{12, ""},
-        SequenceCase{0, ""}),
-    [](const auto& info) { return "Target" + std::to_string(info.param.Target); });
-
-TEST(GenMatrixSeq, AllEmptySlotsGiveAnEmptySequence) {
-    const MessagePlan plan = ReadOne("1, 1, 1\r\n\"b\"\r\n\"s\", 1, 1\r\n\"s\", 1, 1\r\n"
-                                     "\"s\", 1, 1\r\n\"s\", 1, 1\r\n\"s\", 1, 1\r\n\"s\", 1, 1\r\n"
-                                     "0\r\n1, 1, \"\"\r\n");
-    EXPECT_EQ(GenMatrixSeq(plan, 1), "");
+        {9, "30 31, 10"},
+        {10, "30 31"},
+        {11, "30 31, 40"},
+        {12, ""},
+        {0, ""}};
+    for (const auto& [target, sequence] : cases) {
+        EXPECT_EQ(GenMatrixSeq(plan, target), sequence) << target;
+    }
+    // All slots empty give an empty text.
+    const MessagePlan empty = ReadOne("1, 1, 1\r\n\"b\"\r\n\"s\", 1, 1\r\n\"s\", 1, 1\r\n"
+                                      "\"s\", 1, 1\r\n\"s\", 1, 1\r\n\"s\", 1, 1\r\n\"s\", 1, 1\r\n"
+                                      "0\r\n1, 1, \"\"\r\n");
+    EXPECT_EQ(GenMatrixSeq(empty, 1), "");
 }
 
 TEST(ReadSequence, PartsNumbersAtCommasBlanksAndLineEnds) {
@@ -132,45 +107,36 @@ std::string FourPlanFile() {
     return text;
 }
 
-struct LoadCase {
-    const char* Kind;
-    std::int16_t Number;
-    const char* Sequence;
-};
-
-// ctest lists a case by what this prints.
-void PrintTo(const LoadCase& c, std::ostream* out) {
-    *out << c.Kind << " " << c.Number;
-}
-
-class LoadPlanTable : public ::testing::TestWithParam<LoadCase> {};
-
-TEST_P(LoadPlanTable, ScansMessagesThenSections) {
+TEST(LoadPlan, ScansMessagesThenSectionsAsTheKeptPlansDo) {
     testing::TempFolder temp;
     WriteWholeFile(temp / "qdr41.mtx", FourPlanFile());
     EngineTables tables;
     tables.MessageCount = 2;
     tables.SectionCount = 2;
-    MessagePlan plan;
-    LoadPlan(temp / "qdr41.mtx", GetParam().Kind, GetParam().Number, tables, plan);
-    EXPECT_EQ(GenMatrixSeq(plan, 1), GetParam().Sequence);
-
-    // The kept plans pick the same plan for the same request.
     const KeptPlans kept(FourPlanFile(), tables);
-    std::vector<std::int16_t> sequence;
-    KeptPlans(kept).AppendSequence(GetParam().Kind, GetParam().Number, 1, sequence);
-    EXPECT_EQ(sequence, ReadSequence(GetParam().Sequence));
+    const struct {
+        const char* Kind;
+        std::int16_t Number;
+        const char* Sequence;
+    } cases[] = {{"Message", 1, "100"},
+                 {"Message", 2, "200"},
+                 // Section 1 stands right behind the last message.
+                 {"Section", 1, "300"},
+                 {"Section", 2, "400"},
+                 // A scan that never meets its plan ends on the last.
+                 {"Section", 3, "400"},
+                 {"Message", 0, "400"},
+                 {"message", 1, "400"}};
+    for (const auto& c : cases) {
+        SCOPED_TRACE(std::string(c.Kind) + " " + std::to_string(c.Number));
+        MessagePlan plan;
+        LoadPlan(temp / "qdr41.mtx", c.Kind, c.Number, tables, plan);
+        EXPECT_EQ(GenMatrixSeq(plan, 1), c.Sequence);
+        std::vector<std::int16_t> sequence;
+        KeptPlans(kept).AppendSequence(c.Kind, c.Number, 1, sequence);
+        EXPECT_EQ(sequence, ReadSequence(c.Sequence));
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Requests, LoadPlanTable,
-    ::testing::Values(LoadCase{"Message", 1, "100"}, LoadCase{"Message", 2, "200"},
-                      // Section 1 stands right behind the last message.
-                      LoadCase{"Section", 1, "300"}, LoadCase{"Section", 2, "400"},
-                      // A scan that never meets its plan ends on the last.
-                      LoadCase{"Section", 3, "400"}, LoadCase{"Message", 0, "400"},
-                      LoadCase{"message", 1, "400"}),
-    [](const auto& info) { return info.param.Kind + std::to_string(info.param.Number); });
 
 TEST(KeptPlans, AgreeWithCountingForEveryTarget) {
     EngineTables tables;
