@@ -96,14 +96,6 @@ struct ReadWindow {
         Clock.FileDates[App.Folder.Isp() / file] = when;
         Clock.FileDates[App.Folder.Dlg() / file] = when;
     }
-    // Pictures for a person to look at, when asked for.
-    void Picture(const char* name) const {
-        const QByteArray folder = qgetenv("VEYRANT_SHOTS");
-        if (!folder.isEmpty()) {
-            Window->grab().save(QString::fromUtf8(folder) + QLatin1Char('/') +
-                                QString::fromLatin1(name) + QStringLiteral(".png"));
-        }
-    }
 
     testing::TempFolder Temp;
     testing::FakeWindowLayer Layer;
@@ -138,7 +130,6 @@ private slots:
         QCOMPARE(read.Window->windowTitle(), name);
         QCOMPARE(read.List()->count(), lib.LastSection + 1);
         QCOMPARE(read.Caption(ReaderControl::cmdNext), QStringLiteral("First"));
-        read.Picture(qPrintable(QStringLiteral("index1-%1").arg(library)));
 
         read.Key(Qt::Key_Down);
         QVERIFY(read.Window->windowTitle().startsWith(name + QStringLiteral(" -- 1/")));
@@ -148,19 +139,16 @@ private slots:
         read.Key(Qt::Key_Down);
         QVERIFY(read.Window->windowTitle().startsWith(name + QStringLiteral(" -- 2/")));
         QVERIFY(read.List()->isVisible());
-        read.Picture(qPrintable(QStringLiteral("topic-split-%1").arg(library)));
         read.Key(Qt::Key_Space);
         QVERIFY(!read.List()->isVisible());
         QVERIFY(read.Spin()->toPlainText().startsWith(
             QString::fromStdString(Cp1252ToUtf8(CleanTitle(lib.Titles[1])))));
-        read.Picture(qPrintable(QStringLiteral("topic-expanded-%1").arg(library)));
         read.Key(Qt::Key_Space);
         read.Key(Qt::Key_Escape);
         QCOMPARE(read.Caption(ReaderControl::cmdSelect), QStringLiteral("< Index 1 >"));
         QCOMPARE(read.List()->count(), lib.LastSection + 1);
         read.Key(Qt::Key_Return);
         QCOMPARE(read.Caption(ReaderControl::cmdSelect), QStringLiteral("< Index 2 >"));
-        read.Picture(qPrintable(QStringLiteral("index2-%1").arg(library)));
     }
 
     void dialogueLibraryStepsLatestFirst() {
@@ -169,18 +157,11 @@ private slots:
         QCOMPARE(read.Window->windowTitle(),
                  QStringLiteral("Veyrant Dialogue Library -- No Dialogues Saved"));
         QVERIFY(!read.Window->Widget(ReaderControl::cmdNext)->isEnabled());
-        read.Picture("dialogue-empty");
         read.App.Links.CloseLibrary();
 
         for (const DateTime when :
              {DateTime{2026, 11, 18, 9, 0, 0}, DateTime{2026, 11, 21, 20, 15, 0}}) {
-            const std::string file = MakeFileName(when);
-            std::filesystem::create_directories(read.App.Folder.Isp());
-            std::filesystem::create_directories(read.App.Folder.Dlg());
-            WriteWholeFile(read.App.Folder.Isp() / file, "\tA path through the reeds.");
-            WriteWholeFile(read.App.Folder.Dlg() / file, "\r\n\r\n\t\x93Where next?\x94\r\n\tOn.");
-            read.Clock.FileDates[read.App.Folder.Isp() / file] = when;
-            read.Clock.FileDates[read.App.Folder.Dlg() / file] = when;
+            read.SaveDialogue(when, "\tA path through the reeds.", "\r\n\r\n\tOn.");
         }
         read.Open(1);
         QCOMPARE(read.List()->count(), 2);
@@ -188,7 +169,6 @@ private slots:
         QCOMPARE(read.Window->windowTitle(),
                  QStringLiteral("Veyrant Dialogue -- 2/2 -- Saturday, 8:15 pm, November 21, 2026 "
                                 "-- 1/21 Days Old/Max"));
-        read.Picture("dialogue-open");
         read.Key(Qt::Key_PageDown);
         QVERIFY(read.Window->windowTitle().startsWith(QStringLiteral("Veyrant Dialogue -- 1/2")));
         QVERIFY(!read.Window->Widget(ReaderControl::cmdNext)->isEnabled());
@@ -206,7 +186,6 @@ private slots:
         QVERIFY(
             read.Window->windowTitle().startsWith(QStringLiteral("Veyrant Knowledge Library -- ")));
         QVERIFY(read.SearchBox()->hasFocus());
-        read.Picture("search-hit-topic");
         const int first = read.Spin()->textCursor().selectionStart();
         const QString firstTitle = read.Window->windowTitle();
         QTest::keyClick(read.SearchBox(), Qt::Key_Return);
@@ -227,12 +206,10 @@ private slots:
         QCOMPARE(read.SearchBox()->text(), QString());
         QCOMPARE(read.Window->windowTitle(),
                  QStringLiteral("Veyrant Knowledge Library -- Search Text"));
-        read.Picture("search-instructions");
         QTest::keyClicks(read.SearchBox(), QStringLiteral("xylophone zebra"));
         QTest::keyClick(read.SearchBox(), Qt::Key_Enter);
         QCOMPARE(read.SearchBox()->text(), QStringLiteral("No text found"));
         QCOMPARE(read.Caption(ReaderControl::cmdSearch), QStringLiteral("New"));
-        read.Picture("search-no-text");
         read.Key(Qt::Key_Escape);
         QCOMPARE(read.Caption(ReaderControl::cmdSearch), QStringLiteral("Search"));
         QVERIFY(!read.SearchBox()->isEnabled());
@@ -251,7 +228,6 @@ private slots:
         QCOMPARE(read.Spin()->textCursor().selectedText(), QStringLiteral("Heron?"));
         QVERIFY(read.HitInView());
         QCOMPARE(read.List()->currentRow(), 2);
-        read.Picture("search-hit-dialogue");
         QTest::keyClick(read.SearchBox(), Qt::Key_Return);
         QCOMPARE(read.SearchBox()->text(), QStringLiteral("Search complete"));
         read.Click(ReaderControl::cmdSelect);
@@ -305,7 +281,6 @@ private slots:
         QVERIFY(!read.Window->Widget(ReaderControl::cmdPrint)->isEnabled());
         QVERIFY(read.Layer.Yields > 0);
         QVERIFY(!read.Layer.Busy);
-        read.Picture("merged");
         // No step takes the keys here: they scroll the long essay.
         QScrollBar* bar = read.Spin()->verticalScrollBar();
         for (const auto key : {Qt::Key_PageDown, Qt::Key_Down}) {
