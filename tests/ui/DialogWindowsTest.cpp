@@ -5,6 +5,7 @@
 #include "storage/LibraryFileName.h"
 #include "support/FakeClock.h"
 #include "support/FakeWindowLayer.h"
+#include "support/SavedDialogue.h"
 #include "support/TempFolder.h"
 #include "ui/BannerWindow.h"
 #include "ui/OptionsWindow.h"
@@ -59,11 +60,8 @@ struct DisplaySize {
 struct LibraryOptions {
     LibraryOptions() {
         for (const int day : {18, 20, 21}) {
-            const auto name = MakeFileName({2026, 11, day, 20, 15, 0});
-            std::filesystem::create_directories(Folder.Dlg());
-            std::filesystem::create_directories(Folder.Isp());
-            WriteWholeFile(Folder.Isp() / name, "\tA seed waits for its season.");
-            WriteWholeFile(Folder.Dlg() / name, "\r\n\r\n\t\x93Now?\x94\r\n\tSoon.");
+            testing::PutDialogue(Folder, {2026, 11, day, 20, 15, 0}, "\tA seed.",
+                                 "\r\n\r\n\tSoon.");
         }
         Show(Window);
     }

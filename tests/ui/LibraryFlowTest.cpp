@@ -108,27 +108,6 @@ private slots:
         }
         QVERIFY(std::filesystem::exists(app.Folder.Exe() / "Read.ini"));
     }
-
-    // The backdrop, once clicked away, comes back by a press on the bare part of either window.
-    void aPressOnEitherWindowsBackgroundBringsTheBackdropBack() {
-        FlowApp flow;
-        flow.windows.ShowWindow(WindowId::Back);
-        QTest::mouseClick(flow.write->Widget(MirrorControl::cmdHelp), Qt::LeftButton);
-        QVERIFY(flow.read);
-        const struct {
-            QWidget* Window;
-            const char* Name;
-        } cases[] = {{flow.write.data(), "Write"}, {flow.read.data(), "Read"}};
-        for (const auto& c : cases) {
-            QVERIFY(flow.back);
-            QTest::mouseClick(flow.back.data(), Qt::LeftButton);
-            QVERIFY2(!flow.back->isVisible(), c.Name);
-            // The right-hand margin of both windows is bare background.
-            QTest::mouseClick(c.Window, Qt::LeftButton, {},
-                              QPoint(c.Window->width() - 4, c.Window->height() / 2));
-            QVERIFY2(flow.back->isVisible(), c.Name);
-        }
-    }
 };
 
 QTEST_MAIN(LibraryFlowTest)

@@ -12,6 +12,7 @@
 #include "storage/LibraryFileName.h"
 #include "support/FakeClock.h"
 #include "support/FakeWindowLayer.h"
+#include "support/SavedDialogue.h"
 #include "support/TempFolder.h"
 
 #include <QLineEdit>
@@ -88,13 +89,7 @@ struct ReadWindow {
     }
     void SaveDialogue(const DateTime& when, const std::string& inspiration,
                       const std::string& dialogue) {
-        const std::string file = MakeFileName(when);
-        std::filesystem::create_directories(App.Folder.Isp());
-        std::filesystem::create_directories(App.Folder.Dlg());
-        WriteWholeFile(App.Folder.Isp() / file, inspiration);
-        WriteWholeFile(App.Folder.Dlg() / file, dialogue);
-        Clock.FileDates[App.Folder.Isp() / file] = when;
-        Clock.FileDates[App.Folder.Dlg() / file] = when;
+        testing::PutDialogue(App.Folder, when, inspiration, dialogue, &Clock);
     }
 
     testing::TempFolder Temp;
@@ -233,21 +228,6 @@ private slots:
         read.Click(ReaderControl::cmdSelect);
         QVERIFY(read.Window->windowTitle().startsWith(QStringLiteral("Veyrant Dialogue -- 1/3")));
         QCOMPARE(read.Caption(ReaderControl::cmdSelect), QStringLiteral("< Index >"));
-    }
-
-    // A right-click in the text box moves the font a step on and returns to the list.
-    void rightClickInTheTextChangesTheFont() {
-        ReadWindow read;
-        read.Open(3);
-        read.Key(Qt::Key_Down);
-        read.Key(Qt::Key_Down);
-        const qreal before = read.Spin()->font().pointSizeF();
-        QTest::mousePress(read.Spin()->viewport(), Qt::RightButton);
-        QTest::mouseRelease(read.Spin()->viewport(), Qt::RightButton);
-        QCOMPARE(read.App.UserSettings.ReaderFontStep, std::int16_t{2});
-        QVERIFY(read.Spin()->font().pointSizeF() > before);
-        QCOMPARE(read.Window->windowTitle(), QStringLiteral("Veyrant Knowledge Library"));
-        QCOMPARE(read.Layer.Boxes.back().Title, std::string("Change Font Size"));
     }
 
     // The window, its instruction line and its buttons wear the Read window's grey.
