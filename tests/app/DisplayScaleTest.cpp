@@ -17,15 +17,14 @@ TEST(DisplayScale, AnOptionWithNoRowLeavesTheFactorAtZero) {
     }
 }
 
-TEST(FontCheck, InstalledFacesPassWithoutAWord) {
-    AppFixture fixture;
-    fixture.PutExeFile("Qdrfonts.ini", "Liberation Serif\r\nLiberation Serif Italic\r\n");
-    EXPECT_TRUE(CheckFonts(fixture.App));
-    EXPECT_TRUE(fixture.Windows.Boxes.empty());
-    EXPECT_FALSE(fixture.Windows.Ended);
-}
-
+// Installed faces pass without a word; each face that cannot be selected is named and the
+// program ends.
 TEST(FontCheck, EachFaceThatCannotBeSelectedIsNamedAndTheProgramEnds) {
+    AppFixture installed;
+    installed.PutExeFile("Qdrfonts.ini", "Liberation Serif\r\nLiberation Serif Italic\r\n");
+    EXPECT_TRUE(CheckFonts(installed.App));
+    EXPECT_TRUE(installed.Windows.Boxes.empty());
+    EXPECT_FALSE(installed.Windows.Ended);
     const std::string romanSlot = "Error 380 accessing your font named {Garamond} associated "
                                   "with the file <times.ttf> usually named {Times New "
                                   "Roman}.\r\n\r\n";

@@ -2,7 +2,6 @@
 
 #include "app/AppFixture.h"
 #include "core/ProgramError.h"
-#include "shell/Version.h"
 #include "support/FileFaults.h"
 
 #include <cerrno>
@@ -32,13 +31,6 @@ TEST(StartUp, Timer1WaitsOutThreeSecondsOfBanner) {
     for (const Case& c : cases) {
         EXPECT_EQ(Timer1Interval(c.Start, c.End), c.Interval) << c.Start << " to " << c.End;
     }
-}
-
-TEST(StartUp, VersionComesFromTheExecutablesFileDate) {
-    const ProgramVersion version = VersionFromDate({2005, 7, 19, 23, 59, 0});
-    EXPECT_EQ(version.ProgramYear, "2005");
-    EXPECT_EQ(version.VersionString, "4.1.05.07.19");
-    EXPECT_EQ(VersionFromDate({2031, 12, 1}).VersionString, "4.1.31.12.01");
 }
 
 TEST(StartUp, MainLoadsTheWriteWindowBehindTheBanner) {
