@@ -8,34 +8,6 @@
 namespace veyrant::testing {
 namespace {
 
-TEST(DisplayScale, EachOptionSetsItsRow) {
-    struct Row {
-        int Option;
-        double Factor;
-        double Size1, Size2, Size3;
-        bool Bold;
-        double Small, Large;
-    };
-    const Row rows[] = {
-        {0, 0.9, 11, 12, 13.5, true, 8.25, 9.75},
-        {1, 1.0, 12, 13.5, 15, true, 8.25, 9.75},
-        {2, 1.21, 14, 16, 18, false, 9.75, 12},
-        {3, 1.45, 16.5, 19, 22, false, 12, 13.5},
-    };
-    for (const Row& row : rows) {
-        DisplayScale scale;
-        SetDisplayScale(row.Option, scale);
-        EXPECT_DOUBLE_EQ(scale.ScaleFactor, row.Factor) << row.Option;
-        EXPECT_DOUBLE_EQ(scale.TextSize[1], row.Size1) << row.Option;
-        EXPECT_DOUBLE_EQ(scale.TextSize[2], row.Size2) << row.Option;
-        EXPECT_DOUBLE_EQ(scale.TextSize[3], row.Size3) << row.Option;
-        EXPECT_EQ(scale.TextSize1Bold, row.Bold) << row.Option;
-        EXPECT_DOUBLE_EQ(scale.ControlFontSmall, row.Small) << row.Option;
-        EXPECT_DOUBLE_EQ(scale.ControlFontLarge, row.Large) << row.Option;
-        EXPECT_DOUBLE_EQ(scale.ButtonFontSize, row.Small) << row.Option;
-    }
-}
-
 TEST(DisplayScale, AnOptionWithNoRowLeavesTheFactorAtZero) {
     for (const int option : {7, -1, 4}) {
         DisplayScale scale;
@@ -45,15 +17,14 @@ TEST(DisplayScale, AnOptionWithNoRowLeavesTheFactorAtZero) {
     }
 }
 
-TEST(FontCheck, InstalledFacesPassWithoutAWord) {
-    AppFixture fixture;
-    fixture.PutExeFile("Qdrfonts.ini", "Liberation Serif\r\nLiberation Serif Italic\r\n");
-    EXPECT_TRUE(CheckFonts(fixture.App));
-    EXPECT_TRUE(fixture.Windows.Boxes.empty());
-    EXPECT_FALSE(fixture.Windows.Ended);
-}
-
+// Installed faces pass without a word; each face that cannot be selected is named and the
+// program ends.
 TEST(FontCheck, EachFaceThatCannotBeSelectedIsNamedAndTheProgramEnds) {
+    AppFixture installed;
+    installed.PutExeFile("Qdrfonts.ini", "Liberation Serif\r\nLiberation Serif Italic\r\n");
+    EXPECT_TRUE(CheckFonts(installed.App));
+    EXPECT_TRUE(installed.Windows.Boxes.empty());
+    EXPECT_FALSE(installed.Windows.Ended);
     const std::string romanSlot = "Error 380 accessing your font named {Garamond} associated "
                                   "with the file <times.ttf> usually named {Times New "
                                   "Roman}.\r\n\r\n";

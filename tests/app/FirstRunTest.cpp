@@ -32,15 +32,12 @@ TEST(FirstRun, LaysDownTheFoldersAndTheFacesThisMachineHas) {
     }
 }
 
-TEST(FirstRun, LeavesAnInstalledFolderAlone) {
+// An installed folder is left alone; one that cannot be made raises the program's error.
+TEST(FirstRun, LeavesAnInstalledFolderAloneAndSaysWhenItCannotMakeOne) {
     AppFixture fixture;
     fixture.PutExeFile("Qdrfonts.ini", "Garamond\r\n");
     InstallAppFolder(fixture.Folder, fixture.Windows);
     EXPECT_EQ(fixture.ExeFile("Qdrfonts.ini"), "Garamond\r\n");
-}
-
-TEST(FirstRun, AFolderThatCannotBeMadeRaisesTheProgramsError) {
-    AppFixture fixture;
     WriteWholeFile(fixture.Temp / "blocked", "a file where a folder should be");
     const AppFolder folder{fixture.Temp / "blocked" / "veyrant-sagrel"};
     try {

@@ -73,28 +73,6 @@ TEST_F(LoadedLibraries, RowsTellWhatHoldsOnLinux) {
     }
 }
 
-TEST_F(LoadedLibraries, RowsKnowWhereTheirSectionEnds) {
-    const struct {
-        const char* Name;
-        const FixedLibrary& Library;
-        int FirstRow;
-        int LastRow;
-        int SectionEnd;
-    } cases[] = {
-        {"Advanced Knowledge", Libraries.AdvLib, 0, 7, 7},
-        {"Advanced Knowledge", Libraries.AdvLib, 8, 12, 12},
-        {"Advanced Knowledge", Libraries.AdvLib, 13, 60, 60},
-        {"Knowledge", Libraries.KnowLib, 0, 11, 11},
-        {"Knowledge", Libraries.KnowLib, 115, 137, 137},
-    };
-    for (const auto& c : cases) {
-        for (int row = c.FirstRow; row <= c.LastRow; ++row) {
-            EXPECT_EQ(c.Library.SectionEnd[static_cast<std::size_t>(row)], c.SectionEnd)
-                << c.Name << " row " << row;
-        }
-    }
-}
-
 // Every row has a text in record form, inside its library's width.
 TEST_F(LoadedLibraries, TextsAreParagraphsLedByATabAndEndedByALineEnd) {
     for (const FixedLibrary* library :
@@ -108,14 +86,6 @@ TEST_F(LoadedLibraries, TextsAreParagraphsLedByATabAndEndedByALineEnd) {
                 << library->Titles[row];
         }
     }
-}
-
-TEST_F(LoadedLibraries, TrailingBlanksOfAuthoredTitlesAreNotShown) {
-    EXPECT_EQ(Libraries.KnowLib.Titles[74], "\tResisting Yourself ");
-    EXPECT_EQ(CleanTitle(Libraries.KnowLib.Titles[74]), "Resisting Yourself");
-    EXPECT_EQ(Libraries.AdvLib.Titles[23], "\tDual Identity of Self and World ");
-    EXPECT_TRUE(ComposeRowText(Libraries.AdvLib, 23)
-                    .starts_with("Dual Identity of Self and World\r\n\r\n\t"));
 }
 
 // The search composes each row into one string it keeps; every row must read as the shown text
@@ -142,12 +112,6 @@ TEST_F(LoadedLibraries, ARowComposedIntoAKeptStringReadsAsTheShownText) {
     EXPECT_EQ(kept, CleanTitle(odd.Titles[0]) + "\r\n\r\n\tA text");
     ComposeRowText(odd, 1, kept);
     EXPECT_EQ(kept, "\r\n\r\n\tTwo");
-}
-
-TEST_F(LoadedLibraries, ASectionShowsItsBracketedTitleOverItsText) {
-    const FixedLibrary& library = Libraries.AdvLib;
-    EXPECT_EQ(library.RowKind[13], RowKinds::Section);
-    EXPECT_EQ(ComposeRowText(library, 13), "< The Ambrel >\r\n\r\n" + library.Texts[13]);
 }
 
 TEST_F(LoadedLibraries, AnEmptyLastTitleEndsTheStartExceptInTheAdvancedLibrary) {

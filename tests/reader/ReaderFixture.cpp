@@ -1,6 +1,7 @@
 #include "ReaderFixture.h"
 
 #include "shell/DisplayScale.h"
+#include "support/SavedDialogue.h"
 
 #include <sstream>
 
@@ -67,13 +68,7 @@ void ReaderFixture::Key(int keyCode) {
 }
 
 void ReaderFixture::SaveDialogue(const DateTime& when, const std::string& inspiration) {
-    std::filesystem::create_directories(Folder.Isp());
-    std::filesystem::create_directories(Folder.Dlg());
-    const std::string name = MakeFileName(when);
-    WriteWholeFile(Folder.Isp() / name, inspiration);
-    WriteWholeFile(Folder.Dlg() / name, "\r\n\r\n\t\x93Hello.\x94\r\n\tA reply.");
-    Clock.FileDates[Folder.Isp() / name] = when;
-    Clock.FileDates[Folder.Dlg() / name] = when;
+    PutDialogue(Folder, when, inspiration, "\r\n\r\n\t\x93Hello.\x94\r\n\tA reply.", &Clock);
 }
 
 } // namespace veyrant::testing

@@ -52,10 +52,8 @@ TEST_F(ReaderFlow, LibraryButtonsOpenTheReaderAndRestoringClosesIt) {
         EXPECT_FALSE(Pressed(c.Button));
     }
     EXPECT_TRUE(std::filesystem::exists(Folder.Exe() / "Read.ini"));
-}
 
-// Closing the Reader's own window brings the Write window back from minimised.
-TEST_F(ReaderFlow, ClosingTheReaderRestoresTheWriteWindow) {
+    // Closing the Reader's own window brings the Write window back from minimised.
     Press(MC::cmdKnow);
     App.Links.CloseLibrary();
     EXPECT_FALSE(Windows.IsWindowMinimised(WindowId::Mirror));

@@ -9,6 +9,7 @@
 #include "storage/WorkBuffers.h"
 #include "support/FakeClock.h"
 #include "support/FakeWindowLayer.h"
+#include "support/SavedDialogue.h"
 #include "support/TempFolder.h"
 
 #include <algorithm>
@@ -26,12 +27,7 @@ namespace veyrant::testing {
 // Puts a saved Dialogue into the Library as a save at that date would.
 inline std::string PutPair(const AppFolder& folder, const DateTime& when,
                            const std::string& dialogue) {
-    std::filesystem::create_directories(folder.Isp());
-    std::filesystem::create_directories(folder.Dlg());
-    const std::string name = MakeFileName(when);
-    WriteWholeFile(folder.Isp() / name, "\tInspiration of " + name);
-    WriteWholeFile(folder.Dlg() / name, dialogue);
-    return name;
+    return PutDialogue(folder, when, "\tInspiration of " + MakeFileName(when), dialogue);
 }
 
 // A program's worth of storage in a fresh folder under the base, with the clock at noon on 22

@@ -139,9 +139,6 @@ private slots:
         const std::vector<Case> cases = {
             {MirrorControl::txtMirror, "Entry",
              "Type a question or a statement, then press 'Enter'."},
-            {MirrorControl::cmdConverse, "Converse",
-             "Create entry-response pairs with the Converse method. Ask questions or make "
-             "statements for the Sagrel's response."},
             {MirrorControl::cmdHelp, "Help",
              "Open the Information Library for instructions and information on the program. "
              "Right-click to open the Utilities window."},

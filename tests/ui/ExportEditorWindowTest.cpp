@@ -61,7 +61,7 @@ class ExportEditorWindowTest : public QObject {
 
 private slots:
     // The user's edits are what is saved, as UTF-8 with the platform's line ends.
-    void SavesTheEditedTextAsUtf8() {
+    void SavesTheEditedTextAsUtf8OrSaysWhyNot() {
         testing::FakeWindowLayer windows;
         testing::TempFolder folder;
         SpellChecker spelling;
@@ -78,24 +78,16 @@ private slots:
         QVERIFY(!editor.Editor().document()->isModified());
         QCOMPARE(FilesIn(folder.Path()), std::size_t{1});
         QVERIFY(windows.Boxes.empty());
-    }
 
-    void AFailedSaveSaysSoAndLeavesNoFile() {
-        testing::FakeWindowLayer windows;
-        testing::TempFolder folder;
-        SpellChecker spelling;
-        ExportEditorWindow editor(windows, folders, spelling, QStringLiteral("Text"),
-                                  QStringLiteral("Dialogue.txt"));
+        // A failed save says so, leaves no file, and the text is still changed, so closing will
+        // ask.
         editor.Editor().appendPlainText(QStringLiteral("More."));
-        const auto path = folder / "missing" / "Sunday.txt";
-
-        QVERIFY(!editor.SaveTo(QString::fromStdString(path.string())));
-        QCOMPARE(windows.Boxes.size(), std::size_t{1});
-        QCOMPARE(windows.Boxes[0].Title, std::string("Save File Error"));
+        const auto missing = folder / "missing" / "Sunday.txt";
+        QVERIFY(!editor.SaveTo(QString::fromStdString(missing.string())));
+        QCOMPARE(windows.Boxes.at(0).Title, std::string("Save File Error"));
         QCOMPARE(windows.Boxes[0].Text,
-                 "Error 53 encountered attempting to save " + path.string() + ".");
-        QCOMPARE(FilesIn(folder.Path()), std::size_t{0});
-        // Still changed, so closing will ask.
+                 "Error 53 encountered attempting to save " + missing.string() + ".");
+        QCOMPARE(FilesIn(folder.Path()), std::size_t{1});
         QVERIFY(editor.Editor().document()->isModified());
     }
 

@@ -55,25 +55,27 @@ private slots:
                        {QStringLiteral("-f"), QString::number(number), QStringLiteral("-l"),
                         QString::number(number), pdf, QStringLiteral("-")});
         };
+        // Each page: what it shows, and the entries that start and end it.
+        const std::tuple<int, QString, int, int> pages[] = {
+            {1,
+             QString::fromUtf8("\u201cThe Power of your Inspiration Is in the Worth that You Give "
+                               "It\u201d"),
+             1, 9},
+            {2, QStringLiteral("Page 2"), 10, 20},
+            {3, QStringLiteral("Page 3"), 21, 30},
+        };
+        for (const auto& [number, shows, first, last] : pages) {
+            const QString text = page(number);
+            QVERIFY2(text.contains(shows), qPrintable(text));
+            QVERIFY(text.contains(QStringLiteral("Entry number %1 of").arg(first)));
+            QVERIFY(text.contains(QStringLiteral("Entry number %1 of the Dialogue.").arg(last)));
+            QVERIFY(!text.contains(QStringLiteral("Entry number %1 of").arg(last + 1)));
+        }
         const QString first = page(1);
-        QVERIFY2(first.contains(QStringLiteral("Veyrant Dialogue")), qPrintable(first));
-        QVERIFY(first.contains(QStringLiteral("Sunday, 12:00 PM")));
-        QVERIFY(first.contains(QStringLiteral("November 22, 2026")));
-        QVERIFY(first.contains(QStringLiteral("The Inspiration of the day.")));
-        QVERIFY(first.contains(QString::fromUtf8(
-            "\u201cThe Power of your Inspiration Is in the Worth that You Give It\u201d")));
-        QVERIFY(first.contains(QStringLiteral("Entry number 9 of")));
-        QVERIFY(!first.contains(QStringLiteral("Entry number 10 of")));
-        const QString second = page(2);
-        QVERIFY2(second.contains(QStringLiteral("Page 2")), qPrintable(second));
-        QVERIFY(second.contains(QStringLiteral("Entry number 10 of")));
-        QVERIFY(second.contains(QStringLiteral("Entry number 20 of")));
-        QVERIFY(!second.contains(QStringLiteral("Entry number 21 of")));
-        QVERIFY(!second.contains(QStringLiteral("The Power of your Inspiration")));
-        const QString third = page(3);
-        QVERIFY2(third.contains(QStringLiteral("Page 3")), qPrintable(third));
-        QVERIFY(third.contains(QStringLiteral("Entry number 21 of")));
-        QVERIFY(third.contains(QString::fromUtf8("\u201cEntry number 30 of the Dialogue.\u201d")));
+        for (const char* head : {"Veyrant Dialogue", "Sunday, 12:00 PM", "November 22, 2026",
+                                 "The Inspiration of the day."}) {
+            QVERIFY2(first.contains(QString::fromUtf8(head)), head);
+        }
     }
 };
 

@@ -12,6 +12,7 @@
 #include "storage/LibraryFileName.h"
 #include "support/FakeClock.h"
 #include "support/FakeWindowLayer.h"
+#include "support/SavedDialogue.h"
 #include "support/TempFolder.h"
 
 #include <QLineEdit>
@@ -88,21 +89,7 @@ struct ReadWindow {
     }
     void SaveDialogue(const DateTime& when, const std::string& inspiration,
                       const std::string& dialogue) {
-        const std::string file = MakeFileName(when);
-        std::filesystem::create_directories(App.Folder.Isp());
-        std::filesystem::create_directories(App.Folder.Dlg());
-        WriteWholeFile(App.Folder.Isp() / file, inspiration);
-        WriteWholeFile(App.Folder.Dlg() / file, dialogue);
-        Clock.FileDates[App.Folder.Isp() / file] = when;
-        Clock.FileDates[App.Folder.Dlg() / file] = when;
-    }
-    // Pictures for a person to look at, when asked for.
-    void Picture(const char* name) const {
-        const QByteArray folder = qgetenv("VEYRANT_SHOTS");
-        if (!folder.isEmpty()) {
-            Window->grab().save(QString::fromUtf8(folder) + QLatin1Char('/') +
-                                QString::fromLatin1(name) + QStringLiteral(".png"));
-        }
+        testing::PutDialogue(App.Folder, when, inspiration, dialogue, &Clock);
     }
 
     testing::TempFolder Temp;
@@ -138,7 +125,6 @@ private slots:
         QCOMPARE(read.Window->windowTitle(), name);
         QCOMPARE(read.List()->count(), lib.LastSection + 1);
         QCOMPARE(read.Caption(ReaderControl::cmdNext), QStringLiteral("First"));
-        read.Picture(qPrintable(QStringLiteral("index1-%1").arg(library)));
 
         read.Key(Qt::Key_Down);
         QVERIFY(read.Window->windowTitle().startsWith(name + QStringLiteral(" -- 1/")));
@@ -148,19 +134,16 @@ private slots:
         read.Key(Qt::Key_Down);
         QVERIFY(read.Window->windowTitle().startsWith(name + QStringLiteral(" -- 2/")));
         QVERIFY(read.List()->isVisible());
-        read.Picture(qPrintable(QStringLiteral("topic-split-%1").arg(library)));
         read.Key(Qt::Key_Space);
         QVERIFY(!read.List()->isVisible());
         QVERIFY(read.Spin()->toPlainText().startsWith(
             QString::fromStdString(Cp1252ToUtf8(CleanTitle(lib.Titles[1])))));
-        read.Picture(qPrintable(QStringLiteral("topic-expanded-%1").arg(library)));
         read.Key(Qt::Key_Space);
         read.Key(Qt::Key_Escape);
         QCOMPARE(read.Caption(ReaderControl::cmdSelect), QStringLiteral("< Index 1 >"));
         QCOMPARE(read.List()->count(), lib.LastSection + 1);
         read.Key(Qt::Key_Return);
         QCOMPARE(read.Caption(ReaderControl::cmdSelect), QStringLiteral("< Index 2 >"));
-        read.Picture(qPrintable(QStringLiteral("index2-%1").arg(library)));
     }
 
     void dialogueLibraryStepsLatestFirst() {
@@ -169,18 +152,11 @@ private slots:
         QCOMPARE(read.Window->windowTitle(),
                  QStringLiteral("Veyrant Dialogue Library -- No Dialogues Saved"));
         QVERIFY(!read.Window->Widget(ReaderControl::cmdNext)->isEnabled());
-        read.Picture("dialogue-empty");
         read.App.Links.CloseLibrary();
 
         for (const DateTime when :
              {DateTime{2026, 11, 18, 9, 0, 0}, DateTime{2026, 11, 21, 20, 15, 0}}) {
-            const std::string file = MakeFileName(when);
-            std::filesystem::create_directories(read.App.Folder.Isp());
-            std::filesystem::create_directories(read.App.Folder.Dlg());
-            WriteWholeFile(read.App.Folder.Isp() / file, "\tA path through the reeds.");
-            WriteWholeFile(read.App.Folder.Dlg() / file, "\r\n\r\n\t\x93Where next?\x94\r\n\tOn.");
-            read.Clock.FileDates[read.App.Folder.Isp() / file] = when;
-            read.Clock.FileDates[read.App.Folder.Dlg() / file] = when;
+            read.SaveDialogue(when, "\tA path through the reeds.", "\r\n\r\n\tOn.");
         }
         read.Open(1);
         QCOMPARE(read.List()->count(), 2);
@@ -188,7 +164,6 @@ private slots:
         QCOMPARE(read.Window->windowTitle(),
                  QStringLiteral("Veyrant Dialogue -- 2/2 -- Saturday, 8:15 pm, November 21, 2026 "
                                 "-- 1/21 Days Old/Max"));
-        read.Picture("dialogue-open");
         read.Key(Qt::Key_PageDown);
         QVERIFY(read.Window->windowTitle().startsWith(QStringLiteral("Veyrant Dialogue -- 1/2")));
         QVERIFY(!read.Window->Widget(ReaderControl::cmdNext)->isEnabled());
@@ -206,7 +181,6 @@ private slots:
         QVERIFY(
             read.Window->windowTitle().startsWith(QStringLiteral("Veyrant Knowledge Library -- ")));
         QVERIFY(read.SearchBox()->hasFocus());
-        read.Picture("search-hit-topic");
         const int first = read.Spin()->textCursor().selectionStart();
         const QString firstTitle = read.Window->windowTitle();
         QTest::keyClick(read.SearchBox(), Qt::Key_Return);
@@ -227,12 +201,10 @@ private slots:
         QCOMPARE(read.SearchBox()->text(), QString());
         QCOMPARE(read.Window->windowTitle(),
                  QStringLiteral("Veyrant Knowledge Library -- Search Text"));
-        read.Picture("search-instructions");
         QTest::keyClicks(read.SearchBox(), QStringLiteral("xylophone zebra"));
         QTest::keyClick(read.SearchBox(), Qt::Key_Enter);
         QCOMPARE(read.SearchBox()->text(), QStringLiteral("No text found"));
         QCOMPARE(read.Caption(ReaderControl::cmdSearch), QStringLiteral("New"));
-        read.Picture("search-no-text");
         read.Key(Qt::Key_Escape);
         QCOMPARE(read.Caption(ReaderControl::cmdSearch), QStringLiteral("Search"));
         QVERIFY(!read.SearchBox()->isEnabled());
@@ -251,27 +223,11 @@ private slots:
         QCOMPARE(read.Spin()->textCursor().selectedText(), QStringLiteral("Heron?"));
         QVERIFY(read.HitInView());
         QCOMPARE(read.List()->currentRow(), 2);
-        read.Picture("search-hit-dialogue");
         QTest::keyClick(read.SearchBox(), Qt::Key_Return);
         QCOMPARE(read.SearchBox()->text(), QStringLiteral("Search complete"));
         read.Click(ReaderControl::cmdSelect);
         QVERIFY(read.Window->windowTitle().startsWith(QStringLiteral("Veyrant Dialogue -- 1/3")));
         QCOMPARE(read.Caption(ReaderControl::cmdSelect), QStringLiteral("< Index >"));
-    }
-
-    // A right-click in the text box moves the font a step on and returns to the list.
-    void rightClickInTheTextChangesTheFont() {
-        ReadWindow read;
-        read.Open(3);
-        read.Key(Qt::Key_Down);
-        read.Key(Qt::Key_Down);
-        const qreal before = read.Spin()->font().pointSizeF();
-        QTest::mousePress(read.Spin()->viewport(), Qt::RightButton);
-        QTest::mouseRelease(read.Spin()->viewport(), Qt::RightButton);
-        QCOMPARE(read.App.UserSettings.ReaderFontStep, std::int16_t{2});
-        QVERIFY(read.Spin()->font().pointSizeF() > before);
-        QCOMPARE(read.Window->windowTitle(), QStringLiteral("Veyrant Knowledge Library"));
-        QCOMPARE(read.Layer.Boxes.back().Title, std::string("Change Font Size"));
     }
 
     // The window, its instruction line and its buttons wear the Read window's grey.
@@ -305,7 +261,6 @@ private slots:
         QVERIFY(!read.Window->Widget(ReaderControl::cmdPrint)->isEnabled());
         QVERIFY(read.Layer.Yields > 0);
         QVERIFY(!read.Layer.Busy);
-        read.Picture("merged");
         // No step takes the keys here: they scroll the long essay.
         QScrollBar* bar = read.Spin()->verticalScrollBar();
         for (const auto key : {Qt::Key_PageDown, Qt::Key_Down}) {
