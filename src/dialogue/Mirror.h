@@ -13,7 +13,6 @@
 #include "storage/WorkBuffers.h"
 
 #include <functional>
-#include <optional>
 #include <string>
 
 namespace veyrant {

@@ -4,7 +4,6 @@
 // window's state: click handlers branch on a caption, and the background of txtResponse says
 // what is on show. The Qt window only copies this onto its widgets.
 
-#include "core/Colour.h"
 #include "core/Control.h"
 
 #include <array>

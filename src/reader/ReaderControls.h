@@ -5,7 +5,6 @@
 // says what is on show: both are read back by the handlers. The Qt window only copies this onto
 // its widgets.
 
-#include "core/Colour.h"
 #include "core/Control.h"
 
 #include <array>

@@ -126,6 +126,12 @@ int KeyCharacter(const QKeyEvent* event) {
     return static_cast<unsigned char>(*CodePointToCp1252(characters[0]));
 }
 
+// The style sheet picks a box or a label by its control's name.
+QString ObjectName(MirrorControl control) {
+    const std::string_view name = ControlName(control);
+    return QString::fromLatin1(name.data(), static_cast<qsizetype>(name.size()));
+}
+
 bool IsTextBox(MirrorControl control) {
     return control == MirrorControl::txtMirror || control == MirrorControl::txtResponse ||
            control == MirrorControl::txtAnalyze || control == MirrorControl::txtSaved;
@@ -238,8 +244,7 @@ void MirrorWindow::Build() {
 
 GuardedTextBox* MirrorWindow::MakeBox(MirrorControl control) {
     auto* box = new GuardedTextBox(this);
-    box->setObjectName(QString::fromLatin1(ControlName(control).data(),
-                                           static_cast<qsizetype>(ControlName(control).size())));
+    box->setObjectName(ObjectName(control));
     box->document()->setDocumentMargin(6);
     box->setFrameShape(QFrame::NoFrame);
     if (control != MirrorControl::txtMirror && control != MirrorControl::txtAnalyze) {
@@ -300,8 +305,7 @@ QPushButton* MirrorWindow::MakeButton(MirrorControl control, QWidget* parent) {
 
 QLabel* MirrorWindow::MakeLabel(MirrorControl control) {
     auto* label = new QLabel(this);
-    label->setObjectName(QString::fromLatin1(ControlName(control).data(),
-                                             static_cast<qsizetype>(ControlName(control).size())));
+    label->setObjectName(ObjectName(control));
     label->setTextFormat(Qt::PlainText);
     widgets_[Index(control)] = label;
     MakeSpoken(label, control);

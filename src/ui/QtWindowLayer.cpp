@@ -1,6 +1,5 @@
 #include "ui/QtWindowLayer.h"
 
-#include "core/Cp1252.h"
 #include "shell/Settings.h"
 #include "ui/DialoguePrinter.h"
 #include "ui/ExportEditorWindow.h"
