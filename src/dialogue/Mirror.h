@@ -4,6 +4,7 @@
 // touches the screen itself; the Qt window renders Controls() after every handler and turns its
 // events into the calls below.
 
+#include "core/HoverHelp.h"
 #include "core/MouseButton.h"
 #include "core/WindowLayer.h"
 #include "dialogue/MirrorControls.h"
@@ -12,7 +13,6 @@
 #include "storage/WorkBuffers.h"
 
 #include <functional>
-#include <optional>
 #include <string>
 
 namespace veyrant {
@@ -150,13 +150,9 @@ private:
     void FileFinishedDialogue();
 
     // Instruction panel.
-    void MarkHover(MirrorControl control, const std::string& text);
-    void ClearHover();
     void EndHover();
-    void HoverTick();
     void ResponseHover();
     void NoteHover();
-    void StartAreaHelp(MirrorControl area, const std::string& text);
     void ClickResponse();
     void SetResponse(const std::string& text, Colour background);
 
@@ -224,15 +220,7 @@ private:
     MirrorControls controls_;
     MirrorState state_;
 
-    // The hover help of txtNote: a tick every 1250 milliseconds, the instruction back at the
-    // eighth.
-    static constexpr int HoverInterval = 1250;
-    static constexpr int HoverLastTick = 7;
-    std::string hoverText_;
-    int hoverTicks_ = 0;
-    std::optional<MirrorControl> hoverControl_;
-    // The text area whose help is pending or on show: further moves over it leave the count be.
-    std::optional<MirrorControl> hoverArea_;
+    HoverHelp<MirrorControls, MirrorControl> hover_;
     // The work buffers failed to take the Dialogue on the screen.
     bool unkept_ = false;
 

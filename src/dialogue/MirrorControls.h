@@ -4,8 +4,7 @@
 // window's state: click handlers branch on a caption, and the background of txtResponse says
 // what is on show. The Qt window only copies this onto its widgets.
 
-#include "core/ControlState.h"
-#include "dialogue/Colour.h"
+#include "core/Control.h"
 
 #include <array>
 #include <string>
@@ -40,8 +39,6 @@ enum class MirrorControl {
 inline constexpr int MirrorControlCount = static_cast<int>(MirrorControl::Window) + 1;
 
 std::string_view ControlName(MirrorControl control);
-
-using Control = ControlState<Colour>;
 
 struct MirrorControls {
     std::array<Control, MirrorControlCount> Items{};

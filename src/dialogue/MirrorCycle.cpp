@@ -39,7 +39,7 @@ void Mirror::ClickMethod(int kind) {
                 "when you next open the program.");
         return;
     }
-    ClearHover();
+    hover_.Unmark();
     StartMethod(kind);
     PressMethodButton(MethodButton(kind));
 }
@@ -162,7 +162,7 @@ void Mirror::StartEntry(int kind) {
 
     UpdateTitle();
     ShowSmallView();
-    C(MirrorControl::txtSaved).Background = Colour::PanelGrey;
+    C(MirrorControl::txtSaved).Background = Colour::DialogueGrey;
 
     state_.ResponseText.clear();
     state_.EntryBackup = EntryPrefix;

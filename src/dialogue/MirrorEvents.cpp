@@ -38,7 +38,8 @@ bool IsTextBox(MirrorControl control) {
 
 Mirror::Mirror(MirrorWorld world, DialogueEngine& engine, WorkBuffers& buffers,
                DialogueLibrary& library)
-    : world_(world), engine_(engine), buffers_(buffers), library_(library) {
+    : world_(world), engine_(engine), buffers_(buffers), library_(library),
+      hover_(world.Windows, TimerId::MirrorHover, controls_, MirrorControl::txtNote) {
     ScaleAtCreation();
     // Nothing shows until the delayed start has reset the Dialogue.
     for (auto& control : controls_.Items) {
@@ -57,7 +58,7 @@ Mirror::Mirror(MirrorWorld world, DialogueEngine& engine, WorkBuffers& buffers,
     C(MirrorControl::cmdPrint).Text = "Print";
     C(MirrorControl::cmdSave).Text = "Save";
     C(MirrorControl::cmdNew).Text = "Cancel";
-    C(MirrorControl::txtSaved).Background = Colour::PanelGrey;
+    C(MirrorControl::txtSaved).Background = Colour::DialogueGrey;
     C(MirrorControl::txtResponse).Background = Colour::ColourAdded;
     C(MirrorControl::txtNote).Background = Colour::White;
     // A guest can neither retrieve Dialogues nor reach the Library's options from here.
@@ -86,8 +87,7 @@ void Mirror::StartWindow() {
 void Mirror::Click(MirrorControl control) {
     if (IsButton(control)) {
         // The effect of a click is not hidden behind old help.
-        ClearHover();
-        hoverTicks_ = HoverLastTick;
+        hover_.End();
     }
     switch (control) {
     case MirrorControl::cmdConverse:
@@ -188,7 +188,9 @@ void Mirror::MouseMove(MirrorControl control) {
         if (help.empty()) {
             EndHover();
         } else {
-            MarkHover(control, help);
+            if (hover_.Marked() != control || C(control).Ink == Colour::Black) {
+                hover_.Mark(control, help);
+            }
         }
         return;
     }
@@ -211,7 +213,7 @@ void Mirror::MouseMove(MirrorControl control) {
 
 void Mirror::TimerFired(TimerId timer) {
     if (timer == TimerId::MirrorHover) {
-        HoverTick();
+        hover_.Tick(state_.InstructionText, state_.InstructionColour);
     }
 }
 

@@ -11,48 +11,13 @@
 
 namespace veyrant {
 
-void Mirror::MarkHover(MirrorControl control, const std::string& text) {
-    if (hoverControl_ == control && C(control).Ink != Colour::Black) {
-        return;
-    }
-    ClearHover();
-    hoverArea_.reset();
-    hoverControl_ = control;
-    C(control).Ink = Colour::HoverInk;
-    C(control).Underlined = true;
-    hoverText_ = text;
-    hoverTicks_ = 0;
-    world_.Windows.StartTimer(TimerId::MirrorHover, HoverInterval);
-}
-
-void Mirror::ClearHover() {
-    if (hoverControl_) {
-        C(*hoverControl_).Ink = Colour::Black;
-        C(*hoverControl_).Underlined = false;
-    }
-}
-
 // The mouse left for a place without help: the instruction comes back at once.
 void Mirror::EndHover() {
     if (C(MirrorControl::txtNote).Text != state_.InstructionText) {
         ShowInstruction();
     }
-    ClearHover();
-    hoverArea_.reset();
-    hoverTicks_ = HoverLastTick;
-}
-
-void Mirror::HoverTick() {
-    if (hoverTicks_ < HoverLastTick) {
-        C(MirrorControl::txtNote).Text = hoverText_;
-        C(MirrorControl::txtNote).Ink = Colour::HelpInk;
-        ++hoverTicks_;
-        return;
-    }
-    ShowInstruction();
-    world_.Windows.StopTimer(TimerId::MirrorHover);
-    hoverTicks_ = 0;
-    hoverArea_.reset();
+    hover_.End();
+    hover_.LeaveArea();
 }
 
 namespace {
@@ -194,8 +159,7 @@ std::string Mirror::HelpFor(MirrorControl control) const {
 
 void Mirror::ResponseHover() {
     if (state_.ActiveMethod == 0) {
-        ClearHover();
-        hoverTicks_ = HoverLastTick;
+        hover_.End();
         return;
     }
     if (state_.ActiveMethod < 0 || state_.EntryFailed == 1 ||
@@ -208,7 +172,7 @@ void Mirror::ResponseHover() {
     if (C(MirrorControl::txtNote).Text == tip) {
         return;
     }
-    StartAreaHelp(MirrorControl::txtResponse, tip);
+    hover_.StartArea(MirrorControl::txtResponse, tip);
 }
 
 void Mirror::NoteHover() {
@@ -218,20 +182,7 @@ void Mirror::NoteHover() {
     }
     note.Text = MirrorText::TipKeysLead;
     note.Ink = Colour::HelpInk;
-    StartAreaHelp(MirrorControl::txtNote, std::string(MirrorText::TipKeys));
-}
-
-// The count starts when the mouse arrives over the area, not at each move across it.
-void Mirror::StartAreaHelp(MirrorControl area, const std::string& text) {
-    if (hoverArea_ == area && hoverText_ == text) {
-        return;
-    }
-    ClearHover();
-    hoverControl_.reset();
-    hoverArea_ = area;
-    hoverText_ = text;
-    hoverTicks_ = 0;
-    world_.Windows.StartTimer(TimerId::MirrorHover, HoverInterval);
+    hover_.StartArea(MirrorControl::txtNote, std::string(MirrorText::TipKeys));
 }
 
 void Mirror::SetResponse(const std::string& text, Colour background) {

@@ -251,10 +251,8 @@ void Mirror::ClickEntryBox() {
         return;
     }
     ShowInstruction();
-    ClearHover();
-    hoverArea_.reset();
-    hoverTicks_ = 0;
-    world_.Windows.StopTimer(TimerId::MirrorHover);
+    hover_.Unmark();
+    hover_.Stop();
     if (state_.AwaitingEnter == 1) {
         C(MirrorControl::txtMirror).Caret = 0;
         Message(std::string(MirrorText::HelpTitle),

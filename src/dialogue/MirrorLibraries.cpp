@@ -83,13 +83,13 @@ void Mirror::WindowStateChanged(bool minimised) {
 // Over the bare window the help tells how to bring a hidden backdrop back; with the backdrop up
 // there is nothing to tell, and its own hint gives way too.
 void Mirror::BackgroundMove() {
-    ClearHover();
+    hover_.Unmark();
     if (back_ == nullptr) {
         return;
     }
     if (!world_.Windows.IsWindowVisible(WindowId::Back)) {
         if (C(MirrorControl::txtNote).Text != MirrorText::TipRestoreBackground) {
-            StartAreaHelp(MirrorControl::Window, std::string(MirrorText::TipRestoreBackground));
+            hover_.StartArea(MirrorControl::Window, std::string(MirrorText::TipRestoreBackground));
         }
         return;
     }

@@ -85,7 +85,7 @@ bool Mirror::MustKeep() const {
 }
 
 void Mirror::ResetDialogue() {
-    hoverTicks_ = 0;
+    hover_.Rewind();
     state_.SupposeStage = 0;
     state_.PairCount = 0;
     state_.AwaitingEnter = 1;
@@ -114,7 +114,7 @@ void Mirror::ResetDialogue() {
     }
     BeginDialogue();
 
-    C(MirrorControl::txtSaved).Background = Colour::PanelGrey;
+    C(MirrorControl::txtSaved).Background = Colour::DialogueGrey;
     ArrangeOpening();
     C(MirrorControl::txtResponse).Background = Colour::ColourAdded;
     for (auto control :

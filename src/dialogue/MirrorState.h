@@ -3,7 +3,7 @@
 // The state variables of the Write window, named as the program names them. One value each for
 // the whole program: there is one Write window.
 
-#include "dialogue/Colour.h"
+#include "core/Colour.h"
 
 #include <string>
 #include <vector>

@@ -95,7 +95,7 @@ void Mirror::ShowDialogueSmall() {
     auto& saved = C(MirrorControl::txtSaved);
     saved.Text = state_.DialogueView;
     saved.Caret = 0;
-    saved.Background = Colour::PanelGrey;
+    saved.Background = Colour::DialogueGrey;
     state_.DisplayFull = 0;
 }
 

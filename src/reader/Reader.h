@@ -5,6 +5,7 @@
 // screen itself; the Qt window renders Controls() after every handler and turns its events into
 // the calls below.
 
+#include "core/HoverHelp.h"
 #include "core/MouseButton.h"
 #include "core/WindowLayer.h"
 #include "reader/ReaderControls.h"
@@ -25,6 +26,7 @@ public:
 
     const ReaderControls& Controls() const { return controls_; }
     const ReaderState& State() const { return state_; }
+    const HoverHelp<ReaderControls, ReaderControl>& Hover() const { return hover_; }
 
     // Called before each yield and each modal box, so that the screen shows the state.
     void SetPainter(std::function<void()> painter) { painter_ = std::move(painter); }
@@ -128,9 +130,6 @@ private:
 
     // Hover help and focus.
     void MarkHover(ReaderControl button);
-    void UnmarkHover();
-    void EndHover();
-    void HoverTick();
     std::string WindowHoverText() const;
     void NoteHover();
     void BackgroundMove();
@@ -153,13 +152,14 @@ private:
     void Paint();
     bool IsDialogueLibrary() const;
 
-    ReaderItem& C(ReaderControl control) { return controls_[control]; }
-    const ReaderItem& C(ReaderControl control) const { return controls_[control]; }
+    Control& C(ReaderControl control) { return controls_[control]; }
+    const Control& C(ReaderControl control) const { return controls_[control]; }
 
     ReaderWorld world_;
     std::function<void()> painter_;
     ReaderControls controls_;
     ReaderState state_;
+    HoverHelp<ReaderControls, ReaderControl> hover_;
     int windowWidth_ = 0;
     int windowHeight_ = 0;
 };

@@ -27,7 +27,7 @@ void Reader::Yield() {
 }
 
 void Reader::ClickMarkExit() {
-    EndHover();
+    hover_.End();
     // Only the library on show is marked. A selected Dialogue has written its position already;
     // a fixed library's shown row becomes its mark.
     const int library = world_.Values.ReadLibrary;
@@ -41,7 +41,7 @@ void Reader::ClickMarkExit() {
 }
 
 void Reader::ClickPrint() {
-    EndHover();
+    hover_.End();
     world_.Windows.SetBusyPointer(true);
     // Disabled first, so that a click arriving while the screen catches up cannot enter twice.
     C(ReaderControl::cmdPrint).Enabled = false;
@@ -109,7 +109,7 @@ void Reader::MergeSection() {
     }
     state_.DisplayText = merged;
     spin.Text = merged;
-    spin.Background = ReaderColour::ReadingText;
+    spin.Background = Colour::ReadingText;
     SetButtons(3);
     // The merged essay always shows expanded; the library's saved mode stays as it was.
     SetWindowLayout(1);
@@ -124,7 +124,7 @@ void Reader::LoadShownDialogue() {
 }
 
 void Reader::FileOpenDialogue() {
-    EndHover();
+    hover_.End();
     LoadShownDialogue();
     ExportToEditor(world_.Windows, state_.DialogueDate,
                    "Inspiration" + std::string(CrLf) + std::string(CrLf) + state_.InspirationBody +
@@ -132,7 +132,7 @@ void Reader::FileOpenDialogue() {
 }
 
 void Reader::DeleteOpenDialogue() {
-    EndHover();
+    hover_.End();
     Paint();
     const auto& listing = world_.Library.Listing();
     const int index = state_.LibraryListOrder[static_cast<std::size_t>(state_.ListPos + 1)];

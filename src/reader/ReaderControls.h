@@ -5,8 +5,7 @@
 // says what is on show: both are read back by the handlers. The Qt window only copies this onto
 // its widgets.
 
-#include "core/ControlState.h"
-#include "reader/ReaderColour.h"
+#include "core/Control.h"
 
 #include <array>
 #include <string>
@@ -39,8 +38,6 @@ inline constexpr int ReaderControlCount = static_cast<int>(ReaderControl::Window
 std::string_view ControlName(ReaderControl control);
 bool IsReaderButton(ReaderControl control);
 
-using ReaderItem = ControlState<ReaderColour>;
-
 // List1's rows, counted from 0, with the selected row and the first row in view.
 struct ReaderList {
     std::vector<std::string> Rows;
@@ -49,13 +46,13 @@ struct ReaderList {
 };
 
 struct ReaderControls {
-    std::array<ReaderItem, ReaderControlCount> Items{};
+    std::array<Control, ReaderControlCount> Items{};
     ReaderList List;
     std::string Title;
     ReaderControl Focus = ReaderControl::txtCursor;
 
-    ReaderItem& operator[](ReaderControl control) { return Items[static_cast<int>(control)]; }
-    const ReaderItem& operator[](ReaderControl control) const {
+    Control& operator[](ReaderControl control) { return Items[static_cast<int>(control)]; }
+    const Control& operator[](ReaderControl control) const {
         return Items[static_cast<int>(control)];
     }
 };

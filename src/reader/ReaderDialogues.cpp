@@ -91,7 +91,7 @@ void Reader::OpenDialogueList() {
     const int count = listing.LibraryCount;
     FillDialogueList();
     C(ReaderControl::txtSpin).Text = ReadInstructions(ReadLibraries::Dialogue);
-    C(ReaderControl::txtSpin).Background = ReaderColour::IndexText;
+    C(ReaderControl::txtSpin).Background = Colour::IndexText;
 
     const auto label = [&](int index) {
         return listing.LibraryLabels[static_cast<std::size_t>(index)];
@@ -115,7 +115,7 @@ void Reader::OpenDialogueList() {
         C(ReaderControl::txtSpin).Text = EmptyLibraryInstructions();
         SetWindowLayout(0);
         state_.NoteText = "There are no Dialogues saved in the Library.";
-        C(ReaderControl::List1).Background = ReaderColour::ListEmpty;
+        C(ReaderControl::List1).Background = Colour::ListEmpty;
     } else {
         SetWindowLayout(world_.UserSettings.WindowMode[ReadLibraries::Dialogue]);
         state_.NoteText =
@@ -154,7 +154,7 @@ void Reader::ShowDialogue(int position) {
                       std::to_string(world_.UserSettings.MaxLibraryDays) + " Days Old/Max";
     auto& spin = C(ReaderControl::txtSpin);
     ComposeDialogueText(spin.Text);
-    spin.Background = ReaderColour::ReadingText;
+    spin.Background = Colour::ReadingText;
 }
 
 void Reader::ComposeDialogueText(std::string& text) const {

@@ -177,7 +177,7 @@ void Reader::MouseMove(ReaderControl control) {
     switch (control) {
     case ReaderControl::List1:
     case ReaderControl::txtSpin:
-        EndHover();
+        hover_.End();
         break;
     case ReaderControl::txtNote:
         NoteHover();
@@ -193,7 +193,7 @@ void Reader::MouseMove(ReaderControl control) {
 
 void Reader::TimerFired(TimerId timer) {
     if (timer == TimerId::ReadHover) {
-        HoverTick();
+        hover_.Tick(state_.NoteText, state_.NoteColor);
     }
 }
 

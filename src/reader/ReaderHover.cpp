@@ -4,12 +4,11 @@
 #include "core/Text.h"
 #include "reader/Reader.h"
 
+#include <utility>
+
 namespace veyrant {
 
 namespace {
-
-constexpr int HoverInterval = 1250;
-constexpr int HoverLastTick = 7;
 
 const char* const RestoreBackgroundText =
     "Click to restore the background that surrounds the window.";
@@ -53,7 +52,7 @@ std::string Reader::WindowHoverText() const {
         return "Set the window to the normal mode. This will display both the list and text in "
                "their normal views.";
     }
-    return C(ReaderControl::txtSpin).Background == ReaderColour::ReadingText
+    return C(ReaderControl::txtSpin).Background == Colour::ReadingText
                ? "Set the window to the expanded mode. This will display only the text in the "
                  "expanded view."
                : "Set the window to the expanded mode. This will display only the list in the "
@@ -110,43 +109,13 @@ std::string Reader::HoverTextFor(ReaderControl button) const {
 }
 
 void Reader::MarkHover(ReaderControl button) {
-    const auto& marked = C(state_.HoverButton);
-    if (C(button).Text == marked.Text && C(button).Ink != ReaderColour::Black) {
+    const auto marked = hover_.Marked();
+    if (marked && C(button).Text == C(*marked).Text && C(button).Ink != Colour::Black) {
         return;
     }
-    const std::string help = HoverTextFor(button);
-    if (help.empty()) {
-        return;
-    }
-    UnmarkHover();
-    state_.HoverButton = button;
-    C(button).Ink = ReaderColour::HoverInk;
-    C(button).Underlined = true;
-    state_.HoverText = help;
-    state_.HoverTicks = 0;
-    world_.Windows.StartTimer(TimerId::ReadHover, HoverInterval);
-}
-
-void Reader::UnmarkHover() {
-    auto& marked = C(state_.HoverButton);
-    marked.Ink = ReaderColour::Black;
-    marked.Underlined = false;
-}
-
-void Reader::EndHover() {
-    UnmarkHover();
-    state_.HoverTicks = HoverLastTick;
-}
-
-void Reader::HoverTick() {
-    if (state_.HoverTicks < HoverLastTick) {
-        C(ReaderControl::txtNote).Text = state_.HoverText;
-        C(ReaderControl::txtNote).Ink = ReaderColour::HelpInk;
-        ++state_.HoverTicks;
-    } else if (state_.HoverTicks == HoverLastTick) {
-        ShowNote();
-        world_.Windows.StopTimer(TimerId::ReadHover);
-        state_.HoverTicks = 0;
+    std::string help = HoverTextFor(button);
+    if (!help.empty()) {
+        hover_.Mark(button, std::move(help));
     }
 }
 
@@ -156,28 +125,24 @@ void Reader::NoteHover() {
         return;
     }
     note.Text = "Function key alternates for mouse clicks.";
-    note.Ink = ReaderColour::HelpInk;
-    UnmarkHover();
-    state_.HoverText = state_.KeyHint;
-    state_.HoverTicks = 0;
-    world_.Windows.StartTimer(TimerId::ReadHover, HoverInterval);
+    note.Ink = Colour::HelpInk;
+    hover_.Unmark();
+    hover_.Start(state_.KeyHint);
 }
 
 void Reader::BackgroundMove() {
-    UnmarkHover();
+    hover_.Unmark();
     const auto& note = C(ReaderControl::txtNote);
     if (!world_.Windows.IsWindowVisible(WindowId::Back)) {
         if (note.Text != RestoreBackgroundText) {
-            state_.HoverText = RestoreBackgroundText;
-            state_.HoverTicks = 0;
-            world_.Windows.StartTimer(TimerId::ReadHover, HoverInterval);
+            hover_.Start(RestoreBackgroundText);
         }
         return;
     }
     if (note.Text != state_.NoteText) {
         ShowNote();
     }
-    state_.HoverTicks = HoverLastTick;
+    hover_.End();
     world_.Back.HideHint();
 }
 

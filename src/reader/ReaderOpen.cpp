@@ -9,11 +9,10 @@
 
 namespace veyrant {
 
-Reader::Reader(ReaderWorld world) : world_(world) {
+Reader::Reader(ReaderWorld world)
+    : world_(world), hover_(world.Windows, TimerId::ReadHover, controls_, ReaderControl::txtNote) {
     ScaleReader();
-    state_.HoverTicks = 0;
-    state_.HoverButton = ReaderControl::cmdExitM;
-    state_.NoteColor = ReaderColour::Black;
+    state_.NoteColor = Colour::Black;
     C(ReaderControl::txtCursor).Visible = false;
     C(ReaderControl::cmdExitM).Text = "Mark Exit";
     C(ReaderControl::cmdFile).Text = "File";
@@ -24,10 +23,10 @@ Reader::Reader(ReaderWorld world) : world_(world) {
         const auto control = static_cast<ReaderControl>(index);
         if (IsReaderButton(control) || control == ReaderControl::txtNote ||
             control == ReaderControl::Window) {
-            C(control).Background = ReaderColour::WindowGrey;
+            C(control).Background = Colour::WindowGrey;
         }
     }
-    C(ReaderControl::Panel1).Background = ReaderColour::PanelGrey;
+    C(ReaderControl::Panel1).Background = Colour::PanelGrey;
     SetSearchMode(0);
 }
 
@@ -115,7 +114,7 @@ std::int16_t& Reader::CurrentRow() {
 
 void Reader::ShowLibrary() {
     C(ReaderControl::cmdSelect).Enabled = true;
-    C(ReaderControl::List1).Ink = ReaderColour::Black;
+    C(ReaderControl::List1).Ink = Colour::Black;
     ApplyFontStep();
     C(ReaderControl::List1).Height = ListIsSplit() ? SplitListHeight() : ExpandedListHeight();
     SetSearchMode(0);
@@ -170,7 +169,7 @@ void Reader::OpenFixedList() {
     world_.Values.LibraryName = LibraryLongName(library);
     controls_.Title = world_.Values.LibraryName;
     C(ReaderControl::txtSpin).Text = ReadInstructions(library);
-    C(ReaderControl::txtSpin).Background = ReaderColour::IndexText;
+    C(ReaderControl::txtSpin).Background = Colour::IndexText;
     state_.ReopenKind = static_cast<std::int16_t>(library + 2);
     state_.ListPos = -1;
     SetButtons(1);

@@ -100,8 +100,8 @@ void Reader::SetSearchMode(int on) {
     state_.SearchActive = 0;
     auto& box = C(ReaderControl::txtSearch);
     box.Enabled = false;
-    box.Ink = ReaderColour::IndexText;
-    box.Background = ReaderColour::ListEmpty;
+    box.Ink = Colour::IndexText;
+    box.Background = Colour::ListEmpty;
     SetSearchBoxText("Search not active");
     C(ReaderControl::cmdSearch).Text = SearchCaption;
 }
@@ -118,8 +118,8 @@ void Reader::EnterSearch() {
     SetSearchBoxText("");
     auto& box = C(ReaderControl::txtSearch);
     box.Enabled = true;
-    box.Ink = ReaderColour::Black;
-    box.Background = ReaderColour::IndexText;
+    box.Ink = Colour::Black;
+    box.Background = Colour::IndexText;
     controls_.Focus = ReaderControl::txtSearch;
 
     // With a Dialogue open, that Dialogue stays on view and is all that is searched.
@@ -137,7 +137,7 @@ void Reader::EnterSearch() {
     controls_.List.TopRow = 0;
     auto& spin = C(ReaderControl::txtSpin);
     spin.Text = SearchInstructions(world_.Values.ReadLibrary);
-    spin.Background = ReaderColour::IndexText;
+    spin.Background = Colour::IndexText;
     controls_.Title = world_.Values.LibraryName + " -- Search Text";
 }
 
@@ -155,7 +155,7 @@ void Reader::SearchTextChanged(const std::string& text) {
 }
 
 void Reader::ClickSearch() {
-    EndHover();
+    hover_.End();
     const std::string caption = C(ReaderControl::cmdSearch).Text;
     // The list, or a fixed library, is searched whole and shows split; an open Dialogue keeps its
     // layout.
@@ -205,8 +205,7 @@ void Reader::SearchEnter() {
 
 void Reader::SearchStep() {
     // No hover text may overwrite what the step shows.
-    world_.Windows.StopTimer(TimerId::ReadHover);
-    state_.HoverTicks = 0;
+    hover_.Stop();
     C(ReaderControl::cmdSelect).Enabled = false;
     // The search text is made ready once for the whole walk.
     const NoCaseFinder finder(state_.SearchText);
@@ -270,7 +269,7 @@ bool Reader::SearchAllDialogues(const NoCaseFinder& finder) {
     SelectRow(state_.SearchRow);
     ScrollList();
     ShowDialogue(state_.ListPos + 1);
-    C(ReaderControl::List1).Background = ReaderColour::IndexText;
+    C(ReaderControl::List1).Background = Colour::IndexText;
     ShowHit();
     C(ReaderControl::cmdExitM).Enabled = true;
     return true;
@@ -300,8 +299,8 @@ bool Reader::SearchFixedLibrary(const NoCaseFinder& finder) {
     ScrollList();
     auto& spin = C(ReaderControl::txtSpin);
     // A Section found by the search reads as a Topic does.
-    spin.Background = ReaderColour::ReadingText;
-    C(ReaderControl::List1).Background = ReaderColour::IndexText;
+    spin.Background = Colour::ReadingText;
+    C(ReaderControl::List1).Background = Colour::IndexText;
     spin.Text = state_.DisplayText;
     ShowHit();
     C(ReaderControl::cmdExitM).Enabled = true;

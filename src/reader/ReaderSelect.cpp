@@ -23,7 +23,7 @@ void Reader::SelectRow(int row) {
 }
 
 void Reader::ListRowClicked(int row) {
-    EndHover();
+    hover_.End();
     SelectRow(row);
 }
 
@@ -84,10 +84,10 @@ void Reader::SelectFixedRow(int position) {
         spin.Text = state_.DisplayText;
         SetButtons(2);
         if (library.RowKind[row] < RowKinds::Section) {
-            spin.Background = ReaderColour::ReadingText;
+            spin.Background = Colour::ReadingText;
         }
         if (library.RowKind[row] == RowKinds::Section) {
-            spin.Background = ReaderColour::IndexText;
+            spin.Background = Colour::IndexText;
             C(ReaderControl::cmdPrint).Enabled = true;
         }
         // A Section always shows split; a Topic in the library's own mode.
@@ -100,7 +100,7 @@ void Reader::SelectFixedRow(int position) {
 }
 
 void Reader::ClickSelect() {
-    EndHover();
+    hover_.End();
     const std::string caption = C(ReaderControl::cmdSelect).Text;
     const int library = world_.Values.ReadLibrary;
     if (caption == CancelCaption) {

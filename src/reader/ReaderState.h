@@ -3,8 +3,8 @@
 // The state of one opening of the Read window, named as the program names it. It is made afresh
 // at each load; what outlives the window is in ReaderValues.
 
+#include "core/Colour.h"
 #include "core/DateTime.h"
-#include "reader/ReaderColour.h"
 #include "reader/ReaderControls.h"
 
 #include <cstdint>
@@ -32,16 +32,13 @@ struct ReaderState {
     DateTime DialogueDate{};
     std::int16_t DialogueAge = 0;
     std::string NoteText;
-    ReaderColour NoteColor = ReaderColour::Black;
+    Colour NoteColor = Colour::Black;
     std::string KeyHint;
     // The listed text of each saved Dialogue, 1 to LibraryCount, cut to the list's width.
     std::vector<std::string> LibraryListText;
     // List position from 1 to the Dialogue's index in the Library's tables, latest first.
     std::vector<int> LibraryListOrder;
 
-    ReaderControl HoverButton = ReaderControl::cmdExitM;
-    std::string HoverText;
-    std::int16_t HoverTicks = 0;
     std::int16_t SpinRightClick = 0;
 
     // The search. SearchText is always what stands in txtSearch, blanks included.

@@ -73,7 +73,7 @@ void Reader::SetStepButtons(bool on) {
 }
 
 void Reader::Step(int by) {
-    EndHover();
+    hover_.End();
     state_.ListPos = static_cast<std::int16_t>(state_.ListPos + by);
     SetStepButtons(true);
     SelectRow(state_.ListPos);
@@ -104,8 +104,8 @@ void Reader::SetWindowLayout(int mode) {
     }
     auto& list = C(ReaderControl::List1);
     auto& spin = C(ReaderControl::txtSpin);
-    const bool reading = spin.Background == ReaderColour::ReadingText;
-    list.Background = reading ? ReaderColour::IndexText : ReaderColour::ListInUse;
+    const bool reading = spin.Background == Colour::ReadingText;
+    list.Background = reading ? Colour::IndexText : Colour::ListInUse;
     if (mode == 0) {
         list.Height = SplitListHeight();
         PlaceText(TextTopLow, TextHeightLow);
@@ -127,8 +127,8 @@ void Reader::SetWindowLayout(int mode) {
 }
 
 void Reader::ClickWindow() {
-    EndHover();
-    const bool indexShows = C(ReaderControl::txtSpin).Background == ReaderColour::IndexText;
+    hover_.End();
+    const bool indexShows = C(ReaderControl::txtSpin).Background == Colour::IndexText;
     if (state_.SearchActive == 1 && indexShows) {
         Message("Split Window Mode When Searching",
                 "When entering the search mode, the window is automatically set in the split-view "

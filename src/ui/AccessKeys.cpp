@@ -18,16 +18,23 @@ constexpr std::array<std::pair<const char*, char>, 20> AccessLetters = {{
 
 } // namespace
 
-QString WithAccessKey(const QString& caption) {
+QString WithAccessKey(const QString& caption, const QString& key) {
     QString shown = caption;
     shown.replace(QLatin1Char('&'), QStringLiteral("&&"));
-    for (const auto& [text, letter] : AccessLetters) {
-        if (caption == QLatin1String(text)) {
-            shown.insert(shown.indexOf(QLatin1Char(letter)), QLatin1Char('&'));
-            break;
-        }
+    const auto at = shown.indexOf(key);
+    if (!key.isEmpty() && at >= 0) {
+        shown.insert(at, QLatin1Char('&'));
     }
     return shown;
+}
+
+QString WithAccessKey(const QString& caption) {
+    for (const auto& [text, letter] : AccessLetters) {
+        if (caption == QLatin1String(text)) {
+            return WithAccessKey(caption, QString(QLatin1Char(letter)));
+        }
+    }
+    return WithAccessKey(caption, QString());
 }
 
 } // namespace veyrant

@@ -1,6 +1,8 @@
 #include "ui/BannerWindow.h"
 
 #include "shell/WindowPlacement.h"
+#include "ui/Palette.h"
+#include "ui/Pixels.h"
 
 #include <QFont>
 #include <QLinearGradient>
@@ -11,13 +13,10 @@ namespace veyrant {
 
 namespace {
 
-const QColor ShadeLight(190, 190, 196);
-const QColor ShadeDark(172, 172, 172);
+// The Read window's greys.
+const QColor ShadeLight = ColourValue(Colour::WindowGrey);
+const QColor ShadeDark = ColourValue(Colour::PanelGrey);
 const QColor Ink(58, 60, 72);
-
-int Pixels(int twips) {
-    return twips / TwipsPerPixel;
-}
 
 QFont NameFont(int pixelSize) {
     QFont font(QStringLiteral("Liberation Serif"));

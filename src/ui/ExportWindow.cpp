@@ -1,7 +1,6 @@
 #include "ui/ExportWindow.h"
 
 #include "ui/QtText.h"
-#include "ui/UtilityWindow.h"
 
 #include <QLabel>
 #include <QProgressBar>
@@ -13,7 +12,7 @@
 namespace veyrant {
 
 ExportWindow::ExportWindow(ExportLibrary& logic, double scaleFactor, QWidget* parent)
-    : QDialog(parent), logic_(logic), scaleFactor_(scaleFactor), lblStatus_(new QLabel(this)),
+    : UtilityDialog(scaleFactor, parent), logic_(logic), lblStatus_(new QLabel(this)),
       prgExport_(new QProgressBar(this)), cmdCancel_(new QPushButton(this)) {
     setObjectName("frmExport");
     setWindowTitle(ToQt(logic_.Controls().Title));
@@ -47,11 +46,7 @@ void ExportWindow::reject() {
 }
 
 void ExportWindow::showEvent(QShowEvent* event) {
-    QDialog::showEvent(event);
-    if (!placed_) {
-        placed_ = true;
-        PlaceUtilityWindow(*this, scaleFactor_);
-    }
+    UtilityDialog::showEvent(event);
     // Each showing is one export, from the Utilities; it starts after the show has finished, so
     // that the window stands behind the folder dialog.
     if (!event->spontaneous()) {

@@ -4,8 +4,7 @@
 // The export starts once the window is on show; the folder dialog and the boxes stand over it.
 
 #include "app/ExportLibrary.h"
-
-#include <QDialog>
+#include "ui/UtilityDialog.h"
 
 class QLabel;
 class QProgressBar;
@@ -13,7 +12,7 @@ class QPushButton;
 
 namespace veyrant {
 
-class ExportWindow : public QDialog {
+class ExportWindow : public UtilityDialog {
 public:
     ExportWindow(ExportLibrary& logic, double scaleFactor, QWidget* parent = nullptr);
 
@@ -27,8 +26,6 @@ protected:
 
 private:
     ExportLibrary& logic_;
-    double scaleFactor_;
-    bool placed_ = false;
     QLabel* lblStatus_;
     QProgressBar* prgExport_;
     QPushButton* cmdCancel_;

@@ -6,33 +6,24 @@
 #include "shell/MirrorLayout.h"
 #include "shell/WindowPlacement.h"
 #include "ui/AccessKeys.h"
+#include "ui/ControlWindow.h"
 #include "ui/FitText.h"
 #include "ui/GuardedTextBox.h"
+#include "ui/Palette.h"
+#include "ui/Pixels.h"
 #include "ui/QtText.h"
 #include "ui/QtWindowLayer.h"
 #include "ui/SpellingHighlighter.h"
 #include "ui/SpokenText.h"
 
-#include <QCloseEvent>
 #include <QFrame>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
-#include <QStyle>
-#include <cmath>
 
 namespace veyrant {
 
 namespace {
-
-int Pixels(int twips) {
-    return static_cast<int>(std::lround(static_cast<double>(twips) / TwipsPerPixel));
-}
-
-QString Css(Colour colour) {
-    const Rgb rgb = ColourValue(colour);
-    return QStringLiteral("rgb(%1, %2, %3)").arg(rgb.Red).arg(rgb.Green).arg(rgb.Blue);
-}
 
 // Quiet greys for the frame and the buttons; the boxes carry the program's own colours, which
 // say what is on show.
@@ -135,6 +126,12 @@ int KeyCharacter(const QKeyEvent* event) {
     return static_cast<unsigned char>(*CodePointToCp1252(characters[0]));
 }
 
+// The style sheet picks a box or a label by its control's name.
+QString ObjectName(MirrorControl control) {
+    const std::string_view name = ControlName(control);
+    return QString::fromLatin1(name.data(), static_cast<qsizetype>(name.size()));
+}
+
 bool IsTextBox(MirrorControl control) {
     return control == MirrorControl::txtMirror || control == MirrorControl::txtResponse ||
            control == MirrorControl::txtAnalyze || control == MirrorControl::txtSaved;
@@ -178,15 +175,7 @@ Spoken SpokenFor(MirrorControl control) {
 void MakeSpoken(QWidget* widget, MirrorControl control) {
     const Spoken spoken = SpokenFor(control);
     widget->setAccessibleName(QString::fromLatin1(spoken.Name));
-    widget->setAccessibleDescription(ToDisplayText(std::string(spoken.Description)));
-}
-
-QFont DesignedFont(QFont font, const Control& now) {
-    if (now.FontSize > 0) {
-        font.setPointSizeF(now.FontSize);
-    }
-    font.setBold(now.FontBold);
-    return font;
+    widget->setAccessibleDescription(ToQt(std::string(spoken.Description)));
 }
 
 MouseButton ButtonOf(const QMouseEvent* event) {
@@ -202,8 +191,7 @@ MouseButton ButtonOf(const QMouseEvent* event) {
 
 } // namespace
 
-MirrorWindow::MirrorWindow(Application& app, Mirror& mirror)
-    : QWidget(nullptr), app_(app), mirror_(mirror) {
+MirrorWindow::MirrorWindow(Application& app, Mirror& mirror) : app_(app), mirror_(mirror) {
     setObjectName(QStringLiteral("Mirror"));
     setStyleSheet(QString::fromLatin1(MirrorStyle));
     setMouseTracking(true);
@@ -254,16 +242,9 @@ void MirrorWindow::Build() {
         ->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
 }
 
-void MirrorWindow::Watch(QWidget* widget, MirrorControl control) {
-    widget->setProperty("mirrorControl", static_cast<int>(control));
-    widget->setMouseTracking(true);
-    widget->installEventFilter(this);
-}
-
 GuardedTextBox* MirrorWindow::MakeBox(MirrorControl control) {
     auto* box = new GuardedTextBox(this);
-    box->setObjectName(QString::fromLatin1(ControlName(control).data(),
-                                           static_cast<qsizetype>(ControlName(control).size())));
+    box->setObjectName(ObjectName(control));
     box->document()->setDocumentMargin(6);
     box->setFrameShape(QFrame::NoFrame);
     if (control != MirrorControl::txtMirror && control != MirrorControl::txtAnalyze) {
@@ -324,8 +305,7 @@ QPushButton* MirrorWindow::MakeButton(MirrorControl control, QWidget* parent) {
 
 QLabel* MirrorWindow::MakeLabel(MirrorControl control) {
     auto* label = new QLabel(this);
-    label->setObjectName(QString::fromLatin1(ControlName(control).data(),
-                                             static_cast<qsizetype>(ControlName(control).size())));
+    label->setObjectName(ObjectName(control));
     label->setTextFormat(Qt::PlainText);
     widgets_[Index(control)] = label;
     MakeSpoken(label, control);
@@ -383,30 +363,19 @@ void MirrorWindow::ReadBack(MirrorControl control) {
     shown_[control].SelectionLength = mirror_.Controls()[control].SelectionLength;
 }
 
-void MirrorWindow::Render() {
-    if (rendering_) {
-        return;
-    }
-    rendering_ = true;
-    const bool force = !rendered_;
+void MirrorWindow::RenderControls(bool force) {
     for (int index = 0; index < MirrorControlCount; ++index) {
         RenderControl(static_cast<MirrorControl>(index), force);
     }
     const auto& controls = mirror_.Controls();
-    if (force || controls.Title != shown_.Title) {
-        setWindowTitle(ToDisplayText(controls.Title));
-        // While the Read window shows, this window is minimised and named by its icon text.
-        setWindowIconText(windowTitle());
-        shown_.Title = controls.Title;
-    }
+    // While the Read window shows, this window is minimised and named by its icon text.
+    RenderTitle(controls.Title, shown_.Title, force);
     QWidget* focus = Widget(controls.Focus);
     if (IsTextBox(controls.Focus) && focus->isVisible() && focus->isEnabled() &&
         !focus->hasFocus()) {
         focus->setFocus(Qt::OtherFocusReason);
     }
     shown_.Focus = controls.Focus;
-    rendered_ = true;
-    rendering_ = false;
 }
 
 void MirrorWindow::RenderControl(MirrorControl control, bool force) {
@@ -417,18 +386,11 @@ void MirrorWindow::RenderControl(MirrorControl control, bool force) {
     Control& was = shown_[control];
     QWidget* widget = Widget(control);
 
-    if (force || now.Left != was.Left || now.Top != was.Top || now.Width != was.Width ||
-        now.Height != was.Height) {
-        widget->setGeometry(Pixels(now.Left), Pixels(now.Top), Pixels(now.Width),
-                            Pixels(now.Height));
-    }
-    if (force || now.Enabled != was.Enabled) {
-        widget->setEnabled(now.Enabled);
-    }
+    RenderPlace(*widget, now, was, force);
     const bool fontChanged = force || now.FontSize != was.FontSize || now.FontBold != was.FontBold;
     if (fontChanged) {
-        const QFont font = DesignedFont(
-            IsTextBox(control) ? QFont(ToDisplayText(app_.Fonts.Main)) : this->font(), now);
+        const QFont font =
+            DesignedFont(IsTextBox(control) ? QFont(ToQt(app_.Fonts.Main)) : this->font(), now);
         widget->setFont(font);
         if (IsTextBox(control)) {
             auto* box = static_cast<GuardedTextBox*>(widget);
@@ -446,9 +408,9 @@ void MirrorWindow::RenderControl(MirrorControl control, bool force) {
         auto* label = static_cast<QLabel*>(widget);
         if (force || now.Text != was.Text) {
             if (control == MirrorControl::txtNote) {
-                ShowSpokenText(*label, ToDisplayText(now.Text));
+                ShowSpokenText(*label, ToQt(now.Text));
             } else {
-                label->setText(ToDisplayText(now.Text));
+                label->setText(ToQt(now.Text));
             }
         }
         if (control == MirrorControl::txtNote && (force || now.Ink != was.Ink)) {
@@ -459,20 +421,8 @@ void MirrorWindow::RenderControl(MirrorControl control, bool force) {
             FitWrappedText(*label, DesignedFont(this->font(), now));
         }
     } else if (auto* button = qobject_cast<QPushButton*>(widget)) {
-        if (force || now.Text != was.Text) {
-            button->setText(WithAccessKey(ToDisplayText(now.Text)));
-        }
-        const QString help = ToDisplayText(mirror_.HelpFor(control));
-        if (button->accessibleDescription() != help) {
-            button->setAccessibleDescription(help);
-        }
-        if (force || now.PressedIn != was.PressedIn || now.Ink != was.Ink ||
-            now.Underlined != was.Underlined) {
-            button->setProperty("pressedIn", now.PressedIn);
-            button->setProperty("hoverMark", now.Underlined || now.Ink == Colour::HoverInk);
-            button->style()->unpolish(button);
-            button->style()->polish(button);
-        }
+        RenderButton(*button, now, was, force, WithAccessKey(ToQt(now.Text)),
+                     ToQt(mirror_.HelpFor(control)));
     }
     if (force || now.Visible != was.Visible) {
         widget->setVisible(now.Visible);
@@ -488,19 +438,12 @@ void MirrorWindow::RenderControl(MirrorControl control, bool force) {
 void MirrorWindow::RenderText(MirrorControl control, const Control& now, bool force) {
     auto* box = static_cast<GuardedTextBox*>(Widget(control));
     Control& was = shown_[control];
-    const bool textChanged = force || !rendered_ || now.Text != was.Text;
+    const bool textChanged = force || !Rendered() || now.Text != was.Text;
     if (textChanged) {
-        box->setPlainText(ToDisplayText(now.Text));
+        box->setPlainText(ToQt(now.Text));
     }
     if (textChanged || now.Caret != was.Caret || now.SelectionLength != was.SelectionLength) {
-        QTextCursor cursor = box->textCursor();
-        cursor.setPosition(BoxPosition(now.Text, now.Caret));
-        if (now.SelectionLength > 0) {
-            cursor.setPosition(BoxPosition(now.Text, now.Caret + now.SelectionLength),
-                               QTextCursor::KeepAnchor);
-        }
-        box->setTextCursor(cursor);
-        box->ensureCursorVisible();
+        RenderCaret(*box, now, true);
     }
     was.Text = now.Text;
     was.Caret = now.Caret;
@@ -508,11 +451,11 @@ void MirrorWindow::RenderText(MirrorControl control, const Control& now, bool fo
 }
 
 bool MirrorWindow::eventFilter(QObject* watched, QEvent* event) {
-    const QVariant property = watched->property("mirrorControl");
-    if (!property.isValid()) {
+    const auto watchedControl = WatchedControl(watched);
+    if (!watchedControl) {
         return QWidget::eventFilter(watched, event);
     }
-    const auto control = static_cast<MirrorControl>(property.toInt());
+    const auto control = static_cast<MirrorControl>(*watchedControl);
     switch (event->type()) {
     case QEvent::MouseMove:
         mirror_.MouseMove(control);
@@ -544,7 +487,7 @@ bool MirrorWindow::eventFilter(QObject* watched, QEvent* event) {
         }
         break;
     case QEvent::FocusIn:
-        if (IsTextBox(control) && !rendering_) {
+        if (IsTextBox(control) && !Rendering()) {
             mirror_.FocusGained(control);
             Render();
         }
@@ -552,7 +495,7 @@ bool MirrorWindow::eventFilter(QObject* watched, QEvent* event) {
     case QEvent::FocusOut: {
         const auto reason = static_cast<QFocusEvent*>(event)->reason();
         if ((control == MirrorControl::txtMirror || control == MirrorControl::txtAnalyze) &&
-            !rendering_ && reason != Qt::ActiveWindowFocusReason &&
+            !Rendering() && reason != Qt::ActiveWindowFocusReason &&
             reason != Qt::PopupFocusReason) {
             mirror_.FocusLost(control);
             Render();
@@ -583,13 +526,6 @@ void MirrorWindow::changeEvent(QEvent* event) {
         Render();
     }
     QWidget::changeEvent(event);
-}
-
-void MirrorWindow::closeEvent(QCloseEvent* event) {
-    event->ignore();
-    if (OnClose) {
-        OnClose();
-    }
 }
 
 } // namespace veyrant

@@ -6,10 +6,9 @@
 
 #include "app/Application.h"
 #include "dialogue/Mirror.h"
+#include "ui/ControlWindow.h"
 
-#include <QWidget>
 #include <array>
-#include <functional>
 
 class QLabel;
 class QPushButton;
@@ -18,20 +17,14 @@ namespace veyrant {
 
 class GuardedTextBox;
 
-class MirrorWindow final : public QWidget {
+class MirrorWindow final : public ControlWindow {
 public:
     MirrorWindow(Application& app, Mirror& mirror);
 
-    // Copies the logic's state onto the widgets, touching only what changed.
-    void Render();
-
     QWidget* Widget(MirrorControl control) const { return widgets_[Index(control)]; }
 
-    // Runs when the user closes the window; the window itself stays until the logic hides it.
-    std::function<void()> OnClose;
-
 protected:
-    void closeEvent(QCloseEvent* event) override;
+    void RenderControls(bool force) override;
     void changeEvent(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -42,7 +35,6 @@ private:
     GuardedTextBox* MakeBox(MirrorControl control);
     QPushButton* MakeButton(MirrorControl control, QWidget* parent);
     QLabel* MakeLabel(MirrorControl control);
-    void Watch(QWidget* widget, MirrorControl control);
 
     bool KeyFromScreen(MirrorControl control, QKeyEvent* event);
     void ReadBack(MirrorControl control);
@@ -53,8 +45,6 @@ private:
     Mirror& mirror_;
     std::array<QWidget*, MirrorControlCount> widgets_{};
     MirrorControls shown_;
-    bool rendered_ = false;
-    bool rendering_ = false;
 };
 
 } // namespace veyrant

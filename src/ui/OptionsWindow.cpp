@@ -1,6 +1,7 @@
 #include "ui/OptionsWindow.h"
 
 #include "core/Cp1252.h"
+#include "ui/AccessKeys.h"
 #include "ui/OkCancelButtons.h"
 #include "ui/QtText.h"
 
@@ -22,16 +23,6 @@ namespace {
 // The boxes take digits only, so every character has its Windows-1252 code.
 std::string FromQt(const QString& text) {
     return Utf16ToCp1252(text.toStdU16String()).value_or(std::string());
-}
-
-// The logic's caption with the keyboard mark before the first letter of the given word.
-QString WithMnemonic(const std::string& caption, const QString& word) {
-    QString text = ToQt(caption).replace('&', "&&");
-    const auto at = text.indexOf(word);
-    if (at >= 0) {
-        text.insert(at, '&');
-    }
-    return text;
 }
 
 QLineEdit* MakeLimitBox(const char* name, QWidget* parent) {
@@ -156,8 +147,9 @@ void OptionsWindow::Render() {
     Check1_->setChecked(controls.Check1 == 1);
     ShowText(Label3_, ToQt(controls.Label3.Caption));
     ShowText(Label4_, ToQt(controls.Label4.Caption));
-    ShowText(lblSetSave_, WithMnemonic(controls.lblSetSave.Caption, QStringLiteral("files")));
-    ShowText(lblSetDays_, WithMnemonic(controls.lblSetDays.Caption, QStringLiteral("days")));
+    ShowText(lblSetSave_,
+             WithAccessKey(ToQt(controls.lblSetSave.Caption), QStringLiteral("files")));
+    ShowText(lblSetDays_, WithAccessKey(ToQt(controls.lblSetDays.Caption), QStringLiteral("days")));
     cmdOK_->setEnabled(controls.cmdOK.Enabled);
     cmdCancel_->setEnabled(controls.cmdCancel.Enabled);
     cmdClean_->setEnabled(controls.cmdClean.Enabled);

@@ -10,8 +10,11 @@
 
 namespace veyrant {
 
+// A CR LF pair is one line break on the screen.
 inline QString ToQt(const std::string& text) {
-    return QString::fromStdU16String(Cp1252ToUtf16(text));
+    QString shown = QString::fromStdU16String(Cp1252ToUtf16(text));
+    shown.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+    return shown;
 }
 
 // The logic counts CR LF as two characters where a text box holds one line break.

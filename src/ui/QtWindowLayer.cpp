@@ -1,10 +1,10 @@
 #include "ui/QtWindowLayer.h"
 
-#include "core/Cp1252.h"
 #include "shell/Settings.h"
 #include "ui/DialoguePrinter.h"
 #include "ui/ExportEditorWindow.h"
 #include "ui/PrintFlow.h"
+#include "ui/QtText.h"
 
 #include <QApplication>
 #include <QCoreApplication>
@@ -78,17 +78,10 @@ QScreen* PrimaryScreen() {
 
 } // namespace
 
-QString ToDisplayText(const std::string& text) {
-    const std::u16string wide = Cp1252ToUtf16(text);
-    QString shown = QString::fromUtf16(wide.data(), static_cast<qsizetype>(wide.size()));
-    shown.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
-    return shown;
-}
-
 std::unique_ptr<QMessageBox> BuildMessageBox(const MessageBoxRequest& request) {
     auto box = std::make_unique<QMessageBox>();
-    box->setWindowTitle(ToDisplayText(request.Title));
-    box->setText(ToDisplayText(request.Text));
+    box->setWindowTitle(ToQt(request.Title));
+    box->setText(ToQt(request.Text));
     box->setTextFormat(Qt::PlainText);
     box->setIcon(IconFor(request.Icon));
     const auto buttons = ButtonsFor(request.Buttons);
@@ -258,18 +251,17 @@ int QtWindowLayer::ScreenHeightTwips() const {
 
 int QtWindowLayer::TextWidthTwips(const std::string& face, double points, bool bold, bool italic,
                                   const std::string& text) const {
-    QFont font(ToDisplayText(face));
+    QFont font(ToQt(face));
     font.setPointSizeF(points);
     font.setBold(bold);
     font.setItalic(italic);
     const QFontMetricsF metrics(font);
-    return static_cast<int>(
-        std::lround(metrics.horizontalAdvance(ToDisplayText(text)) * TwipsPerPixel));
+    return static_cast<int>(std::lround(metrics.horizontalAdvance(ToQt(text)) * TwipsPerPixel));
 }
 
 bool QtWindowLayer::HasFontFace(const std::string& face, bool italic) const {
     // The font database lists what is really installed; a QFont would quietly take a stand-in.
-    const QString family = ToDisplayText(face);
+    const QString family = ToQt(face);
     const QStringList families = QFontDatabase::families();
     const auto found = std::find_if(families.begin(), families.end(), [&](const QString& known) {
         return known.compare(family, Qt::CaseInsensitive) == 0;
@@ -286,7 +278,7 @@ bool QtWindowLayer::HasFontFace(const std::string& face, bool italic) const {
 }
 
 PrintOutcome QtWindowLayer::PrintDialogue(const PrintRequest& request) {
-    const QString face = ToDisplayText(printFace_ ? printFace_() : FontNames{}.Main);
+    const QString face = ToQt(printFace_ ? printFace_() : FontNames{}.Main);
     QPrinter printer(QPrinter::HighResolution);
     PreparePrinter(printer, request);
     // The preview and the print dialog take the pointer as any window does.
@@ -300,8 +292,8 @@ PrintOutcome QtWindowLayer::PrintDialogue(const PrintRequest& request) {
 }
 
 void QtWindowLayer::ShowInEditor(const std::string& text, const std::string& proposedFileName) {
-    auto* editor = new ExportEditorWindow(*this, saveFolder_, *spelling_, ToDisplayText(text),
-                                          ToDisplayText(proposedFileName));
+    auto* editor =
+        new ExportEditorWindow(*this, saveFolder_, *spelling_, ToQt(text), ToQt(proposedFileName));
     editor->show();
 }
 
@@ -309,7 +301,7 @@ std::optional<std::filesystem::path>
 QtWindowLayer::AskSaveFileName(const std::string& proposedFileName) {
     const QString chosen =
         QFileDialog::getSaveFileName(QApplication::activeWindow(), QStringLiteral("Save As"),
-                                     ProposedSavePath(saveFolder_, ToDisplayText(proposedFileName)),
+                                     ProposedSavePath(saveFolder_, ToQt(proposedFileName)),
                                      QStringLiteral("Text files (*.txt);;All files (*)"));
     if (chosen.isEmpty()) {
         return std::nullopt;
@@ -320,9 +312,8 @@ QtWindowLayer::AskSaveFileName(const std::string& proposedFileName) {
 }
 
 std::optional<std::filesystem::path> QtWindowLayer::AskFolder(const std::string& title) {
-    const QString chosen =
-        QFileDialog::getExistingDirectory(QApplication::activeWindow(), ToDisplayText(title),
-                                          ProposedSavePath(saveFolder_, QString()));
+    const QString chosen = QFileDialog::getExistingDirectory(
+        QApplication::activeWindow(), ToQt(title), ProposedSavePath(saveFolder_, QString()));
     if (chosen.isEmpty()) {
         return std::nullopt;
     }

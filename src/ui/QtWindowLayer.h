@@ -89,9 +89,6 @@ private:
     std::set<WindowId> setAside_;
 };
 
-// The program's Windows-1252 text as Qt shows it, with its CR LF line ends as plain breaks.
-QString ToDisplayText(const std::string& text);
-
 // The box for a request, built but not shown.
 std::unique_ptr<QMessageBox> BuildMessageBox(const MessageBoxRequest& request);
 

@@ -3,12 +3,14 @@
 #include "core/Cp1252.h"
 #include "core/KeyCodes.h"
 #include "shell/WindowPlacement.h"
+#include "ui/ControlWindow.h"
 #include "ui/FitText.h"
+#include "ui/Palette.h"
+#include "ui/Pixels.h"
 #include "ui/QtText.h"
 #include "ui/QtWindowLayer.h"
 #include "ui/SpokenText.h"
 
-#include <QCloseEvent>
 #include <QFrame>
 #include <QKeyEvent>
 #include <QLabel>
@@ -18,10 +20,7 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QScrollBar>
-#include <QStyle>
-#include <QTextCursor>
 #include <QTimer>
-#include <cmath>
 #include <utility>
 
 namespace veyrant {
@@ -31,15 +30,6 @@ namespace {
 constexpr int FrameWidth = 90;
 constexpr int FrameHeight = 405;
 constexpr int SearchLength = 60;
-
-int Pixels(int twips) {
-    return static_cast<int>(std::lround(static_cast<double>(twips) / TwipsPerPixel));
-}
-
-QString Css(ReaderColour colour) {
-    const Rgb rgb = ColourValue(colour);
-    return QStringLiteral("rgb(%1, %2, %3)").arg(rgb.Red).arg(rgb.Green).arg(rgb.Blue);
-}
 
 // The window and its buttons take the logic's own colour, filled in at %1.
 const char* const ReaderStyle = R"(
@@ -103,8 +93,7 @@ MouseButton ButtonOf(const QMouseEvent* event) {
 
 } // namespace
 
-ReaderWindow::ReaderWindow(Application& app, Reader& reader)
-    : QWidget(nullptr), app_(app), reader_(reader) {
+ReaderWindow::ReaderWindow(Application& app, Reader& reader) : app_(app), reader_(reader) {
     setObjectName(QStringLiteral("Read"));
     setStyleSheet(QString::fromLatin1(ReaderStyle)
                       .arg(Css(reader_.Controls()[ReaderControl::Window].Background)));
@@ -210,60 +199,32 @@ void ReaderWindow::Build() {
     }
 }
 
-void ReaderWindow::Watch(QWidget* widget, ReaderControl control) {
-    widget->setProperty("readerControl", static_cast<int>(control));
-    widget->setMouseTracking(true);
-    widget->installEventFilter(this);
-}
-
-void ReaderWindow::Render() {
-    if (rendering_) {
-        return;
-    }
-    rendering_ = true;
-    const bool force = !rendered_;
+void ReaderWindow::RenderControls(bool force) {
     for (int index = 0; index < ReaderControlCount; ++index) {
         RenderControl(static_cast<ReaderControl>(index), force);
     }
     RenderList(force);
     RenderText(force);
     const auto& controls = reader_.Controls();
-    if (force || controls.Title != shown_.Title) {
-        setWindowTitle(ToQt(controls.Title));
-        // A minimised window is named by its icon text; it keeps its name while it waits.
-        setWindowIconText(windowTitle());
-        shown_.Title = controls.Title;
-    }
+    // A minimised window is named by its icon text; it keeps its name while it waits.
+    RenderTitle(controls.Title, shown_.Title, force);
     if (controls.Focus == ReaderControl::txtSearch) {
         Widget(ReaderControl::txtSearch)->setFocus(Qt::OtherFocusReason);
     } else if (!hasFocus()) {
         setFocus(Qt::OtherFocusReason);
     }
-    rendered_ = true;
-    rendering_ = false;
 }
 
 void ReaderWindow::RenderControl(ReaderControl control, bool force) {
     if (control == ReaderControl::Window || control == ReaderControl::txtCursor) {
         return;
     }
-    const ReaderItem& now = reader_.Controls()[control];
-    ReaderItem& was = shown_[control];
+    const Control& now = reader_.Controls()[control];
+    Control& was = shown_[control];
     QWidget* widget = Widget(control);
-    if (force || now.Left != was.Left || now.Top != was.Top || now.Width != was.Width ||
-        now.Height != was.Height) {
-        widget->setGeometry(Pixels(now.Left), Pixels(now.Top), Pixels(now.Width),
-                            Pixels(now.Height));
-    }
-    if (force || now.Enabled != was.Enabled) {
-        widget->setEnabled(now.Enabled);
-    }
+    RenderPlace(*widget, now, was, force);
     const bool reading = control == ReaderControl::List1 || control == ReaderControl::txtSpin;
-    QFont font = reading ? QFont(ToQt(app_.Fonts.Main)) : this->font();
-    if (now.FontSize > 0) {
-        font.setPointSizeF(now.FontSize);
-    }
-    font.setBold(now.FontBold);
+    const QFont font = DesignedFont(reading ? QFont(ToQt(app_.Fonts.Main)) : this->font(), now);
     const bool fontChanged = force || now.FontSize != was.FontSize || now.FontBold != was.FontBold;
     if (fontChanged) {
         widget->setFont(font);
@@ -287,19 +248,7 @@ void ReaderWindow::RenderControl(ReaderControl control, bool force) {
         }
     }
     if (auto* button = qobject_cast<QPushButton*>(widget)) {
-        if (force || now.Text != was.Text) {
-            button->setText(ToQt(now.Text));
-        }
-        const QString help = ToQt(reader_.HoverTextFor(control));
-        if (button->accessibleDescription() != help) {
-            button->setAccessibleDescription(help);
-        }
-        if (force || now.PressedIn != was.PressedIn || now.Ink != was.Ink) {
-            button->setProperty("pressedIn", now.PressedIn);
-            button->setProperty("hoverMark", now.Ink == ReaderColour::HoverInk);
-            button->style()->unpolish(button);
-            button->style()->polish(button);
-        }
+        RenderButton(*button, now, was, force, ToQt(now.Text), ToQt(reader_.HoverTextFor(control)));
     } else if (auto* label = qobject_cast<QLabel*>(widget)) {
         if (fontChanged || now.Text != was.Text) {
             ShowSpokenText(*label, ToQt(now.Text));
@@ -321,7 +270,7 @@ void ReaderWindow::RenderControl(ReaderControl control, bool force) {
         (force || now.Visible != was.Visible || now.Top != was.Top || now.Height != was.Height)) {
         spinPlaced_ = true;
     }
-    const ReaderItem kept = was;
+    const Control kept = was;
     was = now;
     // The text box's text and selection are copied by RenderText, which compares them first.
     if (control == ReaderControl::txtSpin) {
@@ -365,16 +314,7 @@ void ReaderWindow::RenderText(bool force) {
     // The selection is a hit of the search, kept in view; otherwise the caret is at the top.
     if (textChanged || spinPlaced_ || now.Caret != was.Caret ||
         now.SelectionLength != was.SelectionLength) {
-        QTextCursor cursor = spin_->textCursor();
-        cursor.setPosition(BoxPosition(now.Text, now.Caret));
-        if (now.SelectionLength > 0) {
-            cursor.setPosition(BoxPosition(now.Text, now.Caret + now.SelectionLength),
-                               QTextCursor::KeepAnchor);
-        }
-        spin_->setTextCursor(cursor);
-        if (now.Visible) {
-            spin_->ensureCursorVisible();
-        }
+        RenderCaret(*spin_, now, now.Visible);
         spinPlaced_ = false;
     }
     was.Text = now.Text;
@@ -413,11 +353,11 @@ void ReaderWindow::ScrollText(int key) {
 }
 
 bool ReaderWindow::eventFilter(QObject* watched, QEvent* event) {
-    const QVariant property = watched->property("readerControl");
-    if (!property.isValid()) {
+    const auto watchedControl = WatchedControl(watched);
+    if (!watchedControl) {
         return QWidget::eventFilter(watched, event);
     }
-    const auto control = static_cast<ReaderControl>(property.toInt());
+    const auto control = static_cast<ReaderControl>(*watchedControl);
     switch (event->type()) {
     case QEvent::MouseMove:
         reader_.MouseMove(control);
@@ -513,13 +453,6 @@ void ReaderWindow::changeEvent(QEvent* event) {
                 Render();
             }
         });
-    }
-}
-
-void ReaderWindow::closeEvent(QCloseEvent* event) {
-    event->ignore();
-    if (OnClose) {
-        OnClose();
     }
 }
 

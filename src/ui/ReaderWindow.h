@@ -7,31 +7,24 @@
 
 #include "app/Application.h"
 #include "reader/Reader.h"
+#include "ui/ControlWindow.h"
 
-#include <QWidget>
 #include <array>
-#include <functional>
 
 class QListWidget;
 class QPlainTextEdit;
 
 namespace veyrant {
 
-class ReaderWindow final : public QWidget {
+class ReaderWindow final : public ControlWindow {
 public:
     ReaderWindow(Application& app, Reader& reader);
 
-    // Copies the logic's state onto the widgets, touching only what changed.
-    void Render();
-
     QWidget* Widget(ReaderControl control) const { return widgets_[Index(control)]; }
 
-    // Runs when the user closes the window.
-    std::function<void()> OnClose;
-
 protected:
+    void RenderControls(bool force) override;
     void changeEvent(QEvent* event) override;
-    void closeEvent(QCloseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -39,7 +32,6 @@ private:
     static std::size_t Index(ReaderControl control) { return static_cast<std::size_t>(control); }
 
     void Build();
-    void Watch(QWidget* widget, ReaderControl control);
     void RenderControl(ReaderControl control, bool force);
     void RenderList(bool force);
     void RenderText(bool force);
@@ -54,10 +46,8 @@ private:
     QListWidget* list_ = nullptr;
     QPlainTextEdit* spin_ = nullptr;
     ReaderControls shown_;
-    bool rendered_ = false;
     // txtSpin moved or came into view, so its caret must be brought into view again.
     bool spinPlaced_ = false;
-    bool rendering_ = false;
 };
 
 } // namespace veyrant

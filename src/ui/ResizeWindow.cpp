@@ -1,8 +1,8 @@
 #include "ui/ResizeWindow.h"
 
+#include "ui/AccessKeys.h"
 #include "ui/OkCancelButtons.h"
 #include "ui/QtText.h"
-#include "ui/UtilityWindow.h"
 
 #include <QCheckBox>
 #include <QDialogButtonBox>
@@ -15,7 +15,7 @@
 namespace veyrant {
 
 ResizeWindow::ResizeWindow(Resize& resize, double scaleFactor, QWidget* parent)
-    : QDialog(parent), resize_(resize), scaleFactor_(scaleFactor) {
+    : UtilityDialog(scaleFactor, parent), resize_(resize) {
     const ResizeControls& controls = resize_.Controls();
     setObjectName("frmResize");
     setWindowTitle(ToQt(controls.Title));
@@ -33,7 +33,7 @@ ResizeWindow::ResizeWindow(Resize& resize, double scaleFactor, QWidget* parent)
         const ResizeOption& choice = controls.Choices[index];
         // The captions share their first letters, so the keyboard reaches them through the group's
         // key and the arrow keys.
-        auto* button = new QRadioButton(ToQt(choice.Caption).replace('&', "&&"), sizes);
+        auto* button = new QRadioButton(WithAccessKey(ToQt(choice.Caption), {}), sizes);
         button->setObjectName(QString::fromStdString(choice.Name));
         sizesLayout->addWidget(button);
         choices_[index] = button;
@@ -45,7 +45,8 @@ ResizeWindow::ResizeWindow(Resize& resize, double scaleFactor, QWidget* parent)
     }
 
     // The caption's first letter is free among the window's access keys.
-    chkSpelling_ = new QCheckBox(QStringLiteral("&") + ToQt(controls.chkSpelling.Caption), this);
+    const QString spelling = ToQt(controls.chkSpelling.Caption);
+    chkSpelling_ = new QCheckBox(WithAccessKey(spelling, spelling.left(1)), this);
     chkSpelling_->setObjectName(QString::fromStdString(controls.chkSpelling.Name));
     connect(chkSpelling_, &QCheckBox::clicked, this, [this](bool checked) {
         resize_.chkSpelling_Click(checked);
@@ -75,18 +76,13 @@ void ResizeWindow::reject() {
     Render();
 }
 
-void ResizeWindow::showEvent(QShowEvent* event) {
-    QDialog::showEvent(event);
-    if (!loaded_) {
-        loaded_ = true;
-        resize_.Form_Load();
-        Render();
-        for (QRadioButton* choice : choices_) {
-            if (choice->isChecked()) {
-                choice->setFocus(Qt::OtherFocusReason);
-            }
+void ResizeWindow::FirstShown() {
+    resize_.Form_Load();
+    Render();
+    for (QRadioButton* choice : choices_) {
+        if (choice->isChecked()) {
+            choice->setFocus(Qt::OtherFocusReason);
         }
-        PlaceUtilityWindow(*this, scaleFactor_);
     }
 }
 

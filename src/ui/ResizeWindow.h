@@ -4,8 +4,8 @@
 // marks to turn on or off, stored at the click, and OK or Cancel, both of which end the program.
 
 #include "shell/Resize.h"
+#include "ui/UtilityDialog.h"
 
-#include <QDialog>
 #include <array>
 
 class QCheckBox;
@@ -14,7 +14,7 @@ class QRadioButton;
 
 namespace veyrant {
 
-class ResizeWindow : public QDialog {
+class ResizeWindow : public UtilityDialog {
 public:
     ResizeWindow(Resize& resize, double scaleFactor, QWidget* parent = nullptr);
 
@@ -23,14 +23,12 @@ public:
 
 protected:
     // The window loads the first time it is shown, as the program's windows do.
-    void showEvent(QShowEvent* event) override;
+    void FirstShown() override;
 
 private:
     void Render();
 
     Resize& resize_;
-    double scaleFactor_;
-    bool loaded_ = false;
     std::array<QRadioButton*, 4> choices_{};
     QCheckBox* chkSpelling_;
     QPushButton* cmdOK_;

@@ -1,11 +1,10 @@
 #include "ui/UtilityWindow.h"
 
-#include "shell/WindowPlacement.h"
+#include "ui/AccessKeys.h"
 #include "ui/QtText.h"
 
 #include <QLabel>
 #include <QPushButton>
-#include <QScreen>
 #include <QVBoxLayout>
 
 namespace veyrant {
@@ -14,12 +13,7 @@ namespace {
 
 QPushButton* MakeButton(const char* name, const std::string& caption, const QString& mnemonic,
                         QWidget* parent) {
-    QString text = ToQt(caption);
-    const auto at = text.indexOf(mnemonic);
-    if (at >= 0) {
-        text.insert(at, '&');
-    }
-    auto* button = new QPushButton(text, parent);
+    auto* button = new QPushButton(WithAccessKey(ToQt(caption), mnemonic), parent);
     button->setObjectName(name);
     button->setMinimumHeight(button->sizeHint().height() + 10);
     return button;
@@ -27,23 +21,8 @@ QPushButton* MakeButton(const char* name, const std::string& caption, const QStr
 
 } // namespace
 
-void PlaceUtilityWindow(QWidget& window, double scaleFactor) {
-    if (scaleFactor > 1.0) {
-        QFont font = window.font();
-        font.setPointSizeF(font.pointSizeF() * scaleFactor);
-        window.setFont(font);
-    }
-    window.adjustSize();
-    if (const QScreen* screen = window.screen()) {
-        const QRect room = screen->availableGeometry();
-        const ScreenPoint place =
-            CentredPlace(room.width(), room.height(), window.width(), window.height(), 2.0, 1.8);
-        window.move(room.left() + place.Left, room.top() + place.Top);
-    }
-}
-
 UtilityWindow::UtilityWindow(Utility& utility, double scaleFactor, QWidget* parent)
-    : QDialog(parent), utility_(utility), scaleFactor_(scaleFactor) {
+    : UtilityDialog(scaleFactor, parent), utility_(utility) {
     const UtilityControls& controls = utility_.Controls();
     setObjectName("frmUtility");
     setWindowTitle(ToQt(controls.Title));
@@ -79,14 +58,6 @@ UtilityWindow::UtilityWindow(Utility& utility, double scaleFactor, QWidget* pare
 
 void UtilityWindow::reject() {
     utility_.Form_Close();
-}
-
-void UtilityWindow::showEvent(QShowEvent* event) {
-    QDialog::showEvent(event);
-    if (!placed_) {
-        placed_ = true;
-        PlaceUtilityWindow(*this, scaleFactor_);
-    }
 }
 
 } // namespace veyrant

@@ -4,31 +4,21 @@
 // window, and the close box, which ends the program.
 
 #include "app/Utility.h"
-
-#include <QDialog>
+#include "ui/UtilityDialog.h"
 
 class QPushButton;
 
 namespace veyrant {
 
-// The windows opened from the Utilities grow with the display scale and stand a little below the
-// middle of the screen. A scale of 1 leaves the font as it is.
-void PlaceUtilityWindow(QWidget& window, double scaleFactor);
-
-class UtilityWindow : public QDialog {
+class UtilityWindow : public UtilityDialog {
 public:
     UtilityWindow(Utility& utility, double scaleFactor, QWidget* parent = nullptr);
 
     // Escape and the window's close box both close the window, which ends the program.
     void reject() override;
 
-protected:
-    void showEvent(QShowEvent* event) override;
-
 private:
     Utility& utility_;
-    double scaleFactor_;
-    bool placed_ = false;
     QPushButton* cmdOptions_;
     QPushButton* cmdResize_;
     QPushButton* cmdExport_;

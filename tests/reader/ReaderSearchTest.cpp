@@ -284,7 +284,7 @@ TEST_F(ReaderSearch, HoverTextsFollowTheState) {
     const auto hover = [&](RC button = RC::cmdSearch) {
         Read().MouseMove(RC::List1);
         Read().MouseMove(button);
-        return Read().State().HoverText;
+        return Read().Hover().Text();
     };
     Open(1);
     EXPECT_EQ(hover(), "Search for words or phrases within all the Dialogues. Starting with the "
