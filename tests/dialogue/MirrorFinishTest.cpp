@@ -56,7 +56,7 @@ TEST(MirrorFinish, FinishThenContinueThenFinishAgain) {
     EXPECT_EQ(buffers->Buffers.PairCount, 2);
 
     driver.mirror->Click(MirrorControl::cmdRemove); // Continue
-    EXPECT_EQ(driver.State().ActiveMethod, 1);
+    EXPECT_EQ(driver.State().ActiveMethod, WriteMethod::Converse);
     EXPECT_TRUE(driver.Box(MirrorControl::cmdConverse).PressedIn);
     EXPECT_EQ(driver.Text(MirrorControl::cmdNew), "Finish");
     EXPECT_EQ(driver.Text(MirrorControl::cmdDisplay), "Display");
@@ -123,7 +123,7 @@ TEST_P(MirrorNew, AsksOnlyForAnUnsavedDialogueAndResetsOnNo) {
                   "beginning another?");
     }
     if (c.Reset) {
-        EXPECT_EQ(driver.State().ActiveMethod, 0);
+        EXPECT_EQ(driver.State().ActiveMethod, WriteMethod::None);
         EXPECT_EQ(driver.State().DialogueText, "");
         EXPECT_EQ(driver.State().PairCount, 0);
         EXPECT_EQ(driver.State().CycleCount, 0);
@@ -180,7 +180,7 @@ TEST_P(MirrorPrior, ReopensWithItsAgeAndTheDateItWasWritten) {
     EXPECT_EQ(driver.Engine.Inspirations, 0); // the Dialogue keeps its own
 
     driver.mirror->Click(MirrorControl::cmdRemove); // Continue
-    EXPECT_EQ(driver.State().ActiveMethod, 1);
+    EXPECT_EQ(driver.State().ActiveMethod, WriteMethod::Converse);
     EXPECT_EQ(driver.State().InspirationText, "\tAn old inspiration.");
     EXPECT_EQ(driver.Text(MirrorControl::txtResponse), "Inspiration\r\n\tAn old inspiration.");
     EXPECT_EQ(driver.Text(MirrorControl::cmdNew), "Finish");
@@ -210,7 +210,7 @@ TEST(MirrorFinish, SaveOnAPriorDialogueFilesItAndStartsANewOneWithoutAsking) {
     EXPECT_TRUE(driver.Layer.Boxes.empty());
     EXPECT_EQ(driver.Library.Listing().LibraryCount, 1);
     EXPECT_FALSE(driver.Buffers.ReadWorkBuffers().has_value());
-    EXPECT_EQ(driver.State().ActiveMethod, 0);
+    EXPECT_EQ(driver.State().ActiveMethod, WriteMethod::None);
     EXPECT_EQ(driver.mirror->Controls().Title,
               "Veyrant Sagrel 4.1 -- Written Dialogues of Self-Reflection");
     EXPECT_EQ(driver.Text(MirrorControl::txtResponse), "Inspiration\r\n\tInspiration number 1.");

@@ -20,7 +20,7 @@ TEST(MirrorTranscript, PriorDialogueReopensInTheFullView) {
     MirrorDriver driver;
     driver.LeavePriorDialogue(6);
     driver.mirror->StartWindow();
-    EXPECT_EQ(driver.State().ActiveMethod, 0);
+    EXPECT_EQ(driver.State().ActiveMethod, WriteMethod::None);
     EXPECT_EQ(driver.Text(MirrorControl::cmdNew), "New");
     EXPECT_EQ(driver.Text(MirrorControl::cmdRemove), "Continue");
     EXPECT_EQ(driver.Text(MirrorControl::cmdDisplay), "File");

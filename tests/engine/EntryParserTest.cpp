@@ -33,9 +33,9 @@ class ClassifyEntryTable : public ::testing::TestWithParam<ClassifyCase> {};
 
 TEST_P(ClassifyEntryTable, GivesTheSentenceType) {
     std::string text = GetParam().Sentence;
-    std::int16_t entryType = 77;
+    auto entryType = static_cast<SentenceType>(77);
     ClassifyEntry(text, entryType);
-    EXPECT_EQ(entryType, GetParam().EntryType) << GetParam().Sentence;
+    EXPECT_EQ(static_cast<std::int16_t>(entryType), GetParam().EntryType) << GetParam().Sentence;
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -89,7 +89,7 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST(ClassifyEntry, LeavesThePreparedFormInTheText) {
     std::string text = "  Do you think I will go?  ";
-    std::int16_t entryType = 0;
+    SentenceType entryType = SentenceType::None;
     ClassifyEntry(text, entryType);
     EXPECT_EQ(text, " Do you think        go?");
 }
@@ -112,11 +112,11 @@ class CheckEntryTable : public ::testing::TestWithParam<CheckCase> {};
 TEST_P(CheckEntryTable, SetsStatusAndType) {
     const CheckCase& c = GetParam();
     const std::string entryText = std::string(1, Tab) + OpenQuote + c.Sentence;
-    std::int16_t status = -500;
-    std::int16_t entryType = 77;
-    CheckEntry(entryText, c.ActiveMethod, c.PairCount, status, entryType);
-    EXPECT_EQ(status, c.EntryStatus) << c.Sentence;
-    EXPECT_EQ(entryType, c.EntryType) << c.Sentence;
+    auto status = static_cast<EntryVerdict>(-500);
+    auto entryType = static_cast<SentenceType>(77);
+    CheckEntry(entryText, static_cast<WriteMethod>(c.ActiveMethod), c.PairCount, status, entryType);
+    EXPECT_EQ(static_cast<std::int16_t>(status), c.EntryStatus) << c.Sentence;
+    EXPECT_EQ(static_cast<std::int16_t>(entryType), c.EntryType) << c.Sentence;
 }
 
 INSTANTIATE_TEST_SUITE_P(

@@ -54,7 +54,7 @@ TEST_F(ReaderDialogues, ListsLatestFirstAndStepsIntoDialogues) {
     for (auto button : {RC::cmdPrint, RC::cmdFile, RC::cmdExitM, RC::cmdDelete, RC::cmdSelect}) {
         EXPECT_TRUE(Read().Controls()[button].Enabled) << ControlName(button);
     }
-    EXPECT_EQ(App.ReaderSettings.MarkRowDialogue, 0);
+    EXPECT_EQ(App.ReaderSettings.MarkRows[LibraryId::Dialogue], 0);
 
     Key(KeyCode::PageDown);
     EXPECT_EQ(Title(),
@@ -63,7 +63,7 @@ TEST_F(ReaderDialogues, ListsLatestFirstAndStepsIntoDialogues) {
     EXPECT_EQ(Line(RC::cmdNext), "\"Earlier >>\" disabled");
     Key(KeyCode::Escape);
     EXPECT_EQ(Line(RC::cmdNext), "\"Latest\"");
-    EXPECT_EQ(App.ReaderSettings.MarkRowDialogue, -1);
+    EXPECT_EQ(App.ReaderSettings.MarkRows[LibraryId::Dialogue], -1);
 }
 
 // Rows too wide for the list are cut and marked; those that fit stand whole.

@@ -20,7 +20,7 @@ TEST_F(ReaderMarks, MarksOfOtherLibrariesSurviveTheClose) {
     EXPECT_EQ(Title(), "Veyrant Information Library");
     App.Links.CloseLibrary();
     EXPECT_EQ(ReadIni(), " 0 -1 \r\n 0 -1 \r\n 1  5 \r\n 0  0 \r\n");
-    EXPECT_EQ(App.Reading.ReaderOpen, 0);
+    EXPECT_EQ(App.Reading.ReaderOpen, ReaderOpenState::Closed);
     EXPECT_FALSE(Windows.IsWindowVisible(WindowId::Read));
 }
 
@@ -41,7 +41,7 @@ TEST_F(ReaderMarks, AdvancedMarkOutlivesTheClose) {
     Open(3);
     EXPECT_EQ(Title(), "Veyrant Knowledge Library");
     App.Links.CloseLibrary();
-    EXPECT_EQ(App.ReaderSettings.OpenFlagAdv, 1);
+    EXPECT_EQ(App.ReaderSettings.OpenFlags[LibraryId::Advanced], OpenFlag::Marked);
     Open(2);
     EXPECT_EQ(Title(), "Veyrant Advanced Knowledge Library -- 3/3/3 -- Y");
     App.Links.CloseLibrary();
@@ -69,7 +69,7 @@ TEST_F(ReaderMarks, RightClickCyclesTheFontSteps) {
         EXPECT_EQ(spin.FontBold, step.Bold) << step.Step;
         EXPECT_EQ(Read().Controls()[RC::List1].Height, step.ListHeight) << step.Step;
         EXPECT_EQ(Title(), "Veyrant Knowledge Library") << step.Step;
-        EXPECT_EQ(App.UserSettings.WindowMode[3], 0) << step.Step;
+        EXPECT_EQ(App.UserSettings.WindowMode[LibraryId::Knowledge], 0) << step.Step;
         EXPECT_EQ(Windows.Boxes.back().Title, "Change Font Size");
     }
     EXPECT_EQ(Windows.Boxes.size(), 3u);

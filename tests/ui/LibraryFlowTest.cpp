@@ -30,7 +30,8 @@ struct FlowApp {
         app.Engine.SeedSeries();
         LoadLibraries(app.Libraries);
         for (auto* library :
-             {&app.Libraries.InfoLib, &app.Libraries.KnowLib, &app.Libraries.AdvLib}) {
+             {&app.Libraries[LibraryId::Information], &app.Libraries[LibraryId::Knowledge],
+              &app.Libraries[LibraryId::Advanced]}) {
             BuildLibraryIndex(*library);
         }
         app.Write =
@@ -102,7 +103,7 @@ private slots:
             }
             QApplication::setActiveWindow(write);
             QTRY_VERIFY(!read || !read->isVisible());
-            QCOMPARE(app.Reading.ReaderOpen, std::int16_t{0});
+            QCOMPARE(app.Reading.ReaderOpen, ReaderOpenState::Closed);
             QVERIFY(!windows.IsWindowMinimised(WindowId::Mirror));
             QApplication::setActiveWindow(nullptr);
         }
