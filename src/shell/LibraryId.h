@@ -6,12 +6,11 @@
 
 #include <array>
 #include <cstdint>
-#include <optional>
 #include <stdexcept>
 
 namespace veyrant {
 
-// The numbers are the ones the settings files keep.
+// The numbers give the order of the window modes in Tolmira.ini.
 enum class LibraryId : std::int16_t {
     None = 0, // no library is on show
     Dialogue = 1,
@@ -30,16 +29,6 @@ inline constexpr std::array<LibraryId, 3> FixedLibraryIds{
 
 constexpr std::int16_t LibraryNumber(LibraryId library) {
     return static_cast<std::int16_t>(library);
-}
-
-// The library a number read from a file names; none for a number that names no library.
-constexpr std::optional<LibraryId> LibraryFromNumber(int number) {
-    for (const LibraryId library : AllLibraries) {
-        if (LibraryNumber(library) == number) {
-            return library;
-        }
-    }
-    return std::nullopt;
 }
 
 // One value for each library of a run of consecutive ids from First; asking for any other
@@ -64,8 +53,6 @@ public:
     auto end() { return values_.end(); }
     auto begin() const { return values_.begin(); }
     auto end() const { return values_.end(); }
-
-    bool operator==(const LibraryTable&) const = default;
 
 private:
     static std::size_t Slot(LibraryId library) {
