@@ -62,7 +62,7 @@ struct LoadedEngine {
 
 void ReplyFromKeptPlans(benchmark::State& state) {
     LoadedEngine loaded;
-    const auto message = static_cast<std::int16_t>(state.range(0));
+    const auto message = static_cast<MessageNumber>(state.range(0));
     for (auto _ : state) {
         loaded.NextPool();
         loaded.TheEngine.Compose(message);
@@ -90,10 +90,10 @@ BENCHMARK(ReplyFromPlanFile)->DenseRange(1, 16);
 void ClassifyAnEntry(benchmark::State& state) {
     const std::string entry = std::string(1, Tab) + OpenQuote +
                               "If I change my work this year, will my family be happier?";
-    std::int16_t status = 0;
-    std::int16_t type = 0;
+    EntryVerdict status = EntryVerdict::Unpunctuated;
+    SentenceType type = SentenceType::None;
     for (auto _ : state) {
-        CheckEntry(entry, 1, 3, status, type);
+        CheckEntry(entry, WriteMethod::Converse, 3, status, type);
         benchmark::DoNotOptimize(type);
     }
 }

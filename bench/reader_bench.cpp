@@ -57,7 +57,8 @@ struct ReadingProgram {
         SetDisplayScale(1, App.Scale);
         LoadLibraries(App.Libraries);
         for (auto* library :
-             {&App.Libraries.InfoLib, &App.Libraries.KnowLib, &App.Libraries.AdvLib}) {
+             {&App.Libraries[LibraryId::Information], &App.Libraries[LibraryId::Knowledge],
+              &App.Libraries[LibraryId::Advanced]}) {
             BuildLibraryIndex(*library);
         }
         App.UserSettings.MaxLibraryFiles = DialogueCount;
@@ -68,14 +69,14 @@ struct ReadingProgram {
 
     void Open(int library) {
         App.Links.BeginOpening();
-        App.Links.OpenLibrary(library);
+        App.Links.OpenLibrary(static_cast<LibraryId>(library));
     }
     Reader& Read() { return *App.Read; }
 
     // Prose from the Knowledge Library, lines joined, to cut entries and replies from.
     std::string Prose() const {
         std::string prose;
-        const FixedLibrary& library = App.Libraries.KnowLib;
+        const FixedLibrary& library = App.Libraries[LibraryId::Knowledge];
         for (int row = 0; row <= library.LastRow; ++row) {
             for (const char c : library.Texts[static_cast<std::size_t>(row)]) {
                 prose += c == '\r' || c == '\n' || c == '\t' ? ' ' : c;
@@ -145,9 +146,7 @@ long LiteralFind(const std::string& text, const std::string& needle) {
 }
 
 const FixedLibrary& LibraryFor(const ReadingProgram& program, int library) {
-    return library == 2   ? program.App.Libraries.InfoLib
-           : library == 3 ? program.App.Libraries.KnowLib
-                          : program.App.Libraries.AdvLib;
+    return program.App.Libraries[static_cast<LibraryId>(library)];
 }
 
 void BM_FixedLibraryWalk(benchmark::State& state) {
@@ -184,7 +183,7 @@ BENCHMARK(BM_FixedLibraryWalkLiteral)->Arg(2)->Arg(3)->Arg(4)->Unit(benchmark::k
 void BM_AllDialoguesWalk(benchmark::State& state) {
     ReadingProgram program;
     program.SaveLongestDialogues();
-    program.Open(ReadLibraries::Dialogue);
+    program.Open(LibraryNumber(LibraryId::Dialogue));
     if (program.App.Library.Listing().LibraryCount != DialogueCount) {
         state.SkipWithError("the Library does not hold 99 Dialogues");
         return;

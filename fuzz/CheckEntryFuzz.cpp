@@ -11,12 +11,13 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (size == 0) {
         return 0;
     }
-    constexpr std::array<std::int16_t, 4> Methods = {1, 2, 4, 0};
-    const std::int16_t method = Methods[data[0] % Methods.size()];
+    constexpr std::array<WriteMethod, 4> Methods = {WriteMethod::Converse, WriteMethod::Suppose,
+                                                    WriteMethod::Comment, WriteMethod::None};
+    const WriteMethod method = Methods[data[0] % Methods.size()];
     const auto pairCount = static_cast<std::int16_t>(data[0] / Methods.size() * 2);
     const std::string entry(fuzz::AsText(data + 1, size - 1));
-    std::int16_t status = 0;
-    std::int16_t type = 0;
+    EntryVerdict status = EntryVerdict::Unpunctuated;
+    SentenceType type = SentenceType::None;
     CheckEntry(entry, method, pairCount, status, type);
     std::string prepared = entry;
     ClassifyEntry(prepared, type);

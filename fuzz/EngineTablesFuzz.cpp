@@ -27,12 +27,15 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     }
     engine.SeedSeries();
     engine.StretchSeeds();
-    for (const std::int16_t type : {1, 2, 9, 10, 20, 30, 40, 50, 60, 0, -1}) {
+    using enum SentenceType;
+    for (const SentenceType type :
+         {YesNoQuestion, Statement, SupposeQuestion, WhoQuestion, WhatQuestion, WhenQuestion,
+          WhereQuestion, WhyQuestion, HowQuestion, None, SubjectUnclear}) {
         engine.RequestAnswer(type);
         engine.RequestRemark(type);
     }
-    engine.RequestIdeaVerdict(0);
-    engine.RequestIdeaVerdict(1);
+    engine.RequestIdeaVerdict(ReplyKind::Remark);
+    engine.RequestIdeaVerdict(ReplyKind::Answer);
     engine.RequestInspiration();
     engine.RequestInterjection();
     return 0;

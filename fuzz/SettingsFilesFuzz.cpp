@@ -19,7 +19,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     Random random;
     Application app(folder, folder.Exe() / "veyrant-sagrel", clock, random, windows);
     LoadSettings(app);
-    app.ReaderSettings.OpenFlagKnow = 1;
+    app.ReaderSettings.OpenFlags[LibraryId::Knowledge] = OpenFlag::Marked;
     LoadReadSettings(app);
     LoadFontNames(app);
     return 0;

@@ -6,10 +6,10 @@
 namespace veyrant {
 
 void LibraryLink::BeginOpening() {
-    app_.Reading.ReaderOpen = ReaderOpenStates::Opening;
+    app_.Reading.ReaderOpen = ReaderOpenState::Opening;
 }
 
-int LibraryLink::OpenLibrary(int library) {
+LibraryId LibraryLink::OpenLibrary(LibraryId library) {
     // Each opening loads the window afresh, as closing unloaded it.
     if (!app_.Windows.IsWindowVisible(WindowId::Read)) {
         app_.Read = std::make_unique<Reader>(app_.ReadWorld());
@@ -21,14 +21,14 @@ int LibraryLink::OpenLibrary(int library) {
 }
 
 void LibraryLink::CloseLibrary() {
-    if (!app_.Read || app_.Reading.ReaderOpen == ReaderOpenStates::Closed) {
+    if (!app_.Read || app_.Reading.ReaderOpen == ReaderOpenState::Closed) {
         return;
     }
     app_.Read->CloseReader();
     app_.Windows.UnloadWindow(WindowId::Read);
 }
 
-int LibraryLink::ReaderOpen() const {
+ReaderOpenState LibraryLink::ReaderOpen() const {
     return app_.Reading.ReaderOpen;
 }
 

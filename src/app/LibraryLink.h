@@ -16,9 +16,9 @@ public:
     explicit LibraryLink(Application& app) : app_(app) {}
 
     void BeginOpening() override;
-    int OpenLibrary(int library) override;
+    LibraryId OpenLibrary(LibraryId library) override;
     void CloseLibrary() override;
-    int ReaderOpen() const override;
+    ReaderOpenState ReaderOpen() const override;
 
     void LoadReadSettings() override;
     void SaveReadSettings() override;

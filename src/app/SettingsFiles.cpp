@@ -9,6 +9,7 @@
 #include "core/WindowLayer.h"
 #include "storage/StorageFailure.h"
 
+#include <array>
 #include <initializer_list>
 
 namespace veyrant {
@@ -34,7 +35,8 @@ std::filesystem::path FontFile(const Application& app) {
 
 // A non-negative value is printed as a blank, its digits and a blank; a negative one as the
 // minus sign, its digits and a blank.
-std::string SettingsLine(std::initializer_list<int> values) {
+template <typename Values>
+std::string SettingsLine(const Values& values) {
     std::string line;
     for (const int value : values) {
         line += value < 0 ? "" : " ";
@@ -44,13 +46,17 @@ std::string SettingsLine(std::initializer_list<int> values) {
     return line + "\r\n";
 }
 
+std::string SettingsLine(std::initializer_list<int> values) {
+    return SettingsLine<std::initializer_list<int>>(values);
+}
+
 Settings ReadSettingsText(const std::string& text) {
     FieldReader reader(text);
     Settings values;
     values.WriteFontStep = reader.ReadInt16();
     values.ReaderFontStep = reader.ReadInt16();
-    for (int library = 1; library <= 4; ++library) {
-        values.WindowMode[static_cast<std::size_t>(library)] = reader.ReadInt16();
+    for (const LibraryId library : AllLibraries) {
+        values.WindowMode[library] = reader.ReadInt16();
     }
     values.IntroDone = reader.ReadInt16();
     values.IntroDone2 = reader.ReadInt16();
@@ -61,25 +67,28 @@ Settings ReadSettingsText(const std::string& text) {
     return values;
 }
 
+// Read.ini holds one line of open flag and mark for each library, in this order.
+constexpr std::array<LibraryId, 4> ReadFileOrder{LibraryId::Information, LibraryId::Dialogue,
+                                                 LibraryId::Knowledge, LibraryId::Advanced};
+
+// A number that is no open flag makes the file damaged.
+OpenFlag OpenFlagFromNumber(std::int16_t number) {
+    for (const OpenFlag flag : {OpenFlag::None, OpenFlag::Marked, OpenFlag::Requested}) {
+        if (static_cast<std::int16_t>(flag) == number) {
+            return flag;
+        }
+    }
+    throw ProgramError(ErrorNumber::TypeMismatch);
+}
+
 ReadSettings ReadReaderText(const std::string& text) {
     FieldReader reader(text);
     ReadSettings values;
-    values.OpenFlagInfo = reader.ReadInt16();
-    values.MarkRowInfo = reader.ReadInt16();
-    values.OpenFlagDialogue = reader.ReadInt16();
-    values.MarkRowDialogue = reader.ReadInt16();
-    values.OpenFlagKnow = reader.ReadInt16();
-    values.MarkRowKnow = reader.ReadInt16();
-    values.OpenFlagAdv = reader.ReadInt16();
-    values.MarkRowAdv = reader.ReadInt16();
-    return values;
-}
-
-// A flag the file leaves at 0 does not cancel a request made in memory.
-void KeepRequest(std::int16_t& flag, std::int16_t requested) {
-    if (flag == 0) {
-        flag = requested;
+    for (const LibraryId library : ReadFileOrder) {
+        values.OpenFlags[library] = OpenFlagFromNumber(reader.ReadInt16());
+        values.MarkRows[library] = reader.ReadInt16();
     }
+    return values;
 }
 
 } // namespace
@@ -111,12 +120,12 @@ void LoadSettings(Application& app) {
 
 void SaveSettings(const Application& app) {
     const Settings& s = app.UserSettings;
-    WriteWholeFile(
-        SettingsFile(app),
-        SettingsLine({s.WriteFontStep}) + SettingsLine({s.ReaderFontStep}) +
-            SettingsLine({s.WindowMode[1], s.WindowMode[2], s.WindowMode[3], s.WindowMode[4]}) +
-            SettingsLine({s.IntroDone, s.IntroDone2}) + SettingsLine({s.DisplayOption}) +
-            SettingsLine({s.MaxLibraryDays, s.MaxLibraryFiles}) + SettingsLine({s.GuestMode}));
+    WriteWholeFile(SettingsFile(app),
+                   SettingsLine({s.WriteFontStep}) + SettingsLine({s.ReaderFontStep}) +
+                       SettingsLine(s.WindowMode) + SettingsLine({s.IntroDone, s.IntroDone2}) +
+                       SettingsLine({s.DisplayOption}) +
+                       SettingsLine({s.MaxLibraryDays, s.MaxLibraryFiles}) +
+                       SettingsLine({s.GuestMode}));
     SavePreferences(app);
 }
 
@@ -128,20 +137,24 @@ void LoadReadSettings(Application& app) {
         app.ReaderSettings = ReadSettings{};
         SaveReadSettings(app);
     }
-    ReadSettings& read = app.ReaderSettings;
-    KeepRequest(read.OpenFlagInfo, requested.OpenFlagInfo);
-    KeepRequest(read.OpenFlagKnow, requested.OpenFlagKnow);
-    KeepRequest(read.OpenFlagDialogue, requested.OpenFlagDialogue);
-    KeepRequest(read.OpenFlagAdv, requested.OpenFlagAdv);
+    // A flag the file leaves unset does not cancel a request made in memory.
+    for (const LibraryId library : AllLibraries) {
+        OpenFlag& flag = app.ReaderSettings.OpenFlags[library];
+        if (flag == OpenFlag::None) {
+            flag = requested.OpenFlags[library];
+        }
+    }
 }
 
 void SaveReadSettings(const Application& app) {
     const ReadSettings& r = app.ReaderSettings;
+    std::string text;
+    for (const LibraryId library : ReadFileOrder) {
+        text +=
+            SettingsLine({static_cast<std::int16_t>(r.OpenFlags[library]), r.MarkRows[library]});
+    }
     try {
-        WriteWholeFile(ReadFile(app), SettingsLine({r.OpenFlagInfo, r.MarkRowInfo}) +
-                                          SettingsLine({r.OpenFlagDialogue, r.MarkRowDialogue}) +
-                                          SettingsLine({r.OpenFlagKnow, r.MarkRowKnow}) +
-                                          SettingsLine({r.OpenFlagAdv, r.MarkRowAdv}));
+        WriteWholeFile(ReadFile(app), text);
     } catch (const ProgramError& error) {
         // The marked places are not worth the running Dialogue: the user is told, and goes on.
         app.Windows.ShowMessage(PlacesFailureBox(error.Number(), ReadFile(app)));

@@ -37,9 +37,9 @@ void ShowBanner(Application& app) {
 // An empty last row means content went missing from the build: error 1001 ends the start.
 void LoadFixedLibraries(FixedLibraries& libraries) {
     LoadLibraries(libraries);
-    BuildLibraryIndex(libraries.InfoLib);
-    BuildLibraryIndex(libraries.KnowLib);
-    BuildLibraryIndex(libraries.AdvLib);
+    for (FixedLibrary& library : libraries) {
+        BuildLibraryIndex(library);
+    }
     CheckLibraryContent(libraries);
 }
 

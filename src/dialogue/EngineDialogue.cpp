@@ -15,11 +15,11 @@ std::int16_t Short(int value) {
 
 } // namespace
 
-EntryJudgement EngineDialogue::CheckEntry(const std::string& entryText, int activeMethod,
-                                          int pairCount, int entryType) {
-    std::int16_t status = 0;
-    std::int16_t type = Short(entryType);
-    veyrant::CheckEntry(entryText, Short(activeMethod), Short(pairCount), status, type);
+EntryJudgement EngineDialogue::CheckEntry(const std::string& entryText, WriteMethod activeMethod,
+                                          int pairCount, SentenceType entryType) {
+    EntryVerdict status = EntryVerdict::Unpunctuated;
+    SentenceType type = entryType;
+    veyrant::CheckEntry(entryText, activeMethod, Short(pairCount), status, type);
     return {status, type};
 }
 
@@ -36,23 +36,23 @@ void EngineDialogue::StretchSeeds(float seriesSeed) {
     engine_.StretchSeeds();
 }
 
-int EngineDialogue::RollAnswer(int percent) {
+ReplyKind EngineDialogue::RollAnswer(int percent) {
     engine_.RollAnswer(Short(percent));
     return engine_.AnswerFlag;
 }
 
-std::string EngineDialogue::RequestAnswer(int entryType) {
-    engine_.RequestAnswer(Short(entryType));
+std::string EngineDialogue::RequestAnswer(SentenceType entryType) {
+    engine_.RequestAnswer(entryType);
     return engine_.ReplyText;
 }
 
-std::string EngineDialogue::RequestRemark(int entryType) {
-    engine_.RequestRemark(Short(entryType));
+std::string EngineDialogue::RequestRemark(SentenceType entryType) {
+    engine_.RequestRemark(entryType);
     return engine_.ReplyText;
 }
 
-std::string EngineDialogue::RequestIdeaVerdict(int answerFlag) {
-    engine_.RequestIdeaVerdict(Short(answerFlag));
+std::string EngineDialogue::RequestIdeaVerdict(ReplyKind answerFlag) {
+    engine_.RequestIdeaVerdict(answerFlag);
     return engine_.IdeaVerdict;
 }
 

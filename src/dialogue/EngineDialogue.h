@@ -14,14 +14,14 @@ class EngineDialogue final : public DialogueEngine {
 public:
     explicit EngineDialogue(Engine& engine) : engine_(engine) {}
 
-    EntryJudgement CheckEntry(const std::string& entryText, int activeMethod, int pairCount,
-                              int entryType) override;
+    EntryJudgement CheckEntry(const std::string& entryText, WriteMethod activeMethod, int pairCount,
+                              SentenceType entryType) override;
     void RecordKey(float time, int characterCode) override;
     void StretchSeeds(float seriesSeed) override;
-    int RollAnswer(int percent) override;
-    std::string RequestAnswer(int entryType) override;
-    std::string RequestRemark(int entryType) override;
-    std::string RequestIdeaVerdict(int answerFlag) override;
+    ReplyKind RollAnswer(int percent) override;
+    std::string RequestAnswer(SentenceType entryType) override;
+    std::string RequestRemark(SentenceType entryType) override;
+    std::string RequestIdeaVerdict(ReplyKind answerFlag) override;
     std::string RequestInterjection() override;
     std::string RequestInspiration() override;
     std::string PickGuidance() override;

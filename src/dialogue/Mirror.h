@@ -81,9 +81,9 @@ public:
 
 private:
     // Dialogue cycle.
-    void ClickMethod(int kind);
-    void StartMethod(int kind);
-    void StartEntry(int kind);
+    void ClickMethod(WriteMethod method);
+    void StartMethod(WriteMethod method);
+    void StartEntry(WriteMethod method);
     void ProcessEntry();
     void ProcessComment();
     void TakeEntry();
@@ -91,7 +91,9 @@ private:
     void RejectLength(MirrorControl mark);
     void RejectEntry(bool comment);
     void ShowResult();
-    void SetEntryLimits(int kind);
+    // The lengths a box allows, by what is typed in it.
+    enum class EntrySize { Entry, Comment, Idea };
+    void SetEntryLimits(EntrySize size);
     void UpdateTitle();
     void AdvanceCycle();
     void ClickRemove();
@@ -101,7 +103,7 @@ private:
     void EnterInEntryBox();
     void DeliverNotice();
     void SetFinishOrCancel();
-    std::string DirectionFor(int kind) const;
+    std::string DirectionFor(WriteMethod method) const;
     std::string CommentInstruction() const;
 
     // Suppose: the list of ideas and the ends of the method.
@@ -110,7 +112,7 @@ private:
     void AcceptIdea();
     void CheckIdea(const std::string& idea);
     void RankIdeas();
-    void ConcludeSupposition(int flag);
+    void ConcludeSupposition(ReplyKind flag);
     void EndSupposition();
 
     // The list box's rules: its head ends at ListHead, and Enter files an idea.
@@ -188,7 +190,7 @@ private:
     bool GuestMode() const;
 
     // The library buttons and the backdrop.
-    void OpenLibrary(int library);
+    void OpenLibrary(LibraryId library);
     void PressLibraryButton(MirrorControl pressed);
     void BackgroundPress();
     void BackgroundMove();

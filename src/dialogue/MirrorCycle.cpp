@@ -17,11 +17,11 @@ namespace {
 
 const std::string EntryPrefix{Tab, OpenQuote};
 
-MirrorControl MethodButton(int kind) {
-    switch (kind) {
-    case 2:
+MirrorControl MethodButton(WriteMethod method) {
+    switch (method) {
+    case WriteMethod::Suppose:
         return MirrorControl::cmdSuppose;
-    case 4:
+    case WriteMethod::Comment:
         return MirrorControl::cmdNotate;
     default:
         return MirrorControl::cmdConverse;
@@ -30,7 +30,7 @@ MirrorControl MethodButton(int kind) {
 
 } // namespace
 
-void Mirror::ClickMethod(int kind) {
+void Mirror::ClickMethod(WriteMethod method) {
     if (C(MirrorControl::cmdNew).Text == "New") {
         Message(std::string(MirrorText::HelpTitle),
                 "To reset and append the finished Dialogue, click 'Continue'.\r\n\r\nClick 'New' "
@@ -40,8 +40,8 @@ void Mirror::ClickMethod(int kind) {
         return;
     }
     hover_.Unmark();
-    StartMethod(kind);
-    PressMethodButton(MethodButton(kind));
+    StartMethod(method);
+    PressMethodButton(MethodButton(method));
 }
 
 void Mirror::PressMethodButton(MirrorControl pressed) {
@@ -51,11 +51,11 @@ void Mirror::PressMethodButton(MirrorControl pressed) {
     }
 }
 
-void Mirror::StartMethod(int kind) {
+void Mirror::StartMethod(WriteMethod method) {
     state_.SupposeStage = 0;
     state_.AwaitingEnter = 1;
     state_.IdeaIndex = 0;
-    state_.EntryType = 0;
+    state_.EntryType = SentenceType::None;
     state_.EntryFailed = 0;
     state_.IdeaLimit = 98;
 
@@ -84,31 +84,31 @@ void Mirror::StartMethod(int kind) {
     C(MirrorControl::lblRemS).Visible = false;
     ArrangeEntry();
 
-    switch (kind) {
-    case 1:
-        state_.ActiveMethod = 1;
+    switch (method) {
+    case WriteMethod::Converse:
+        state_.ActiveMethod = WriteMethod::Converse;
         state_.TitleMethod = "Conversation";
         UpdateTitle();
-        StartEntry(1);
+        StartEntry(WriteMethod::Converse);
         state_.InstructionText = "Type your question or statement. Click 'Rewrite' to erase the "
                                  "text. Press 'Enter' for the Sagrel response.";
         C(MirrorControl::cmdNotate).Enabled = true;
         C(MirrorControl::cmdNew).Text = state_.DialogueText.empty() ? "Cancel" : "Finish";
         break;
-    case 2:
-        state_.ActiveMethod = 2;
+    case WriteMethod::Suppose:
+        state_.ActiveMethod = WriteMethod::Suppose;
         state_.TitleMethod = "Supposition";
         UpdateTitle();
-        StartEntry(2);
+        StartEntry(WriteMethod::Suppose);
         state_.InstructionText =
             "Type your question. Click 'Rewrite' to erase the text. Press 'Enter' to continue.";
         C(MirrorControl::cmdNew).Text = "Cancel";
         break;
     default:
-        state_.ActiveMethod = 4;
+        state_.ActiveMethod = WriteMethod::Comment;
         state_.TitleMethod = "Notation";
         UpdateTitle();
-        StartEntry(4);
+        StartEntry(WriteMethod::Comment);
         state_.InstructionText = CommentInstruction();
         C(MirrorControl::cmdNew).Text = "Cancel";
         break;
@@ -125,11 +125,11 @@ std::string Mirror::CommentInstruction() const {
                                          "Press 'Enter' to restore the Conversation.";
 }
 
-std::string Mirror::DirectionFor(int kind) const {
-    switch (kind) {
-    case 1:
+std::string Mirror::DirectionFor(WriteMethod method) const {
+    switch (method) {
+    case WriteMethod::Converse:
         return MirrorText::DirectionConversation();
-    case 2:
+    case WriteMethod::Suppose:
         return MirrorText::DirectionSupposition();
     default:
         return state_.DialogueText.empty() ? MirrorText::DirectionBeginningNotation()
@@ -137,8 +137,8 @@ std::string Mirror::DirectionFor(int kind) const {
     }
 }
 
-void Mirror::StartEntry(int kind) {
-    state_.PairState = 0;
+void Mirror::StartEntry(WriteMethod method) {
+    state_.PairState = PairShown::Nothing;
     state_.EntryFailed = 0;
     state_.AwaitingEnter = 0;
     state_.EntryStartTime = world_.Clock.Timer();
@@ -149,15 +149,15 @@ void Mirror::StartEntry(int kind) {
     mirror.Caret = 2;
     mirror.SelectionLength = 0;
 
-    state_.DirectionText = DirectionFor(kind);
-    if (kind == 1) {
+    state_.DirectionText = DirectionFor(method);
+    if (method == WriteMethod::Converse) {
         ArrangeEntry();
         SetResponse(state_.DialogueText.empty() ? state_.DirectionText : state_.InspirationView,
                     Colour::ColourReady);
-        SetEntryLimits(1);
+        SetEntryLimits(EntrySize::Entry);
     } else {
         SetResponse(state_.DirectionText, Colour::ColourReady);
-        SetEntryLimits(kind == 2 ? 1 : 3);
+        SetEntryLimits(method == WriteMethod::Suppose ? EntrySize::Entry : EntrySize::Comment);
     }
 
     UpdateTitle();
@@ -178,9 +178,10 @@ void Mirror::StartEntry(int kind) {
 
     state_.NoticeNotDue = 1;
 
-    if ((kind == 1 || kind == 2) && state_.CycleCount >= state_.CycleGoal) {
+    const bool question = method == WriteMethod::Converse || method == WriteMethod::Suppose;
+    if (question && state_.CycleCount >= state_.CycleGoal) {
         state_.AnswerFlag = engine_.RollAnswer(20);
-        if (state_.AnswerFlag == 0) {
+        if (state_.AnswerFlag == ReplyKind::Remark) {
             DeliverNotice();
         }
     }
@@ -197,19 +198,19 @@ void Mirror::DeliverNotice() {
     C(MirrorControl::txtMirror).Caret = 0;
 }
 
-void Mirror::SetEntryLimits(int kind) {
-    switch (kind) {
-    case 3:
+void Mirror::SetEntryLimits(EntrySize size) {
+    switch (size) {
+    case EntrySize::Comment:
         state_.EntryMin = 4;
         state_.EntryNear = 200;
         state_.EntryMax = 280;
         break;
-    case 4:
+    case EntrySize::Idea:
         state_.EntryMin = 3;
         state_.EntryNear = 90;
         state_.EntryMax = 140;
         break;
-    default:
+    case EntrySize::Entry:
         state_.EntryMin = 17;
         state_.EntryNear = 90;
         state_.EntryMax = 140;
@@ -240,23 +241,23 @@ void Mirror::SetFinishOrCancel() {
 // Enter while the result of the last Enter is on show: the cycle moves on.
 void Mirror::AdvanceCycle() {
     switch (state_.ActiveMethod) {
-    case 1:
+    case WriteMethod::Converse:
         state_.InstructionText =
             "Type your question or statement. Then press 'Enter' for the Sagrel response.";
-        StartEntry(1);
+        StartEntry(WriteMethod::Converse);
         break;
-    case 2:
+    case WriteMethod::Suppose:
         if (state_.SupposeStage == 3) {
             Click(MirrorControl::cmdConverse);
         } else {
             state_.InstructionText = "Type your question. Click 'Rewrite' to erase the text. "
                                      "Press 'Enter' to continue.";
-            StartEntry(2);
+            StartEntry(WriteMethod::Suppose);
         }
         break;
-    case 4:
+    case WriteMethod::Comment:
         if (state_.EntryFailed == 1) {
-            StartEntry(4);
+            StartEntry(WriteMethod::Comment);
             state_.InstructionText = CommentInstruction();
         } else {
             Click(MirrorControl::cmdConverse);
@@ -272,9 +273,10 @@ void Mirror::AdvanceCycle() {
 void Mirror::EnterInEntryBox() {
     if (state_.AwaitingEnter == 1) {
         AdvanceCycle();
-    } else if (state_.ActiveMethod == 4) {
+    } else if (state_.ActiveMethod == WriteMethod::Comment) {
         ProcessComment();
-    } else if (state_.ActiveMethod == 1 || state_.ActiveMethod == 2) {
+    } else if (state_.ActiveMethod == WriteMethod::Converse ||
+               state_.ActiveMethod == WriteMethod::Suppose) {
         ProcessEntry();
     }
 }
@@ -305,15 +307,15 @@ void Mirror::ProcessEntry() {
     }
 
     JudgeEntry();
-    if (state_.ActiveMethod == 2) {
-        if (state_.EntryStatus == 2) {
-            state_.EntryStatus = -101;
+    if (state_.ActiveMethod == WriteMethod::Suppose) {
+        if (state_.EntryStatus == EntryVerdict::NotAQuestion) {
+            state_.EntryStatus = EntryVerdict::SupposeStatement;
         }
-        if (state_.EntryType == 1) {
-            state_.EntryStatus = -100;
+        if (state_.EntryType == SentenceType::YesNoQuestion) {
+            state_.EntryStatus = EntryVerdict::SupposeYesNoQuestion;
         }
     }
-    if (state_.EntryStatus < 1) {
+    if (!IsAccepted(state_.EntryStatus)) {
         state_.EntryText = state_.EntryBackup;
         RejectEntry(false);
         return;
@@ -327,20 +329,20 @@ void Mirror::ProcessEntry() {
     engine_.StretchSeeds(state_.SeriesSeed);
     state_.AnswerFlag = engine_.RollAnswer(25);
 
-    if (state_.ActiveMethod == 2) {
-        state_.EntryType = 9;
-        if (state_.AnswerFlag == 1) {
+    if (state_.ActiveMethod == WriteMethod::Suppose) {
+        state_.EntryType = SentenceType::SupposeQuestion;
+        if (state_.AnswerFlag == ReplyKind::Answer) {
             OpenIdeaList();
             return;
         }
-        ConcludeSupposition(0);
+        ConcludeSupposition(ReplyKind::Remark);
     }
 
-    if (state_.AnswerFlag == 1) {
+    if (state_.AnswerFlag == ReplyKind::Answer) {
         state_.ReplyText = engine_.RequestAnswer(state_.EntryType);
     } else {
         state_.ReplyText = engine_.RequestRemark(state_.EntryType);
-        state_.EntryType = 0;
+        state_.EntryType = SentenceType::None;
     }
     state_.ReplyText = Trim(Mid(state_.ReplyText, 3));
 
@@ -353,7 +355,7 @@ void Mirror::ProcessEntry() {
     ArrangeResult();
     ShowResult();
 
-    if (state_.PairState == 1) {
+    if (state_.PairState == PairShown::Kept) {
         state_.DialogueText += state_.PairText;
         ++state_.PairCount;
     }
@@ -371,15 +373,15 @@ void Mirror::ProcessEntry() {
 // Whether the result on show is in the Dialogue, and the button that offers the other choice.
 void Mirror::ShowResult() {
     auto& response = C(MirrorControl::txtResponse);
-    if (state_.EntryType != 0) {
+    if (state_.EntryType != SentenceType::None) {
         C(MirrorControl::cmdRemove).Text = "Remove";
-        state_.PairState = 1;
+        state_.PairState = PairShown::Kept;
         response.Background = Colour::ColourAdded;
         state_.InstructionText = MirrorText::Added;
         state_.InstructionColour = Colour::Black;
     } else {
         C(MirrorControl::cmdRemove).Text = "Keep";
-        state_.PairState = 2;
+        state_.PairState = PairShown::LeftOut;
         response.Background = Colour::ColourOut;
         state_.InstructionText = MirrorText::NotAdded;
         state_.InstructionColour = Colour::InkWarn;
@@ -417,16 +419,16 @@ void Mirror::RejectLength(MirrorControl mark) {
 }
 
 void Mirror::RejectEntry(bool comment) {
-    const int status = state_.EntryStatus;
+    const EntryVerdict status = state_.EntryStatus;
     SetResponse(MirrorText::RejectionMessage(status, state_.ActiveMethod), Colour::ColourError);
-    if (status == -1) {
+    if (status == EntryVerdict::EndsWithQuote) {
         state_.InstructionText = "Backspace out the quote, then press 'Enter' to continue.";
         state_.AwaitingEnter = 0;
-    } else if (status == 0) {
+    } else if (status == EntryVerdict::Unpunctuated) {
         state_.InstructionText = "Enter your punctuation, then press 'Enter' to continue.";
         state_.AwaitingEnter = 0;
     } else {
-        state_.InstructionText = comment && status == -99
+        state_.InstructionText = comment && status == EntryVerdict::DialogueFull
                                      ? "Press 'Enter' to begin this entry again."
                                      : "Press 'Enter' to start again.";
         state_.AwaitingEnter = 1;
@@ -448,7 +450,7 @@ void Mirror::ProcessComment() {
     }
 
     JudgeEntry();
-    if (state_.EntryStatus <= 0) {
+    if (!IsAccepted(state_.EntryStatus)) {
         state_.EntryText = state_.EntryBackup;
         RejectEntry(true);
         return;
@@ -473,12 +475,12 @@ void Mirror::ProcessComment() {
     C(MirrorControl::cmdRemove).Enabled = true;
     C(MirrorControl::cmdRemove).Text = "Remove";
     ++state_.PairCount;
-    state_.PairState = 1;
+    state_.PairState = PairShown::Kept;
     state_.InstructionText = "Text was added into the Dialogue. Click 'Remove' to erase it. Press "
                              "'Enter' to continue. Or click 'Finish'.";
     state_.InstructionColour = Colour::Black;
     C(MirrorControl::cmdNew).Text = "Finish";
-    state_.ActiveMethod = 1;
+    state_.ActiveMethod = WriteMethod::Converse;
     state_.TitleMethod = "Conversation";
     UpdateTitle();
     C(MirrorControl::cmdNotate).Enabled = true;
@@ -491,19 +493,19 @@ void Mirror::ClickRemove() {
         ContinueDialogue();
         return;
     }
-    if (state_.PairState == 1) {
+    if (state_.PairState == PairShown::Kept) {
         state_.DialogueText = state_.DialogueBackup;
         --state_.PairCount;
-        state_.PairState = 2;
+        state_.PairState = PairShown::LeftOut;
         C(MirrorControl::cmdRemove).Text = "Keep";
         C(MirrorControl::txtResponse).Background = Colour::ColourOut;
         state_.InstructionText = "Text was removed from the Dialogue. Click 'Keep' to retain it, "
                                  "before continuing. Press 'Enter' to continue.";
         state_.InstructionColour = Colour::InkWarn;
-    } else if (state_.PairState == 2) {
+    } else if (state_.PairState == PairShown::LeftOut) {
         state_.DialogueText += state_.PairText;
         ++state_.PairCount;
-        state_.PairState = 1;
+        state_.PairState = PairShown::Kept;
         C(MirrorControl::cmdRemove).Text = "Remove";
         C(MirrorControl::txtResponse).Background = Colour::ColourAdded;
         state_.InstructionText = "Text was kept in the Dialogue. Click 'Remove' to erase it, "

@@ -91,13 +91,13 @@ void Mirror::Click(MirrorControl control) {
     }
     switch (control) {
     case MirrorControl::cmdConverse:
-        ClickMethod(1);
+        ClickMethod(WriteMethod::Converse);
         break;
     case MirrorControl::cmdSuppose:
-        ClickMethod(2);
+        ClickMethod(WriteMethod::Suppose);
         break;
     case MirrorControl::cmdNotate:
-        ClickMethod(4);
+        ClickMethod(WriteMethod::Comment);
         break;
     case MirrorControl::cmdClear:
         // Rewrite is a click on the box in use.
@@ -136,13 +136,13 @@ void Mirror::Click(MirrorControl control) {
         ClickResponse();
         break;
     case MirrorControl::cmdHelp:
-        OpenLibrary(2);
+        OpenLibrary(LibraryId::Information);
         break;
     case MirrorControl::cmdRetrieve:
-        OpenLibrary(1);
+        OpenLibrary(LibraryId::Dialogue);
         break;
     case MirrorControl::cmdKnow:
-        OpenLibrary(knowButton_ == MouseButton::Right ? 4 : 3);
+        OpenLibrary(knowButton_ == MouseButton::Right ? LibraryId::Advanced : LibraryId::Knowledge);
         break;
     case MirrorControl::txtSaved:
         ClickSaved();

@@ -67,10 +67,11 @@ std::string Mirror::HelpFor(MirrorControl control) const {
             return "Create an entry-response pair with the Suppose method. Ask a question, then "
                    "suppose ideas that might answer it.";
         }
-        return state_.ActiveMethod == 0 ? "Open your Dialogue with a comment. Write a short "
-                                          "paragraph without creating an Sagrel response."
-                                        : "Add a comment into your Dialogue. Write a short "
-                                          "paragraph without creating an Sagrel response.";
+        return state_.ActiveMethod == WriteMethod::None
+                   ? "Open your Dialogue with a comment. Write a short "
+                     "paragraph without creating an Sagrel response."
+                   : "Add a comment into your Dialogue. Write a short "
+                     "paragraph without creating an Sagrel response.";
     case MirrorControl::cmdNew:
         if (newCaption == "Finish") {
             return "Finish your Dialogue and display it full screen. Then you may save, print, "
@@ -92,8 +93,8 @@ std::string Mirror::HelpFor(MirrorControl control) const {
             return "Open the prior conversation with the saved Dialogue displayed, so it may be "
                    "continued.";
         }
-        const bool comment = state_.ActiveMethod == 4;
-        if (state_.PairState != 2) {
+        const bool comment = state_.ActiveMethod == WriteMethod::Comment;
+        if (state_.PairState != PairShown::LeftOut) {
             return comment ? "Remove the current comment from the Dialogue"
                            : "Remove the current entry-response pair from the Dialogue.";
         }
@@ -119,24 +120,24 @@ std::string Mirror::HelpFor(MirrorControl control) const {
         return "Save your Dialogue into the Library, so you may read, print, or file it there. "
                "That will erase the current Dialogue.";
     case MirrorControl::cmdHelp:
-        return state_.ReadLibrary == 2
+        return state_.ReadLibrary == LibraryId::Information
                    ? "The Information Library is already open. Check your open windows. You must "
                      "close the Read window to right-click for Utilities."
                    : "Open the Information Library for instructions and information on the "
                      "program. Right-click to open the Utilities window.";
     case MirrorControl::cmdKnow:
-        if (state_.ReadLibrary == 3) {
+        if (state_.ReadLibrary == LibraryId::Knowledge) {
             return "The Knowledge Library is open. For the Advanced Knowledge Library, close the "
                    "Read window and right-click 'Know'.";
         }
-        if (state_.ReadLibrary == 4) {
+        if (state_.ReadLibrary == LibraryId::Advanced) {
             return "The Advanced Knowledge Library is open. For the Knowledge Library, close the "
                    "Read window and left-click 'Know'.";
         }
         return "Open the Knowledge Library for suggestions about self-empowerment. Right-click for "
                "Advanced Knowledge.";
     case MirrorControl::cmdRetrieve: {
-        if (state_.ReadLibrary == 1) {
+        if (state_.ReadLibrary == LibraryId::Dialogue) {
             return "The Dialogue Library is already open. You must close the Read window to "
                    "right-click for Library Options.";
         }
@@ -158,15 +159,15 @@ std::string Mirror::HelpFor(MirrorControl control) const {
 }
 
 void Mirror::ResponseHover() {
-    if (state_.ActiveMethod == 0) {
+    if (state_.ActiveMethod == WriteMethod::None) {
         hover_.End();
         return;
     }
-    if (state_.ActiveMethod < 0 || state_.EntryFailed == 1 ||
-        (state_.ActiveMethod == 1 && state_.AwaitingEnter == 1)) {
+    if (state_.ActiveMethod == WriteMethod::NotStarted || state_.EntryFailed == 1 ||
+        (state_.ActiveMethod == WriteMethod::Converse && state_.AwaitingEnter == 1)) {
         return;
     }
-    const std::string tip(state_.ActiveMethod == 2 && state_.AwaitingEnter == 1
+    const std::string tip(state_.ActiveMethod == WriteMethod::Suppose && state_.AwaitingEnter == 1
                               ? MirrorText::TipQuestion
                               : MirrorText::TipDirection);
     if (C(MirrorControl::txtNote).Text == tip) {
@@ -190,13 +191,13 @@ void Mirror::SetResponse(const std::string& text, Colour background) {
     response.Text = text;
     response.Background = background;
     // The box keeps its latest lines in view.
-    response.Caret = state_.ActiveMethod > 0 ? static_cast<long>(text.size()) : 0;
+    response.Caret = IsRunning(state_.ActiveMethod) ? static_cast<long>(text.size()) : 0;
 }
 
 // With no method running a click composes another Inspiration; during a method it turns over
 // the Direction, the Inspiration and the Suggestion, and leaves anything else where it is.
 void Mirror::ClickResponse() {
-    if (state_.ActiveMethod == 0) {
+    if (state_.ActiveMethod == WriteMethod::None) {
         state_.SeriesSeed = world_.Clock.Timer();
         engine_.StretchSeeds(state_.SeriesSeed);
         state_.InspirationText = engine_.RequestInspiration();
@@ -204,8 +205,8 @@ void Mirror::ClickResponse() {
         SetResponse(state_.InspirationView, C(MirrorControl::txtResponse).Background);
         return;
     }
-    if (state_.ActiveMethod < 0 || state_.EntryFailed == 1 ||
-        (state_.ActiveMethod == 1 && state_.AwaitingEnter == 1)) {
+    if (state_.ActiveMethod == WriteMethod::NotStarted || state_.EntryFailed == 1 ||
+        (state_.ActiveMethod == WriteMethod::Converse && state_.AwaitingEnter == 1)) {
         return;
     }
     auto& response = C(MirrorControl::txtResponse);

@@ -15,12 +15,12 @@ namespace {
 
 constexpr long HeadLength = 2;
 
-std::string BelowMinimum(int activeMethod) {
+std::string BelowMinimum(WriteMethod activeMethod) {
     switch (activeMethod) {
-    case 2:
+    case WriteMethod::Suppose:
         return "Type to reach the minimum number of words. Then press 'Enter' when your "
                "supposition question is ready.";
-    case 4:
+    case WriteMethod::Comment:
         return "Type to reach the minimum number of words. Then press 'Enter' when your comment "
                "is ready.";
     default:
@@ -29,12 +29,12 @@ std::string BelowMinimum(int activeMethod) {
     }
 }
 
-std::string Ready(int activeMethod) {
+std::string Ready(WriteMethod activeMethod) {
     switch (activeMethod) {
-    case 2:
+    case WriteMethod::Suppose:
         return "Ready to enter your supposition question. Continue typing, or press 'Enter' to "
                "advance.";
-    case 4:
+    case WriteMethod::Comment:
         return "Ready to enter your comment. Continue typing, or press 'Enter' to advance.";
     default:
         return "Ready to enter your question or statement. Continue typing, or press 'Enter' to "
@@ -59,7 +59,7 @@ int Mirror::KeyDown(int keyCode) {
 }
 
 int Mirror::KeyPress(int keyAscii) {
-    if (state_.ActiveMethod <= 0 || state_.DisplayFull == 1 || keyAscii == KeyCode::Tab) {
+    if (!IsRunning(state_.ActiveMethod) || state_.DisplayFull == 1 || keyAscii == KeyCode::Tab) {
         return 0;
     }
     if (keyAscii != KeyCode::Enter && keyAscii != KeyCode::Backspace) {
@@ -81,7 +81,7 @@ void Mirror::RecordKey(int characterCode) {
 }
 
 int Mirror::MirrorKeyDown(int keyCode) {
-    if (state_.ActiveMethod == 0) {
+    if (state_.ActiveMethod == WriteMethod::None) {
         return 0;
     }
     if (keyCode == KeyCode::Control) {
@@ -105,7 +105,7 @@ int Mirror::RefuseControlKey(int keyCode) {
 // Refused at the key, before the count, the series or the checks could take it for a letter;
 // the user is told, as for the control key, wherever a box would have taken the key.
 void Mirror::RefuseUnwritable() {
-    const bool typing = state_.ActiveMethod > 0 && state_.DisplayFull != 1 &&
+    const bool typing = IsRunning(state_.ActiveMethod) && state_.DisplayFull != 1 &&
                         (controls_.Focus == MirrorControl::txtMirror ||
                          controls_.Focus == MirrorControl::txtAnalyze);
     if (typing) {
@@ -155,7 +155,7 @@ int Mirror::MirrorKeyPress(int keyAscii) {
                 "Instruction Box at the bottom of the window reminds you what to do.");
         return 0;
     }
-    if (state_.ActiveMethod == 0 || C(MirrorControl::cmdNew).Text == "New") {
+    if (state_.ActiveMethod == WriteMethod::None || C(MirrorControl::cmdNew).Text == "New") {
         return 0;
     }
     if (box.Caret < HeadLength && keyAscii != KeyCode::Enter) {
@@ -205,7 +205,9 @@ bool Mirror::CountEntry(int keyAscii) {
     // Typing clears a ">>" message: the box goes back to what it showed before.
     if (C(MirrorControl::txtResponse).Background != Colour::ColourReady && state_.EntryFit != 1) {
         state_.EntryFailed = 0;
-        const bool direction = state_.ActiveMethod > 1 || state_.DialogueText.empty();
+        const bool direction = state_.ActiveMethod == WriteMethod::Suppose ||
+                               state_.ActiveMethod == WriteMethod::Comment ||
+                               state_.DialogueText.empty();
         SetResponse(direction ? state_.DirectionText : state_.InspirationView, Colour::ColourReady);
     }
     return keep;
@@ -247,7 +249,7 @@ bool Mirror::JudgeCount(MirrorControl markControl, const CountWording& wording, 
 
 // Rewrite and a click on the entry box: while typing, either erases the entry.
 void Mirror::ClickEntryBox() {
-    if (state_.ActiveMethod <= 0) {
+    if (!IsRunning(state_.ActiveMethod)) {
         return;
     }
     ShowInstruction();
@@ -267,7 +269,7 @@ void Mirror::ClickEntryBox() {
     }
     C(MirrorControl::cmdClear).Enabled = false;
     StartEntry(state_.ActiveMethod);
-    state_.InstructionText = state_.ActiveMethod == 4
+    state_.InstructionText = state_.ActiveMethod == WriteMethod::Comment
                                  ? "Type your comment again. Then press 'Enter' to continue."
                                  : "Type your entry again. Then press 'Enter' to continue.";
     state_.InstructionColour = Colour::Black;

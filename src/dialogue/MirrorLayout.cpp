@@ -113,7 +113,7 @@ void Mirror::ToggleWriteFont() {
 }
 
 int Mirror::WindowKeyDown(int keyCode) {
-    if (state_.ActiveMethod == -1) {
+    if (state_.ActiveMethod == WriteMethod::NotStarted) {
         return 0;
     }
     if (state_.DisplayFull == 1) {
@@ -129,12 +129,13 @@ int Mirror::WindowKeyDown(int keyCode) {
     }
     if (keyCode == KeyCode::Escape) {
         const bool cancel = C(MirrorControl::cmdNew).Text == "Cancel";
-        if (state_.ActiveMethod == 1 || (state_.ActiveMethod == 4 && cancel) ||
-            (state_.ActiveMethod == 2 && cancel)) {
+        if (state_.ActiveMethod == WriteMethod::Converse ||
+            (state_.ActiveMethod == WriteMethod::Comment && cancel) ||
+            (state_.ActiveMethod == WriteMethod::Suppose && cancel)) {
             Click(MirrorControl::cmdNew);
             return 0;
         }
-        if (state_.ActiveMethod == 2) {
+        if (state_.ActiveMethod == WriteMethod::Suppose) {
             keyCode = KeyCode::Function(5);
         }
     }

@@ -23,7 +23,7 @@ void Mirror::PressLibraryButton(MirrorControl pressed) {
     }
 }
 
-void Mirror::OpenLibrary(int library) {
+void Mirror::OpenLibrary(LibraryId library) {
     if (door_ == nullptr || state_.ReadLibrary == library ||
         world_.ClosingState == ClosingStates::UtilitiesUp) {
         return;
@@ -37,7 +37,7 @@ void Mirror::OpenLibrary(int library) {
 }
 
 void Mirror::ReaderClosed() {
-    state_.ReadLibrary = 0;
+    state_.ReadLibrary = LibraryId::None;
     for (auto button :
          {MirrorControl::cmdHelp, MirrorControl::cmdKnow, MirrorControl::cmdRetrieve}) {
         C(button).PressedIn = false;
@@ -64,12 +64,12 @@ void Mirror::WindowStateChanged(bool minimised) {
     }
     if (minimised) {
         // Minimised by the user, not by the Reader's opening: the backdrop goes with it.
-        if (door_->ReaderOpen() == 0) {
+        if (door_->ReaderOpen() == ReaderOpenState::Closed) {
             world_.Windows.HideWindow(WindowId::Back);
         }
         return;
     }
-    if (door_->ReaderOpen() == 1) {
+    if (door_->ReaderOpen() == ReaderOpenState::Open) {
         door_->CloseLibrary();
     }
     // A backdrop hidden with this window comes back behind it.

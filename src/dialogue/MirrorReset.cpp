@@ -81,7 +81,7 @@ bool Mirror::KeepBeforeLeaving() {
 
 // A finished Dialogue was written at Finish; only a failure then leaves it to be kept.
 bool Mirror::MustKeep() const {
-    return (state_.ActiveMethod > 0 && !state_.DialogueText.empty()) || unkept_;
+    return (IsRunning(state_.ActiveMethod) && !state_.DialogueText.empty()) || unkept_;
 }
 
 void Mirror::ResetDialogue() {
@@ -92,7 +92,7 @@ void Mirror::ResetDialogue() {
     state_.EntryFailed = 0;
     state_.IdeaIndex = 0;
     state_.DisplayFull = 0;
-    state_.EntryType = 0;
+    state_.EntryType = SentenceType::None;
     state_.IdeaLimit = 98;
     state_.EntryText.clear();
     state_.EntryBackup.clear();
@@ -143,7 +143,7 @@ void Mirror::ResetDialogue() {
 
     C(MirrorControl::cmdNew).Text = "Cancel";
     C(MirrorControl::cmdNew).Ink = Colour::Black;
-    state_.ActiveMethod = 0;
+    state_.ActiveMethod = WriteMethod::None;
     for (auto button : {MirrorControl::cmdConverse, MirrorControl::cmdSuppose,
                         MirrorControl::cmdNotate, MirrorControl::cmdKnow}) {
         C(button).PressedIn = false;
@@ -158,7 +158,7 @@ void Mirror::ResetDialogue() {
 }
 
 bool Mirror::LoadPriorDialogue() {
-    state_.ActiveMethod = 0;
+    state_.ActiveMethod = WriteMethod::None;
     const auto prior = buffers_.ReadWorkBuffers();
     if (!prior) {
         return false;
@@ -236,7 +236,7 @@ void Mirror::FinishDialogue() {
 
     C(MirrorControl::lblRem).Visible = false;
     C(MirrorControl::lblRemS).Visible = false;
-    state_.ActiveMethod = 0;
+    state_.ActiveMethod = WriteMethod::None;
     C(MirrorControl::cmdNew).Text = "New";
     C(MirrorControl::cmdNew).Enabled = true;
     C(MirrorControl::cmdSave).Enabled = !GuestMode();
@@ -286,7 +286,7 @@ void Mirror::ClickNewCaption() {
     if (caption == "Finish") {
         FinishDialogue();
     } else if (caption == "Cancel") {
-        if (!state_.DialogueText.empty() && state_.ActiveMethod != 1) {
+        if (!state_.DialogueText.empty() && state_.ActiveMethod != WriteMethod::Converse) {
             if (state_.DisplayFull == 1) {
                 Click(MirrorControl::cmdDisplay);
             }
@@ -299,7 +299,7 @@ void Mirror::ClickNewCaption() {
         if (state_.DisplayFull == 1) {
             Click(MirrorControl::cmdDisplay);
         }
-        ConcludeSupposition(1);
+        ConcludeSupposition(ReplyKind::Answer);
     } else if (caption == "New") {
         if (!state_.DialogueText.empty() && !GuestMode() && state_.DialogueSaved == 0) {
             const auto answer =

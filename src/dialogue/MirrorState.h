@@ -4,25 +4,34 @@
 // the whole program: there is one Write window.
 
 #include "core/Colour.h"
+#include "engine/EntryCodes.h"
+#include "shell/LibraryId.h"
 
 #include <string>
 #include <vector>
 
 namespace veyrant {
 
+// Whether the entry and reply on show are in the Dialogue; the Remove button offers the other.
+enum class PairShown {
+    Nothing = 0,
+    Kept = 1,
+    LeftOut = 2,
+};
+
 struct MirrorState {
-    int ActiveMethod = -1; // -1 before the first reset, 0 none, 1 Converse, 2 Suppose, 4 Comment
+    WriteMethod ActiveMethod = WriteMethod::NotStarted;
     int AwaitingEnter = 0;
     int EntryFit = -1; // -1 too short, 0 acceptable, 1 too long
     int EntryCount = 0;
     int EntryMin = 17;
     int EntryNear = 90;
     int EntryMax = 140;
-    int EntryStatus = 0;
+    EntryVerdict EntryStatus = EntryVerdict::Unpunctuated;
     int EntryFailed = 0;
-    int PairState = 0; // 0 nothing on show, 1 on show and kept, 2 on show and left out
-    int EntryType = 0;
-    int AnswerFlag = 1;
+    PairShown PairState = PairShown::Nothing;
+    SentenceType EntryType = SentenceType::None;
+    ReplyKind AnswerFlag = ReplyKind::Answer;
     int NoticeNotDue = 1;
     int CycleCount = 0;
     int CycleGoal = 3;
@@ -62,7 +71,7 @@ struct MirrorState {
     int IdeaLimit = 98;
     int LimitWarnCount = 0;
     std::string DialogueView;
-    int ReadLibrary = 0; // which library the Reader shows; 0 none
+    LibraryId ReadLibrary = LibraryId::None; // which library the Reader shows
     bool TitleShownOnce = false;
 };
 

@@ -32,7 +32,7 @@ void Mirror::OpenIdeaList() {
     SetResponse(state_.SupposeHeading, Colour::ColourReady);
     state_.DirectionText = state_.SupposeHeading;
     state_.SupposeStage = 2;
-    SetEntryLimits(4);
+    SetEntryLimits(EntrySize::Idea);
     state_.IdeaIndex = 1;
     // A list left on a refused idea must not hold back the prompt of the next one.
     state_.IdeaFit = 0;
@@ -150,10 +150,10 @@ void Mirror::RankIdeas() {
     }
 }
 
-// Flag 1 after Select: three times in four the Sagrel chooses an idea. Flag 0 when it declines
-// the question itself: a remark stands where the verdict would.
-void Mirror::ConcludeSupposition(int flag) {
-    if (flag == 1) {
+// An answer after Select: three times in four the Sagrel chooses an idea. A remark when it
+// declines the question itself: the remark stands where the verdict would.
+void Mirror::ConcludeSupposition(ReplyKind flag) {
+    if (flag == ReplyKind::Answer) {
         auto& list = C(MirrorControl::txtAnalyze);
         list.Enabled = false;
         list.Visible = false;
@@ -165,27 +165,27 @@ void Mirror::ConcludeSupposition(int flag) {
         SetResponse(std::string(MirrorText::Processing), Colour::ColourReady);
         Yield();
         state_.AnswerFlag = engine_.RollAnswer(25);
-        if (state_.AnswerFlag == 1) {
+        if (state_.AnswerFlag == ReplyKind::Answer) {
             RankIdeas();
         }
         state_.IdeaVerdict = engine_.RequestIdeaVerdict(state_.AnswerFlag);
     } else {
         state_.IdeaVerdict = engine_.RequestRemark(state_.EntryType);
-        state_.EntryType = 0;
-        state_.AnswerFlag = 0;
+        state_.EntryType = SentenceType::None;
+        state_.AnswerFlag = ReplyKind::Remark;
     }
     EndSupposition();
 }
 
 // The question and its outcome become one pair, and the window is in Converse again.
 void Mirror::EndSupposition() {
-    if (state_.AnswerFlag == 1) {
+    if (state_.AnswerFlag == ReplyKind::Answer) {
         const auto chosen = static_cast<std::size_t>(state_.IdeaOrder[1]);
         state_.ConclusionView = std::string(1, Tab) + "Your idea " + OpenQuote +
                                 state_.Ideas[chosen] + "." + CloseQuote + " " + state_.IdeaVerdict;
     } else {
         state_.ConclusionView = std::string(1, Tab) + Trim(Mid(state_.IdeaVerdict, 3));
-        state_.EntryType = 0;
+        state_.EntryType = SentenceType::None;
     }
     C(MirrorControl::txtAnalyze).Text = state_.ConclusionView;
     state_.IdeaIndex = 0;
@@ -198,7 +198,7 @@ void Mirror::EndSupposition() {
     C(MirrorControl::cmdNotate).Enabled = true;
     C(MirrorControl::cmdRemove).Enabled = true;
     ShowResult();
-    if (state_.PairState == 1) {
+    if (state_.PairState == PairShown::Kept) {
         state_.DialogueText += state_.PairText;
         ++state_.PairCount;
     }
@@ -208,7 +208,7 @@ void Mirror::EndSupposition() {
     ShowSmallView();
     ShowInstruction();
     C(MirrorControl::cmdNew).Text = "Finish";
-    state_.ActiveMethod = 1;
+    state_.ActiveMethod = WriteMethod::Converse;
     state_.TitleMethod = "Conversation";
     UpdateTitle();
     PressMethodButton(MirrorControl::cmdConverse);

@@ -15,8 +15,9 @@ std::string Direction(std::string_view heading, std::string_view body) {
 }
 
 // Where Suppose words a refusal its own way, the second text is the one for Converse.
-std::string ByMethod(int activeMethod, std::string_view suppose, std::string_view converse) {
-    return std::string(activeMethod == 2 ? suppose : converse);
+std::string ByMethod(WriteMethod activeMethod, std::string_view suppose,
+                     std::string_view converse) {
+    return std::string(activeMethod == WriteMethod::Suppose ? suppose : converse);
 }
 
 } // namespace
@@ -49,25 +50,25 @@ std::string DirectionNotation() {
                      "questions. Then press 'Enter'. You will return to the Converse method.");
 }
 
-std::string RejectionMessage(int entryStatus, int activeMethod) {
+std::string RejectionMessage(EntryVerdict entryStatus, WriteMethod activeMethod) {
     switch (entryStatus) {
-    case -1:
-        if (activeMethod == 4) {
+    case EntryVerdict::EndsWithQuote:
+        if (activeMethod == WriteMethod::Comment) {
             return ">> Do not add a quotation mark at your sentence end. That is done for you "
                    "automatically. Backspace out the quote, then press 'Enter' to continue.";
         }
         return ">> Do not add a quotation mark at the end of your entry. That is done for you "
                "automatically. Backspace out the quote, then press 'Enter' to continue.";
-    case 0:
+    case EntryVerdict::Unpunctuated:
         return ">> Your entry is not punctuated. Add your period or question mark, then press "
                "'Enter'.";
-    case -2:
+    case EntryVerdict::TooFewWords:
         return ">> Insufficient number of words. Add more content to your entry. Press 'Enter' "
                "to start again.";
-    case -3:
+    case EntryVerdict::TooFewMeaningfulWords:
         return ">> Insufficient number of meaningful words. Add complexity to your entry. Press "
                "'Enter' to start again.";
-    case -10:
+    case EntryVerdict::SyntaxUnclear:
         return ByMethod(activeMethod,
                         ">> The syntax of your entry is not clear. Use simple, properly-spelled "
                         "language that asks a Supposition-type question. Press 'Enter' to start "
@@ -75,17 +76,17 @@ std::string RejectionMessage(int entryStatus, int activeMethod) {
                         ">> The syntax of your entry is not clear. Use simple, properly-spelled "
                         "language that asks a question or makes a statement. Press 'Enter' to "
                         "start again.");
-    case -11:
+    case EntryVerdict::SubjectUnclear:
         return ">> The subject of your entry is not clear. Keep it simple. Avoid unnecessary "
                "language. Break up complex sentences with a comma. Press 'Enter' to start again.";
-    case -12:
+    case EntryVerdict::PointUnclear:
         return ByMethod(activeMethod,
                         ">> The point of your entry is not clear. Ask a direct Supposition-type "
                         "question. Use commas to separate phrases. Press 'Enter' to start again.",
                         ">> The point of your entry is not clear. Ask a direct question or make a "
                         "simple statement. Use commas to separate phrases. Press 'Enter' to start "
                         "again.");
-    case -13:
+    case EntryVerdict::MeaningUnclear:
         return ByMethod(activeMethod,
                         ">> The meaning of your entry is not clear. Ask a direct Supposition-type "
                         "question. Break up complex sentences with a comma. Press 'Enter' to "
@@ -93,7 +94,7 @@ std::string RejectionMessage(int entryStatus, int activeMethod) {
                         ">> The meaning of your entry is not clear. Ask a direct question or make "
                         "a simple statement. Break up complex sentences with a comma. Press "
                         "'Enter' to start again.");
-    case -14:
+    case EntryVerdict::Indecipherable:
         return ByMethod(activeMethod,
                         ">> The meaning of your entry cannot be deciphered. Ask a direct "
                         "Supposition-type question. Break up complex sentences with a comma. "
@@ -101,17 +102,19 @@ std::string RejectionMessage(int entryStatus, int activeMethod) {
                         ">> The meaning of your entry cannot be deciphered. Ask a direct question "
                         "or make a simple statement. Break up complex sentences with a comma. "
                         "Press 'Enter' to start again.");
-    case -99:
+    case EntryVerdict::DialogueFull:
         return ">> ! Your Dialogue has reached the system limit, and no more text can be added. "
                "Click 'Finish' to end the Dialogue. Then you may print it if you prefer.";
-    case -100:
+    case EntryVerdict::SupposeYesNoQuestion:
         return ">> Questions asking for a yes-no-type answer are not valid for Supposition. Press "
                "'Enter' to start again.";
-    case -101:
+    case EntryVerdict::SupposeStatement:
         return ">> Statements are not valid for Supposition. Press 'Enter' to start again.";
-    default:
+    case EntryVerdict::Accepted:
+    case EntryVerdict::NotAQuestion:
         return {};
     }
+    return {};
 }
 
 } // namespace veyrant::MirrorText

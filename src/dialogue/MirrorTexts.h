@@ -2,6 +2,8 @@
 
 // The fixed texts of the Write window that more than one routine shows.
 
+#include "engine/EntryCodes.h"
+
 #include <string>
 #include <string_view>
 
@@ -55,6 +57,6 @@ std::string DirectionBeginningNotation();
 std::string DirectionNotation();
 
 // The ">>" message for a refused entry, by EntryStatus and method.
-std::string RejectionMessage(int entryStatus, int activeMethod);
+std::string RejectionMessage(EntryVerdict entryStatus, WriteMethod activeMethod);
 
 } // namespace veyrant::MirrorText

@@ -75,7 +75,7 @@ void Mirror::CheckDialogueLimit() {
             state_.LimitWarnCount = 1;
         }
     } else if (count >= 121) {
-        state_.EntryStatus = -99;
+        state_.EntryStatus = EntryVerdict::DialogueFull;
     }
 }
 
@@ -84,7 +84,8 @@ void Mirror::ShowDialogueFull() {
     C(MirrorControl::cmdDisplay).Text = "Write";
     auto& saved = C(MirrorControl::txtSaved);
     saved.Text = FullViewText(state_.InspirationText, state_.DialogueView);
-    saved.Caret = state_.ActiveMethod == 1 ? 0 : static_cast<long>(saved.Text.size());
+    saved.Caret =
+        state_.ActiveMethod == WriteMethod::Converse ? 0 : static_cast<long>(saved.Text.size());
     saved.Background = Colour::EntryYellow;
     state_.DisplayFull = 1;
 }
@@ -151,7 +152,7 @@ void Mirror::ClickDisplay() {
 // In the New Dialogue state the panel shows a Suggestion, and a click draws another; otherwise a
 // click on the Dialogue toggles the full view.
 void Mirror::ClickSaved() {
-    if (state_.ActiveMethod == 0 && state_.DisplayFull == 0) {
+    if (state_.ActiveMethod == WriteMethod::None && state_.DisplayFull == 0) {
         state_.SuggestionText = engine_.PickGuidance();
         C(MirrorControl::txtSaved).Text = LibraryStatusText(state_.SuggestionText);
         return;

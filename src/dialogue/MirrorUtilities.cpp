@@ -7,7 +7,7 @@ namespace veyrant {
 // out of them ends the program, so a running Dialogue goes into the work buffers first; when
 // they cannot be written the window stays, with the Dialogue on it.
 void Mirror::OpenWindowBehindWrite(WindowId window, const std::string& windowName) {
-    if (state_.ReadLibrary != 0) {
+    if (state_.ReadLibrary != LibraryId::None) {
         Message("Veyrant Sagrel Help", "You must first close the Read window before you "
                                        "right-click to open the " +
                                            windowName + " window.");

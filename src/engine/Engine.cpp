@@ -6,6 +6,7 @@
 #include "engine/EngineFiles.h"
 
 #include <new>
+#include <optional>
 
 namespace veyrant {
 
@@ -15,50 +16,47 @@ Engine::Engine(Random& random, Clock& clock, WindowLayer& windows)
 
 namespace {
 
-// The message numbers by sentence type; 0 where the type has none.
-std::int16_t AnswerMessage(std::int16_t type) {
+// The message that answers each sentence type, or makes a remark on it; none where the type has
+// none.
+std::optional<MessageNumber> AnswerMessage(SentenceType type) {
     switch (type) {
-    case 1:
-        return 1;
-    case 10:
-        return 2;
-    case 20:
-        return 3;
-    case 30:
-        return 4;
-    case 40:
-        return 5;
-    case 50:
-        return 6;
-    case 60:
-        return 7;
-    case 2:
-        return 8;
+    case SentenceType::YesNoQuestion:
+        return MessageNumber::YesNoAnswer;
+    case SentenceType::WhoQuestion:
+        return MessageNumber::WhoAnswer;
+    case SentenceType::WhatQuestion:
+        return MessageNumber::WhatAnswer;
+    case SentenceType::WhenQuestion:
+        return MessageNumber::WhenAnswer;
+    case SentenceType::WhereQuestion:
+        return MessageNumber::WhereAnswer;
+    case SentenceType::WhyQuestion:
+        return MessageNumber::WhyAnswer;
+    case SentenceType::HowQuestion:
+        return MessageNumber::HowAnswer;
+    case SentenceType::Statement:
+        return MessageNumber::StatementAnswer;
     default:
-        return 0;
+        return std::nullopt;
     }
 }
 
-std::int16_t RemarkMessage(std::int16_t type) {
-    if (type >= 10) {
-        return 12;
+// Every question by its word, the Suppose question among them, gets the same remark.
+std::optional<MessageNumber> RemarkMessage(SentenceType type) {
+    if (static_cast<std::int16_t>(type) >= static_cast<std::int16_t>(SentenceType::WhoQuestion)) {
+        return MessageNumber::QuestionRemark;
     }
     switch (type) {
-    case 1:
-        return 11;
-    case 2:
-        return 13;
-    case 9:
-        return 14;
+    case SentenceType::YesNoQuestion:
+        return MessageNumber::YesNoRemark;
+    case SentenceType::Statement:
+        return MessageNumber::StatementRemark;
+    case SentenceType::SupposeQuestion:
+        return MessageNumber::SupposeRemark;
     default:
-        return 0;
+        return std::nullopt;
     }
 }
-
-constexpr std::int16_t VerdictYes = 9;
-constexpr std::int16_t VerdictNo = 10;
-constexpr std::int16_t InspirationMessage = 15;
-constexpr std::int16_t InterjectionMessage = 16;
 
 } // namespace
 
@@ -92,7 +90,8 @@ void Engine::ShowComposeError(int number, std::int16_t message) {
                           MessageIcon::Warning, MessageButtons::Ok, 1});
 }
 
-void Engine::Compose(std::int16_t number) {
+void Engine::Compose(MessageNumber message) {
+    const auto number = static_cast<std::int16_t>(message);
     if (!KeepPlans()) {
         composer_.ClearComposition();
         composer_.AssembleMessage();
@@ -118,10 +117,10 @@ void Engine::Assemble() {
     }
 }
 
-void Engine::RequestAnswer(std::int16_t type) {
+void Engine::RequestAnswer(SentenceType type) {
     windows_.SetBusyPointer(true);
-    if (const auto message = AnswerMessage(type); message != 0) {
-        Compose(message);
+    if (const auto message = AnswerMessage(type)) {
+        Compose(*message);
     } else {
         Assemble();
     }
@@ -129,23 +128,19 @@ void Engine::RequestAnswer(std::int16_t type) {
     windows_.SetBusyPointer(false);
 }
 
-void Engine::RequestRemark(std::int16_t type) {
-    if (const auto message = RemarkMessage(type); message != 0) {
-        Compose(message);
+void Engine::RequestRemark(SentenceType type) {
+    if (const auto message = RemarkMessage(type)) {
+        Compose(*message);
     } else {
         Assemble();
     }
     ReplyText = composer_.ComposedText;
 }
 
-void Engine::RequestIdeaVerdict(std::int16_t flag) {
-    if (flag == 1 || flag == 0) {
-        Compose(flag == 1 ? VerdictYes : VerdictNo);
-    } else {
-        Assemble();
-    }
+void Engine::RequestIdeaVerdict(ReplyKind flag) {
+    Compose(flag == ReplyKind::Answer ? MessageNumber::IdeaChosen : MessageNumber::IdeaDeclined);
     IdeaVerdict = composer_.ComposedText;
-    if (flag == 1) {
+    if (flag == ReplyKind::Answer) {
         // The verdict goes on the sentence "Your idea ... ." in lower case.
         IdeaVerdict = Mid(IdeaVerdict, 3);
         LowerAt(IdeaVerdict, 1);
@@ -153,12 +148,12 @@ void Engine::RequestIdeaVerdict(std::int16_t flag) {
 }
 
 void Engine::RequestInspiration() {
-    Compose(InspirationMessage);
+    Compose(MessageNumber::Inspiration);
     InspirationText = std::string(1, Tab) + Mid(composer_.ComposedText, 3);
 }
 
 void Engine::RequestInterjection() {
-    Compose(InterjectionMessage);
+    Compose(MessageNumber::Interjection);
     ReplyText = composer_.ComposedText;
 }
 

@@ -9,6 +9,7 @@
 #include "core/WindowLayer.h"
 #include "engine/Composer.h"
 #include "engine/EngineTables.h"
+#include "engine/EntryCodes.h"
 #include "engine/KeptPlans.h"
 #include "engine/PhraseStocks.h"
 #include "shell/AppFolder.h"
@@ -34,14 +35,14 @@ public:
     void SeedSeries();
     // Before each reply, once the caller has put the clock into SeriesSeed.
     void StretchSeeds();
-    // AnswerFlag 0 (a remark) in percent of 100 draws, else 1.
+    // AnswerFlag a remark in percent of 100 draws, else an answer.
     void RollAnswer(std::int16_t percent);
 
     // Each leaves the composed text, led by a tab and the first row's blank, as described by
-    // its result; a type or flag with no message composes nothing new and repeats the last.
-    void RequestAnswer(std::int16_t type);
-    void RequestRemark(std::int16_t type);
-    void RequestIdeaVerdict(std::int16_t flag);
+    // its result; a type with no message composes nothing new and repeats the last.
+    void RequestAnswer(SentenceType type);
+    void RequestRemark(SentenceType type);
+    void RequestIdeaVerdict(ReplyKind flag);
     void RequestInspiration();
     void RequestInterjection();
     void PickGuidance();
@@ -52,7 +53,7 @@ public:
     std::array<std::int16_t, 16> SeriesScale{};
     std::vector<float> SeedPool; // 1-based, entry 0 idle
 
-    std::int16_t AnswerFlag = 0;
+    ReplyKind AnswerFlag = ReplyKind::Remark;
     std::string ReplyText;
     std::string IdeaVerdict;
     std::string InspirationText;
@@ -65,7 +66,7 @@ public:
 
     // Composes one message with the plans kept in memory; a failure shows its box and leaves
     // a composition that assembles to a tab alone.
-    void Compose(std::int16_t number);
+    void Compose(MessageNumber message);
 
 private:
     bool KeepPlans();

@@ -190,38 +190,39 @@ std::size_t FirstFilledColumn(const HitGrid& grid) {
     return 0;
 }
 
-std::int16_t TypeOfQuestion(int queryWord, int auxWord) {
+// The question words stand in the table in groups: who, what, where, when, how, and why last.
+SentenceType TypeOfQuestion(int queryWord, int auxWord) {
     if (queryWord == 0) {
-        return 1;
+        return SentenceType::YesNoQuestion;
     }
     if (queryWord >= 9 && queryWord <= 14 && auxWord == 0) {
-        return -4;
+        return SentenceType::Indecipherable;
     }
     if (queryWord <= 5) {
-        return 10;
+        return SentenceType::WhoQuestion;
     }
     if (queryWord <= 8) {
-        return 20;
+        return SentenceType::WhatQuestion;
     }
     if (queryWord <= 10) {
-        return 40;
+        return SentenceType::WhereQuestion;
     }
     if (queryWord <= 12) {
-        return 30;
+        return SentenceType::WhenQuestion;
     }
     if (queryWord <= 14) {
-        return 60;
+        return SentenceType::HowQuestion;
     }
-    return 50;
+    return SentenceType::WhyQuestion;
 }
 
-std::int16_t Decide(const ClassifyPass& pass) {
+SentenceType Decide(const ClassifyPass& pass) {
     const HitGrid& grid = pass.Grid;
     if (grid[1][1].Present == 0 && grid[2][1].Present == 0) {
-        return 0;
+        return SentenceType::None;
     }
     if (pass.Overflow) {
-        return -1;
+        return SentenceType::SubjectUnclear;
     }
     int starts = 0;
     for (std::size_t row = 1; row <= 2; ++row) {
@@ -230,14 +231,14 @@ std::int16_t Decide(const ClassifyPass& pass) {
         }
     }
     if (starts > 1) {
-        return -2;
+        return SentenceType::PointUnclear;
     }
     int candidates = starts;
     const HitCell* chosen = nullptr;
     if (starts == 0) {
         candidates = CountPresent(grid[1]);
         if (candidates > 1) {
-            return -3;
+            return SentenceType::MeaningUnclear;
         }
         if (candidates == 1) {
             candidates = 0;
@@ -250,7 +251,7 @@ std::int16_t Decide(const ClassifyPass& pass) {
             }
         }
         if (candidates != 1) {
-            return -3;
+            return SentenceType::MeaningUnclear;
         }
         // The test looks at row 1 and the value for the auxiliary comes from row 2; either way
         // the first filled cell of row 1 is the one taken.
@@ -262,7 +263,7 @@ std::int16_t Decide(const ClassifyPass& pass) {
         }
     }
     if (candidates != 1) {
-        return -3;
+        return SentenceType::MeaningUnclear;
     }
     long lowest = 1000;
     for (std::size_t row = 1; row <= 2; ++row) {
@@ -275,14 +276,15 @@ std::int16_t Decide(const ClassifyPass& pass) {
             }
         }
     }
-    return chosen == nullptr ? std::int16_t{1} : TypeOfQuestion(chosen->QueryWord, chosen->AuxWord);
+    return chosen == nullptr ? SentenceType::YesNoQuestion
+                             : TypeOfQuestion(chosen->QueryWord, chosen->AuxWord);
 }
 
 } // namespace
 
-void ClassifyEntry(std::string& text, std::int16_t& EntryType) {
+void ClassifyEntry(std::string& text, SentenceType& EntryType) {
     text = Trim(text);
-    EntryType = 1000;
+    EntryType = SentenceType::Unclassified;
     const EntryWords words = LoadEntryWords();
     ClassifyPass pass;
     BlankFirstPerson(text, words);
@@ -310,21 +312,21 @@ void CommaForInnerMarks(std::string& text) {
 
 } // namespace
 
-void CheckEntry(const std::string& EntryText, std::int16_t ActiveMethod, std::int16_t PairCount,
-                std::int16_t& EntryStatus, std::int16_t& EntryType) {
-    EntryStatus = 1000;
+void CheckEntry(const std::string& EntryText, WriteMethod ActiveMethod, std::int16_t PairCount,
+                EntryVerdict& EntryStatus, SentenceType& EntryType) {
+    EntryStatus = EntryVerdict::Accepted;
     const std::string trimmed = Trim(EntryText);
     const auto length = static_cast<double>(trimmed.size());
     const auto words = static_cast<double>(std::count(trimmed.begin(), trimmed.end(), ' ') + 1);
     const char last = trimmed.empty() ? '\0' : trimmed.back();
     if (last == '"') {
-        EntryStatus = -1;
+        EntryStatus = EntryVerdict::EndsWithQuote;
         return;
     }
     if (last != '?' && last != '.' && last != '!') {
-        EntryStatus = 0;
+        EntryStatus = EntryVerdict::Unpunctuated;
     }
-    if (ActiveMethod == 4) {
+    if (ActiveMethod == WriteMethod::Comment) {
         return;
     }
     const double meanLength = (length - words - 3) / words;
@@ -333,26 +335,26 @@ void CheckEntry(const std::string& EntryText, std::int16_t ActiveMethod, std::in
     const double shortWords = PairCount == 0 ? 7 : 6;
     const double leanest = PairCount == 0 ? 3.5 : 2.9;
     if (words < fewestWords) {
-        EntryStatus = -2;
+        EntryStatus = EntryVerdict::TooFewWords;
         return;
     }
     if (words < shortWords && meanLength < leanest) {
-        EntryStatus = -3;
+        EntryStatus = EntryVerdict::TooFewMeaningfulWords;
         return;
     }
-    if (ActiveMethod == 2 && last != '?') {
-        EntryStatus = 2;
+    if (ActiveMethod == WriteMethod::Suppose && last != '?') {
+        EntryStatus = EntryVerdict::NotAQuestion;
         return;
     }
     if (last == '.' || last == '!') {
-        EntryType = 2;
+        EntryType = SentenceType::Statement;
         return;
     }
     std::string sentence = Trim(Mid(EntryText, 3));
     CommaForInnerMarks(sentence);
     ClassifyEntry(sentence, EntryType);
-    if (EntryType < 1) {
-        EntryStatus = static_cast<std::int16_t>(EntryType - 10);
+    if (const auto unclear = UnclearVerdict(EntryType)) {
+        EntryStatus = *unclear;
     }
 }
 

@@ -4,6 +4,8 @@
 // kind of sentence it is. The judgement rests on the last character, the word count and mean
 // word length, and the places where a small table of question words and auxiliaries occurs.
 
+#include "engine/EntryCodes.h"
+
 #include <array>
 #include <cstdint>
 #include <string>
@@ -23,11 +25,11 @@ EntryWords LoadEntryWords();
 
 // Reads the entry as the Write box holds it (tab and opening mark first). Sets EntryStatus
 // always, and EntryType only where the sentence type is decided here or by the classifier.
-void CheckEntry(const std::string& EntryText, std::int16_t ActiveMethod, std::int16_t PairCount,
-                std::int16_t& EntryStatus, std::int16_t& EntryType);
+void CheckEntry(const std::string& EntryText, WriteMethod ActiveMethod, std::int16_t PairCount,
+                EntryVerdict& EntryStatus, SentenceType& EntryType);
 
-// Overwrites text with its prepared form and sets EntryType: 1 yes-or-no question, 10 to 60 a
-// question by its word, 0 nothing found, -1 to -4 an entry whose form can't be told.
-void ClassifyEntry(std::string& text, std::int16_t& EntryType);
+// Overwrites text with its prepared form and sets EntryType: a yes-or-no question, a question by
+// its word, None when nothing is found, or one of the kinds whose form can't be told.
+void ClassifyEntry(std::string& text, SentenceType& EntryType);
 
 } // namespace veyrant

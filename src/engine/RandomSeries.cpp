@@ -33,7 +33,7 @@ void Engine::StretchSeeds() {
 
 void Engine::RollAnswer(std::int16_t percent) {
     random_.Seed(clock_.Timer());
-    AnswerFlag = random_.Scaled(100) <= percent ? 0 : 1;
+    AnswerFlag = random_.Scaled(100) <= percent ? ReplyKind::Remark : ReplyKind::Answer;
 }
 
 void Engine::PickGuidance() {

@@ -4,6 +4,8 @@
 // image and copied into these stores at start-up, with the index derived from the titles.
 // Text is Windows-1252 bytes, as everywhere in the core.
 
+#include "shell/LibraryId.h"
+
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -34,17 +36,13 @@ struct FixedLibrary {
     std::vector<std::int16_t> SectionEnd;
 };
 
-struct FixedLibraries {
-    FixedLibrary InfoLib;
-    FixedLibrary KnowLib;
-    FixedLibrary AdvLib;
-};
+using FixedLibraries = PerFixedLibrary<FixedLibrary>;
 
 // Fills titles, texts and widths of the three stores from the program's constant data.
 void LoadLibraries(FixedLibraries& libraries);
 void BuildLibraryIndex(FixedLibrary& library);
-// Raises ProgramError 1001 when the last title of InfoLib or KnowLib, or the last Suggestion,
-// is empty. AdvLib is not tested.
+// Raises ProgramError 1001 when the last title of the Information or the Knowledge Library, or
+// the last Suggestion, is empty. The Advanced Knowledge Library is not tested.
 void CheckLibraryContent(const FixedLibraries& libraries);
 std::string CleanTitle(const std::string& title);
 // The row's record as a fixed-width record holds it, trailing spaces left off.

@@ -27,16 +27,19 @@ bool LastTitleIsEmpty(const FixedLibrary& library) {
 } // namespace
 
 void LoadLibraries(FixedLibraries& libraries) {
-    Fill(libraries.InfoLib, InformationLibraryContent());
-    Fill(libraries.KnowLib, KnowledgeLibraryContent());
-    Fill(libraries.AdvLib, AdvancedLibraryContent());
+    static const PerFixedLibrary<LibraryContent (*)()> Contents(
+        {InformationLibraryContent, KnowledgeLibraryContent, AdvancedLibraryContent});
+    for (const LibraryId library : FixedLibraryIds) {
+        Fill(libraries[library], Contents[library]());
+    }
 }
 
 void CheckLibraryContent(const FixedLibraries& libraries) {
     // The Advanced Knowledge Library goes unchecked, as it always has.
     const auto suggestions = SuggestionTexts();
-    if (LastTitleIsEmpty(libraries.InfoLib) || LastTitleIsEmpty(libraries.KnowLib) ||
-        suggestions.size() < 2 || suggestions.back().empty()) {
+    if (LastTitleIsEmpty(libraries[LibraryId::Information]) ||
+        LastTitleIsEmpty(libraries[LibraryId::Knowledge]) || suggestions.size() < 2 ||
+        suggestions.back().empty()) {
         throw ProgramError(ErrorNumber::ProgramState);
     }
 }

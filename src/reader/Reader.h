@@ -33,7 +33,7 @@ public:
 
     // The Write window's request for a library (1 Dialogue to 4 Advanced Knowledge): a fixed
     // library's flag is raised only when nothing stands there, since a mark may be waiting.
-    void RequestLibrary(int library);
+    void RequestLibrary(LibraryId library);
     // Opens the Reader on the library whose flag comes first.
     void SetReader();
     // The window unloads, however that came about: the marks go to Read.ini.
@@ -84,8 +84,6 @@ private:
     std::string FitToList(const std::string& text) const;
     const FixedLibrary& OpenLibrary() const;
     std::int16_t& CurrentRow();
-    std::int16_t& OpenFlag(int library);
-    std::int16_t& MarkRow(int library);
 
     // Selection and the index button.
     void SelectRow(int row);

@@ -30,12 +30,13 @@ void Reader::ClickMarkExit() {
     hover_.End();
     // Only the library on show is marked. A selected Dialogue has written its position already;
     // a fixed library's shown row becomes its mark.
-    const int library = world_.Values.ReadLibrary;
-    if (IsDialogueLibrary() ? MarkRow(library) >= 0 : CurrentRow() >= 0) {
+    const LibraryId library = world_.Values.ReadLibrary;
+    std::int16_t& mark = world_.Marks.MarkRows[library];
+    if (IsDialogueLibrary() ? mark >= 0 : CurrentRow() >= 0) {
         if (!IsDialogueLibrary()) {
-            MarkRow(library) = CurrentRow();
+            mark = CurrentRow();
         }
-        OpenFlag(library) = OpenFlags::Marked;
+        world_.Marks.OpenFlags[library] = OpenFlag::Marked;
     }
     world_.Host.UnloadReader();
 }
@@ -69,8 +70,8 @@ void Reader::MergeSection() {
     const std::string shownTitle = controls_.Title;
     controls_.Title =
         world_.Values.LibraryName +
-        (world_.Values.ReadLibrary == ReadLibraries::Information ? " -- Merged Section -- "
-                                                                 : " -- Merged Essay -- ") +
+        (world_.Values.ReadLibrary == LibraryId::Information ? " -- Merged Section -- "
+                                                             : " -- Merged Essay -- ") +
         Trim(library.Titles[static_cast<std::size_t>(section)]);
     // A refused merge leaves the Section as it was, caption and all.
     const auto cannotMerge = [&] {

@@ -90,7 +90,7 @@ void Reader::OpenDialogueList() {
     const auto& limits = world_.UserSettings;
     const int count = listing.LibraryCount;
     FillDialogueList();
-    C(ReaderControl::txtSpin).Text = ReadInstructions(ReadLibraries::Dialogue);
+    C(ReaderControl::txtSpin).Text = ReadInstructions(LibraryId::Dialogue);
     C(ReaderControl::txtSpin).Background = Colour::IndexText;
 
     const auto label = [&](int index) {
@@ -105,8 +105,8 @@ void Reader::OpenDialogueList() {
                           " -- " + std::to_string(listing.OldestAge) + "/" +
                           std::to_string(limits.MaxLibraryDays) + " Days Old/Max";
     }
-    world_.Values.LibraryName = LibraryLongName(ReadLibraries::Dialogue);
-    state_.ReopenKind = ReopenKinds::Dialogue;
+    world_.Values.LibraryName = LibraryLongName(LibraryId::Dialogue);
+    state_.ReopenLibrary = LibraryId::Dialogue;
     state_.ListPos = -1;
     state_.DialogueIndexShown = 1;
     SetButtons(1);
@@ -117,7 +117,7 @@ void Reader::OpenDialogueList() {
         state_.NoteText = "There are no Dialogues saved in the Library.";
         C(ReaderControl::List1).Background = Colour::ListEmpty;
     } else {
-        SetWindowLayout(world_.UserSettings.WindowMode[ReadLibraries::Dialogue]);
+        SetWindowLayout(world_.UserSettings.WindowMode[LibraryId::Dialogue]);
         state_.NoteText =
             "Select a Dialogue. It will be displayed in the currently-set window mode.";
     }

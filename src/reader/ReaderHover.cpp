@@ -48,7 +48,7 @@ std::string Reader::WindowHoverText() const {
         return "The window mode cannot be changed when you open this Library or reset its main "
                "Index.";
     }
-    if (world_.UserSettings.WindowMode[static_cast<std::size_t>(world_.Values.ReadLibrary)] == 1) {
+    if (world_.UserSettings.WindowMode[world_.Values.ReadLibrary] == 1) {
         return "Set the window to the normal mode. This will display both the list and text in "
                "their normal views.";
     }
@@ -169,7 +169,7 @@ void Reader::FocusGained(ReaderControl control) {
         return;
     }
     if (world_.Windows.IsWindowVisible(WindowId::Banner) ||
-        world_.Values.ReaderOpen == ReaderOpenStates::Closed) {
+        world_.Values.ReaderOpen == ReaderOpenState::Closed) {
         return;
     }
     if (state_.SearchActive == 0) {

@@ -4,10 +4,19 @@
 #include "reader/Reader.h"
 #include "reader/ReaderTexts.h"
 
-#include <array>
 #include <utility>
 
 namespace veyrant {
+
+namespace {
+
+// A library opened without its mark being taken forgets its place; the Advanced Knowledge
+// Library keeps both, so a mark there outlives the close.
+bool KeepsMarkOnClose(LibraryId library) {
+    return library == LibraryId::Advanced;
+}
+
+} // namespace
 
 Reader::Reader(ReaderWorld world)
     : world_(world), hover_(world.Windows, TimerId::ReadHover, controls_, ReaderControl::txtNote) {
@@ -30,53 +39,23 @@ Reader::Reader(ReaderWorld world)
     SetSearchMode(0);
 }
 
-std::int16_t& Reader::OpenFlag(int library) {
-    auto& marks = world_.Marks;
-    switch (library) {
-    case ReadLibraries::Dialogue:
-        return marks.OpenFlagDialogue;
-    case ReadLibraries::Information:
-        return marks.OpenFlagInfo;
-    case ReadLibraries::Knowledge:
-        return marks.OpenFlagKnow;
-    default:
-        return marks.OpenFlagAdv;
-    }
-}
-
-std::int16_t& Reader::MarkRow(int library) {
-    auto& marks = world_.Marks;
-    switch (library) {
-    case ReadLibraries::Dialogue:
-        return marks.MarkRowDialogue;
-    case ReadLibraries::Information:
-        return marks.MarkRowInfo;
-    case ReadLibraries::Knowledge:
-        return marks.MarkRowKnow;
-    default:
-        return marks.MarkRowAdv;
-    }
-}
-
-void Reader::RequestLibrary(int library) {
-    std::int16_t& flag = OpenFlag(library);
+void Reader::RequestLibrary(LibraryId library) {
+    OpenFlag& flag = world_.Marks.OpenFlags[library];
     // A Dialogue's mark is a list position, so a new request always stands; a fixed library's
     // mark is kept when one is waiting.
-    if (library == ReadLibraries::Dialogue || flag == OpenFlags::None) {
-        flag = OpenFlags::Requested;
+    if (library == LibraryId::Dialogue || flag == OpenFlag::None) {
+        flag = OpenFlag::Requested;
     }
 }
 
 void Reader::SetReader() {
-    world_.Values.ReaderOpen = ReaderOpenStates::Open;
+    world_.Values.ReaderOpen = ReaderOpenState::Open;
     // A mark waiting anywhere wins over a request: that is how a marked library reopens.
-    static constexpr std::array<int, 4> Order{ReadLibraries::Dialogue, ReadLibraries::Information,
-                                              ReadLibraries::Knowledge, ReadLibraries::Advanced};
-    for (const std::int16_t wanted : {OpenFlags::Marked, OpenFlags::Requested}) {
-        for (const int library : Order) {
-            if (OpenFlag(library) == wanted) {
-                world_.Values.ReadLibrary = static_cast<std::int16_t>(library);
-                if (wanted == OpenFlags::Requested) {
+    for (const OpenFlag wanted : {OpenFlag::Marked, OpenFlag::Requested}) {
+        for (const LibraryId library : AllLibraries) {
+            if (world_.Marks.OpenFlags[library] == wanted) {
+                world_.Values.ReadLibrary = library;
+                if (wanted == OpenFlag::Requested) {
                     world_.Host.LoadReadSettings();
                 }
                 ShowLibrary();
@@ -87,29 +66,15 @@ void Reader::SetReader() {
 }
 
 bool Reader::IsDialogueLibrary() const {
-    return world_.Values.ReadLibrary == ReadLibraries::Dialogue;
+    return world_.Values.ReadLibrary == LibraryId::Dialogue;
 }
 
 const FixedLibrary& Reader::OpenLibrary() const {
-    switch (world_.Values.ReadLibrary) {
-    case ReadLibraries::Information:
-        return world_.Libraries.InfoLib;
-    case ReadLibraries::Knowledge:
-        return world_.Libraries.KnowLib;
-    default:
-        return world_.Libraries.AdvLib;
-    }
+    return world_.Libraries[world_.Values.ReadLibrary];
 }
 
 std::int16_t& Reader::CurrentRow() {
-    switch (world_.Values.ReadLibrary) {
-    case ReadLibraries::Information:
-        return world_.Values.CurRowInfo;
-    case ReadLibraries::Knowledge:
-        return world_.Values.CurRowKnow;
-    default:
-        return world_.Values.CurRowAdv;
-    }
+    return world_.Values.CurRow[world_.Values.ReadLibrary];
 }
 
 void Reader::ShowLibrary() {
@@ -121,9 +86,9 @@ void Reader::ShowLibrary() {
     state_.ListPos = -1;
     state_.HitCount = 0;
     state_.IndexMode = 0;
-    const int library = world_.Values.ReadLibrary;
-    std::int16_t& flag = OpenFlag(library);
-    const bool marked = flag == OpenFlags::Marked;
+    const LibraryId library = world_.Values.ReadLibrary;
+    OpenFlag& flag = world_.Marks.OpenFlags[library];
+    const bool marked = flag == OpenFlag::Marked;
     if (IsDialogueLibrary()) {
         C(ReaderControl::cmdPrint).Text = "Print";
         state_.KeyHint = KeyHintDialogue;
@@ -137,9 +102,9 @@ void Reader::ShowLibrary() {
         OpenFixedList();
     }
     if (marked) {
-        SelectRow(MarkRow(library));
+        SelectRow(world_.Marks.MarkRows[library]);
     }
-    flag = OpenFlags::None;
+    flag = OpenFlag::None;
     controls_.Focus = ReaderControl::txtCursor;
     Paint();
     world_.Windows.ShowWindow(WindowId::Read);
@@ -164,13 +129,13 @@ void Reader::FillFixedList(const FixedLibrary& library) {
 }
 
 void Reader::OpenFixedList() {
-    const int library = world_.Values.ReadLibrary;
+    const LibraryId library = world_.Values.ReadLibrary;
     FillFixedList(OpenLibrary());
     world_.Values.LibraryName = LibraryLongName(library);
     controls_.Title = world_.Values.LibraryName;
     C(ReaderControl::txtSpin).Text = ReadInstructions(library);
     C(ReaderControl::txtSpin).Background = Colour::IndexText;
-    state_.ReopenKind = static_cast<std::int16_t>(library + 2);
+    state_.ReopenLibrary = library;
     state_.ListPos = -1;
     SetButtons(1);
     C(ReaderControl::cmdNext).Enabled = true;
@@ -182,37 +147,31 @@ void Reader::OpenFixedList() {
     } else {
         state_.NoteText = "Select a Topic. Or click 'Index 2' to collapse the list, then select a "
                           "Section. Click 'Window' to show or remove the instructions.";
-        SetWindowLayout(world_.UserSettings.WindowMode[static_cast<std::size_t>(library)]);
+        SetWindowLayout(world_.UserSettings.WindowMode[library]);
     }
     ShowNote();
 }
 
 void Reader::CloseReader() {
     auto& marks = world_.Marks;
-    // A library opened without its mark being taken forgets its place; the Advanced Knowledge
-    // Library keeps both, so a mark there outlives the close.
-    if (marks.OpenFlagInfo == OpenFlags::None) {
-        marks.MarkRowInfo = -1;
-    }
-    if (marks.OpenFlagKnow == OpenFlags::None) {
-        marks.MarkRowKnow = -1;
-    }
-    if (marks.OpenFlagDialogue == OpenFlags::None) {
-        marks.MarkRowDialogue = -1;
+    for (const LibraryId library : AllLibraries) {
+        if (!KeepsMarkOnClose(library) && marks.OpenFlags[library] == OpenFlag::None) {
+            marks.MarkRows[library] = -1;
+        }
     }
     world_.Host.SaveReadSettings();
     // The window's hover timer goes with it; left running, its ticks would blank the
     // instruction line of the next opening.
     world_.Windows.StopTimer(TimerId::ReadHover);
     world_.Windows.HideWindow(WindowId::Read);
-    world_.Values.ReaderOpen = ReaderOpenStates::Closed;
-    marks.OpenFlagInfo = OpenFlags::None;
-    marks.OpenFlagKnow = OpenFlags::None;
-    marks.OpenFlagDialogue = OpenFlags::None;
+    world_.Values.ReaderOpen = ReaderOpenState::Closed;
+    for (const LibraryId library : AllLibraries) {
+        if (!KeepsMarkOnClose(library)) {
+            marks.OpenFlags[library] = OpenFlag::None;
+        }
+    }
     // The rows on show go with the window, so that no later Mark Exit takes an old place.
-    world_.Values.CurRowInfo = -1;
-    world_.Values.CurRowKnow = -1;
-    world_.Values.CurRowAdv = -1;
+    world_.Values.CurRow = PerFixedLibrary<std::int16_t>::Filled(-1);
     world_.Host.LibraryClosed();
 }
 

@@ -6,6 +6,7 @@
 #include "core/Cp1252.h"
 #include "core/Text.h"
 #include "reader/Reader.h"
+#include "reader/ReaderTexts.h"
 
 #include <string_view>
 
@@ -24,7 +25,7 @@ std::string Cp(std::string_view utf8) {
     return Utf8ToCp1252(utf8).Text;
 }
 
-std::string SearchInstructions(int library) {
+std::string SearchInstructions(LibraryId library) {
     constexpr std::string_view StepsDialogue =
         "Type the search text. Include leading or trailing spaces to individualize words. Click "
         "the text to erase it and begin again. Click ‘Go’ or press ‘Enter’ to find the first "
@@ -50,39 +51,22 @@ std::string SearchInstructions(int library) {
         "Click ‘Cancel’ to end the search and leave the window as it is. The text will remain in "
         "position at the last found instance, if any.";
 
-    std::string_view heading;
-    std::string_view scope;
-    std::string_view steps = StepsKnowledge;
-    std::string_view restart = RestartLibrary;
-    switch (library) {
-    case ReadLibraries::Dialogue:
-        heading = "Search Dialogues";
-        scope = "When you start a search with only the Index and not a Dialogue displayed, all "
-                "Dialogues are searched latest-to-earliest. If the search text is found, that "
-                "Dialogue is displayed. When you start a search with a Dialogue already "
-                "displayed, only that Dialogue will be searched.";
-        steps = StepsDialogue;
-        restart = RestartDialogue;
-        break;
-    case ReadLibraries::Information:
-        heading = "Search Information";
-        scope = "The Information Library is searched top-to-bottom. When text is found, that "
-                "Topic is displayed and the Index opened.";
-        steps = StepsInformation;
-        break;
-    case ReadLibraries::Knowledge:
-        heading = "Search Knowledge";
-        scope = "The Knowledge Library is searched top-to-bottom. When text is found, that Topic "
-                "is displayed and the Index opened.";
-        break;
-    default:
-        heading = "Search Advanced Knowledge";
-        scope = "The Advanced Knowledge Library is searched top-to-bottom. When text is found, "
-                "that Topic is displayed and the Index opened.";
-        break;
+    std::string text = "Search Dialogues";
+    std::string scope = "When you start a search with only the Index and not a Dialogue "
+                        "displayed, all Dialogues are searched latest-to-earliest. If the search "
+                        "text is found, that Dialogue is displayed. When you start a search with "
+                        "a Dialogue already displayed, only that Dialogue will be searched.";
+    std::string_view steps = StepsDialogue;
+    std::string_view restart = RestartDialogue;
+    if (library != LibraryId::Dialogue) {
+        text = "Search " + LibraryShortName(library);
+        scope = "The " + LibraryHeading(library) +
+                " is searched top-to-bottom. When text is found, that Topic is displayed and the "
+                "Index opened.";
+        steps = library == LibraryId::Information ? StepsInformation : StepsKnowledge;
+        restart = RestartLibrary;
     }
-    std::string text(heading);
-    for (const std::string_view paragraph : {scope, steps, restart, Leaving}) {
+    for (const std::string_view paragraph : {std::string_view(scope), steps, restart, Leaving}) {
         text += "\r\n\t";
         text += Cp(paragraph);
     }
@@ -362,12 +346,12 @@ std::string Reader::SearchHoverText() const {
                    : "Search for words or phrases within only the displayed Dialogue. Click "
                      "'Index' to search all Dialogues, latest to earliest.";
     }
-    const char* const scope =
-        world_.Values.ReadLibrary == ReadLibraries::Information ? "Information"
-        : world_.Values.ReadLibrary == ReadLibraries::Knowledge ? "Knowledge"
-                                                                : "Advanced Knowledge";
+    // Before the first library opens there is nothing to search.
+    if (world_.Values.ReadLibrary == LibraryId::None) {
+        return {};
+    }
     // The doubled "text text" stands as the program has it.
-    return std::string("Search for words or phrases within all ") + scope +
+    return "Search for words or phrases within all " + LibraryShortName(world_.Values.ReadLibrary) +
            ". The list opens, and Topics are displayed as the search text text is found.";
 }
 

@@ -44,9 +44,9 @@ void Reader::ScrollList() {
 }
 
 void Reader::SelectDialogue(int position) {
-    state_.ReopenKind = ReopenKinds::Dialogue;
+    state_.ReopenLibrary = LibraryId::Dialogue;
     state_.ListPos = static_cast<std::int16_t>(position);
-    world_.Marks.MarkRowDialogue = static_cast<std::int16_t>(position);
+    world_.Marks.MarkRows[LibraryId::Dialogue] = static_cast<std::int16_t>(position);
     if (state_.SearchActive == 1) {
         return;
     }
@@ -54,13 +54,13 @@ void Reader::SelectDialogue(int position) {
     ShowDialogue(position + 1);
     state_.DialogueIndexShown = 0;
     SetButtons(2);
-    SetWindowLayout(world_.UserSettings.WindowMode[ReadLibraries::Dialogue]);
+    SetWindowLayout(world_.UserSettings.WindowMode[LibraryId::Dialogue]);
     ScrollList();
 }
 
 void Reader::SelectFixedRow(int position) {
     const FixedLibrary& library = OpenLibrary();
-    state_.ReopenKind = static_cast<std::int16_t>(world_.Values.ReadLibrary + 2);
+    state_.ReopenLibrary = world_.Values.ReadLibrary;
     state_.ListPos = static_cast<std::int16_t>(position);
     if (state_.IndexMode == 0) {
         // A Section of Index-1 opens Index-2 at that Section's row; the selection there does
@@ -93,8 +93,7 @@ void Reader::SelectFixedRow(int position) {
         // A Section always shows split; a Topic in the library's own mode.
         SetWindowLayout(library.RowKind[row] >= RowKinds::Section
                             ? 0
-                            : world_.UserSettings
-                                  .WindowMode[static_cast<std::size_t>(world_.Values.ReadLibrary)]);
+                            : world_.UserSettings.WindowMode[world_.Values.ReadLibrary]);
     }
     ScrollList();
 }
@@ -102,7 +101,7 @@ void Reader::SelectFixedRow(int position) {
 void Reader::ClickSelect() {
     hover_.End();
     const std::string caption = C(ReaderControl::cmdSelect).Text;
-    const int library = world_.Values.ReadLibrary;
+    const LibraryId library = world_.Values.ReadLibrary;
     if (caption == CancelCaption) {
         SetSearchMode(0);
         if (state_.ListPos >= 0) {
@@ -116,14 +115,13 @@ void Reader::ClickSelect() {
         if (foundShows) {
             state_.HitCount = 0;
             SetButtons(2);
-            SetWindowLayout(world_.UserSettings.WindowMode[static_cast<std::size_t>(library)]);
+            SetWindowLayout(world_.UserSettings.WindowMode[library]);
             return;
         }
-        state_.ReopenKind =
-            static_cast<std::int16_t>(IsDialogueLibrary() ? ReopenKinds::Dialogue : library + 2);
+        state_.ReopenLibrary = library;
         state_.HitCount = 0;
     } else if (!IsDialogueLibrary()) {
-        state_.ReopenKind = static_cast<std::int16_t>(library + 2);
+        state_.ReopenLibrary = library;
         if (state_.IndexMode == 0 && caption == IndexOneCaption) {
             state_.IndexMode = 1;
         } else if (state_.IndexMode == 1 && caption == IndexTwoCaption) {
@@ -137,8 +135,8 @@ void Reader::ClickSelect() {
 }
 
 void Reader::ReopenList() {
-    if (state_.ReopenKind == ReopenKinds::Dialogue) {
-        world_.Marks.MarkRowDialogue = -1;
+    if (state_.ReopenLibrary == LibraryId::Dialogue) {
+        world_.Marks.MarkRows[LibraryId::Dialogue] = -1;
         OpenDialogueList();
         return;
     }

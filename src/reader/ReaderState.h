@@ -6,6 +6,7 @@
 #include "core/Colour.h"
 #include "core/DateTime.h"
 #include "reader/ReaderControls.h"
+#include "shell/LibraryId.h"
 
 #include <cstdint>
 #include <string>
@@ -13,19 +14,12 @@
 
 namespace veyrant {
 
-namespace ReopenKinds {
-inline constexpr std::int16_t Dialogue = 3;
-inline constexpr std::int16_t Information = 4;
-inline constexpr std::int16_t Knowledge = 5;
-inline constexpr std::int16_t Advanced = 6;
-} // namespace ReopenKinds
-
 struct ReaderState {
     std::int16_t ListPos = -1;
     std::int16_t SearchActive = 0;
     std::int16_t DialogueIndexShown = 0;
-    std::int16_t IndexMode = 0; // 0 Index-1, the Sections; 1 Index-2, every row
-    std::int16_t ReopenKind = 0;
+    std::int16_t IndexMode = 0;                // 0 Index-1, the Sections; 1 Index-2, every row
+    LibraryId ReopenLibrary = LibraryId::None; // whose list a reset of the index reopens
     std::string DisplayText;
     std::string DialogueBody;
     std::string InspirationBody;

@@ -144,8 +144,7 @@ void Reader::ClickWindow() {
                 "text that is within a Section can be expanded into the window.");
         return;
     }
-    auto& mode =
-        world_.UserSettings.WindowMode[static_cast<std::size_t>(world_.Values.ReadLibrary)];
+    auto& mode = world_.UserSettings.WindowMode[world_.Values.ReadLibrary];
     // The saved mode follows what shows.
     if (C(ReaderControl::List1).Visible && ListIsSplit()) {
         mode = 0;

@@ -16,21 +16,8 @@ std::string Cp(std::string_view utf8) {
     return Utf8ToCp1252(utf8).Text;
 }
 
-std::string Heading(int library) {
-    switch (library) {
-    case ReadLibraries::Dialogue:
-        return "Dialogue Library";
-    case ReadLibraries::Information:
-        return "Information Library";
-    case ReadLibraries::Knowledge:
-        return "Knowledge Library";
-    default:
-        return "Advanced Knowledge Library";
-    }
-}
-
-std::string Paragraphs(int library, const std::vector<std::string>& paragraphs) {
-    std::string text = Heading(library);
+std::string Paragraphs(LibraryId library, const std::vector<std::string>& paragraphs) {
+    std::string text = LibraryHeading(library);
     for (const auto& paragraph : paragraphs) {
         text += "\r\n\t" + paragraph;
     }
@@ -41,10 +28,10 @@ const char* const FontParagraph = "To toggle the font between its three sizes, r
                                   "inside the text box. The setting is saved when you close the "
                                   "program.";
 
-std::vector<std::string> FixedParagraphs(int library) {
-    const bool information = library == ReadLibraries::Information;
+std::vector<std::string> FixedParagraphs(LibraryId library) {
+    const bool information = library == LibraryId::Information;
     std::vector<std::string> paragraphs;
-    if (library == ReadLibraries::Knowledge) {
+    if (library == LibraryId::Knowledge) {
         paragraphs.push_back(
             Cp("This Library includes the first level of Knowledge. To open the Advanced "
                "Knowledge Library, first close this Read window, then right-click ‘Know’ in the "
@@ -56,22 +43,19 @@ std::vector<std::string> FixedParagraphs(int library) {
            "<Section> to display its contents and the detailed Index-2. When you select a "
            "<Section>, you may then click any Topic, or click ‘Merge’ to display all the Topics "
            "of that Section."));
-    const std::string index = information                           ? "Information"
-                              : library == ReadLibraries::Knowledge ? "Knowledge"
-                                                                    : "Advanced Knowledge";
     paragraphs.push_back(
         Cp("You may step through the Topics by clicking ‘Prior’ or ‘Next’, or by pressing the "
            "‘Up’ or ‘Down’ arrow or page keys. Or scroll and click a Topic on the list. When a "
            "Topic is displayed, click ‘Index’ to reset the ") +
-        index + " Index.");
+        LibraryShortName(library) + " Index.");
     paragraphs.push_back(
         Cp("Click ‘Window’ or the text to expand the Topic text into the display, and again to "
            "split the text and list. The current expanded or split window mode is saved, "
            "although the Library and its Sections always open in split mode."));
     const std::string reopens =
-        information
-            ? "The the next time you open Information Library, that Topic is displayed."
-            : "The the next time you open the " + Heading(library) + ", that Topic is displayed.";
+        information ? "The the next time you open Information Library, that Topic is displayed."
+                    : "The the next time you open the " + LibraryHeading(library) +
+                          ", that Topic is displayed.";
     paragraphs.push_back(Cp("To close the Library and save your position in the Index, click "
                             "‘Mark Exit’. ") +
                          reopens +
@@ -106,17 +90,27 @@ std::vector<std::string> DialogueParagraphs() {
 
 } // namespace
 
-std::string LibraryLongName(int library) {
-    return "Veyrant " + Heading(library);
+std::string LibraryShortName(LibraryId library) {
+    static const PerLibrary<const char*> Names(
+        {"Dialogue", "Information", "Knowledge", "Advanced Knowledge"});
+    return Names[library];
 }
 
-std::string ReadInstructions(int library) {
-    return Paragraphs(library, library == ReadLibraries::Dialogue ? DialogueParagraphs()
-                                                                  : FixedParagraphs(library));
+std::string LibraryHeading(LibraryId library) {
+    return LibraryShortName(library) + " Library";
+}
+
+std::string LibraryLongName(LibraryId library) {
+    return "Veyrant " + LibraryHeading(library);
+}
+
+std::string ReadInstructions(LibraryId library) {
+    return Paragraphs(library, library == LibraryId::Dialogue ? DialogueParagraphs()
+                                                              : FixedParagraphs(library));
 }
 
 std::string EmptyLibraryInstructions() {
-    return Paragraphs(ReadLibraries::Dialogue,
+    return Paragraphs(LibraryId::Dialogue,
                       {"There are currently no Dialogues saved in the Library."});
 }
 

@@ -3,14 +3,20 @@
 // The Read window's standing texts: library names, the instruction texts shown while a list is
 // in use, and the key lines.
 
+#include "shell/LibraryId.h"
+
 #include <string>
 
 namespace veyrant {
 
-// "Veyrant Information Library" and the like, by ReadLibrary 1 to 4.
-std::string LibraryLongName(int library);
+// "Information", "Advanced Knowledge" and the like: the name that stands before "Library".
+std::string LibraryShortName(LibraryId library);
+// "Information Library" and the like.
+std::string LibraryHeading(LibraryId library);
+// "Veyrant Information Library" and the like.
+std::string LibraryLongName(LibraryId library);
 // The instruction text of a library's index, heading first.
-std::string ReadInstructions(int library);
+std::string ReadInstructions(LibraryId library);
 // What the Dialogue Library shows when no Dialogue is saved.
 std::string EmptyLibraryInstructions();
 

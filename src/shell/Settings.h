@@ -4,7 +4,8 @@
 // Qdrfonts.ini. A value is known by its place in its file; the reader and writer live in
 // SettingsFiles.
 
-#include <array>
+#include "shell/LibraryId.h"
+
 #include <cstdint>
 #include <string>
 
@@ -13,9 +14,8 @@ namespace veyrant {
 struct Settings {
     std::int16_t WriteFontStep = 1;  // 1 small, 2 large
     std::int16_t ReaderFontStep = 1; // 1 to 3
-    // Reader window mode per library, indexed by ReadLibrary 1 to 4 (0 split, 1 expanded);
-    // index 0 is idle.
-    std::array<std::int16_t, 5> WindowMode{};
+    // Reader window mode per library (0 split, 1 expanded).
+    PerLibrary<std::int16_t> WindowMode{};
     std::int16_t IntroDone = 1;
     std::int16_t IntroDone2 = 1;
     std::int16_t DisplayOption = 1; // 0 to 3
@@ -24,15 +24,16 @@ struct Settings {
     std::int16_t GuestMode = 0;
 };
 
+// How a library waits to be opened by the Reader; Read.ini keeps the number.
+enum class OpenFlag : std::int16_t {
+    None = 0,
+    Marked = 1,    // open it at its saved mark
+    Requested = 2, // the Write window asks for it
+};
+
 struct ReadSettings {
-    std::int16_t OpenFlagInfo = 0;
-    std::int16_t MarkRowInfo = 0;
-    std::int16_t OpenFlagDialogue = 0;
-    std::int16_t MarkRowDialogue = 0;
-    std::int16_t OpenFlagKnow = 0;
-    std::int16_t MarkRowKnow = 0;
-    std::int16_t OpenFlagAdv = 0;
-    std::int16_t MarkRowAdv = 0;
+    PerLibrary<OpenFlag> OpenFlags{};
+    PerLibrary<std::int16_t> MarkRows{};
 };
 
 struct FontNames {

@@ -11,9 +11,18 @@ namespace veyrant::testing {
 namespace {
 
 std::vector<int> Values(const Settings& s) {
-    return {s.WriteFontStep, s.ReaderFontStep, s.WindowMode[1],   s.WindowMode[2],
-            s.WindowMode[3], s.WindowMode[4],  s.IntroDone,       s.IntroDone2,
-            s.DisplayOption, s.MaxLibraryDays, s.MaxLibraryFiles, s.GuestMode};
+    return {s.WriteFontStep,
+            s.ReaderFontStep,
+            s.WindowMode[LibraryId::Dialogue],
+            s.WindowMode[LibraryId::Information],
+            s.WindowMode[LibraryId::Knowledge],
+            s.WindowMode[LibraryId::Advanced],
+            s.IntroDone,
+            s.IntroDone2,
+            s.DisplayOption,
+            s.MaxLibraryDays,
+            s.MaxLibraryFiles,
+            s.GuestMode};
 }
 
 const char* const DefaultFileOnMiddleScreen =
@@ -114,7 +123,7 @@ TEST(SettingsFiles, SavedFileReadsBackAndDefaultsLookAsDocumented) {
     SaveSettings(fixture.App);
     EXPECT_EQ(fixture.ExeFile("Tolmira.ini"), DefaultFileOnMiddleScreen);
 
-    fixture.App.UserSettings.WindowMode = {0, 1, 0, 1, 1};
+    fixture.App.UserSettings.WindowMode = PerLibrary<std::int16_t>({1, 0, 1, 1});
     fixture.App.UserSettings.MaxLibraryDays = -3;
     SaveSettings(fixture.App);
     EXPECT_EQ(fixture.ExeFile("Tolmira.ini"),
@@ -147,54 +156,61 @@ TEST(SettingsFiles, SavingReplacesTheFileWholeInsteadOfWritingIntoIt) {
 
 TEST(SettingsFiles, NegativeMarkIsWrittenWithItsMinusSign) {
     AppFixture fixture;
-    fixture.App.ReaderSettings.OpenFlagInfo = 1;
-    fixture.App.ReaderSettings.MarkRowInfo = 12;
-    fixture.App.ReaderSettings.MarkRowDialogue = -1;
-    fixture.App.ReaderSettings.MarkRowAdv = -250;
+    fixture.App.ReaderSettings.OpenFlags[LibraryId::Information] = OpenFlag::Marked;
+    fixture.App.ReaderSettings.MarkRows[LibraryId::Information] = 12;
+    fixture.App.ReaderSettings.MarkRows[LibraryId::Dialogue] = -1;
+    fixture.App.ReaderSettings.MarkRows[LibraryId::Advanced] = -250;
     SaveReadSettings(fixture.App);
     EXPECT_EQ(fixture.ExeFile("Read.ini"), " 1  12 \r\n 0 -1 \r\n 0  0 \r\n 0 -250 \r\n");
 }
 
 TEST(SettingsFiles, ReadFlagsKeepTheRequestMadeInMemory) {
     struct Case {
-        std::int16_t Requested;
-        std::int16_t InFile;
-        std::int16_t Result;
+        OpenFlag Requested;
+        OpenFlag InFile;
+        OpenFlag Result;
     };
-    const Case cases[] = {{1, 0, 1}, {0, 0, 0}, {0, 1, 1}, {1, 2, 2}};
+    using enum OpenFlag;
+    const Case cases[] = {{Marked, None, Marked},
+                          {None, None, None},
+                          {None, Marked, Marked},
+                          {Marked, Requested, Requested}};
     for (const Case& c : cases) {
         AppFixture fixture;
-        const std::string flag = std::to_string(c.InFile);
+        const std::string flag = std::to_string(static_cast<int>(c.InFile));
         fixture.PutExeFile("Read.ini",
                            flag + " 5\r\n" + flag + " -1\r\n" + flag + " 7\r\n" + flag + " 8\r\n");
         ReadSettings& read = fixture.App.ReaderSettings;
-        read.OpenFlagInfo = read.OpenFlagDialogue = read.OpenFlagKnow = read.OpenFlagAdv =
-            c.Requested;
-        read.MarkRowInfo = 99;
+        read.OpenFlags[LibraryId::Information] = read.OpenFlags[LibraryId::Dialogue] =
+            read.OpenFlags[LibraryId::Knowledge] = read.OpenFlags[LibraryId::Advanced] =
+                c.Requested;
+        read.MarkRows[LibraryId::Information] = 99;
         LoadReadSettings(fixture.App);
-        for (const std::int16_t value :
-             {read.OpenFlagInfo, read.OpenFlagDialogue, read.OpenFlagKnow, read.OpenFlagAdv}) {
-            EXPECT_EQ(value, c.Result) << c.Requested << " over " << c.InFile;
+        for (const OpenFlag value :
+             {read.OpenFlags[LibraryId::Information], read.OpenFlags[LibraryId::Dialogue],
+              read.OpenFlags[LibraryId::Knowledge], read.OpenFlags[LibraryId::Advanced]}) {
+            EXPECT_EQ(value, c.Result) << flag;
         }
-        EXPECT_EQ(read.MarkRowInfo, 5);
-        EXPECT_EQ(read.MarkRowDialogue, -1);
-        EXPECT_EQ(read.MarkRowKnow, 7);
-        EXPECT_EQ(read.MarkRowAdv, 8);
+        EXPECT_EQ(read.MarkRows[LibraryId::Information], 5);
+        EXPECT_EQ(read.MarkRows[LibraryId::Dialogue], -1);
+        EXPECT_EQ(read.MarkRows[LibraryId::Knowledge], 7);
+        EXPECT_EQ(read.MarkRows[LibraryId::Advanced], 8);
     }
 }
 
 TEST(SettingsFiles, DamagedReadFileIsLaidDownAsZerosAndTheRequestStands) {
-    for (const char* text : {static_cast<const char*>(nullptr), "1 2 3", "1 2 3 4 5 6 7 x"}) {
+    for (const char* text :
+         {static_cast<const char*>(nullptr), "1 2 3", "1 2 3 4 5 6 7 x", "3 5 0 -1 0 7 0 8"}) {
         AppFixture fixture;
         if (text != nullptr) {
             fixture.PutExeFile("Read.ini", text);
         }
-        fixture.App.ReaderSettings.OpenFlagKnow = 1;
-        fixture.App.ReaderSettings.MarkRowKnow = 40;
+        fixture.App.ReaderSettings.OpenFlags[LibraryId::Knowledge] = OpenFlag::Marked;
+        fixture.App.ReaderSettings.MarkRows[LibraryId::Knowledge] = 40;
         LoadReadSettings(fixture.App);
-        EXPECT_EQ(fixture.App.ReaderSettings.OpenFlagKnow, 1);
-        EXPECT_EQ(fixture.App.ReaderSettings.MarkRowKnow, 0);
-        EXPECT_EQ(fixture.App.ReaderSettings.OpenFlagInfo, 0);
+        EXPECT_EQ(fixture.App.ReaderSettings.OpenFlags[LibraryId::Knowledge], OpenFlag::Marked);
+        EXPECT_EQ(fixture.App.ReaderSettings.MarkRows[LibraryId::Knowledge], 0);
+        EXPECT_EQ(fixture.App.ReaderSettings.OpenFlags[LibraryId::Information], OpenFlag::None);
         EXPECT_EQ(fixture.ExeFile("Read.ini"), " 0  0 \r\n 0  0 \r\n 0  0 \r\n 0  0 \r\n");
         EXPECT_TRUE(fixture.Windows.Boxes.empty());
     }
@@ -236,7 +252,7 @@ TEST(SettingsFiles, OnlyASmallRegularFileIsRead) {
         }
         fixture.Windows.ScreenWidth = 1024 * TwipsPerPixel;
         LoadSettings(fixture.App);
-        fixture.App.ReaderSettings.OpenFlagKnow = 1;
+        fixture.App.ReaderSettings.OpenFlags[LibraryId::Knowledge] = OpenFlag::Marked;
         LoadReadSettings(fixture.App);
         LoadFontNames(fixture.App);
 
@@ -244,7 +260,7 @@ TEST(SettingsFiles, OnlyASmallRegularFileIsRead) {
         EXPECT_TRUE(std::filesystem::is_regular_file(
             std::filesystem::symlink_status(fixture.Folder.Exe() / "Tolmira.ini")));
         EXPECT_EQ(fixture.ExeFile("Read.ini"), " 0  0 \r\n 0  0 \r\n 0  0 \r\n 0  0 \r\n");
-        EXPECT_EQ(fixture.App.ReaderSettings.OpenFlagKnow, 1);
+        EXPECT_EQ(fixture.App.ReaderSettings.OpenFlags[LibraryId::Knowledge], OpenFlag::Marked);
         ASSERT_EQ(fixture.Windows.Boxes.size(), 1u);
         EXPECT_EQ(fixture.Windows.Boxes[0].Title,
                   "Error " + std::to_string(c.Error) + " Loading Font Names");

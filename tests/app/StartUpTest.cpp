@@ -50,9 +50,9 @@ TEST(StartUp, MainLoadsTheWriteWindowBehindTheBanner) {
               " 1 \r\n 1 \r\n 0  0  0  0 \r\n 1  1 \r\n 2 \r\n 21  30 \r\n 0 \r\n");
     EXPECT_TRUE(std::filesystem::is_directory(fixture.Folder.Dlg()));
     // The fixed libraries are loaded and indexed before the window shows.
-    EXPECT_EQ(fixture.App.Libraries.InfoLib.LastRow, 184);
-    EXPECT_EQ(fixture.App.Libraries.KnowLib.SectionEnd[0], 11);
-    EXPECT_EQ(fixture.App.Libraries.AdvLib.LastSection, 2);
+    EXPECT_EQ(fixture.App.Libraries[LibraryId::Information].LastRow, 184);
+    EXPECT_EQ(fixture.App.Libraries[LibraryId::Knowledge].SectionEnd[0], 11);
+    EXPECT_EQ(fixture.App.Libraries[LibraryId::Advanced].LastSection, 2);
 }
 
 TEST(StartUp, Timer1RevealsTheWriteWindowAndTheBackdropOnWideScreens) {
@@ -85,7 +85,7 @@ TEST(StartUp, TheWriteWindowOpensOnANewDialogueWithItsOwnInspiration) {
     Timer1(fixture.App);
     ASSERT_TRUE(fixture.Windows.Boxes.empty()) << fixture.Windows.Boxes[0].Title;
     const MirrorState& state = fixture.App.Write->State();
-    EXPECT_EQ(state.ActiveMethod, 0);
+    EXPECT_EQ(state.ActiveMethod, WriteMethod::None);
     EXPECT_EQ(state.InspirationText.substr(0, 1), "\t");
     EXPECT_GT(state.InspirationText.size(), 20u);
     EXPECT_FALSE(state.SuggestionText.empty());

@@ -32,7 +32,7 @@ TEST(MirrorComposed, ADialogueOfSeveralCyclesWithTheRealEngine) {
         }
         ASSERT_EQ(driver.Text(MirrorControl::txtResponse).substr(0, 1), "\t");
         EXPECT_GT(driver.Text(MirrorControl::txtResponse).size(), 10u);
-        answered += driver.State().PairState == 1 ? 1 : 0;
+        answered += driver.State().PairState == PairShown::Kept ? 1 : 0;
         driver.Enter();
     }
     EXPECT_EQ(driver.State().PairCount, answered);

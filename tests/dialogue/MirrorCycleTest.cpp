@@ -14,7 +14,7 @@ const std::string Statement = "I feel calmer about the move than I expected to f
 TEST(MirrorCycle, NewDialogueOffersTheMethodsAndTheInspiration) {
     MirrorDriver driver;
     driver.mirror->StartWindow();
-    EXPECT_EQ(driver.State().ActiveMethod, 0);
+    EXPECT_EQ(driver.State().ActiveMethod, WriteMethod::None);
     EXPECT_EQ(driver.Text(MirrorControl::txtResponse), "Inspiration\r\n\tInspiration number 1.");
     EXPECT_EQ(driver.Text(MirrorControl::txtSaved).substr(0, 39),
               "Suggestion 1\r\n\r\nDialogue Library Status");
@@ -279,7 +279,7 @@ TEST(MirrorCycle, CommentGoesInAtOnceAndHandsOverToConverse) {
     const std::string comment = Quoted("tonight I want to look at why work feels heavy.");
     EXPECT_EQ(driver.State().DialogueText, "\r\n\r\n" + comment);
     EXPECT_EQ(driver.Text(MirrorControl::txtResponse), "Comment\r\n" + comment);
-    EXPECT_EQ(driver.State().ActiveMethod, 1);
+    EXPECT_EQ(driver.State().ActiveMethod, WriteMethod::Converse);
     EXPECT_TRUE(driver.Box(MirrorControl::cmdConverse).PressedIn);
     EXPECT_FALSE(driver.Box(MirrorControl::cmdNotate).PressedIn);
     EXPECT_EQ(driver.Text(MirrorControl::cmdNew), "Finish");
@@ -342,7 +342,7 @@ TEST(MirrorCycle, CancelInAnEmptyConverseReturnsToNewDialogue) {
     MirrorDriver driver;
     driver.StartConverse();
     driver.mirror->Click(MirrorControl::cmdNew);
-    EXPECT_EQ(driver.State().ActiveMethod, 0);
+    EXPECT_EQ(driver.State().ActiveMethod, WriteMethod::None);
     EXPECT_EQ(driver.mirror->Controls().Title, "Veyrant Sagrel -- New Dialogue");
     EXPECT_EQ(driver.Engine.Inspirations, 2);
 }

@@ -8,14 +8,15 @@
 
 namespace veyrant::testing {
 
-EntryJudgement ScriptedEngine::CheckEntry(const std::string& entryText, int, int, int) {
+EntryJudgement ScriptedEngine::CheckEntry(const std::string& entryText, WriteMethod, int,
+                                          SentenceType) {
     CheckedEntries.push_back(entryText);
     if (Judgements.empty()) {
-        return {1, 2};
+        return {EntryVerdict::Accepted, SentenceType::Statement};
     }
     const auto judgement = Judgements.front();
     Judgements.pop_front();
-    return judgement;
+    return {static_cast<EntryVerdict>(judgement.Status), static_cast<SentenceType>(judgement.Type)};
 }
 
 void ScriptedEngine::RecordKey(float time, int characterCode) {
@@ -23,19 +24,20 @@ void ScriptedEngine::RecordKey(float time, int characterCode) {
     KeyCodes.push_back(characterCode);
 }
 
-int ScriptedEngine::RollAnswer(int percent) {
+ReplyKind ScriptedEngine::RollAnswer(int percent) {
     RollPercents.push_back(percent);
     if (Rolls.empty()) {
-        return 1;
+        return ReplyKind::Answer;
     }
     const int flag = Rolls.front();
     Rolls.pop_front();
-    return flag;
+    return static_cast<ReplyKind>(flag);
 }
 
 // As the program's engine does, a type with no message composes nothing and the last text comes
 // back again.
-std::string ScriptedEngine::RequestAnswer(int entryType) {
+std::string ScriptedEngine::RequestAnswer(SentenceType sentenceType) {
+    const int entryType = static_cast<int>(sentenceType);
     if (entryType <= 0 || entryType == 9) {
         return Last;
     }
@@ -45,7 +47,8 @@ std::string ScriptedEngine::RequestAnswer(int entryType) {
     return Last;
 }
 
-std::string ScriptedEngine::RequestRemark(int entryType) {
+std::string ScriptedEngine::RequestRemark(SentenceType sentenceType) {
+    const int entryType = static_cast<int>(sentenceType);
     if (entryType <= 0) {
         return Last;
     }
@@ -56,10 +59,10 @@ std::string ScriptedEngine::RequestRemark(int entryType) {
 }
 
 // A chosen idea's verdict continues the sentence that names the idea; a refusal stands alone.
-std::string ScriptedEngine::RequestIdeaVerdict(int answerFlag) {
+std::string ScriptedEngine::RequestIdeaVerdict(ReplyKind answerFlag) {
     ++Compositions;
-    Last = answerFlag == 1 ? "is verdict " + std::to_string(Compositions) + "."
-                           : "\t Refusal " + std::to_string(Compositions) + ".";
+    Last = answerFlag == ReplyKind::Answer ? "is verdict " + std::to_string(Compositions) + "."
+                                           : "\t Refusal " + std::to_string(Compositions) + ".";
     return Last;
 }
 

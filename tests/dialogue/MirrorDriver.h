@@ -25,20 +25,24 @@ namespace veyrant::testing {
 // Judges entries and composes replies from a script, so a test chooses the outcome.
 class ScriptedEngine : public DialogueEngine {
 public:
-    EntryJudgement CheckEntry(const std::string& entryText, int activeMethod, int pairCount,
-                              int entryType) override;
+    EntryJudgement CheckEntry(const std::string& entryText, WriteMethod activeMethod, int pairCount,
+                              SentenceType entryType) override;
     void RecordKey(float time, int characterCode) override;
     void StretchSeeds(float seriesSeed) override { Stretched.push_back(seriesSeed); }
-    int RollAnswer(int percent) override;
-    std::string RequestAnswer(int entryType) override;
-    std::string RequestRemark(int entryType) override;
-    std::string RequestIdeaVerdict(int answerFlag) override;
+    ReplyKind RollAnswer(int percent) override;
+    std::string RequestAnswer(SentenceType entryType) override;
+    std::string RequestRemark(SentenceType entryType) override;
+    std::string RequestIdeaVerdict(ReplyKind answerFlag) override;
     std::string RequestInterjection() override { return "\t The talk has turned inward."; }
     std::string RequestInspiration() override;
     std::string PickGuidance() override;
 
-    std::deque<EntryJudgement> Judgements; // Enter by Enter; a statement when empty
-    std::deque<int> Rolls;                 // answer flags; 1 when empty
+    struct Judgement {
+        int Status; // the entry's verdict and sentence type by their numbers
+        int Type;
+    };
+    std::deque<Judgement> Judgements; // Enter by Enter; a statement when empty
+    std::deque<int> Rolls;            // answer flags; 1 when empty
     std::vector<int> RollPercents;
     std::vector<std::string> CheckedEntries;
     std::vector<int> KeyCodes;

@@ -63,7 +63,7 @@ TEST(MirrorFinish, FinishThenContinueThenFinishAgain) {
     EXPECT_EQ(buffers->Buffers.PairCount, 2);
 
     driver.mirror->Click(MirrorControl::cmdRemove); // Continue
-    EXPECT_EQ(driver.State().ActiveMethod, 1);
+    EXPECT_EQ(driver.State().ActiveMethod, WriteMethod::Converse);
     EXPECT_TRUE(driver.Box(MirrorControl::cmdConverse).PressedIn);
     EXPECT_EQ(driver.Text(MirrorControl::cmdNew), "Finish");
     EXPECT_EQ(driver.Text(MirrorControl::cmdDisplay), "Display");
@@ -127,7 +127,7 @@ TEST(MirrorFinish, NewAsksOnlyForAnUnsavedDialogueAndResetsOnNo) {
                       "beginning another?");
         }
         if (c.Reset) {
-            EXPECT_EQ(driver.State().ActiveMethod, 0);
+            EXPECT_EQ(driver.State().ActiveMethod, WriteMethod::None);
             EXPECT_EQ(driver.State().DialogueText, "");
             EXPECT_EQ(driver.State().PairCount, 0);
             EXPECT_EQ(driver.State().CycleCount, 0);
@@ -174,7 +174,7 @@ TEST(MirrorFinish, APriorDialogueReopensWithItsAge) {
         driver.Clock.FileDates[driver.App.Folder.Exe() / "savei.tmp"] = c.Written;
         driver.mirror->StartWindow();
         EXPECT_EQ(driver.mirror->Controls().Title, c.Title);
-        EXPECT_EQ(driver.State().ActiveMethod, 0);
+        EXPECT_EQ(driver.State().ActiveMethod, WriteMethod::None);
         EXPECT_EQ(driver.Text(MirrorControl::cmdNew), "New");
         EXPECT_EQ(driver.Text(MirrorControl::cmdRemove), "Continue");
         EXPECT_EQ(driver.Text(MirrorControl::cmdDisplay), "File");
@@ -192,7 +192,7 @@ TEST(MirrorFinish, APriorDialogueReopensWithItsAge) {
         EXPECT_EQ(driver.Engine.Inspirations, 0); // the Dialogue keeps its own
 
         driver.mirror->Click(MirrorControl::cmdRemove); // Continue
-        EXPECT_EQ(driver.State().ActiveMethod, 1);
+        EXPECT_EQ(driver.State().ActiveMethod, WriteMethod::Converse);
         EXPECT_EQ(driver.State().InspirationText, "\tAn old inspiration.");
         EXPECT_EQ(driver.Text(MirrorControl::txtResponse), "Inspiration\r\n\tAn old inspiration.");
         EXPECT_EQ(driver.Text(MirrorControl::cmdNew), "Finish");
@@ -207,7 +207,7 @@ TEST(MirrorFinish, SaveOnAPriorDialogueFilesItAndStartsANewOneWithoutAsking) {
     EXPECT_TRUE(driver.Layer.Boxes.empty());
     EXPECT_EQ(driver.Library.Listing().LibraryCount, 1);
     EXPECT_FALSE(driver.Buffers.ReadWorkBuffers().has_value());
-    EXPECT_EQ(driver.State().ActiveMethod, 0);
+    EXPECT_EQ(driver.State().ActiveMethod, WriteMethod::None);
     EXPECT_EQ(driver.mirror->Controls().Title,
               "Veyrant Sagrel 4.1 -- Written Dialogues of Self-Reflection");
     EXPECT_EQ(driver.Text(MirrorControl::txtResponse), "Inspiration\r\n\tInspiration number 1.");

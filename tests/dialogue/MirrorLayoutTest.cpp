@@ -42,7 +42,7 @@ TEST(MirrorLayout, EscapeByMethod) {
         MirrorDriver driver;
         driver.StartConverse();
         driver.Press(KeyCode::Escape);
-        EXPECT_EQ(driver.State().ActiveMethod, 0); // Cancel in an empty Converse
+        EXPECT_EQ(driver.State().ActiveMethod, WriteMethod::None); // Cancel in an empty Converse
     }
     {
         MirrorDriver driver;
@@ -58,7 +58,7 @@ TEST(MirrorLayout, EscapeByMethod) {
         driver.Enter();
         driver.mirror->Click(MirrorControl::cmdNotate);
         driver.Press(KeyCode::Escape);
-        EXPECT_EQ(driver.State().ActiveMethod, 1); // Cancel back to Converse
+        EXPECT_EQ(driver.State().ActiveMethod, WriteMethod::Converse); // Cancel back to Converse
         EXPECT_EQ(driver.Text(MirrorControl::cmdNew), "Finish");
         EXPECT_TRUE(driver.Box(MirrorControl::cmdConverse).PressedIn);
     }
@@ -66,7 +66,7 @@ TEST(MirrorLayout, EscapeByMethod) {
         MirrorDriver driver;
         driver.mirror->StartWindow();
         driver.Press(KeyCode::Escape); // nothing running: nothing to cancel
-        EXPECT_EQ(driver.State().ActiveMethod, 0);
+        EXPECT_EQ(driver.State().ActiveMethod, WriteMethod::None);
         EXPECT_TRUE(driver.Layer.Boxes.empty());
     }
 }
@@ -75,9 +75,9 @@ TEST(MirrorLayout, FunctionKeysActOnTheirButtonsUnlessGuarded) {
     MirrorDriver driver;
     driver.mirror->StartWindow();
     driver.Press(KeyCode::Function(7));
-    EXPECT_EQ(driver.State().ActiveMethod, 4);
+    EXPECT_EQ(driver.State().ActiveMethod, WriteMethod::Comment);
     driver.Press(KeyCode::Function(5));
-    EXPECT_EQ(driver.State().ActiveMethod, 1);
+    EXPECT_EQ(driver.State().ActiveMethod, WriteMethod::Converse);
     const std::string converse = driver.mirror->Dump();
     driver.Press(KeyCode::Function(5)); // pressed in already
     EXPECT_EQ(driver.mirror->Dump(), converse);
@@ -100,7 +100,7 @@ TEST(MirrorLayout, FunctionKeysActOnTheirButtonsUnlessGuarded) {
     EXPECT_EQ(driver.Text(MirrorControl::cmdDisplay), "File");
     driver.Press(KeyCode::Function(11)); // "File" is not a view switch
     driver.Press(KeyCode::Function(10)); // nor is "Continue" an edit
-    EXPECT_EQ(driver.State().ActiveMethod, 0);
+    EXPECT_EQ(driver.State().ActiveMethod, WriteMethod::None);
 }
 
 TEST(MirrorLayout, FullViewKeysScrollTheDialogue) {
@@ -120,7 +120,7 @@ TEST(MirrorLayout, NoKeyReachesTheWindowBeforeItStarts) {
     MirrorDriver driver;
     EXPECT_EQ(driver.mirror->KeyDown(KeyCode::Function(5)), 0);
     EXPECT_EQ(driver.mirror->KeyPress('a'), 0);
-    EXPECT_EQ(driver.State().ActiveMethod, -1);
+    EXPECT_EQ(driver.State().ActiveMethod, WriteMethod::NotStarted);
 }
 
 TEST(MirrorLayout, DumpShowsAWholeStateInAFewLines) {

@@ -111,7 +111,7 @@ TEST(MirrorSuppose, ThreeIdeasAndSelectPutTheChosenIdeaAndItsVerdictInTheDialogu
     // The next Enter begins a Converse entry.
     driver.Enter();
     EXPECT_EQ(driver.Text(MirrorControl::txtMirror), (std::string{Tab, OpenQuote}));
-    EXPECT_EQ(driver.State().ActiveMethod, 1);
+    EXPECT_EQ(driver.State().ActiveMethod, WriteMethod::Converse);
     EXPECT_EQ(driver.mirror->Controls().Focus, MirrorControl::txtMirror);
 }
 
@@ -201,7 +201,7 @@ TEST(MirrorSuppose, AQuestionDeclinedByTheDrawEndsInConverseWithKeep) {
     driver.Engine.Judgements.push_back({1, 20});
     driver.Engine.Rolls.push_back(0);
     driver.Converse(Question);
-    EXPECT_EQ(driver.State().ActiveMethod, 1);
+    EXPECT_EQ(driver.State().ActiveMethod, WriteMethod::Converse);
     EXPECT_EQ(Line(driver, "txtAnalyze"), "");
     EXPECT_EQ(Line(driver, "cmdRemove"), "cmdRemove: \"Keep\"");
     EXPECT_EQ(Line(driver, "cmdConverse"), "cmdConverse: \"Converse\" pressed");
@@ -378,7 +378,7 @@ TEST(MirrorSuppose, CancelDropsTheListAndReturnsToConverseInARunningDialogue) {
     EXPECT_EQ(driver.Text(MirrorControl::cmdNew), "Select");
     // Esc with Select leaves the method as F5 does.
     driver.Press(KeyCode::Escape);
-    EXPECT_EQ(driver.State().ActiveMethod, 1);
+    EXPECT_EQ(driver.State().ActiveMethod, WriteMethod::Converse);
     EXPECT_EQ(Line(driver, "txtAnalyze"), "");
     EXPECT_EQ(driver.State().DialogueText, before);
     EXPECT_EQ(driver.State().CycleCount, 2);
@@ -387,7 +387,7 @@ TEST(MirrorSuppose, CancelDropsTheListAndReturnsToConverseInARunningDialogue) {
     driver.Engine.Judgements.push_back({1, 20});
     driver.Converse(Question);
     driver.mirror->Click(MirrorControl::cmdNew);
-    EXPECT_EQ(driver.State().ActiveMethod, 1);
+    EXPECT_EQ(driver.State().ActiveMethod, WriteMethod::Converse);
     EXPECT_EQ(Line(driver, "cmdNew"), "cmdNew: \"Finish\"");
     EXPECT_EQ(Line(driver, "cmdConverse"), "cmdConverse: \"Converse\" pressed");
     EXPECT_EQ(Line(driver, "txtAnalyze"), "");
@@ -401,7 +401,7 @@ TEST(MirrorSuppose, CancelInAnEmptyDialogueStartsOverAndAMethodButtonLeavesTheLi
     OpenList(driver);
     driver.Converse("go");
     driver.mirror->Click(MirrorControl::cmdNotate);
-    EXPECT_EQ(driver.State().ActiveMethod, 4);
+    EXPECT_EQ(driver.State().ActiveMethod, WriteMethod::Comment);
     EXPECT_EQ(Line(driver, "txtAnalyze"), "");
     EXPECT_EQ(Line(driver, "lblRemS"), "");
     EXPECT_EQ(driver.mirror->Controls().Focus, MirrorControl::txtMirror);
@@ -412,7 +412,7 @@ TEST(MirrorSuppose, CancelInAnEmptyDialogueStartsOverAndAMethodButtonLeavesTheLi
     driver.Converse(Question);
     EXPECT_EQ(driver.Text(MirrorControl::txtAnalyze), ListHeader + Prompt(1));
     driver.mirror->Click(MirrorControl::cmdNew);
-    EXPECT_EQ(driver.State().ActiveMethod, 0);
+    EXPECT_EQ(driver.State().ActiveMethod, WriteMethod::None);
     EXPECT_EQ(driver.mirror->Controls().Title, "Veyrant Sagrel -- New Dialogue");
     EXPECT_EQ(Line(driver, "txtAnalyze"), "");
     EXPECT_EQ(Line(driver, "cmdNew"), "");
@@ -447,9 +447,9 @@ TEST(MirrorSuppose, TheListClosesByItselfAfterNinetyEightIdeas) {
     }
     const std::string list = driver.Text(MirrorControl::txtAnalyze);
     EXPECT_EQ(list.substr(list.size() - Prompt(98).size()), Prompt(98));
-    EXPECT_EQ(driver.State().ActiveMethod, 2);
+    EXPECT_EQ(driver.State().ActiveMethod, WriteMethod::Suppose);
     driver.Converse("idea 98");
-    EXPECT_EQ(driver.State().ActiveMethod, 1);
+    EXPECT_EQ(driver.State().ActiveMethod, WriteMethod::Converse);
     EXPECT_EQ(driver.State().PairCount, 1);
     EXPECT_EQ(driver.Engine.RollPercents, (std::vector<int>{25, 25}));
     EXPECT_EQ(driver.State().DialogueText.find("\r\n\tYour idea \x93Idea "),

@@ -64,12 +64,12 @@ TEST(ClassifyEntry, GivesTheSentenceTypeAndLeavesThePreparedForm) {
                  {"How far how near how deep how wide?", 0}};
     for (const auto& c : cases) {
         std::string text = c.Sentence;
-        std::int16_t entryType = 77;
+        auto entryType = static_cast<SentenceType>(77);
         ClassifyEntry(text, entryType);
-        EXPECT_EQ(entryType, c.EntryType) << c.Sentence;
+        EXPECT_EQ(static_cast<std::int16_t>(entryType), c.EntryType) << c.Sentence;
     }
     std::string text = "  Do you think I will go?  ";
-    std::int16_t entryType = 0;
+    SentenceType entryType = SentenceType::None;
     ClassifyEntry(text, entryType);
     EXPECT_EQ(text, " Do you think        go?");
 }
@@ -115,11 +115,12 @@ TEST(CheckEntry, SetsStatusAndType) {
                  {1, 1, "Tell me about the weather?", -10, 0}};
     for (const auto& c : cases) {
         const std::string entryText = std::string(1, Tab) + OpenQuote + c.Sentence;
-        std::int16_t status = -500;
-        std::int16_t entryType = 77;
-        CheckEntry(entryText, c.ActiveMethod, c.PairCount, status, entryType);
-        EXPECT_EQ(status, c.EntryStatus) << c.Sentence;
-        EXPECT_EQ(entryType, c.EntryType) << c.Sentence;
+        auto status = static_cast<EntryVerdict>(-500);
+        auto entryType = static_cast<SentenceType>(77);
+        CheckEntry(entryText, static_cast<WriteMethod>(c.ActiveMethod), c.PairCount, status,
+                   entryType);
+        EXPECT_EQ(static_cast<std::int16_t>(status), c.EntryStatus) << c.Sentence;
+        EXPECT_EQ(static_cast<std::int16_t>(entryType), c.EntryType) << c.Sentence;
     }
 }
 

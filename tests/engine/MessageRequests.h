@@ -38,13 +38,13 @@ inline void PrintTo(const MessageRequest& request, std::ostream* out) {
 inline std::string Compose(Engine& engine, const MessageRequest& request) {
     switch (request.Kind) {
     case Request::Answer:
-        engine.RequestAnswer(request.Argument);
+        engine.RequestAnswer(static_cast<SentenceType>(request.Argument));
         return engine.ReplyText;
     case Request::Remark:
-        engine.RequestRemark(request.Argument);
+        engine.RequestRemark(static_cast<SentenceType>(request.Argument));
         return engine.ReplyText;
     case Request::IdeaVerdict:
-        engine.RequestIdeaVerdict(request.Argument);
+        engine.RequestIdeaVerdict(static_cast<ReplyKind>(request.Argument));
         return engine.IdeaVerdict;
     case Request::Inspiration:
         engine.RequestInspiration();

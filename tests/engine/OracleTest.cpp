@@ -52,7 +52,7 @@ TEST_F(OnTheShippedPlans, ComposeAsThePlainRoutinesDo) {
         TheEngine.SeriesSeed = 3000.0f + 1713.37f * static_cast<float>(reply);
         TheEngine.StretchSeeds();
         for (std::int16_t message = 1; message <= 16; ++message) {
-            TheEngine.Compose(message);
+            TheEngine.Compose(static_cast<MessageNumber>(message));
             reference.BuildMessage(message, TheEngine.SeedPool, plain);
             reference.AssembleMessage();
             const Composer& fast = TheEngine.MessageComposer();

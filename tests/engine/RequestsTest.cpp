@@ -19,7 +19,7 @@ protected:
 
     // The text that composing the message itself gives from the same pool.
     std::string Composed(std::int16_t message) {
-        TheEngine.Compose(message);
+        TheEngine.Compose(static_cast<MessageNumber>(message));
         return TheEngine.MessageComposer().ComposedText;
     }
 };
@@ -37,9 +37,9 @@ TEST_F(Requests, AnswerAndRemarkPickTheirMessageByEntryType) {
         const std::string expected = Composed(c.Message);
         Composed(c.Message == 15 ? 16 : 15); // something else in between
         if (c.Answer) {
-            TheEngine.RequestAnswer(c.Type);
+            TheEngine.RequestAnswer(static_cast<SentenceType>(c.Type));
         } else {
-            TheEngine.RequestRemark(c.Type);
+            TheEngine.RequestRemark(static_cast<SentenceType>(c.Type));
         }
         EXPECT_EQ(TheEngine.ReplyText, expected) << "type " << c.Type;
         EXPECT_EQ(TheEngine.ReplyText.substr(0, 2), "\t ");
@@ -49,12 +49,12 @@ TEST_F(Requests, AnswerAndRemarkPickTheirMessageByEntryType) {
 TEST_F(Requests, ATypeWithNoMessageRepeatsTheLastComposition) {
     for (const std::int16_t type : {0, -1, -4, 3, 9}) {
         const std::string last = Composed(16);
-        TheEngine.RequestAnswer(type);
+        TheEngine.RequestAnswer(static_cast<SentenceType>(type));
         EXPECT_EQ(TheEngine.ReplyText, last) << type;
     }
     for (const std::int16_t type : {0, -3, 5}) {
         const std::string last = Composed(15);
-        TheEngine.RequestRemark(type);
+        TheEngine.RequestRemark(static_cast<SentenceType>(type));
         EXPECT_EQ(TheEngine.ReplyText, last) << type;
     }
 }
@@ -77,15 +77,15 @@ TEST(RequestAnswer, ShowsTheBusyPointerWhileItComposes) {
     engine.SeedSeries();
     engine.SeriesSeed = clock.Timer();
     engine.StretchSeeds();
-    engine.RequestAnswer(20);
+    engine.RequestAnswer(SentenceType::WhatQuestion);
     EXPECT_EQ(windows.Changes, (std::vector<bool>{true, false}));
-    engine.RequestRemark(20);
+    engine.RequestRemark(SentenceType::WhatQuestion);
     EXPECT_EQ(windows.Changes.size(), 2u);
 }
 
 TEST_F(Requests, IdeaVerdictContinuesTheSentenceOnlyWhenChosen) {
     const std::string chosen = Composed(9);
-    TheEngine.RequestIdeaVerdict(1);
+    TheEngine.RequestIdeaVerdict(ReplyKind::Answer);
     std::string expected = Mid(chosen, 3);
     LowerAt(expected, 1);
     EXPECT_EQ(TheEngine.IdeaVerdict, expected);
@@ -93,7 +93,7 @@ TEST_F(Requests, IdeaVerdictContinuesTheSentenceOnlyWhenChosen) {
     EXPECT_EQ(TheEngine.IdeaVerdict.front(), LowerChar(TheEngine.IdeaVerdict.front()));
 
     const std::string declined = Composed(10);
-    TheEngine.RequestIdeaVerdict(0);
+    TheEngine.RequestIdeaVerdict(ReplyKind::Remark);
     EXPECT_EQ(TheEngine.IdeaVerdict, declined);
 }
 
@@ -122,7 +122,8 @@ TEST_F(Requests, RollAnswerGivesARemarkForDrawsUpToThePercent) {
         TheRandom.Seeds.clear();
         TheRandom.Script = {c.Draw};
         TheEngine.RollAnswer(c.Percent);
-        EXPECT_EQ(TheEngine.AnswerFlag, c.Flag) << c.Draw << " of " << c.Percent;
+        EXPECT_EQ(static_cast<std::int16_t>(TheEngine.AnswerFlag), c.Flag)
+            << c.Draw << " of " << c.Percent;
         EXPECT_EQ(TheRandom.Seeds, std::vector<float>{1234.5f});
     }
 }
@@ -181,7 +182,7 @@ TEST_F(Requests, ADamagedPlanFileGivesItsBoxAndTheProgramGoesOn) {
     ASSERT_TRUE(engine.LoadSystem(Folder));
     engine.SeriesSeed = 100.0f;
     engine.StretchSeeds();
-    engine.RequestAnswer(1);
+    engine.RequestAnswer(SentenceType::YesNoQuestion);
     ASSERT_EQ(Windows.Boxes.size(), 1u);
     EXPECT_EQ(Windows.Boxes[0].Title, "Error LoadPlan");
     EXPECT_EQ(Windows.Boxes[0].Text, "Error 13 reading the message plans in qdr41.mtx. The "
@@ -192,7 +193,7 @@ TEST_F(Requests, ADamagedPlanFileGivesItsBoxAndTheProgramGoesOn) {
 
     // Restored, the file is read at the next request.
     WriteWholeFile(Folder.Exe() / "qdr41.mtx", ShippedPlanFile());
-    engine.RequestAnswer(1);
+    engine.RequestAnswer(SentenceType::YesNoQuestion);
     EXPECT_EQ(Windows.Boxes.size(), 1u);
     EXPECT_GT(engine.ReplyText.size(), 3u);
 }

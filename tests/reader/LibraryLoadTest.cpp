@@ -15,9 +15,9 @@ class LoadedLibraries : public ::testing::Test {
 protected:
     void SetUp() override {
         LoadLibraries(Libraries);
-        BuildLibraryIndex(Libraries.InfoLib);
-        BuildLibraryIndex(Libraries.KnowLib);
-        BuildLibraryIndex(Libraries.AdvLib);
+        BuildLibraryIndex(Libraries[LibraryId::Information]);
+        BuildLibraryIndex(Libraries[LibraryId::Knowledge]);
+        BuildLibraryIndex(Libraries[LibraryId::Advanced]);
     }
     FixedLibraries Libraries;
 };
@@ -29,9 +29,9 @@ TEST_F(LoadedLibraries, EachOpensWithASectionAndItsLastSectionRunsToTheEnd) {
         int Rows;
         int Sections;
     } cases[] = {
-        {"Information", Libraries.InfoLib, 185, 6},
-        {"Knowledge", Libraries.KnowLib, 175, 7},
-        {"Advanced Knowledge", Libraries.AdvLib, 61, 3},
+        {"Information", Libraries[LibraryId::Information], 185, 6},
+        {"Knowledge", Libraries[LibraryId::Knowledge], 175, 7},
+        {"Advanced Knowledge", Libraries[LibraryId::Advanced], 61, 3},
     };
     for (const auto& c : cases) {
         const FixedLibrary& library = c.Library;
@@ -50,19 +50,23 @@ TEST_F(LoadedLibraries, RowsTellWhatHoldsOnLinux) {
         const char* Title;
         const char* Says;
     } cases[] = {
-        {Libraries.InfoLib, "\t\tRepairing the Dialogue Library", "Dialogue Library Corrupted"},
-        {Libraries.InfoLib, "\t\tCommand Buttons", "Three buttons"},
-        {Libraries.InfoLib, "\t\tCommand Buttons", "while a Suppose or a Comment is under way"},
-        {Libraries.InfoLib, "\tDialogue Commands",
+        {Libraries[LibraryId::Information], "\t\tRepairing the Dialogue Library",
+         "Dialogue Library Corrupted"},
+        {Libraries[LibraryId::Information], "\t\tCommand Buttons", "Three buttons"},
+        {Libraries[LibraryId::Information], "\t\tCommand Buttons",
+         "while a Suppose or a Comment is under way"},
+        {Libraries[LibraryId::Information], "\tDialogue Commands",
          "and \x91"
          "Continue\x92 have none"},
-        {Libraries.InfoLib, "\tDialogue Commands", "Alt+P"},
-        {Libraries.InfoLib, "\t\tEntry Requirements and Limits", "up to 121 pairs"},
-        {Libraries.InfoLib, "\tLegal Notices", "/usr/share/doc/veyrant-sagrel/copyright"},
-        {Libraries.InfoLib, "\t\tLicense", "/usr/share/common-licenses/GPL-3"},
-        {Libraries.InfoLib, "\t\tOpening the Veyrant Libraries", "on Wayland clicking it"},
-        {Libraries.InfoLib, "\tRead Window", "on Wayland clicking it"},
-        {Libraries.AdvLib, "< The Ambrel >", "forty-seven Topics"},
+        {Libraries[LibraryId::Information], "\tDialogue Commands", "Alt+P"},
+        {Libraries[LibraryId::Information], "\t\tEntry Requirements and Limits", "up to 121 pairs"},
+        {Libraries[LibraryId::Information], "\tLegal Notices",
+         "/usr/share/doc/veyrant-sagrel/copyright"},
+        {Libraries[LibraryId::Information], "\t\tLicense", "/usr/share/common-licenses/GPL-3"},
+        {Libraries[LibraryId::Information], "\t\tOpening the Veyrant Libraries",
+         "on Wayland clicking it"},
+        {Libraries[LibraryId::Information], "\tRead Window", "on Wayland clicking it"},
+        {Libraries[LibraryId::Advanced], "< The Ambrel >", "forty-seven Topics"},
     };
     for (const auto& c : cases) {
         const auto& titles = c.Library.Titles;
@@ -76,7 +80,8 @@ TEST_F(LoadedLibraries, RowsTellWhatHoldsOnLinux) {
 // Every row has a text in record form, inside its library's width.
 TEST_F(LoadedLibraries, TextsAreParagraphsLedByATabAndEndedByALineEnd) {
     for (const FixedLibrary* library :
-         {&Libraries.InfoLib, &Libraries.KnowLib, &Libraries.AdvLib}) {
+         {&Libraries[LibraryId::Information], &Libraries[LibraryId::Knowledge],
+          &Libraries[LibraryId::Advanced]}) {
         for (std::size_t row = 0; row < library->Texts.size(); ++row) {
             const std::string& text = library->Texts[row];
             ASSERT_GE(text.size(), 3u) << library->Titles[row];
@@ -93,7 +98,8 @@ TEST_F(LoadedLibraries, TextsAreParagraphsLedByATabAndEndedByALineEnd) {
 TEST_F(LoadedLibraries, ARowComposedIntoAKeptStringReadsAsTheShownText) {
     std::string kept = std::string(5000, 'x');
     for (const FixedLibrary* library :
-         {&Libraries.InfoLib, &Libraries.KnowLib, &Libraries.AdvLib}) {
+         {&Libraries[LibraryId::Information], &Libraries[LibraryId::Knowledge],
+          &Libraries[LibraryId::Advanced]}) {
         for (int row = library->LastRow; row >= 0; --row) {
             const auto index = static_cast<std::size_t>(row);
             ComposeRowText(*library, row, kept);
@@ -118,16 +124,16 @@ TEST_F(LoadedLibraries, AnEmptyLastTitleEndsTheStartExceptInTheAdvancedLibrary) 
     EXPECT_NO_THROW(CheckLibraryContent(Libraries));
     const struct {
         const char* Name;
-        FixedLibrary FixedLibraries::*Library;
+        LibraryId Library;
         bool Refused;
     } cases[] = {
-        {"Information", &FixedLibraries::InfoLib, true},
-        {"Knowledge", &FixedLibraries::KnowLib, true},
-        {"Advanced Knowledge", &FixedLibraries::AdvLib, false},
+        {"Information", LibraryId::Information, true},
+        {"Knowledge", LibraryId::Knowledge, true},
+        {"Advanced Knowledge", LibraryId::Advanced, false},
     };
     for (const auto& c : cases) {
         FixedLibraries libraries = Libraries;
-        (libraries.*c.Library).Titles.back().clear();
+        libraries[c.Library].Titles.back().clear();
         try {
             CheckLibraryContent(libraries);
             EXPECT_FALSE(c.Refused) << c.Name;

@@ -75,7 +75,7 @@ void Steps(ReaderActions& t, const std::string& steps) {
     std::istringstream words(steps);
     for (std::string word; words >> word;) {
         if (word == "expand") {
-            t.App.UserSettings.WindowMode[3] = 1;
+            t.App.UserSettings.WindowMode[LibraryId::Knowledge] = 1;
         } else if (word == "mark") {
             t.MarkExit();
         } else if (word == "close") {
@@ -151,7 +151,7 @@ TEST_F(ReaderActions, MarkExitReopensAtTheMark) {
         const std::string unmarked = " 0 -1 \r\n 0 -1 \r\n 0 -1 \r\n 0 -1 \r\n";
         WriteWholeFile(t.Folder.Exe() / "Read.ini", unmarked);
         Steps(t, c.Visit);
-        EXPECT_EQ(t.App.Reading.ReaderOpen, 0);
+        EXPECT_EQ(t.App.Reading.ReaderOpen, ReaderOpenState::Closed);
         EXPECT_FALSE(t.Windows.IsWindowVisible(WindowId::Read));
         // No hover help outlives the window, to blank the instruction of the next opening.
         EXPECT_EQ(t.Windows.Timers.count(TimerId::ReadHover), 0u);
@@ -217,7 +217,7 @@ TEST_F(ReaderActions, MergeShowsTheSectionsTopicsExpanded) {
                                        "show the index. Click 'Index' to clear the window and "
                                        "reset the list.\"")
             << c.Title;
-        EXPECT_EQ(t.App.UserSettings.WindowMode[static_cast<std::size_t>(c.Library)], 0);
+        EXPECT_EQ(t.App.UserSettings.WindowMode[static_cast<LibraryId>(c.Library)], 0);
         EXPECT_TRUE(t.Windows.Boxes.empty()) << c.Title;
         EXPECT_FALSE(t.Windows.Busy) << c.Title;
         EXPECT_GE(t.Windows.Yields, 2) << c.Title;
@@ -229,13 +229,13 @@ TEST_F(ReaderActions, MergeShowsTheSectionsTopicsExpanded) {
 TEST_F(ReaderActions, WindowAfterMergeSplits) {
     for (const std::int16_t mode : {0, 1}) {
         Session t;
-        t.App.UserSettings.WindowMode[3] = mode;
+        t.App.UserSettings.WindowMode[LibraryId::Knowledge] = mode;
         t.OpenSection(3, 0);
         t.Click(RC::cmdPrint);
         t.Click(RC::cmdWindow);
         EXPECT_EQ(t.Line(RC::List1), "7 rows, selected 0, top 0, split back=IndexText") << mode;
         EXPECT_EQ(t.Line(RC::txtSpin).substr(0, 8), "low \"A |") << mode;
-        EXPECT_EQ(t.App.UserSettings.WindowMode[3], 0) << mode;
+        EXPECT_EQ(t.App.UserSettings.WindowMode[LibraryId::Knowledge], 0) << mode;
     }
 }
 
@@ -243,11 +243,14 @@ TEST_F(ReaderActions, WindowAfterMergeSplits) {
 // Section left on view.
 TEST_F(ReaderActions, OnlyTheAmbrelIsTooLongToMerge) {
     LoadLibraries(App.Libraries);
-    for (auto* library : {&App.Libraries.InfoLib, &App.Libraries.KnowLib, &App.Libraries.AdvLib}) {
+    for (auto* library :
+         {&App.Libraries[LibraryId::Information], &App.Libraries[LibraryId::Knowledge],
+          &App.Libraries[LibraryId::Advanced]}) {
         BuildLibraryIndex(*library);
     }
-    const FixedLibrary* libraries[] = {&App.Libraries.InfoLib, &App.Libraries.KnowLib,
-                                       &App.Libraries.AdvLib};
+    const FixedLibrary* libraries[] = {&App.Libraries[LibraryId::Information],
+                                       &App.Libraries[LibraryId::Knowledge],
+                                       &App.Libraries[LibraryId::Advanced]};
     int refused = 0;
     for (int library = 2; library <= 4; ++library) {
         const FixedLibrary& content = *libraries[library - 2];
@@ -287,7 +290,7 @@ TEST_F(ReaderActions, AnEssayTheTextBoxCannotHoldIsRefused) {
     many.LastRow = 10000;
     many.RecordWidth = 10;
     BuildLibraryIndex(many);
-    App.Libraries.AdvLib = many;
+    App.Libraries[LibraryId::Advanced] = many;
     OpenSection(4, 0);
     const std::string sectionText = Read().Controls()[RC::txtSpin].Text;
     Click(RC::cmdPrint);

@@ -51,7 +51,7 @@ TEST_F(ReaderDialogues, ListsLatestFirstAndStepsIntoDialogues) {
               "lake.\r\n\r\nDialogue\r\n\r\n\t\x93Hello.\x94\r\n\tA reply.");
     EXPECT_EQ(Line(RC::cmdNext), "\"Earlier >>\"");
     EXPECT_EQ(Line(RC::cmdPrior), "\"<< Later\" disabled");
-    EXPECT_EQ(App.ReaderSettings.MarkRowDialogue, 0);
+    EXPECT_EQ(App.ReaderSettings.MarkRows[LibraryId::Dialogue], 0);
 
     Key(KeyCode::PageDown);
     EXPECT_EQ(Title(),
@@ -60,7 +60,7 @@ TEST_F(ReaderDialogues, ListsLatestFirstAndStepsIntoDialogues) {
     EXPECT_EQ(Line(RC::cmdNext), "\"Earlier >>\" disabled");
     Key(KeyCode::Escape);
     EXPECT_EQ(Line(RC::cmdNext), "\"Latest\"");
-    EXPECT_EQ(App.ReaderSettings.MarkRowDialogue, -1);
+    EXPECT_EQ(App.ReaderSettings.MarkRows[LibraryId::Dialogue], -1);
 }
 
 // Rows too wide for the list are cut and marked; those that fit stand whole.

@@ -38,17 +38,17 @@ ReaderFixture::ReaderFixture() {
     std::filesystem::create_directories(Folder.Exe());
     App.UserSettings.DisplayOption = 1;
     SetDisplayScale(1, App.Scale);
-    App.Libraries.InfoLib = InformationCatalogue();
-    App.Libraries.KnowLib =
+    App.Libraries[LibraryId::Information] = InformationCatalogue();
+    App.Libraries[LibraryId::Knowledge] =
         LibraryOf({"< First >", "\tA", "\t\tA1", "\tB", "< Second >", "\tC", "< Third >"});
-    App.Libraries.AdvLib = LibraryOf({"< Adv One >", "\tX", "\tY"});
+    App.Libraries[LibraryId::Advanced] = LibraryOf({"< Adv One >", "\tX", "\tY"});
     App.Write = std::make_unique<Mirror>(App.WriteWorld(), App.Replies, App.Buffers, App.Library);
     App.Write->ConnectLibraries(App.Links, App.Back);
 }
 
 void ReaderFixture::Open(int library) {
     App.Links.BeginOpening();
-    App.Links.OpenLibrary(library);
+    App.Links.OpenLibrary(static_cast<LibraryId>(library));
 }
 
 std::string ReaderFixture::Line(ReaderControl control) {

@@ -21,18 +21,20 @@ TEST_F(ReaderFlow, LibraryButtonsOpenTheReaderAndRestoringClosesIt) {
         MC Button;
         MouseButton Mouse;
         const char* Title;
-        int ReadLibrary;
+        LibraryId ReadLibrary;
     } cases[] = {
-        {MC::cmdHelp, MouseButton::Left, "Veyrant Information Library", 2},
-        {MC::cmdKnow, MouseButton::Left, "Veyrant Knowledge Library", 3},
-        {MC::cmdKnow, MouseButton::Right, "Veyrant Advanced Knowledge Library", 4},
-        {MC::cmdRetrieve, MouseButton::Left, "Veyrant Dialogue Library -- No Dialogues Saved", 1},
+        {MC::cmdHelp, MouseButton::Left, "Veyrant Information Library", LibraryId::Information},
+        {MC::cmdKnow, MouseButton::Left, "Veyrant Knowledge Library", LibraryId::Knowledge},
+        {MC::cmdKnow, MouseButton::Right, "Veyrant Advanced Knowledge Library",
+         LibraryId::Advanced},
+        {MC::cmdRetrieve, MouseButton::Left, "Veyrant Dialogue Library -- No Dialogues Saved",
+         LibraryId::Dialogue},
     };
     for (const auto& c : cases) {
         Press(c.Button, c.Mouse);
         EXPECT_EQ(Title(), c.Title);
         EXPECT_EQ(App.Write->State().ReadLibrary, c.ReadLibrary);
-        EXPECT_EQ(App.Reading.ReaderOpen, 1);
+        EXPECT_EQ(App.Reading.ReaderOpen, ReaderOpenState::Open);
         EXPECT_TRUE(Windows.IsWindowMinimised(WindowId::Mirror));
         EXPECT_TRUE(Windows.IsWindowVisible(WindowId::Read));
         EXPECT_TRUE(Pressed(c.Button));
@@ -46,9 +48,9 @@ TEST_F(ReaderFlow, LibraryButtonsOpenTheReaderAndRestoringClosesIt) {
         // The user brings the Write window back.
         Windows.RestoreWindow(WindowId::Mirror);
         App.Write->WindowStateChanged(false);
-        EXPECT_EQ(App.Reading.ReaderOpen, 0);
+        EXPECT_EQ(App.Reading.ReaderOpen, ReaderOpenState::Closed);
         EXPECT_FALSE(Windows.IsWindowVisible(WindowId::Read));
-        EXPECT_EQ(App.Write->State().ReadLibrary, 0);
+        EXPECT_EQ(App.Write->State().ReadLibrary, LibraryId::None);
         EXPECT_FALSE(Pressed(c.Button));
     }
     EXPECT_TRUE(std::filesystem::exists(Folder.Exe() / "Read.ini"));
@@ -58,7 +60,7 @@ TEST_F(ReaderFlow, LibraryButtonsOpenTheReaderAndRestoringClosesIt) {
     App.Links.CloseLibrary();
     EXPECT_FALSE(Windows.IsWindowMinimised(WindowId::Mirror));
     EXPECT_FALSE(Pressed(MC::cmdKnow));
-    EXPECT_EQ(App.Write->State().ReadLibrary, 0);
+    EXPECT_EQ(App.Write->State().ReadLibrary, LibraryId::None);
 }
 
 // The backdrop goes when the user minimises the Write window, not when the Reader's opening

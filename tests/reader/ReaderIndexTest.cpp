@@ -11,7 +11,7 @@ class ReaderIndex : public ReaderFixture {};
 // A Section of Index-1 opens Index-2 at its row, split, whatever the saved mode; a Topic then
 // shows in the saved mode, and the next Section's row is split again.
 TEST_F(ReaderIndex, SectionsShowSplitAndTopicsInTheSavedMode) {
-    App.UserSettings.WindowMode[3] = 1;
+    App.UserSettings.WindowMode[LibraryId::Knowledge] = 1;
     Open(3);
     EXPECT_EQ(Title(), "Veyrant Knowledge Library");
     EXPECT_EQ(Line(RC::List1), "3 rows, selected -1, top 0, split back=ListInUse");
@@ -63,13 +63,13 @@ TEST_F(ReaderIndex, SectionsShowSplitAndTopicsInTheSavedMode) {
         EXPECT_EQ(Line(RC::cmdPrint), step.Print) << action;
         EXPECT_EQ(Line(RC::cmdSelect), "\"< Index >\"") << action;
     }
-    EXPECT_EQ(App.Reading.CurRowKnow, 5);
+    EXPECT_EQ(App.Reading.CurRow[LibraryId::Knowledge], 5);
 }
 
 // The index button toggles Index-1 and Index-2 by its caption, and from an open row goes back to
 // Index-1.
 TEST_F(ReaderIndex, IndexButtonTogglesTheLists) {
-    App.UserSettings.WindowMode[3] = 1;
+    App.UserSettings.WindowMode[LibraryId::Knowledge] = 1;
     Open(3);
     Read().Click(RC::cmdSelect);
     EXPECT_EQ(Line(RC::cmdSelect), "\"< Index 2 >\"");
@@ -86,7 +86,7 @@ TEST_F(ReaderIndex, IndexButtonTogglesTheLists) {
 
     Read().ListRowClicked(0);
     Key(KeyCode::Down);
-    EXPECT_EQ(App.Reading.CurRowKnow, 1);
+    EXPECT_EQ(App.Reading.CurRow[LibraryId::Knowledge], 1);
     Key(KeyCode::Escape);
     EXPECT_EQ(Title(), "Veyrant Knowledge Library");
     EXPECT_EQ(Line(RC::List1), "3 rows, selected -1, top 0, split back=ListInUse");
@@ -116,11 +116,11 @@ TEST_F(ReaderIndex, WindowModeTogglesOnlyWithinASection) {
     Key(KeyCode::Down);
     EXPECT_EQ(Line(RC::txtSpin), "low \"X |  | \\tText of row 1. | \" back=ReadingText");
     Read().Click(RC::txtSpin);
-    EXPECT_EQ(App.UserSettings.WindowMode[4], 1);
+    EXPECT_EQ(App.UserSettings.WindowMode[LibraryId::Advanced], 1);
     EXPECT_EQ(Line(RC::txtSpin), "high \"X |  | \\tText of row 1. | \" back=ReadingText");
     EXPECT_EQ(Line(RC::List1), "(hidden)");
     Key(KeyCode::Space);
-    EXPECT_EQ(App.UserSettings.WindowMode[4], 0);
+    EXPECT_EQ(App.UserSettings.WindowMode[LibraryId::Advanced], 0);
     EXPECT_EQ(Line(RC::List1), "3 rows, selected 1, top 0, split back=IndexText");
     EXPECT_EQ(Windows.Boxes.size(), 1u);
 }

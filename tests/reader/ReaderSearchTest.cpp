@@ -103,7 +103,7 @@ TEST_F(ReaderSearch, NothingFoundHasEachLibrarysWords) {
 
 // "aa" stands twice in "Aaa"; Next after the last hit ends the walk with the count shown.
 TEST_F(ReaderSearch, OverlappingHitsCountAndTheWalkEnds) {
-    App.Libraries.AdvLib = LibraryOf({"< Aaa >", "\tX"});
+    App.Libraries[LibraryId::Advanced] = LibraryOf({"< Aaa >", "\tX"});
     Open(4);
     Search("aa");
     EXPECT_NE(Read().Dump().find("Selection: 2+2 \"Aa\""), std::string::npos) << Read().Dump();

@@ -108,7 +108,7 @@ private slots:
 
         // The Read window over the Dialogue Library, which needs no fixed library loaded.
         program.App.Links.BeginOpening();
-        program.App.Links.OpenLibrary(1);
+        program.App.Links.OpenLibrary(LibraryId::Dialogue);
         ReaderWindow reader(program.App, *program.App.Read);
         reader.show();
         reader.Render();

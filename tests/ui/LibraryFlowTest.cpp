@@ -46,7 +46,7 @@ private slots:
             }
             QApplication::setActiveWindow(write);
             QTRY_VERIFY(!read || !read->isVisible());
-            QCOMPARE(program.App.Reading.ReaderOpen, std::int16_t{0});
+            QCOMPARE(program.App.Reading.ReaderOpen, ReaderOpenState::Closed);
             QVERIFY(!program.Windows.IsWindowMinimised(WindowId::Mirror));
             QApplication::setActiveWindow(nullptr);
         }

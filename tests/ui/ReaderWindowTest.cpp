@@ -44,14 +44,15 @@ struct ReadWindow {
         SetDisplayScale(1, App.Scale);
         LoadLibraries(App.Libraries);
         for (auto* library :
-             {&App.Libraries.InfoLib, &App.Libraries.KnowLib, &App.Libraries.AdvLib}) {
+             {&App.Libraries[LibraryId::Information], &App.Libraries[LibraryId::Knowledge],
+              &App.Libraries[LibraryId::Advanced]}) {
             BuildLibraryIndex(*library);
         }
     }
 
     void Open(int library) {
         App.Links.BeginOpening();
-        App.Links.OpenLibrary(library);
+        App.Links.OpenLibrary(static_cast<LibraryId>(library));
         Window = std::make_unique<ReaderWindow>(App, *App.Read);
         Window->show();
         Window->activateWindow();
@@ -119,9 +120,7 @@ private slots:
         QFETCH(QString, name);
         ReadWindow read;
         read.Open(library);
-        const auto& lib = library == 2   ? read.App.Libraries.InfoLib
-                          : library == 3 ? read.App.Libraries.KnowLib
-                                         : read.App.Libraries.AdvLib;
+        const auto& lib = read.App.Libraries[static_cast<LibraryId>(library)];
         QCOMPARE(read.Window->windowTitle(), name);
         QCOMPARE(read.List()->count(), lib.LastSection + 1);
         QCOMPARE(read.Caption(ReaderControl::cmdNext), QStringLiteral("First"));
@@ -257,7 +256,7 @@ private slots:
         QVERIFY(read.Spin()->geometry().top() < split.top());
         QVERIFY(read.Spin()->geometry().height() > split.height());
         QVERIFY(read.Spin()->toPlainText().startsWith(QString::fromStdString(
-            Cp1252ToUtf8(CleanTitle(read.App.Libraries.KnowLib.Titles[1])))));
+            Cp1252ToUtf8(CleanTitle(read.App.Libraries[LibraryId::Knowledge].Titles[1])))));
         QVERIFY(!read.Window->Widget(ReaderControl::cmdPrint)->isEnabled());
         QVERIFY(read.Layer.Yields > 0);
         QVERIFY(!read.Layer.Busy);
@@ -274,7 +273,7 @@ private slots:
         QCOMPARE(bar->value(), 0);
 
         QTest::mouseClick(read.Window->Widget(ReaderControl::cmdExitM), Qt::LeftButton);
-        QCOMPARE(read.App.Reading.ReaderOpen, std::int16_t{0});
+        QCOMPARE(read.App.Reading.ReaderOpen, ReaderOpenState::Closed);
         QVERIFY(!read.Layer.IsWindowVisible(WindowId::Read));
         // The Knowledge Library's line holds its mark at the Section's row.
         const std::string marks = ReadWholeFile(read.App.Folder.Exe() / "Read.ini");

@@ -58,27 +58,33 @@ std::string Shown(const std::string& composed) {
 
 // Asks for the message through the request the Write window would use, and gives the text as
 // the window shows it.
-std::string Reply(Engine& engine, int message) {
-    static const std::int16_t AnswerTypes[] = {0, 1, 10, 20, 30, 40, 50, 60, 2};
-    static const std::int16_t RemarkTypes[] = {1, 10, 2, 9};
-    if (message <= 8) {
-        engine.RequestAnswer(AnswerTypes[message]);
+std::string Reply(Engine& engine, int number) {
+    using enum SentenceType;
+    static const SentenceType AnswerTypes[] = {None,         YesNoQuestion, WhoQuestion,
+                                               WhatQuestion, WhenQuestion,  WhereQuestion,
+                                               WhyQuestion,  HowQuestion,   Statement};
+    static const SentenceType RemarkTypes[] = {YesNoQuestion, WhoQuestion, Statement,
+                                               SupposeQuestion};
+    const auto message = static_cast<MessageNumber>(number);
+    if (message <= MessageNumber::StatementAnswer) {
+        engine.RequestAnswer(AnswerTypes[number]);
         return Shown(engine.ReplyText);
     }
-    if (message == 9) {
-        engine.RequestIdeaVerdict(1);
+    if (message == MessageNumber::IdeaChosen) {
+        engine.RequestIdeaVerdict(ReplyKind::Answer);
         return std::string("Your idea ") + OpenQuote + "Move closer to the sea." + CloseQuote +
                " " + engine.IdeaVerdict;
     }
-    if (message == 10) {
-        engine.RequestIdeaVerdict(0);
+    if (message == MessageNumber::IdeaDeclined) {
+        engine.RequestIdeaVerdict(ReplyKind::Remark);
         return Shown(engine.IdeaVerdict);
     }
-    if (message <= 14) {
-        engine.RequestRemark(RemarkTypes[message - 11]);
+    if (message <= MessageNumber::SupposeRemark) {
+        const auto firstRemark = static_cast<int>(MessageNumber::YesNoRemark);
+        engine.RequestRemark(RemarkTypes[number - firstRemark]);
         return Shown(engine.ReplyText);
     }
-    if (message == 15) {
+    if (message == MessageNumber::Inspiration) {
         engine.RequestInspiration();
         return Mid(engine.InspirationText, 2);
     }
