@@ -275,14 +275,19 @@ TEST(MirrorSuppose, ATooShortIdeaCanOnlyBeLengthenedAndIsTriedAgain) {
     EXPECT_TRUE(driver.Box(MirrorControl::cmdClear).Enabled);
     driver.Backspace(); // refused: a short idea only grows
     EXPECT_EQ(driver.Text(MirrorControl::txtAnalyze), listed + "go");
-    driver.Enter();
-    EXPECT_EQ(driver.State().IdeaCount, 1);
-    EXPECT_EQ(driver.Text(MirrorControl::cmdNew), "Cancel");
     driver.Type(" slow");
     EXPECT_EQ(driver.Text(MirrorControl::txtResponse), "Question\r\n" + Quoted(Question));
     EXPECT_EQ(driver.Box(MirrorControl::txtResponse).Background, Colour::ColourReady);
     EXPECT_EQ(driver.Text(MirrorControl::txtNote),
               "Ready to enter your text. Continue typing, or press 'Enter' to advance.");
+    // Shortened again, the idea is refused again, and only a filed one turns Cancel into Select.
+    for (int key = 0; key < 5; ++key) {
+        driver.Backspace();
+    }
+    driver.Enter();
+    EXPECT_EQ(driver.State().IdeaCount, 1);
+    EXPECT_EQ(driver.Text(MirrorControl::cmdNew), "Cancel");
+    driver.Type(" slow");
     driver.Enter();
     EXPECT_EQ(driver.Text(MirrorControl::txtAnalyze),
               ListHeader + Filed(1, "Walk to school.") + Filed(2, "Go slow.") + Prompt(3));
