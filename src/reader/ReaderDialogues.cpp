@@ -7,8 +7,8 @@
 #include "reader/Reader.h"
 #include "reader/ReaderTexts.h"
 #include "storage/DialogueFile.h"
-#include "storage/LockedFileError.h"
 #include "storage/LibraryFileName.h"
+#include "storage/LockedFileError.h"
 #include "storage/StorageFailure.h"
 
 #include <algorithm>

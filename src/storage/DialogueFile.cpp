@@ -70,7 +70,6 @@ std::string DialogueFile::Read() const {
         ReadWholeFile(file_, std::min(limit_.Bytes + EnvelopeOverhead, WholeFileLimit));
     if (IsEnvelope(text) || key_) {
         auto opened = key_ ? Open(*key_, SealedName(), text) : std::nullopt;
-        Wipe(text);
         if (!opened) {
             throw LockedFileError(file_);
         }
