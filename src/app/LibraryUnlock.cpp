@@ -8,6 +8,10 @@ namespace veyrant {
 
 bool OpenLockedLibrary(AppFolder& folder, WindowLayer& windows, PassphraseKeeper* keyring,
                        const PassphraseQuestion& ask) {
+    if (SealedWithoutKey(folder)) {
+        windows.ShowMessage(LockedFileBox(KeyFilePath(folder)));
+        return false;
+    }
     if (!LibraryIsLocked(folder)) {
         return true;
     }

@@ -23,7 +23,7 @@ inline constexpr const char* WrongPassphrasePrompt =
     "That passphrase does not open the Library. Type it again.";
 
 // True when the Library is open: plain, or locked and now unlocked. False when the user
-// cancelled, or when the key file is damaged (the box then names it).
+// cancelled, or when the key file is damaged or missing (the box then names it).
 bool OpenLockedLibrary(AppFolder& folder, WindowLayer& windows, PassphraseKeeper* keyring,
                        const PassphraseQuestion& ask);
 

@@ -4,11 +4,14 @@
 #include "core/Text.h"
 #include "core/WholeFile.h"
 #include "storage/DialogueFile.h"
+#include "storage/Envelope.h"
 #include "storage/FileTransaction.h"
 #include "storage/StorageFailure.h"
 
 #include <array>
+#include <fstream>
 #include <system_error>
+#include <vector>
 
 namespace veyrant {
 
@@ -57,6 +60,31 @@ void CommitSwitch(FileTransaction& change, AppFolder& folder,
 }
 
 } // namespace
+
+bool SealedWithoutKey(const AppFolder& folder) {
+    if (LibraryIsLocked(folder)) {
+        return false;
+    }
+    std::vector<std::filesystem::path> files;
+    for (const auto buffer : Buffers) {
+        files.push_back(DialogueFile::Buffer(folder, buffer).Path());
+    }
+    std::error_code error;
+    for (const auto& place : {folder.Isp(), folder.Dlg()}) {
+        for (auto entry = std::filesystem::directory_iterator(place, error);
+             entry != std::filesystem::directory_iterator(); entry.increment(error)) {
+            files.push_back(entry->path());
+        }
+    }
+    char head[EnvelopeMagic.size()] = {};
+    for (const auto& file : files) {
+        std::ifstream in(file, std::ios::binary);
+        if (in.read(head, sizeof head) && IsEnvelope({head, sizeof head})) {
+            return true;
+        }
+    }
+    return false;
+}
 
 bool LibraryIsLocked(const AppFolder& folder) {
     std::error_code error;

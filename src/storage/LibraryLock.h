@@ -14,6 +14,10 @@ namespace veyrant {
 
 bool LibraryIsLocked(const AppFolder& folder);
 
+// A file of the Library or a work buffer that is sealed while the key file is missing; the
+// start then names the key file rather than begin anew.
+bool SealedWithoutKey(const AppFolder& folder);
+
 // Seals every file under a new key wrapped by the passphrase, and keeps the key open in the
 // folder. Raises ProgramError, and then the Library is as it was.
 void TurnLockOn(AppFolder& folder, std::string_view passphrase,

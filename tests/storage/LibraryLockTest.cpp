@@ -105,7 +105,9 @@ TEST_F(LibraryLockTest, AFlippedByteOrAMissingKeyGivesTheBoxNamingTheFileAndLose
         }
         WriteWholeFile(file, sealed);
     }
+    EXPECT_FALSE(SealedWithoutKey(Folder));
     std::filesystem::remove(KeyFilePath(Folder));
+    EXPECT_TRUE(SealedWithoutKey(Folder));
     AppFolder keyless{Folder.Root};
     EXPECT_THROW(OpenLibrary(keyless, "lantern"), LockedFileError);
     EXPECT_THROW(ReadSavedDialogue(keyless, other), LockedFileError);
