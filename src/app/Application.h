@@ -4,6 +4,8 @@
 // whatever needs them. A test builds a whole application in a temporary folder.
 
 #include "app/LibraryLink.h"
+#include "app/LibraryUnlock.h"
+#include "app/PassphraseKeeper.h"
 #include "core/Clock.h"
 #include "core/Random.h"
 #include "core/WindowLayer.h"
@@ -77,6 +79,10 @@ struct Application {
     std::unique_ptr<Reader> Read;
     // How the Write window and the Reader reach each other.
     LibraryLink Links;
+    // The desktop's keyring and the box that asks for the passphrase of a locked Library; none
+    // where the program runs without a desktop.
+    PassphraseKeeper* Keyring = nullptr;
+    PassphraseQuestion AskPassphrase;
 
     // The part of the program the Write window's logic may reach.
     MirrorWorld WriteWorld() { return {Clock, Random, Windows, Scale, UserSettings, ClosingState}; }

@@ -3,6 +3,7 @@
 #include "app/FirstRun.h"
 #include "app/FontCheck.h"
 #include "app/InstallFailure.h"
+#include "app/LibraryUnlock.h"
 #include "app/SettingsFiles.h"
 #include "app/SmallDisplay.h"
 #include "core/CaughtError.h"
@@ -80,6 +81,10 @@ void RunMain(Application& app) {
     }
     SetDisplayScale(app.UserSettings.DisplayOption, app.Scale);
     if (!CheckFonts(app)) {
+        return;
+    }
+    if (!OpenLockedLibrary(app.Folder, app.Windows, app.Keyring, app.AskPassphrase)) {
+        app.Windows.EndProcess();
         return;
     }
     app.Engine.SeriesSeed = app.Clock.Timer();

@@ -8,6 +8,7 @@
 #include "reader/ReaderTexts.h"
 #include "storage/DialogueFile.h"
 #include "storage/LibraryFileName.h"
+#include "storage/LockedFileError.h"
 #include "storage/StorageFailure.h"
 
 #include <algorithm>
@@ -135,6 +136,9 @@ void Reader::LoadDialogue(int position) {
         state_.DialogueDate = FileDateValue(ParseFileName(name).FileDateText);
         state_.InspirationBody = DialogueFile::SavedInspiration(world_.Folder, name).Read();
         state_.DialogueBody = DialogueFile::SavedDialogue(world_.Folder, name).Read();
+    } catch (const LockedFileError& error) {
+        Paint();
+        world_.Windows.ShowMessage(LockedFileBox(error.File()));
     } catch (const ProgramError& error) {
         Paint();
         world_.Windows.ShowMessage(LibraryCorruptedBox(

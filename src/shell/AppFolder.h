@@ -3,7 +3,10 @@
 // The application folder: one fixed root under the XDG data home, holding exe/, dlg/ and isp/.
 // Every file of the program is this root plus a fixed relative name.
 
+#include "core/SecretKey.h"
+
 #include <filesystem>
+#include <memory>
 
 namespace veyrant {
 
@@ -11,6 +14,9 @@ struct AppFolder {
     std::filesystem::path Root;
     // The user's trash, where deleted Dialogues go; when none is named, one of the folder's own.
     std::filesystem::path TrashHome = {};
+    // The key that seals the Dialogues while the Library is locked and open; none when the
+    // Library is plain.
+    std::shared_ptr<const SecretKey> Key = {};
 
     std::filesystem::path Exe() const { return Root / "exe"; }
     std::filesystem::path Dlg() const { return Root / "dlg"; }

@@ -2,7 +2,10 @@
 
 #include "core/ProgramError.h"
 #include "core/Text.h"
+#include "storage/Envelope.h"
+#include "storage/LockedFileError.h"
 
+#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -45,32 +48,46 @@ std::string WithoutLead(std::string_view dialogueText) {
     return Mid(dialogueText, static_cast<long>(RunLead.size()) + 1);
 }
 
-DialogueFile::DialogueFile(std::filesystem::path file, TextLimit limit)
-    : file_(std::move(file)), limit_(limit) {}
+DialogueFile::DialogueFile(std::filesystem::path file, TextLimit limit,
+                           std::shared_ptr<const SecretKey> key)
+    : file_(std::move(file)), limit_(limit), key_(std::move(key)) {}
 
 DialogueFile DialogueFile::SavedInspiration(const AppFolder& folder, const std::string& fileName) {
-    return DialogueFile(folder.Isp() / fileName);
+    return DialogueFile(folder.Isp() / fileName, {}, folder.Key);
 }
 
 DialogueFile DialogueFile::SavedDialogue(const AppFolder& folder, const std::string& fileName) {
-    return DialogueFile(folder.Dlg() / fileName);
+    return DialogueFile(folder.Dlg() / fileName, {}, folder.Key);
 }
 
 DialogueFile DialogueFile::Buffer(const AppFolder& folder, WorkBuffer buffer) {
     const auto& file = BufferFiles[static_cast<std::size_t>(buffer)];
-    return DialogueFile(folder.Exe() / file.Name, file.Limit);
+    return DialogueFile(folder.Exe() / file.Name, file.Limit, folder.Key);
 }
 
 std::string DialogueFile::Read() const {
-    std::string text = ReadWholeFile(file_, limit_.Bytes);
-    if (!LinesFit(text, limit_.LineBytes)) {
+    std::string text =
+        ReadWholeFile(file_, std::min(limit_.Bytes + EnvelopeOverhead, WholeFileLimit));
+    if (IsEnvelope(text) || key_) {
+        auto opened = key_ ? Open(*key_, SealedName(), text) : std::nullopt;
+        if (!opened) {
+            throw LockedFileError(file_);
+        }
+        text = std::move(*opened);
+    }
+    if (text.size() > limit_.Bytes || !LinesFit(text, limit_.LineBytes)) {
+        Wipe(text);
         throw ProgramError(ErrorNumber::OutOfMemory);
     }
     return text;
 }
 
 void DialogueFile::Stage(FileTransaction& change, std::string_view text) const {
-    change.Write(file_, text);
+    change.Write(file_, key_ ? Seal(*key_, SealedName(), text) : std::string(text));
+}
+
+std::string DialogueFile::SealedName() const {
+    return (file_.parent_path().filename() / file_.filename()).generic_string();
 }
 
 } // namespace veyrant

@@ -9,13 +9,18 @@
 // holds its text, with no byte-order mark, no header and no line end added. An isp/ file, like
 // savei.tmp, is a tab and the Inspiration. A dlg/ file, like savem.tmp, is the Dialogue's runs,
 // oldest first, each led by a blank line.
+//
+// In a locked Library every one of these files is instead an envelope of that text, bound to the
+// file's own folder and name.
 
+#include "core/SecretKey.h"
 #include "core/WholeFile.h"
 #include "shell/AppFolder.h"
 #include "storage/FileTransaction.h"
 
 #include <cstddef>
 #include <filesystem>
+#include <memory>
 #include <string>
 #include <string_view>
 
@@ -45,7 +50,8 @@ enum class WorkBuffer { Inspiration, Dialogue, Suggestion, PairCount };
 
 class DialogueFile {
 public:
-    explicit DialogueFile(std::filesystem::path file, TextLimit limit = {});
+    explicit DialogueFile(std::filesystem::path file, TextLimit limit = {},
+                          std::shared_ptr<const SecretKey> key = {});
 
     static DialogueFile SavedInspiration(const AppFolder& folder, const std::string& fileName);
     static DialogueFile SavedDialogue(const AppFolder& folder, const std::string& fileName);
@@ -54,7 +60,9 @@ public:
     const std::filesystem::path& Path() const { return file_; }
 
     // The file's text. Raises ProgramError as ReadWholeFile does: 53 when the file is missing,
-    // 75 when it cannot be read, 7 when it is over the limit or holds a line over it.
+    // 75 when it cannot be read, 7 when it is over the limit or holds a line over it; raises
+    // LockedFileError naming the file when it is sealed and does not open with the key, or when
+    // it is sealed and the Library has no key open.
     std::string Read() const;
 
     // Lays the text down as the file's new content within the change, which puts it in place;
@@ -62,8 +70,12 @@ public:
     void Stage(FileTransaction& change, std::string_view text) const;
 
 private:
+    // The folder and name an envelope is bound to: dlg/ and isp/ files of one name differ.
+    std::string SealedName() const;
+
     std::filesystem::path file_;
     TextLimit limit_;
+    std::shared_ptr<const SecretKey> key_;
 };
 
 } // namespace veyrant

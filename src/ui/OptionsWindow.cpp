@@ -44,7 +44,8 @@ void ShowText(QLabel* label, const QString& text) {
 
 } // namespace
 
-OptionsWindow::OptionsWindow(Options& options, QWidget* parent)
+OptionsWindow::OptionsWindow(Options& options, QWidget* parent,
+                             std::function<void(QWidget*)> openLock)
     : QDialog(parent), options_(options) {
     setObjectName("frmOptions");
     setWindowTitle(tr("Veyrant Sagrel Library Options"));
@@ -93,6 +94,20 @@ OptionsWindow::OptionsWindow(Options& options, QWidget* parent)
     layout->addWidget(Label3_);
     layout->addWidget(limits);
     layout->addWidget(clean);
+    if (openLock) {
+        auto* lock = new QGroupBox(tr("Lock the Library"), this);
+        auto* lockRow = new QHBoxLayout(lock);
+        auto* lockText = new QLabel(
+            tr("Keep every Dialogue encrypted under a passphrase, or change or remove it."), lock);
+        lockText->setWordWrap(true);
+        auto* cmdLock = new QPushButton(tr("Loc&k Library..."), lock);
+        cmdLock->setObjectName("cmdLock");
+        cmdLock->setAutoDefault(false);
+        lockRow->addWidget(lockText, 1);
+        lockRow->addWidget(cmdLock, 0, Qt::AlignVCenter);
+        layout->addWidget(lock);
+        connect(cmdLock, &QPushButton::clicked, this, [this, openLock] { openLock(this); });
+    }
     layout->addWidget(buttons);
     setMinimumWidth(560);
 

@@ -6,6 +6,7 @@
 #include "storage/Options.h"
 
 #include <QDialog>
+#include <functional>
 
 class QCheckBox;
 class QLabel;
@@ -16,7 +17,9 @@ namespace veyrant {
 
 class OptionsWindow : public QDialog {
 public:
-    explicit OptionsWindow(Options& options, QWidget* parent = nullptr);
+    // The Library Lock window opens over this one when openLock is given.
+    explicit OptionsWindow(Options& options, QWidget* parent = nullptr,
+                           std::function<void(QWidget*)> openLock = {});
 
     // Escape and the window's close box are Cancel: every way out ends the program.
     void reject() override;

@@ -13,8 +13,11 @@
 #include "ui/ExportWindow.h"
 #include "ui/GuardedApplication.h"
 #include "ui/HunspellDictionary.h"
+#include "ui/KeyringKeeper.h"
+#include "ui/LockWindow.h"
 #include "ui/MirrorWindow.h"
 #include "ui/OptionsWindow.h"
+#include "ui/PassphraseBox.h"
 #include "ui/QtLibraryPdf.h"
 #include "ui/QtText.h"
 #include "ui/QtWindowLayer.h"
@@ -96,6 +99,9 @@ int main(int argc, char** argv) {
             front->activateWindow();
         }
     };
+    KeyringKeeper keyring;
+    app.Keyring = &keyring;
+    app.AskPassphrase = AskPassphraseBox;
     windows.SetPrintFace([&] { return app.Fonts.Main; });
     windows.SetSpelling(app.Spelling);
     MirrorWindow* writeWindow = nullptr;
@@ -125,7 +131,17 @@ int main(int argc, char** argv) {
         libraryOptions = std::make_unique<Options>(
             app.Library, app.UserSettings, windows, [&] { ExitProgram(app); },
             [&] { windows.UnloadWindow(WindowId::Read); });
-        return new OptionsWindow(*libraryOptions);
+        return new OptionsWindow(*libraryOptions, nullptr, [&](QWidget* over) {
+            QPointer<LockWindow> shown;
+            LockOptions lock(app.Folder, windows, &keyring, [&] {
+                if (shown) {
+                    shown->done(QDialog::Accepted);
+                }
+            });
+            LockWindow window(lock, over);
+            shown = &window;
+            window.exec();
+        });
     });
     windows.RegisterWindow(WindowId::Utility, [&] {
         utilities = std::make_unique<Utility>(windows, app.VersionString, app.ProgramYear,

@@ -5,9 +5,12 @@
 #include "LibraryFixture.h"
 #include "shell/AppFolder.h"
 #include "shell/Settings.h"
+#include "storage/DialogueFile.h"
 #include "storage/DialogueLibrary.h"
+#include "storage/Envelope.h"
 #include "storage/FileTransaction.h"
 #include "storage/LibraryFileName.h"
+#include "storage/LibraryLock.h"
 #include "storage/Options.h"
 #include "storage/WorkBuffers.h"
 #include "support/FakeClock.h"
@@ -17,6 +20,7 @@
 #include <algorithm>
 #include <fstream>
 #include <gtest/gtest.h>
+#include <sodium.h>
 
 namespace veyrant::testing {
 namespace {
@@ -172,6 +176,84 @@ TEST(FaultSweep, EveryStoragePathLeavesOldOrNewAndSaysWhatFailed) {
                            }),
     };
     SweepAll(paths);
+}
+
+// Turning the lock on or off, where a sealed file counts by what it holds: its nonce is new at
+// every run.
+struct LockRun : StorageRun {
+    static constexpr std::string_view Passphrase = "lantern";
+
+    // Every file the lock rewrites, by its place, with the text it must hold whatever happens.
+    std::map<std::string, std::string> Texts;
+
+    void Keep() {
+        WithLibrary(*this);
+        KeepBuffers(*this);
+        for (const auto& [file, bytes] : ImageOf(Folder.Root)) {
+            Texts[file] = bytes;
+        }
+    }
+
+    void Switch(bool locking) {
+        SwitchLock(Folder, Windows, locking, Passphrase,
+                   {crypto_pwhash_OPSLIMIT_MIN, crypto_pwhash_MEMLIMIT_MIN});
+    }
+
+    FolderImage Image() const {
+        AppFolder open{Folder.Root};
+        const bool locked = LibraryIsLocked(open) && OpenLibrary(open, Passphrase);
+        auto image = ImageOf(Folder.Root);
+        for (auto& [file, bytes] : image) {
+            if (file == "exe/library.key") {
+                bytes = "a key";
+            } else if (IsEnvelope(bytes) && file.find("/.") == std::string::npos) {
+                const auto text = locked ? Open(*open.Key, file, bytes) : std::nullopt;
+                bytes = text ? "sealed " + *text : "sealed, unopened";
+            }
+        }
+        return image;
+    }
+
+    std::optional<std::string> Disagreement() const {
+        if ((Folder.Key != nullptr) != LibraryIsLocked(Folder)) {
+            return std::string("the key in memory and the key file disagree");
+        }
+        return std::nullopt;
+    }
+
+    std::optional<std::string> Restart(const FolderImage&, const FolderImage&) {
+        FinishInterruptedChanges(Folder);
+        AppFolder open{Folder.Root};
+        if (LibraryIsLocked(open) && !OpenLibrary(open, Passphrase)) {
+            return std::string("the passphrase no longer opens the Library");
+        }
+        for (const auto& [file, text] : Texts) {
+            const auto place = Folder.Root / file;
+            try {
+                if (DialogueFile(place, {}, open.Key).Read() != text) {
+                    return file + " holds another text";
+                }
+            } catch (const ProgramError& error) {
+                return file + " does not read: error " + std::to_string(error.Number());
+            }
+        }
+        return std::nullopt;
+    }
+};
+
+TEST(FaultSweep, TurningTheLockOnOrOffLeavesEveryDialogueAllPlainOrAllLocked) {
+    SweepAll({
+        PathIn<LockRun>(
+            "lock the Library", [](LockRun& run) { run.Keep(); },
+            [](LockRun& run) { run.Switch(true); }),
+        PathIn<LockRun>(
+            "unlock the Library",
+            [](LockRun& run) {
+                run.Keep();
+                run.Switch(true);
+            },
+            [](LockRun& run) { run.Switch(false); }),
+    });
 }
 
 } // namespace

@@ -120,11 +120,11 @@ SweepCount Sweep(const SweepPath& path) {
         SCOPED_TRACE(path.Name + ", clean run");
         auto run = path.Make();
         run->Before();
-        before = ImageOf(run->Root());
+        before = run->Image();
         FileFaults faults;
         run->Act();
         count.Calls = faults.Calls;
-        after = ImageOf(run->Root());
+        after = run->Image();
         EXPECT_EQ(run->Disagreement(), std::nullopt);
         for (const auto& [file, bytes] : after) {
             EXPECT_EQ(file.find("/."), std::string::npos) << "hidden file left: " << file;
@@ -140,7 +140,7 @@ SweepCount Sweep(const SweepPath& path) {
                 faults.FailAt(k, fault.Error);
                 run->Act();
             }
-            const auto now = ImageOf(run->Root());
+            const auto now = run->Image();
             EXPECT_EQ(Findings(before, after, now), std::vector<std::string>{});
             if (now != after && !path.Silent) {
                 EXPECT_TRUE(Told(run->Boxes(), fault.Number)) << "no box names the failure";
@@ -159,7 +159,7 @@ SweepCount Sweep(const SweepPath& path) {
             run->Act();
         }
         EXPECT_EQ(run->Restart(before, after), std::nullopt);
-        EXPECT_EQ(Findings(before, after, ImageOf(run->Root())), std::vector<std::string>{});
+        EXPECT_EQ(Findings(before, after, run->Image()), std::vector<std::string>{});
         ++count.CrashRuns;
     }
     return count;

@@ -30,6 +30,8 @@ struct SweepRun {
     virtual ~SweepRun() = default;
     virtual std::filesystem::path Root() const = 0;
     virtual const std::vector<MessageBoxRequest>& Boxes() const = 0;
+    // The folder as the path's files are compared: their bytes, or what a sealed file holds.
+    virtual FolderImage Image() const { return ImageOf(Root()); }
     // Lays down what was there before, without the faults.
     virtual void Before() = 0;
     // The path itself.
@@ -60,6 +62,13 @@ public:
 
     std::filesystem::path Root() const override { return world_.Folder.Root; }
     const std::vector<MessageBoxRequest>& Boxes() const override { return world_.Windows.Boxes; }
+    FolderImage Image() const override {
+        if constexpr (requires { world_.Image(); }) {
+            return world_.Image();
+        } else {
+            return ImageOf(Root());
+        }
+    }
     void Before() override {
         before_(world_);
         world_.Windows.Boxes.clear();
