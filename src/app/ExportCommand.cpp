@@ -3,6 +3,7 @@
 #include "app/SettingsFiles.h"
 #include "core/Cp1252.h"
 #include "printing/SaveTextFile.h"
+#include "storage/LibraryLock.h"
 
 #include <algorithm>
 
@@ -36,6 +37,12 @@ int ExportLibraryCommand(const std::vector<std::string>& arguments, const AppFol
         out << "The Library is in the Guest Mode. No Dialogues are saved, so there is nothing "
                "to export.\n";
         return ExitNothing;
+    }
+    // The command asks for no passphrase: a terminal is no place to type one unseen.
+    if (LibraryIsLocked(library) && !library.Key) {
+        out << "The Library is locked with a passphrase. Export it from the program's Utilities "
+               "window once you have opened the Library.\n";
+        return ExitFault;
     }
     const LibraryExport exporting(library);
     if (exporting.Empty()) {

@@ -4,6 +4,7 @@
 #include "app/ExportCommand.h"
 #include "app/ExportLibrary.h"
 #include "core/FileCalls.h"
+#include "storage/LibraryLock.h"
 #include "support/FakeClock.h"
 #include "support/FakeWindowLayer.h"
 #include "support/TempFolder.h"
@@ -11,6 +12,7 @@
 #include <cerrno>
 #include <fstream>
 #include <gtest/gtest.h>
+#include <sodium.h>
 #include <sstream>
 
 namespace veyrant::testing {
@@ -170,7 +172,7 @@ TEST(LibraryExport, CommandLineWritesReportsAndExits) {
     }
 }
 
-TEST(LibraryExport, CommandLineNeitherReplacesNorExportsAGuest) {
+TEST(LibraryExport, CommandLineNeitherReplacesNorExportsAGuestOrALockedLibrary) {
     TempFolder folder;
     const AppFolder library = LibraryOf(folder, {FullLibrary[1]});
     Write(folder / "export/index.md", "mine");
@@ -193,6 +195,19 @@ TEST(LibraryExport, CommandLineNeitherReplacesNorExportsAGuest) {
               1);
     EXPECT_EQ(guest.str(), "The Library is in the Guest Mode. No Dialogues are saved, so there "
                            "is nothing to export.\n");
+
+    std::filesystem::remove(library.Exe() / "Tolmira.ini");
+    AppFolder locked = LibraryOf(folder, {FullLibrary[1]});
+    TurnLockOn(locked, "lantern", {crypto_pwhash_OPSLIMIT_MIN, crypto_pwhash_MEMLIMIT_MIN});
+    locked.Key.reset(); // a new process: nobody has typed the passphrase
+    std::ostringstream refusedLocked;
+    EXPECT_EQ(ExportLibraryCommand({"--export-library", (folder / "locked").string()}, locked, pdf,
+                                   refusedLocked),
+              2);
+    EXPECT_EQ(refusedLocked.str(),
+              "The Library is locked with a passphrase. Export it from the "
+              "program's Utilities window once you have opened the Library.\n");
+    EXPECT_FALSE(std::filesystem::exists(folder / "locked"));
 }
 
 TEST(LibraryExport, WindowAsksWritesUnderProgressAndCancels) {
