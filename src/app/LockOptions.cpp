@@ -87,7 +87,17 @@ bool LockOptions::Apply() {
         return PassphraseAgreed() &&
                SwitchLock(folder_, windows_, true, controls_.txtPassphrase, limits_);
     }
-    if (locking && (!controls_.txtPassphrase.empty() || !controls_.txtConfirm.empty())) {
+    const bool typed = !controls_.txtPassphrase.empty() || !controls_.txtConfirm.empty();
+    // The keyring can only be given a passphrase the user types; the key file never holds it.
+    if (locking && !typed && controls_.chkKeep == 1 && controls_.KeepEnabled &&
+        !keyring_->Recall()) {
+        windows_.ShowMessage(WarningBox("Lock the Library",
+                                        "To keep the passphrase in the keyring, type it in "
+                                        "both boxes. The Library then opens with the "
+                                        "passphrase you typed."));
+        return false;
+    }
+    if (locking && typed) {
         if (!PassphraseAgreed()) {
             return false;
         }

@@ -87,6 +87,13 @@ TEST(LockOptions, TheChoiceLocksChangesAndUnlocksAndTheStartAsksOnlyWithoutTheKe
     }
 
     world.Keyring.Running = true;
+    world.Keyring.Forget();
+    world.Choose(1, "", "", 1);
+    EXPECT_EQ(world.Windows.Boxes.back().Text,
+              "To keep the passphrase in the keyring, type it in both boxes. The Library then "
+              "opens with the passphrase you typed.");
+    world.Choose(1, "lantern", "lantern", 1);
+    EXPECT_EQ(world.Keyring.Kept, "lantern");
     world.Windows.Answers = {MessageAnswer::Yes};
     world.Choose(0, "", "");
     EXPECT_FALSE(LibraryIsLocked(world.Folder));
