@@ -62,7 +62,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     app.Library.ScanLibrary();
 
     app.Links.BeginOpening();
-    app.Links.OpenLibrary(1);
+    app.Links.OpenLibrary(LibraryId::Dialogue);
     Reader& reader = *app.Read;
     const int dialogues = app.Library.Listing().LibraryCount;
     reader.Click(RC::cmdNext);
