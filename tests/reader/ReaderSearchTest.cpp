@@ -3,8 +3,10 @@
 
 #include "ReaderFixture.h"
 #include "core/KeyCodes.h"
+#include "storage/LibraryLock.h"
 
 #include <filesystem>
+#include <sodium.h>
 
 namespace veyrant::testing {
 namespace {
@@ -162,6 +164,18 @@ TEST_F(ReaderSearch, AllDialoguesLandOnTheThird) {
     ASSERT_EQ(Windows.Printed.size(), 1u);
     EXPECT_EQ(Windows.Printed[0].Inspiration, "\tA calm lake.");
     EXPECT_NE(Windows.EditorTexts.at(0).Text.find("calm lake"), std::string::npos);
+
+    // Locked, the walk opens the sealed files and the page text is the same.
+    TurnLockOn(App.Folder, "lantern", {crypto_pwhash_OPSLIMIT_MIN, crypto_pwhash_MEMLIMIT_MIN});
+    App.Links.CloseLibrary();
+    Open(1);
+    Search("calm");
+    EXPECT_EQ(Title().substr(0, 26), "Veyrant Dialogue -- 2/3 --");
+    Key(KeyCode::Escape);
+    Read().Click(RC::cmdPrint);
+    ASSERT_EQ(Windows.Printed.size(), 2u);
+    EXPECT_EQ(Windows.Printed[1].Inspiration, Windows.Printed[0].Inspiration);
+    EXPECT_EQ(Windows.Printed[1].Dialogue, Windows.Printed[0].Dialogue);
 }
 
 // With a Dialogue open only that Dialogue is searched, and it stays on view.
