@@ -280,10 +280,12 @@ TEST(MirrorSuppose, ATooShortIdeaCanOnlyBeLengthenedAndIsTriedAgain) {
     EXPECT_EQ(driver.Box(MirrorControl::txtResponse).Background, Colour::ColourReady);
     EXPECT_EQ(driver.Text(MirrorControl::txtNote),
               "Ready to enter your text. Continue typing, or press 'Enter' to advance.");
-    // Shortened again, the idea is refused again, and only a filed one turns Cancel into Select.
+    // Shortened again, the idea is refused at each Enter, and only a filed one turns Cancel into
+    // Select.
     for (int key = 0; key < 5; ++key) {
         driver.Backspace();
     }
+    driver.Enter();
     driver.Enter();
     EXPECT_EQ(driver.State().IdeaCount, 1);
     EXPECT_EQ(driver.Text(MirrorControl::cmdNew), "Cancel");
