@@ -88,11 +88,6 @@ struct StorageRun : LibraryStorage {
         return std::nullopt;
     }
 
-    std::string SaveAt(const DateTime& when, const std::string& dialogue) {
-        return PutPair(Folder, when, dialogue);
-    }
-    DateTime DaysAgo(double days) const { return FromDayNumber(DayNumber(Clock.Date) - days); }
-
     bool BuffersKept = false;
 };
 

@@ -15,19 +15,9 @@ const DialogueBuffers Running{"\tA quiet river carves the stone.",
                               "\r\n\r\n\t\x93What is next?\x94\r\n\tWhat you choose.",
                               "Begin with what is nearest to you.", 3};
 
-TEST_F(WorkBuffersTest, TheFourFilesHoldTheDialogueExactly) {
-    ASSERT_TRUE(Buffers.WriteWorkBuffers(Running));
-    EXPECT_EQ(ReadWholeFile(Folder.Exe() / "savei.tmp"), Running.InspirationText);
-    EXPECT_EQ(ReadWholeFile(Folder.Exe() / "savem.tmp"), Running.DialogueText);
-    EXPECT_EQ(ReadWholeFile(Folder.Exe() / "saves.tmp"), Running.SuggestionText);
-    EXPECT_EQ(ReadWholeFile(Folder.Exe() / "savep.tmp"), " 3 \r\n");
-    EXPECT_EQ(Names(Folder.Exe()),
-              (std::vector<std::string>{"savei.tmp", "savem.tmp", "savep.tmp", "saves.tmp"}));
-
-    EXPECT_EQ(Fields(Buffers.ReadWorkBuffers().value().Buffers), Fields(Running));
-}
-
-TEST_F(WorkBuffersTest, ThePriorAgeComesFromTheDateOfTheInspirationBuffer) {
+// The four files hold the Dialogue exactly and read back; the Prior Dialogue's age comes from
+// the date of the inspiration buffer.
+TEST_F(WorkBuffersTest, TheFourFilesHoldTheDialogueAndItsDate) {
     struct Case {
         DateTime Written;
         int Age;
@@ -44,12 +34,19 @@ TEST_F(WorkBuffersTest, ThePriorAgeComesFromTheDateOfTheInspirationBuffer) {
         {{2026, 11, 25, 12, 0, 0}, 0},
     };
     ASSERT_TRUE(Buffers.WriteWorkBuffers(Running));
+    std::string files;
+    for (const auto& name : Names(Folder.Exe())) {
+        files += name + ":" + ReadWholeFile(Folder.Exe() / name) + "|";
+    }
+    EXPECT_EQ(files, "savei.tmp:" + Running.InspirationText + "|savem.tmp:" + Running.DialogueText +
+                         "|savep.tmp: 3 \r\n|saves.tmp:" + Running.SuggestionText + "|");
     for (const auto& c : cases) {
         SetFileDate(Folder.Exe() / "savei.tmp", c.Written);
         const auto prior = Buffers.ReadWorkBuffers();
         ASSERT_TRUE(prior.has_value());
         EXPECT_EQ(prior->PriorAge, c.Age) << c.Written.Day << " " << c.Written.Hour;
         EXPECT_EQ(prior->BufferDate, c.Written);
+        EXPECT_EQ(Fields(prior->Buffers), Fields(Running));
     }
 }
 
@@ -199,27 +196,6 @@ TEST_F(WorkBuffersTest, AFailedWriteLeavesTheOldSetWhole) {
     WriteWholeFile(Folder.Exe(), "not a folder");
     EXPECT_FALSE(Buffers.WriteWorkBuffers(Running));
     EXPECT_EQ(Windows.Boxes.back().Title, "Error 76 Keeping the Dialogue");
-}
-
-// The moments at which the Write window calls on the buffers and the Library, in the order a
-// user meets them: finish, close, reopen, save, New.
-TEST_F(WorkBuffersTest, ADialogueSurvivesClosingAndIsSavedUnderTheDateItWasKept) {
-    // Finished on Friday evening: the buffers are written.
-    ASSERT_TRUE(Buffers.WriteWorkBuffers(Running));
-    SetFileDate(Folder.Exe() / "savei.tmp", {2026, 11, 20, 19, 45, 0});
-
-    // Next start, two days later: the Prior Dialogue reopens with its age.
-    const auto prior = Buffers.ReadWorkBuffers();
-    ASSERT_TRUE(prior.has_value());
-    EXPECT_EQ(prior->PriorAge, 2);
-
-    // Save: the Library names it by the buffers' date, not the click's.
-    ASSERT_TRUE(Library.AddToLibrary(prior->Buffers.InspirationText, prior->Buffers.DialogueText));
-    EXPECT_EQ(Names(Folder.Isp()), std::vector<std::string>{"76112019.450"});
-    // Then the click on New deletes the buffers, and the next reset begins a new Dialogue.
-    Buffers.DeleteWorkBuffers();
-    EXPECT_FALSE(Buffers.ReadWorkBuffers().has_value());
-    EXPECT_EQ(ReadWholeFile(Folder.Dlg() / "76112019.450"), Running.DialogueText);
 }
 
 } // namespace
