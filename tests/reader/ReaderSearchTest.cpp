@@ -185,8 +185,24 @@ TEST_F(ReaderSearch, OpenDialogueAloneIsSearched) {
     EXPECT_EQ(Line(RC::cmdSelect), "\"< Index >\"");
 }
 
-// Cancel keeps a found Topic on view; with nothing found it returns to the list.
+// Cancel keeps a found Topic on view; with nothing found it returns to the list. With no
+// Dialogue saved the search cannot start; elsewhere Enter in the box is always taken, and Esc
+// leaves the search from any of its states.
 TEST_F(ReaderSearch, CancelKeepsWhatWasFound) {
+    Open(1);
+    EXPECT_EQ(Line(RC::cmdSearch), "\"Search\" disabled");
+    App.Links.CloseLibrary();
+    Open(2);
+    Read().Click(RC::cmdSearch);
+    EXPECT_EQ(Line(RC::txtSpin).substr(0, 46), "low \"Search Information | \\tThe Information Li");
+    EXPECT_EQ(Read().KeyPress(KeyCode::Enter, RC::txtSearch), 0);
+    EXPECT_EQ(Line(RC::cmdSearch), "\"Enter >>\"");
+    EXPECT_EQ(Read().KeyPress('w', RC::txtSearch), 'w');
+    Key(KeyCode::Escape);
+    EXPECT_EQ(Line(RC::cmdSearch), "\"Search\"");
+    EXPECT_EQ(Title(), "Veyrant Information Library");
+    App.Links.CloseLibrary();
+
     Open(3);
     Search("row 3");
     Read().Click(RC::cmdSelect);
@@ -251,23 +267,6 @@ TEST_F(ReaderSearch, UnreadableDialogueDoesNotStopTheWalk) {
     Read().Click(RC::cmdSearch);
     EXPECT_EQ(Title().substr(0, 26), "Veyrant Dialogue -- 1/3 --");
     EXPECT_EQ(Windows.Boxes.size(), 2u);
-}
-
-// With no Dialogue saved the search cannot start; elsewhere Enter in the box is always taken.
-TEST_F(ReaderSearch, SearchButtonStatesAndEnter) {
-    Open(1);
-    EXPECT_EQ(Line(RC::cmdSearch), "\"Search\" disabled");
-    App.Links.CloseLibrary();
-    Open(2);
-    Read().Click(RC::cmdSearch);
-    EXPECT_EQ(Line(RC::txtSpin).substr(0, 46), "low \"Search Information | \\tThe Information Li");
-    EXPECT_EQ(Read().KeyPress(KeyCode::Enter, RC::txtSearch), 0);
-    EXPECT_EQ(Line(RC::cmdSearch), "\"Enter >>\"");
-    EXPECT_EQ(Read().KeyPress('w', RC::txtSearch), 'w');
-    // Esc leaves the search from any of its states.
-    Key(KeyCode::Escape);
-    EXPECT_EQ(Line(RC::cmdSearch), "\"Search\"");
-    EXPECT_EQ(Title(), "Veyrant Information Library");
 }
 
 // The hover help of cmdSearch follows the library outside search and the caption inside it; File

@@ -24,6 +24,11 @@
 
 namespace veyrant::testing {
 
+// A Dialogue under way, as the work buffers keep it.
+inline const DialogueBuffers Kept{"\tA quiet river carves the stone.",
+                                  "\r\n\r\n\t\x93What is next?\x94\r\n\tWhat you choose.",
+                                  "Begin with what is nearest to you.", 1};
+
 // A program's worth of storage in a fresh folder under the base, with the clock at noon on 22
 // November 2026.
 struct LibraryStorage {
