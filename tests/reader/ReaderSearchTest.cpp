@@ -230,7 +230,10 @@ TEST_F(ReaderSearch, CancelKeepsWhatWasFound) {
 // A click on the search box: with text waiting it empties the box; during a search or after
 // it, it starts a new search on the full list.
 TEST_F(ReaderSearch, ClickOnTheBoxStartsOver) {
-    for (const std::string before : {"typed", "hit", "ended"}) {
+    for (const auto& [before, caption] :
+         {std::pair<std::string, std::string>{"typed", "\"< Go >\""},
+          {"hit", "\"< Next >\""},
+          {"ended", "\"New\""}}) {
         SCOPED_TRACE(before);
         Open(3);
         Read().Click(RC::cmdSearch);
@@ -238,6 +241,7 @@ TEST_F(ReaderSearch, ClickOnTheBoxStartsOver) {
         if (before != "typed") {
             Read().Click(RC::cmdSearch);
         }
+        EXPECT_EQ(Line(RC::cmdSearch), caption);
         Read().Click(RC::txtSearch);
         EXPECT_EQ(Lines({RC::cmdSearch, RC::txtSearch}), "\"Enter >>\" | \"\" focus");
         EXPECT_EQ(Title(), "Veyrant Knowledge Library -- Search Text");
@@ -299,15 +303,19 @@ TEST_F(ReaderSearch, HoverTextsFollowTheState) {
     }
     Open(3);
     Read().Click(RC::cmdSearch);
-    EXPECT_EQ(hover().substr(0, 30), "Ready to enter the search text");
+    EXPECT_EQ(hover(), "Ready to enter the search text. Then click 'Go' or press 'Enter' to start "
+                       "the search. Or click 'Cancel' to exit search mode.");
     Read().SearchTextChanged("row");
-    EXPECT_EQ(hover().substr(0, 20), "Begin the search. Yo");
+    EXPECT_EQ(hover(), "Begin the search. You may also press 'Enter'. Or click the search text to "
+                       "erase it and begin again.");
     Read().Click(RC::cmdSearch);
-    EXPECT_EQ(hover().substr(0, 23), "Find the next instance.");
+    EXPECT_EQ(hover(), "Find the next instance. You may also press 'Enter'. Or click the search "
+                       "text to cancel and begin another search.");
     Read().Click(RC::txtSearch);
     Read().SearchTextChanged("zebra");
     Read().Click(RC::cmdSearch);
-    EXPECT_EQ(hover().substr(0, 30), "Clear the search text box to b");
+    EXPECT_EQ(hover(), "Clear the search text box to begin another search. Or click 'Cancel' to "
+                       "exit the search.");
 }
 
 } // namespace
