@@ -53,20 +53,11 @@ TEST(FieldReader, FailuresCarryTheirNumbers) {
     }
 }
 
-// The limits of each width read, and an empty field between commas reads as zero.
-TEST(FieldReader, LimitsOfEachWidthAndEmptyFields) {
-    FieldReader reader("32767,-32768,,2147483647,-2147483648");
-    EXPECT_EQ(reader.ReadInt16(), 32767);
-    EXPECT_EQ(reader.ReadInt16(), -32768);
-    EXPECT_EQ(reader.ReadInt16(), 0);
-    EXPECT_EQ(reader.ReadInt32(), 2147483647);
-    EXPECT_EQ(reader.ReadInt32(), INT32_MIN);
-    EXPECT_TRUE(reader.AtEnd());
-}
-
-TEST(FieldReader, StringsQuotedOrBare) {
+// Strings quoted or bare, the limits of each width, and an empty field between commas as zero.
+TEST(FieldReader, StringsQuotedOrBareAndTheLimitsOfEachWidth) {
     FieldReader reader(
-        "\"Parity\", \"a, b\",\"\"\r\n  Liberation Serif  \r\nx,7\r\n\"Tail\" junk,8");
+        "\"Parity\", \"a, b\",\"\"\r\n  Liberation Serif  \r\nx,7\r\n\"Tail\" junk,8,"
+        "32767,-32768,,2147483647,-2147483648");
     EXPECT_EQ(reader.ReadString(), "Parity");
     EXPECT_EQ(reader.ReadString(), "a, b");
     EXPECT_EQ(reader.ReadString(), "");
@@ -76,6 +67,11 @@ TEST(FieldReader, StringsQuotedOrBare) {
     EXPECT_EQ(reader.ReadInt16(), 7);
     EXPECT_EQ(reader.ReadString(), "Tail");
     EXPECT_EQ(reader.ReadInt16(), 8);
+    EXPECT_EQ(reader.ReadInt16(), 32767);
+    EXPECT_EQ(reader.ReadInt16(), -32768);
+    EXPECT_EQ(reader.ReadInt16(), 0);
+    EXPECT_EQ(reader.ReadInt32(), 2147483647);
+    EXPECT_EQ(reader.ReadInt32(), INT32_MIN);
     EXPECT_TRUE(reader.AtEnd());
     EXPECT_THROW(reader.ReadString(), ProgramError);
 }

@@ -13,6 +13,17 @@ namespace {
 
 using testing::TempFolder;
 
+// The number of the error the call throws, 0 if none.
+template <typename Call>
+int ErrorOf(Call call) {
+    try {
+        call();
+    } catch (const ProgramError& error) {
+        return error.Number();
+    }
+    return 0;
+}
+
 // Bytes come back exactly with no line end added; a missing file or folder has its number.
 TEST(WholeFile, BytesComeBackExactlyAndMissingPlacesHaveTheirNumbers) {
     TempFolder folder;
@@ -21,16 +32,8 @@ TEST(WholeFile, BytesComeBackExactlyAndMissingPlacesHaveTheirNumbers) {
     EXPECT_EQ(ReadWholeFile(folder / "savem.tmp"), bytes);
     WriteWholeFile(folder / "savem.tmp", "");
     EXPECT_EQ(ReadWholeFile(folder / "savem.tmp"), "");
-    const auto numberOf = [](auto call) {
-        try {
-            call();
-        } catch (const ProgramError& error) {
-            return error.Number();
-        }
-        return 0;
-    };
-    EXPECT_EQ(numberOf([&] { ReadWholeFile(folder / "absent"); }), ErrorNumber::FileNotFound);
-    EXPECT_EQ(numberOf([&] { WriteWholeFile(folder / "absent" / "file", "x"); }),
+    EXPECT_EQ(ErrorOf([&] { ReadWholeFile(folder / "absent"); }), ErrorNumber::FileNotFound);
+    EXPECT_EQ(ErrorOf([&] { WriteWholeFile(folder / "absent" / "file", "x"); }),
               ErrorNumber::FileNotFound);
 }
 
@@ -58,13 +61,9 @@ TEST(WholeFile, ReadsOnlyARegularFileWithinItsLimit) {
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.Name);
-        int number = 0;
-        try {
-            EXPECT_EQ(ReadWholeFile(folder / c.Name, c.Limit), "eleven char");
-        } catch (const ProgramError& error) {
-            number = error.Number();
-        }
-        EXPECT_EQ(number, c.Number);
+        EXPECT_EQ(
+            ErrorOf([&] { EXPECT_EQ(ReadWholeFile(folder / c.Name, c.Limit), "eleven char"); }),
+            c.Number);
     }
 }
 
@@ -80,23 +79,14 @@ TEST(WholeFile, AWriteThatFailsMidwayLeavesTheOldFileIntact) {
     rlimit small = saved;
     small.rlim_cur = 4096;
     ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &small), 0);
-    int number = 0;
-    try {
-        WriteWholeFile(path, std::string(100000, 'x'));
-    } catch (const ProgramError& error) {
-        number = error.Number();
-    }
+    const int number = ErrorOf([&] { WriteWholeFile(path, std::string(100000, 'x')); });
     setrlimit(RLIMIT_FSIZE, &saved);
     std::signal(SIGXFSZ, previousHandler);
 
     EXPECT_EQ(number, ErrorNumber::DiskFull);
     EXPECT_EQ(ReadWholeFile(path), "old settings");
     // No temporary file is left behind.
-    int files = 0;
-    for ([[maybe_unused]] const auto& entry : std::filesystem::directory_iterator(folder.Path())) {
-        ++files;
-    }
-    EXPECT_EQ(files, 1);
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder.Path()), {}), 1);
 }
 
 // The program's own files are the user's alone whatever the file-creation mask says; an export

@@ -6,18 +6,17 @@ namespace {
 
 using RC = ReaderControl;
 
-class ReaderDialogues : public ReaderFixture {};
-
-TEST_F(ReaderDialogues, EmptyLibraryOffersNothingToStepOrSearch) {
+TEST_F(ReaderFixture, EmptyLibraryOffersNothingToStepOrSearch) {
     Open(1);
+    const std::string shown =
+        "\"Latest\" disabled | \"< Index >\" disabled | 0 rows, selected -1, top 0, split "
+        "back=ListEmpty | low \"Dialogue Library | \\tThere are currently no Dialogues saved in\" "
+        "back=IndexText | \"There are no Dialogues saved in the Library.\"";
+    const auto lines = [&] {
+        return Lines({RC::cmdNext, RC::cmdSelect, RC::List1, RC::txtSpin, RC::txtNote});
+    };
     EXPECT_EQ(Title(), "Veyrant Dialogue Library -- No Dialogues Saved");
-    EXPECT_EQ(Line(RC::cmdNext), "\"Latest\" disabled");
-    EXPECT_EQ(Line(RC::cmdSearch), "\"Search\" disabled");
-    EXPECT_EQ(Line(RC::cmdSelect), "\"< Index >\" disabled");
-    EXPECT_EQ(Line(RC::List1), "0 rows, selected -1, top 0, split back=ListEmpty");
-    EXPECT_EQ(Line(RC::txtSpin), "low \"Dialogue Library | \\tThere are currently no Dialogues "
-                                 "saved in\" back=IndexText");
-    EXPECT_EQ(Line(RC::txtNote), "\"There are no Dialogues saved in the Library.\"");
+    EXPECT_EQ(lines(), shown);
     Key(KeyCode::PageDown);
     Key(KeyCode::Enter);
     // A click that reaches a disabled button, as a screen reader's action might, does nothing.
@@ -25,13 +24,13 @@ TEST_F(ReaderDialogues, EmptyLibraryOffersNothingToStepOrSearch) {
         Read().Click(button);
     }
     EXPECT_EQ(Title(), "Veyrant Dialogue Library -- No Dialogues Saved");
-    EXPECT_EQ(Line(RC::List1), "0 rows, selected -1, top 0, split back=ListEmpty");
+    EXPECT_EQ(lines(), shown);
     EXPECT_TRUE(Windows.Boxes.empty());
 }
 
 // The list runs latest first; a damaged inspiration lists as a format error; Latest opens the
 // newest Dialogue with its age, and stepping goes on to the earlier one.
-TEST_F(ReaderDialogues, ListsLatestFirstAndStepsIntoDialogues) {
+TEST_F(ReaderFixture, ListsLatestFirstAndStepsIntoDialogues) {
     SaveDialogue({2026, 11, 12, 9, 5, 0}, "no tab here");
     SaveDialogue({2026, 11, 20, 15, 30, 0}, "\tA calm lake.");
     Open(1);
@@ -40,8 +39,7 @@ TEST_F(ReaderDialogues, ListsLatestFirstAndStepsIntoDialogues) {
     EXPECT_EQ(
         Read().Controls().List.Rows,
         (std::vector<std::string>{"26-11-20 -- A calm lake.", "26-11-12 -- < format error >"}));
-    EXPECT_EQ(Line(RC::cmdNext), "\"Latest\"");
-    EXPECT_EQ(Line(RC::cmdSearch), "\"Search\"");
+    EXPECT_EQ(Lines({RC::cmdNext, RC::cmdSearch}), "\"Latest\" | \"Search\"");
 
     Read().Click(RC::cmdNext);
     EXPECT_EQ(Title(),
@@ -49,8 +47,7 @@ TEST_F(ReaderDialogues, ListsLatestFirstAndStepsIntoDialogues) {
     EXPECT_EQ(Read().Controls()[RC::txtSpin].Text,
               "Friday, 3:30 pm, November 20, 2026\r\n\r\nInspiration\r\n\r\n\tA calm "
               "lake.\r\n\r\nDialogue\r\n\r\n\t\x93Hello.\x94\r\n\tA reply.");
-    EXPECT_EQ(Line(RC::cmdNext), "\"Earlier >>\"");
-    EXPECT_EQ(Line(RC::cmdPrior), "\"<< Later\" disabled");
+    EXPECT_EQ(Lines({RC::cmdNext, RC::cmdPrior}), "\"Earlier >>\" | \"<< Later\" disabled");
     EXPECT_EQ(App.ReaderSettings.MarkRows[LibraryId::Dialogue], 0);
 
     Key(KeyCode::PageDown);
@@ -64,7 +61,7 @@ TEST_F(ReaderDialogues, ListsLatestFirstAndStepsIntoDialogues) {
 }
 
 // Rows too wide for the list are cut and marked; those that fit stand whole.
-TEST_F(ReaderDialogues, LongInspirationsAreCutToTheListWidth) {
+TEST_F(ReaderFixture, LongInspirationsAreCutToTheListWidth) {
     SaveDialogue({2026, 11, 20, 15, 30, 0}, "\t" + std::string(200, 'w'));
     Open(1);
     const std::string row = Read().Controls().List.Rows.at(0);
@@ -78,7 +75,7 @@ TEST_F(ReaderDialogues, LongInspirationsAreCutToTheListWidth) {
 
 // A file in the Library whose name holds no date the program can read opens as a damaged
 // Dialogue: the box says so and the Reader goes on.
-TEST_F(ReaderDialogues, ANameWithNoDateOpensAsADamagedDialogue) {
+TEST_F(ReaderFixture, ANameWithNoDateOpensAsADamagedDialogue) {
     for (const auto& folder : {Folder.Isp(), Folder.Dlg()}) {
         std::filesystem::create_directories(folder);
         WriteWholeFile(folder / "99999999.999", "\tA name out of any calendar.");
@@ -88,9 +85,9 @@ TEST_F(ReaderDialogues, ANameWithNoDateOpensAsADamagedDialogue) {
     ASSERT_EQ(Windows.Boxes.size(), 1u);
     Read().Click(RC::cmdNext);
     // The scan has named the file already; the opening says it cannot be retrieved.
-    ASSERT_EQ(Windows.Boxes.size(), 2u);
-    EXPECT_EQ(Windows.Boxes[0].Title, "Error 13 Dialogue Library File Names");
-    EXPECT_EQ(Windows.Boxes[1].Title, "Dialogue Library Corrupted -- Cannot Retrieve");
+    EXPECT_EQ(BoxTitles(),
+              (std::vector<std::string>{"Error 13 Dialogue Library File Names",
+                                        "Dialogue Library Corrupted -- Cannot Retrieve"}));
     EXPECT_EQ(Line(RC::cmdDelete), "\"Delete\"");
 }
 

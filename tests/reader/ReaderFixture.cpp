@@ -63,6 +63,22 @@ std::string ReaderFixture::Line(ReaderControl control) {
     return "(hidden)";
 }
 
+std::string ReaderFixture::Lines(std::initializer_list<ReaderControl> controls) {
+    std::string joined;
+    for (const auto control : controls) {
+        joined += (joined.empty() ? "" : " | ") + Line(control);
+    }
+    return joined;
+}
+
+std::vector<std::string> ReaderFixture::BoxTitles() const {
+    std::vector<std::string> titles;
+    for (const auto& box : Windows.Boxes) {
+        titles.push_back(box.Title);
+    }
+    return titles;
+}
+
 void ReaderFixture::Key(int keyCode) {
     Read().KeyDown(keyCode);
 }

@@ -24,8 +24,9 @@ FixedLibrary InformationCatalogue();
 // A whole program in a fresh folder with small fixed libraries, the clock at noon on
 // 22 November 2026, and the Write window's logic wired to the Reader.
 class ReaderFixture : public ::testing::Test {
-protected:
+public:
     ReaderFixture();
+    void TestBody() override {}
 
     // Opens a library as the Write window does: 1 Dialogue, 2 Information, 3 Knowledge,
     // 4 Advanced Knowledge.
@@ -33,10 +34,15 @@ protected:
     Reader& Read() { return *App.Read; }
     // The line of Dump() that shows a control, without its name.
     std::string Line(ReaderControl control);
+    // The lines of several controls, joined by " | ".
+    std::string Lines(std::initializer_list<ReaderControl> controls);
     std::string Title() { return Read().Controls().Title; }
     void Key(int keyCode);
     // Saves a Dialogue at that date as the Write window would.
     void SaveDialogue(const DateTime& when, const std::string& inspiration);
+    std::string ReadIni() { return ReadWholeFile(Folder.Exe() / "Read.ini"); }
+    // The titles of the message boxes shown so far.
+    std::vector<std::string> BoxTitles() const;
 
     TempFolder Temp;
     AppFolder Folder{Temp / "veyrant-sagrel"};

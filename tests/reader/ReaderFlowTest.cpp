@@ -4,19 +4,16 @@ namespace veyrant::testing {
 namespace {
 
 using MC = MirrorControl;
+using RC = ReaderControl;
 
-class ReaderFlow : public ReaderFixture {
-protected:
-    void Press(MC button, MouseButton mouse = MouseButton::Left) {
-        App.Write->MouseDown(button, mouse);
-        App.Write->Click(button);
-    }
-    bool Pressed(MC button) { return App.Write->Controls()[button].PressedIn; }
-};
+void Press(ReaderFixture& t, MC button, MouseButton mouse = MouseButton::Left) {
+    t.App.Write->MouseDown(button, mouse);
+    t.App.Write->Click(button);
+}
 
 // Each library button opens its library with the Write window minimised behind the Reader, and
 // bringing the Write window back closes the Reader and releases the button.
-TEST_F(ReaderFlow, LibraryButtonsOpenTheReaderAndRestoringClosesIt) {
+TEST_F(ReaderFixture, LibraryButtonsOpenTheReaderAndRestoringClosesIt) {
     const struct {
         MC Button;
         MouseButton Mouse;
@@ -30,19 +27,21 @@ TEST_F(ReaderFlow, LibraryButtonsOpenTheReaderAndRestoringClosesIt) {
         {MC::cmdRetrieve, MouseButton::Left, "Veyrant Dialogue Library -- No Dialogues Saved",
          LibraryId::Dialogue},
     };
+    const auto pressed = [&](MC button) { return App.Write->Controls()[button].PressedIn; };
     for (const auto& c : cases) {
-        Press(c.Button, c.Mouse);
+        SCOPED_TRACE(c.Title);
+        Press(*this, c.Button, c.Mouse);
         EXPECT_EQ(Title(), c.Title);
         EXPECT_EQ(App.Write->State().ReadLibrary, c.ReadLibrary);
         EXPECT_EQ(App.Reading.ReaderOpen, ReaderOpenState::Open);
         EXPECT_TRUE(Windows.IsWindowMinimised(WindowId::Mirror));
         EXPECT_TRUE(Windows.IsWindowVisible(WindowId::Read));
-        EXPECT_TRUE(Pressed(c.Button));
+        EXPECT_TRUE(pressed(c.Button));
         EXPECT_FALSE(Windows.Busy);
 
         // The same library is not opened twice.
         const auto events = Windows.WindowEvents.size();
-        Press(c.Button, c.Mouse);
+        Press(*this, c.Button, c.Mouse);
         EXPECT_EQ(Windows.WindowEvents.size(), events);
 
         // The user brings the Write window back.
@@ -51,24 +50,24 @@ TEST_F(ReaderFlow, LibraryButtonsOpenTheReaderAndRestoringClosesIt) {
         EXPECT_EQ(App.Reading.ReaderOpen, ReaderOpenState::Closed);
         EXPECT_FALSE(Windows.IsWindowVisible(WindowId::Read));
         EXPECT_EQ(App.Write->State().ReadLibrary, LibraryId::None);
-        EXPECT_FALSE(Pressed(c.Button));
+        EXPECT_FALSE(pressed(c.Button));
     }
     EXPECT_TRUE(std::filesystem::exists(Folder.Exe() / "Read.ini"));
 
     // Closing the Reader's own window brings the Write window back from minimised.
-    Press(MC::cmdKnow);
+    Press(*this, MC::cmdKnow);
     App.Links.CloseLibrary();
     EXPECT_FALSE(Windows.IsWindowMinimised(WindowId::Mirror));
-    EXPECT_FALSE(Pressed(MC::cmdKnow));
+    EXPECT_FALSE(pressed(MC::cmdKnow));
     EXPECT_EQ(App.Write->State().ReadLibrary, LibraryId::None);
 }
 
 // The backdrop goes when the user minimises the Write window, not when the Reader's opening
 // does, and comes back with the Write window.
-TEST_F(ReaderFlow, BackdropFollowsTheWriteWindow) {
+TEST_F(ReaderFixture, BackdropFollowsTheWriteWindow) {
     Windows.ShowWindow(WindowId::Back);
     App.Back.Load();
-    Press(MC::cmdHelp);
+    Press(*this, MC::cmdHelp);
     App.Write->WindowStateChanged(true);
     EXPECT_TRUE(Windows.IsWindowVisible(WindowId::Back));
     Windows.RestoreWindow(WindowId::Mirror);
@@ -79,6 +78,62 @@ TEST_F(ReaderFlow, BackdropFollowsTheWriteWindow) {
     App.Write->WindowStateChanged(false);
     EXPECT_TRUE(Windows.IsWindowVisible(WindowId::Back));
     EXPECT_EQ(Windows.WindowEvents.back(), "show Mirror");
+}
+
+// The pointer on the bare background of the Write or the Read window: with the backdrop hidden
+// each window's note tells how to bring it back, for seven ticks; with the backdrop up it says
+// nothing of it and silences the backdrop's own hint. Any button there restores the backdrop.
+TEST(BackgroundHelp, TellsHowToRestoreAHiddenBackdropOnEitherWindow) {
+    for (const bool onReader : {false, true}) {
+        SCOPED_TRACE(onReader ? "Read" : "Write");
+        ReaderFixture t;
+        t.App.Back.Load();
+        t.Windows.ShowWindow(WindowId::Back);
+        if (onReader) {
+            t.Open(3);
+        }
+        const TimerId timer = onReader ? TimerId::ReadHover : TimerId::MirrorHover;
+        const auto move = [&] {
+            onReader ? t.Read().MouseMove(RC::Window) : t.App.Write->MouseMove(MC::Panel1);
+        };
+        const auto tick = [&] {
+            onReader ? t.Read().TimerFired(timer) : t.App.Write->TimerFired(timer);
+        };
+        const auto note = [&] {
+            return onReader ? t.Read().Controls()[RC::txtNote].Text
+                            : t.App.Write->Controls()[MC::txtNote].Text;
+        };
+        const std::string instruction = note();
+        t.App.Back.MouseMove();
+        t.App.Back.TimerFired();
+        ASSERT_TRUE(t.App.Back.HintShowing());
+        move();
+        EXPECT_FALSE(t.App.Back.HintShowing());
+        tick();
+        EXPECT_EQ(note(), instruction);
+
+        t.App.Back.MouseDown();
+        ASSERT_FALSE(t.Windows.IsWindowVisible(WindowId::Back));
+        move();
+        EXPECT_EQ(t.Windows.Timers.at(timer), 1250);
+        tick();
+        EXPECT_EQ(note(), "Click to restore the background that surrounds the window.");
+        // Further moves over the same place neither restart the count nor the help.
+        const auto starts = t.Windows.TimerStarts[timer];
+        move();
+        EXPECT_EQ(t.Windows.TimerStarts[timer], starts);
+        for (int ticks = 0; ticks < 7; ++ticks) {
+            tick();
+        }
+        EXPECT_EQ(note(), instruction);
+
+        for (const auto button : {MouseButton::Left, MouseButton::Right, MouseButton::Middle}) {
+            t.App.Back.MouseDown();
+            onReader ? t.Read().MouseDown(RC::Window, button)
+                     : t.App.Write->MouseDown(MC::Window, button);
+            EXPECT_TRUE(t.Windows.IsWindowVisible(WindowId::Back));
+        }
+    }
 }
 
 } // namespace

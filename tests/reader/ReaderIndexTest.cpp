@@ -1,4 +1,5 @@
 #include "ReaderFixture.h"
+#include "app/SettingsFiles.h"
 #include "core/KeyCodes.h"
 
 namespace veyrant::testing {
@@ -6,135 +7,183 @@ namespace {
 
 using RC = ReaderControl;
 
-class ReaderIndex : public ReaderFixture {};
-
 // A Section of Index-1 opens Index-2 at its row, split, whatever the saved mode; a Topic then
 // shows in the saved mode, and the next Section's row is split again.
-TEST_F(ReaderIndex, SectionsShowSplitAndTopicsInTheSavedMode) {
+TEST_F(ReaderFixture, SectionsShowSplitAndTopicsInTheSavedMode) {
     App.UserSettings.WindowMode[LibraryId::Knowledge] = 1;
     Open(3);
     EXPECT_EQ(Title(), "Veyrant Knowledge Library");
-    EXPECT_EQ(Line(RC::List1), "3 rows, selected -1, top 0, split back=ListInUse");
-    EXPECT_EQ(Line(RC::cmdSelect), "\"< Index 1 >\"");
-    EXPECT_EQ(Line(RC::cmdNext), "\"First\"");
-    EXPECT_EQ(Line(RC::cmdPrior), "\"<< Prior\" disabled");
-
+    EXPECT_EQ(Lines({RC::List1, RC::cmdSelect, RC::cmdNext, RC::cmdPrior}),
+              "3 rows, selected -1, top 0, split back=ListInUse | \"< Index 1 >\" | \"First\" | "
+              "\"<< Prior\" disabled");
+    const std::string second = "Veyrant Knowledge Library -- 5/6/7 -- < Second >";
+    const std::string c = "Veyrant Knowledge Library -- 6/6/7 -- C";
+    const std::string cShown = "(hidden) | high \"C |  | \\tText of row 5. | \" back=ReadingText | "
+                               "\"Next >>\" | \"Merge\" disabled | \"< Index >\"";
+    const std::string third = "Veyrant Knowledge Library -- 7/7/7 -- < Third >";
+    const std::string thirdShown =
+        "7 rows, selected 6, top 3, split back=ListInUse | low \"< Third > |  | \\tText of row 6. "
+        "| \" back=IndexText | \"Next >>\" disabled | \"Merge\" | \"< Index >\"";
     const struct {
-        const char* Action;
-        const char* Title;
-        const char* List;
-        const char* Text;
-        const char* Next;
-        const char* Print;
+        int Key; // 0: a click on Section 2
+        std::string Title;
+        std::string Shown; // List1 | txtSpin | cmdNext | cmdPrint | cmdSelect
     } steps[] = {
-        {"click Section 2", "Veyrant Knowledge Library -- 5/6/7 -- < Second >",
-         "7 rows, selected 4, top 1, split back=ListInUse",
-         "low \"< Second > |  | \\tText of row 4. | \" back=IndexText", "\"Next >>\"", "\"Merge\""},
-        {"down", "Veyrant Knowledge Library -- 6/6/7 -- C", "(hidden)",
-         "high \"C |  | \\tText of row 5. | \" back=ReadingText", "\"Next >>\"",
-         "\"Merge\" disabled"},
-        {"down", "Veyrant Knowledge Library -- 7/7/7 -- < Third >",
-         "7 rows, selected 6, top 3, split back=ListInUse",
-         "low \"< Third > |  | \\tText of row 6. | \" back=IndexText", "\"Next >>\" disabled",
-         "\"Merge\""},
-        {"page down at the end", "Veyrant Knowledge Library -- 7/7/7 -- < Third >",
-         "7 rows, selected 6, top 3, split back=ListInUse",
-         "low \"< Third > |  | \\tText of row 6. | \" back=IndexText", "\"Next >>\" disabled",
-         "\"Merge\""},
-        {"up", "Veyrant Knowledge Library -- 6/6/7 -- C", "(hidden)",
-         "high \"C |  | \\tText of row 5. | \" back=ReadingText", "\"Next >>\"",
-         "\"Merge\" disabled"},
+        {0, second,
+         "7 rows, selected 4, top 1, split back=ListInUse | low \"< Second > |  | \\tText of row "
+         "4. | \" back=IndexText | \"Next >>\" | \"Merge\" | \"< Index >\""},
+        {KeyCode::Down, c, cShown},
+        {KeyCode::Down, third, thirdShown},
+        {KeyCode::PageDown, third, thirdShown}, // at the end
+        {KeyCode::Up, c, cShown},
     };
     for (const auto& step : steps) {
-        const std::string action = step.Action;
-        if (action == "click Section 2") {
-            Read().ListRowClicked(1);
-        } else if (action == "down") {
-            Key(KeyCode::Down);
-        } else if (action == "up") {
-            Key(KeyCode::Up);
-        } else {
-            Key(KeyCode::PageDown);
-        }
-        EXPECT_EQ(Title(), step.Title) << action;
-        EXPECT_EQ(Line(RC::List1), step.List) << action;
-        EXPECT_EQ(Line(RC::txtSpin), step.Text) << action;
-        EXPECT_EQ(Line(RC::cmdNext), step.Next) << action;
-        EXPECT_EQ(Line(RC::cmdPrint), step.Print) << action;
-        EXPECT_EQ(Line(RC::cmdSelect), "\"< Index >\"") << action;
+        SCOPED_TRACE(step.Title);
+        step.Key == 0 ? Read().ListRowClicked(1) : Key(step.Key);
+        EXPECT_EQ(Title(), step.Title);
+        EXPECT_EQ(Lines({RC::List1, RC::txtSpin, RC::cmdNext, RC::cmdPrint, RC::cmdSelect}),
+                  step.Shown);
     }
     EXPECT_EQ(App.Reading.CurRow[LibraryId::Knowledge], 5);
 }
 
 // The index button toggles Index-1 and Index-2 by its caption, and from an open row goes back to
 // Index-1.
-TEST_F(ReaderIndex, IndexButtonTogglesTheLists) {
+TEST_F(ReaderFixture, IndexButtonTogglesTheLists) {
     App.UserSettings.WindowMode[LibraryId::Knowledge] = 1;
     Open(3);
     Read().Click(RC::cmdSelect);
-    EXPECT_EQ(Line(RC::cmdSelect), "\"< Index 2 >\"");
     // Index-2 with nothing open fills the window with the list in the expanded mode.
-    EXPECT_EQ(Line(RC::List1), "7 rows, selected -1, top 0, expanded back=ListInUse");
-    EXPECT_EQ(Line(RC::txtSpin), "(hidden)");
-    EXPECT_EQ(Line(RC::txtNote),
+    EXPECT_EQ(Lines({RC::cmdSelect, RC::List1, RC::txtSpin, RC::txtNote}),
+              "\"< Index 2 >\" | 7 rows, selected -1, top 0, expanded back=ListInUse | (hidden) | "
               "\"Select a Topic. Or click 'Index 2' to collapse the list, then select a Section. "
               "Click 'Window' to show or remove the instructions.\"");
-
+    const std::string index1 = "\"< Index 1 >\" | 3 rows, selected -1, top 0, split back=ListInUse";
     Read().Click(RC::cmdSelect);
-    EXPECT_EQ(Line(RC::cmdSelect), "\"< Index 1 >\"");
-    EXPECT_EQ(Line(RC::List1), "3 rows, selected -1, top 0, split back=ListInUse");
-
+    EXPECT_EQ(Lines({RC::cmdSelect, RC::List1}), index1);
     Read().ListRowClicked(0);
     Key(KeyCode::Down);
     EXPECT_EQ(App.Reading.CurRow[LibraryId::Knowledge], 1);
     Key(KeyCode::Escape);
     EXPECT_EQ(Title(), "Veyrant Knowledge Library");
-    EXPECT_EQ(Line(RC::List1), "3 rows, selected -1, top 0, split back=ListInUse");
-}
+    EXPECT_EQ(Lines({RC::cmdSelect, RC::List1}), index1);
 
-// The first row of the Information Library names its place among 185 rows and its Section's
-// fourteen.
-TEST_F(ReaderIndex, InformationCaptionCountsRowSectionAndLibrary) {
+    // The first row of the Information Library names its place among 185 rows and its
+    // Section's fourteen.
+    App.Links.CloseLibrary();
     Open(2);
     Read().Click(RC::cmdNext);
     EXPECT_EQ(Title(),
               "Veyrant Information Library -- 1/14/185 -- < Introduction for the New User >");
-    EXPECT_EQ(Line(RC::cmdPrior), "\"<< Prior\" disabled");
-    EXPECT_EQ(Line(RC::List1), "185 rows, selected 0, top 0, split back=ListInUse");
+    EXPECT_EQ(Lines({RC::cmdPrior, RC::List1}),
+              "\"<< Prior\" disabled | 185 rows, selected 0, top 0, split back=ListInUse");
 }
 
 // Index-1 keeps the window split: Space explains instead of toggling. A Topic toggles, and the
-// mode is kept for that library.
-TEST_F(ReaderIndex, WindowModeTogglesOnlyWithinASection) {
+// mode is kept for that library. F1 explains the window, and typing goes nowhere.
+TEST_F(ReaderFixture, WindowModeTogglesOnlyWithinASection) {
     Open(4);
     Key(KeyCode::Space);
-    ASSERT_EQ(Windows.Boxes.size(), 1u);
-    EXPECT_EQ(Windows.Boxes[0].Title, "Split Window Mode for Section Display");
     EXPECT_EQ(Line(RC::List1), "1 rows, selected -1, top 0, split back=ListInUse");
-
     Read().ListRowClicked(0);
     Key(KeyCode::Down);
     EXPECT_EQ(Line(RC::txtSpin), "low \"X |  | \\tText of row 1. | \" back=ReadingText");
     Read().Click(RC::txtSpin);
     EXPECT_EQ(App.UserSettings.WindowMode[LibraryId::Advanced], 1);
-    EXPECT_EQ(Line(RC::txtSpin), "high \"X |  | \\tText of row 1. | \" back=ReadingText");
-    EXPECT_EQ(Line(RC::List1), "(hidden)");
+    EXPECT_EQ(Lines({RC::txtSpin, RC::List1}),
+              "high \"X |  | \\tText of row 1. | \" back=ReadingText | (hidden)");
     Key(KeyCode::Space);
     EXPECT_EQ(App.UserSettings.WindowMode[LibraryId::Advanced], 0);
     EXPECT_EQ(Line(RC::List1), "3 rows, selected 1, top 0, split back=IndexText");
-    EXPECT_EQ(Windows.Boxes.size(), 1u);
-}
-
-TEST_F(ReaderIndex, FunctionKeyOneExplainsTheWindow) {
-    Open(3);
     Key(KeyCode::F1);
-    ASSERT_EQ(Windows.Boxes.size(), 1u);
-    EXPECT_EQ(Windows.Boxes[0].Title, "Veyrant Sagrel Help");
-    EXPECT_EQ(Windows.Boxes[0].Text.substr(0, 46),
+    EXPECT_EQ(BoxTitles(), (std::vector<std::string>{"Split Window Mode for Section Display",
+                                                     "Veyrant Sagrel Help"}));
+    EXPECT_EQ(Windows.Boxes[1].Text.substr(0, 46),
               "The Read Window instructions are available whe");
-    // Typing goes nowhere: the text is never edited.
     EXPECT_EQ(Read().KeyPress('a', RC::txtCursor), 0);
     EXPECT_EQ(Read().KeyPress('a', RC::txtSpin), 0);
+}
+
+// Marks of other libraries survive the close; a marked library opens at its mark in Index-2 and
+// the mark serves once; a mark in the Advanced Knowledge Library wins over the library asked for.
+TEST_F(ReaderFixture, MarksReopenOnceAndOthersSurvive) {
+    const auto put = [&](const std::string& text) {
+        WriteWholeFile(Folder.Exe() / "Read.ini", text);
+    };
+    put(" 0  7 \r\n 0  3 \r\n 1  5 \r\n 0  0 \r\n");
+    Open(2);
+    EXPECT_EQ(Title(), "Veyrant Information Library");
+    App.Links.CloseLibrary();
+    EXPECT_EQ(ReadIni(), " 0 -1 \r\n 0 -1 \r\n 1  5 \r\n 0  0 \r\n");
+    put(" 0 -1 \r\n 0 -1 \r\n 1  3 \r\n 0  0 \r\n");
+    Open(3);
+    EXPECT_EQ(Title(), "Veyrant Knowledge Library -- 4/4/7 -- B");
+    App.Links.CloseLibrary();
+    EXPECT_EQ(ReadIni(), " 0 -1 \r\n 0 -1 \r\n 0 -1 \r\n 0  0 \r\n");
+    put(" 0 -1 \r\n 0 -1 \r\n 0 -1 \r\n 1  2 \r\n");
+    Open(3);
+    EXPECT_EQ(Title(), "Veyrant Knowledge Library");
+    App.Links.CloseLibrary();
+    Open(2);
+    EXPECT_EQ(Title(), "Veyrant Advanced Knowledge Library -- 3/3/3 -- Y");
+    App.Links.CloseLibrary();
+    EXPECT_EQ(ReadIni().substr(24), " 0  2 \r\n");
+}
+
+// Each right-click in the text box moves the font one step on, back to the list; the release
+// that follows is no window toggle.
+TEST_F(ReaderFixture, RightClickCyclesTheFontSteps) {
+    Open(3);
+    Read().ListRowClicked(0);
+    Read().Click(RC::cmdNext);
+    const struct {
+        int Step;
+        double Size;
+        bool Bold;
+        int ListHeight;
+    } steps[] = {{2, 13.5, false, 2430}, {3, 15, false, 2340}, {1, 12, true, 2595}};
+    for (const auto& step : steps) {
+        SCOPED_TRACE(step.Step);
+        Read().MouseDown(RC::txtSpin, MouseButton::Right);
+        Read().Click(RC::txtSpin);
+        const auto& spin = Read().Controls()[RC::txtSpin];
+        EXPECT_EQ(App.UserSettings.ReaderFontStep, step.Step);
+        EXPECT_EQ(spin.FontSize, step.Size);
+        EXPECT_EQ(spin.FontBold, step.Bold);
+        EXPECT_EQ(Read().Controls()[RC::List1].Height, step.ListHeight);
+        EXPECT_EQ(Title(), "Veyrant Knowledge Library");
+    }
+    EXPECT_EQ(BoxTitles(), std::vector<std::string>(3, "Change Font Size"));
+    SaveSettings(App);
+    EXPECT_EQ(ReadWholeFile(Folder.Exe() / "Tolmira.ini").substr(0, 10), " 1 \r\n 1 \r\n");
+    // Where the step's box took the right button's release, the next left click still counts.
+    Read().MouseDown(RC::txtSpin, MouseButton::Right);
+    Read().MouseDown(RC::txtSpin, MouseButton::Left);
+    Read().Click(RC::txtSpin);
+    EXPECT_EQ(Windows.Boxes.back().Title, "Split Window Mode for Section Display");
+}
+
+// Hover help comes one tick after the pointer and gives way at the eighth tick.
+TEST_F(ReaderFixture, HoverHelpStandsSevenTicks) {
+    Open(3);
+    Read().MouseMove(RC::cmdNext);
+    EXPECT_EQ(Windows.Timers.at(TimerId::ReadHover), 1250);
+    EXPECT_EQ(Line(RC::cmdNext), "\"First\" ink=HoverInk");
+    for (int tick = 1; tick <= 7; ++tick) {
+        Read().TimerFired(TimerId::ReadHover);
+        EXPECT_EQ(Line(RC::txtNote), "\"Display the first Section content. You may also press "
+                                     "the 'Down' arrow or page key.\" ink=HelpInk")
+            << tick;
+    }
+    Read().TimerFired(TimerId::ReadHover);
+    EXPECT_EQ(Line(RC::txtNote).substr(0, 20), "\"Select a Section to");
+    EXPECT_EQ(Windows.Timers.count(TimerId::ReadHover), 0u);
+
+    Read().MouseMove(RC::txtNote);
+    EXPECT_EQ(Line(RC::txtNote), "\"Function key alternates for mouse clicks.\" ink=HelpInk");
+    Read().TimerFired(TimerId::ReadHover);
+    EXPECT_EQ(Line(RC::txtNote), "\"F1=Help  SpaceBar=Window  Page/ArrowUp=Prior  "
+                                 "Page/ArrowDown=Next  Esc=Index/Cancel\" ink=HelpInk");
 }
 
 } // namespace

@@ -5,7 +5,6 @@
 #include "core/KeyCodes.h"
 #include "storage/LibraryLock.h"
 
-#include <filesystem>
 #include <sodium.h>
 
 namespace veyrant::testing {
@@ -31,74 +30,60 @@ protected:
         SaveDialogue({2026, 11, 15, 10, 0, 0}, "\tA calm lake.");
         SaveDialogue({2026, 11, 20, 15, 30, 0}, "\tStones in the river.");
     }
-    std::string Note() { return Line(RC::txtNote); }
+    bool Selected(const std::string& selection) {
+        return Read().Dump().find("Selection: " + selection) != std::string::npos;
+    }
 };
 
-const char* const NextNote =
-    "\"Click 'Next' or press 'Enter' to search for the next instance. Click the text for a new "
-    "search. Click 'Cancel' to exit search mode.\"";
-const char* const NotFoundNote =
-    "\"The search is complete. The text was not found. Click 'New' for a new search. Click "
-    "'Cancel' to exit search mode.\"";
-
 // A fixed library is walked from row 0 through the composed text of each row, title included,
-// without regard to case; a Section found reads in the reading colour; leading blanks count.
+// without regard to case; a Section found reads in the reading colour. Nothing found: the words
+// differ in case between the libraries, as designed; a leading blank is kept, so " text" is not
+// found where every "Text" follows a tab.
 TEST_F(ReaderSearch, FixedLibraryWalksTitlesAndTexts) {
-    const struct {
-        const char* Text;
-        const char* Title;
-        const char* Spin;
-        const char* List;
-        const char* Selection;
-    } cases[] = {
-        {"a1", "Veyrant Knowledge Library -- 3/4/7 -- A1",
-         "low \"A1 |  | \\tText of row 2. | \" back=ReadingText",
-         "7 rows, selected 2, top 0, split back=IndexText", "Selection: 0+2 \"A1\""},
-        {"ROW 5", "Veyrant Knowledge Library -- 6/6/7 -- C",
-         "low \"C |  | \\tText of row 5. | \" back=ReadingText",
-         "7 rows, selected 5, top 2, split back=IndexText", "Selection: 14+5 \"row 5\""},
-        // A Section found by the search shows as a Topic does, not in the index colour.
-        {"second", "Veyrant Knowledge Library -- 5/6/7 -- < Second >",
-         "low \"< Second > |  | \\tText of row 4. | \" back=ReadingText",
-         "7 rows, selected 4, top 1, split back=IndexText", "Selection: 2+6 \"Second\""},
-    };
-    for (const auto& c : cases) {
-        Open(3);
-        Search(c.Text);
-        EXPECT_EQ(Title(), c.Title) << c.Text;
-        EXPECT_EQ(Line(RC::txtSpin), c.Spin) << c.Text;
-        EXPECT_EQ(Line(RC::List1), c.List) << c.Text;
-        EXPECT_NE(Read().Dump().find(c.Selection), std::string::npos) << Read().Dump();
-        EXPECT_EQ(Line(RC::txtSearch), "\"" + std::string(c.Text) + "\" focus");
-        EXPECT_EQ(Line(RC::cmdSelect), "\"Cancel\"") << c.Text;
-        App.Links.CloseLibrary();
-    }
-}
-
-// Nothing found: the words differ in case between the libraries, as designed; a leading blank is
-// kept, so " text" is not found where every "Text" follows a tab.
-TEST_F(ReaderSearch, NothingFoundHasEachLibrarysWords) {
     SaveThree();
     const struct {
         int Library;
         const char* Text;
-        const char* Words;
+        const char* Title;
+        const char* Shown; // txtSpin | List1 | txtSearch, or the words and note of nothing found
+        const char* Selection;
     } cases[] = {
-        {3, "zebra", "\"No text found\""},
-        {3, " text", "\"No text found\""},
-        {4, "zebra", "\"No text found\""},
-        {1, "zebra", "\"No Text found\""},
+        {3, "a1", "Veyrant Knowledge Library -- 3/4/7 -- A1",
+         "low \"A1 |  | \\tText of row 2. | \" back=ReadingText | 7 rows, selected 2, top 0, "
+         "split back=IndexText | \"a1\" focus",
+         "0+2 \"A1\""},
+        {3, "ROW 5", "Veyrant Knowledge Library -- 6/6/7 -- C",
+         "low \"C |  | \\tText of row 5. | \" back=ReadingText | 7 rows, selected 5, top 2, "
+         "split back=IndexText | \"ROW 5\" focus",
+         "14+5 \"row 5\""},
+        {3, "second", "Veyrant Knowledge Library -- 5/6/7 -- < Second >",
+         "low \"< Second > |  | \\tText of row 4. | \" back=ReadingText | 7 rows, selected 4, top "
+         "1, split back=IndexText | \"second\" focus",
+         "2+6 \"Second\""},
+        {3, " text", "Veyrant Knowledge Library -- Search Text", "\"No text found\"", ""},
+        {4, "zebra", "Veyrant Advanced Knowledge Library -- Search Text", "\"No text found\"", ""},
+        {1, "zebra", "Veyrant Dialogue Library -- Search Text", "\"No Text found\"", ""},
     };
     for (const auto& c : cases) {
+        SCOPED_TRACE(c.Text);
         Open(c.Library);
         Read().Click(RC::cmdSearch);
         Read().SearchTextChanged(c.Text);
         EXPECT_EQ(Line(RC::cmdSearch), "\"< Go >\"");
         EnterInBox();
-        EXPECT_EQ(Line(RC::txtSearch), std::string(c.Words)) << c.Text;
-        EXPECT_EQ(Note(), NotFoundNote) << c.Text;
-        // The list is on view again, split, for the next search.
-        EXPECT_NE(Line(RC::List1).find("split back=ListInUse"), std::string::npos) << c.Text;
+        EXPECT_EQ(Line(RC::cmdSelect), "\"Cancel\"");
+        if (*c.Selection != 0) {
+            EXPECT_EQ(Title(), c.Title);
+            EXPECT_EQ(Lines({RC::txtSpin, RC::List1, RC::txtSearch}), c.Shown);
+            EXPECT_TRUE(Selected(c.Selection)) << Read().Dump();
+        } else {
+            EXPECT_EQ(Line(RC::txtSearch), c.Shown);
+            EXPECT_EQ(Line(RC::txtNote),
+                      "\"The search is complete. The text was not found. Click 'New' for a new "
+                      "search. Click 'Cancel' to exit search mode.\"");
+            // The list is on view again, split, for the next search.
+            EXPECT_NE(Line(RC::List1).find("split back=ListInUse"), std::string::npos);
+        }
         App.Links.CloseLibrary();
     }
 }
@@ -108,18 +93,17 @@ TEST_F(ReaderSearch, OverlappingHitsCountAndTheWalkEnds) {
     App.Libraries[LibraryId::Advanced] = LibraryOf({"< Aaa >", "\tX"});
     Open(4);
     Search("aa");
-    EXPECT_NE(Read().Dump().find("Selection: 2+2 \"Aa\""), std::string::npos) << Read().Dump();
+    EXPECT_TRUE(Selected("2+2 \"Aa\"")) << Read().Dump();
     EXPECT_EQ(Read().State().HitCount, 1);
     Read().Click(RC::cmdSearch);
-    EXPECT_NE(Read().Dump().find("Selection: 3+2 \"aa\""), std::string::npos) << Read().Dump();
+    EXPECT_TRUE(Selected("3+2 \"aa\"")) << Read().Dump();
     EXPECT_EQ(Read().State().HitCount, 2);
     EnterInBox();
-    EXPECT_EQ(Line(RC::txtSearch), "\"Search complete\"");
-    EXPECT_EQ(Note(), "\"The search is complete with 2 instances found, the last displayed. "
-                      "Click 'Cancel' to exit search mode.\"");
-    // The last hit stays on view and selected.
-    EXPECT_NE(Read().Dump().find("Selection: 3+2 \"aa\""), std::string::npos);
-    // Enter at the end does nothing more, and never reaches cmdSelect.
+    EXPECT_EQ(Lines({RC::txtSearch, RC::txtNote}),
+              "\"Search complete\" | \"The search is complete with 2 instances found, the last "
+              "displayed. Click 'Cancel' to exit search mode.\"");
+    // The last hit stays on view and selected; Enter at the end does nothing more.
+    EXPECT_TRUE(Selected("3+2 \"aa\""));
     EnterInBox();
     EXPECT_EQ(Line(RC::cmdSelect), "\"Cancel\"");
 }
@@ -131,33 +115,30 @@ TEST_F(ReaderSearch, AllDialoguesLandOnTheThird) {
     Open(1);
     Read().Click(RC::cmdSearch);
     EXPECT_EQ(Title(), "Veyrant Dialogue Library -- Search Text");
-    EXPECT_EQ(Line(RC::txtSpin),
-              "low \"Search Dialogues | \\tWhen you start a search with only the "
-              "Ind\" back=IndexText");
-    EXPECT_EQ(Note(), "\"Search all Dialogues. Enter the text, then click 'Go' or press 'Enter'. "
-                      "Click 'Cancel' to exit the search.\"");
-    EXPECT_EQ(Line(RC::cmdSearch), "\"Enter >>\"");
+    EXPECT_EQ(Lines({RC::txtSpin, RC::txtNote, RC::cmdSearch}),
+              "low \"Search Dialogues | \\tWhen you start a search with only the Ind\" "
+              "back=IndexText | \"Search all Dialogues. Enter the text, then click 'Go' or press "
+              "'Enter'. Click 'Cancel' to exit the search.\" | \"Enter >>\"");
     Read().SearchTextChanged("HERON");
     Read().Click(RC::cmdSearch);
-    EXPECT_EQ(Title(), "Veyrant Dialogue -- 1/3 -- Thursday, 9:05 am, November 12, 2026 -- 10/21 "
-                       "Days Old/Max");
+    const std::string heron = "Veyrant Dialogue -- 1/3 -- Thursday, 9:05 am, November 12, 2026 "
+                              "-- 10/21 Days Old/Max";
+    EXPECT_EQ(Title(), heron);
     EXPECT_EQ(Line(RC::List1), "3 rows, selected 2, top 0, split back=IndexText");
-    EXPECT_NE(Read().Dump().find("Selection: 63+5 \"heron\""), std::string::npos) << Read().Dump();
+    EXPECT_TRUE(Selected("63+5 \"heron\"")) << Read().Dump();
     Read().Click(RC::cmdSearch);
     EXPECT_EQ(Line(RC::txtSearch), "\"Search complete\"");
     Key(KeyCode::Escape);
-    EXPECT_EQ(Title(), "Veyrant Dialogue -- 1/3 -- Thursday, 9:05 am, November 12, 2026 -- 10/21 "
-                       "Days Old/Max");
-    EXPECT_EQ(Line(RC::txtSearch), "\"Search not active\" disabled ink=IndexText");
-    EXPECT_EQ(Line(RC::cmdSelect), "\"< Index >\"");
+    EXPECT_EQ(Title(), heron);
+    EXPECT_EQ(Lines({RC::txtSearch, RC::cmdSelect}),
+              "\"Search not active\" disabled ink=IndexText | \"< Index >\"");
     Read().Click(RC::cmdSearch);
     EXPECT_EQ(Title(), "Veyrant Dialogue Library -- Search Text");
 
     // Past the last hit the walk reads the earliest; Print and File still take the one on show.
     Read().SearchTextChanged("calm");
-    for (int click = 0; click < 2; ++click) {
-        Read().Click(RC::cmdSearch);
-    }
+    Read().Click(RC::cmdSearch);
+    Read().Click(RC::cmdSearch);
     Key(KeyCode::Escape);
     Read().Click(RC::cmdPrint);
     Read().Click(RC::cmdFile);
@@ -187,10 +168,12 @@ TEST_F(ReaderSearch, OpenDialogueAloneIsSearched) {
     Search("REPLY");
     EXPECT_EQ(Title(), title);
     EXPECT_NE(Read().Dump().find("+5 \"reply\""), std::string::npos) << Read().Dump();
-    EXPECT_EQ(Note(), NextNote);
+    EXPECT_EQ(Line(RC::txtNote), "\"Click 'Next' or press 'Enter' to search for the next instance. "
+                                 "Click the text for a new search. Click 'Cancel' to exit search "
+                                 "mode.\"");
     Read().Click(RC::cmdSearch);
-    EXPECT_EQ(Note(), "\"The search is complete with 1 instances found, the last displayed. "
-                      "Click 'Cancel' to exit search mode.\"");
+    EXPECT_EQ(Line(RC::txtNote), "\"The search is complete with 1 instances found, the last "
+                                 "displayed. Click 'Cancel' to exit search mode.\"");
     // A new search finds nothing there: the heron is in another Dialogue.
     Read().Click(RC::txtSearch);
     EXPECT_EQ(Line(RC::cmdSearch), "\"Enter >>\"");
@@ -202,15 +185,32 @@ TEST_F(ReaderSearch, OpenDialogueAloneIsSearched) {
     EXPECT_EQ(Line(RC::cmdSelect), "\"< Index >\"");
 }
 
-// Cancel keeps a found Topic on view; with nothing found it returns to the list.
+// Cancel keeps a found Topic on view; with nothing found it returns to the list. With no
+// Dialogue saved the search cannot start; elsewhere Enter in the box is always taken, and Esc
+// leaves the search from any of its states.
 TEST_F(ReaderSearch, CancelKeepsWhatWasFound) {
+    Open(1);
+    EXPECT_EQ(Line(RC::cmdSearch), "\"Search\" disabled");
+    App.Links.CloseLibrary();
+    Open(2);
+    Read().Click(RC::cmdSearch);
+    EXPECT_EQ(Line(RC::txtSpin).substr(0, 46), "low \"Search Information | \\tThe Information Li");
+    EXPECT_EQ(Read().KeyPress(KeyCode::Enter, RC::txtSearch), 0);
+    EXPECT_EQ(Line(RC::cmdSearch), "\"Enter >>\"");
+    EXPECT_EQ(Read().KeyPress('w', RC::txtSearch), 'w');
+    Key(KeyCode::Escape);
+    EXPECT_EQ(Line(RC::cmdSearch), "\"Search\"");
+    EXPECT_EQ(Title(), "Veyrant Information Library");
+    App.Links.CloseLibrary();
+
     Open(3);
     Search("row 3");
     Read().Click(RC::cmdSelect);
     EXPECT_EQ(Title(), "Veyrant Knowledge Library -- 4/4/7 -- B");
-    EXPECT_EQ(Line(RC::txtSpin), "low \"B |  | \\tText of row 3. | \" back=ReadingText");
-    EXPECT_EQ(Line(RC::List1), "7 rows, selected -1, top 0, split back=IndexText");
-    EXPECT_EQ(Read().Dump().find("Selection:"), std::string::npos);
+    EXPECT_EQ(Lines({RC::txtSpin, RC::List1}),
+              "low \"B |  | \\tText of row 3. | \" back=ReadingText | 7 rows, selected -1, top 0, "
+              "split back=IndexText");
+    EXPECT_FALSE(Selected(""));
 
     Search("zebra");
     Key(KeyCode::Escape);
@@ -230,27 +230,26 @@ TEST_F(ReaderSearch, CancelKeepsWhatWasFound) {
 // A click on the search box: with text waiting it empties the box; during a search or after
 // it, it starts a new search on the full list.
 TEST_F(ReaderSearch, ClickOnTheBoxStartsOver) {
-    const struct {
-        const char* Before; // what has been done
-        const char* CaptionBefore;
-    } cases[] = {{"typed", "\"< Go >\""}, {"hit", "\"< Next >\""}, {"ended", "\"New\""}};
-    for (const auto& c : cases) {
+    for (const auto& [before, caption] :
+         {std::pair<std::string, std::string>{"typed", "\"< Go >\""},
+          {"hit", "\"< Next >\""},
+          {"ended", "\"New\""}}) {
+        SCOPED_TRACE(before);
         Open(3);
         Read().Click(RC::cmdSearch);
-        Read().SearchTextChanged(std::string(c.Before) == "ended" ? "zebra" : "row");
-        if (std::string(c.Before) != "typed") {
+        Read().SearchTextChanged(before == "ended" ? "zebra" : "row");
+        if (before != "typed") {
             Read().Click(RC::cmdSearch);
         }
-        EXPECT_EQ(Line(RC::cmdSearch), c.CaptionBefore) << c.Before;
+        EXPECT_EQ(Line(RC::cmdSearch), caption);
         Read().Click(RC::txtSearch);
-        EXPECT_EQ(Line(RC::cmdSearch), "\"Enter >>\"") << c.Before;
-        EXPECT_EQ(Line(RC::txtSearch), "\"\" focus") << c.Before;
-        EXPECT_EQ(Title(), "Veyrant Knowledge Library -- Search Text") << c.Before;
-        EXPECT_EQ(Read().Dump().find("Selection:"), std::string::npos) << c.Before;
+        EXPECT_EQ(Lines({RC::cmdSearch, RC::txtSearch}), "\"Enter >>\" | \"\" focus");
+        EXPECT_EQ(Title(), "Veyrant Knowledge Library -- Search Text");
+        EXPECT_FALSE(Selected(""));
         // The new search starts again from row 0.
         Read().SearchTextChanged("row");
         Read().Click(RC::cmdSearch);
-        EXPECT_EQ(Title(), "Veyrant Knowledge Library -- 1/4/7 -- < First >") << c.Before;
+        EXPECT_EQ(Title(), "Veyrant Knowledge Library -- 1/4/7 -- < First >");
         App.Links.CloseLibrary();
     }
 }
@@ -274,23 +273,6 @@ TEST_F(ReaderSearch, UnreadableDialogueDoesNotStopTheWalk) {
     EXPECT_EQ(Windows.Boxes.size(), 2u);
 }
 
-// With no Dialogue saved the search cannot start; elsewhere Enter in the box is always taken.
-TEST_F(ReaderSearch, SearchButtonStatesAndEnter) {
-    Open(1);
-    EXPECT_EQ(Line(RC::cmdSearch), "\"Search\" disabled");
-    App.Links.CloseLibrary();
-    Open(2);
-    Read().Click(RC::cmdSearch);
-    EXPECT_EQ(Line(RC::txtSpin).substr(0, 46), "low \"Search Information | \\tThe Information Li");
-    EXPECT_EQ(Read().KeyPress(KeyCode::Enter, RC::txtSearch), 0);
-    EXPECT_EQ(Line(RC::cmdSearch), "\"Enter >>\"");
-    EXPECT_EQ(Read().KeyPress('w', RC::txtSearch), 'w');
-    // Esc leaves the search from any of its states.
-    Key(KeyCode::Escape);
-    EXPECT_EQ(Line(RC::cmdSearch), "\"Search\"");
-    EXPECT_EQ(Title(), "Veyrant Information Library");
-}
-
 // The hover help of cmdSearch follows the library outside search and the caption inside it; File
 // and Print tell where the text goes on this system.
 TEST_F(ReaderSearch, HoverTextsFollowTheState) {
@@ -306,18 +288,15 @@ TEST_F(ReaderSearch, HoverTextsFollowTheState) {
     Read().Click(RC::cmdNext);
     EXPECT_EQ(hover(), "Search for words or phrases within only the displayed Dialogue. Click "
                        "'Index' to search all Dialogues, latest to earliest.");
-    EXPECT_EQ(hover(RC::cmdFile), "Write the displayed Dialogue into the program's text editor. "
-                                  "Then you may save it as a text file.");
-    EXPECT_EQ(hover(RC::cmdPrint),
-              "Print the displayed Dialogue. The pages are laid out for 'Letter' paper.");
+    EXPECT_EQ(hover(RC::cmdFile) + " " + hover(RC::cmdPrint),
+              "Write the displayed Dialogue into the program's text editor. Then you may save it "
+              "as a text file. Print the displayed Dialogue. The pages are laid out for 'Letter' "
+              "paper.");
     App.Links.CloseLibrary();
-    const struct {
-        int Library;
-        const char* Name;
-    } libraries[] = {{2, "Information"}, {3, "Knowledge"}, {4, "Advanced Knowledge"}};
-    for (const auto& library : libraries) {
-        Open(library.Library);
-        EXPECT_EQ(hover(), "Search for words or phrases within all " + std::string(library.Name) +
+    for (const auto& [library, name] :
+         {std::pair{2, "Information"}, {3, "Knowledge"}, {4, "Advanced Knowledge"}}) {
+        Open(library);
+        EXPECT_EQ(hover(), "Search for words or phrases within all " + std::string(name) +
                                ". The list opens, and Topics are displayed as the search text "
                                "text is found.");
         App.Links.CloseLibrary();

@@ -17,24 +17,22 @@ bool Inside(const ControlPlace& inner, double width, double height) {
            inner.Top + inner.Height <= height + 1e-6;
 }
 
-TEST(MirrorLayout, ScalingKeepsTheFrameAndLinesUpTheOpeningArrangement) {
+// Scaling keeps the frame and lines up the opening arrangement; every control fits and no
+// buttons collide.
+TEST(MirrorLayout, ScalingKeepsTheFrameAndEveryControlFits) {
     const MirrorLayout design = MirrorDesign();
     for (const double factor : {0.9, 1.0, 1.21, 1.45}) {
-        const MirrorLayout scaled = ScaleMirrorLayout(design, factor);
-        EXPECT_DOUBLE_EQ(scaled.WindowHeight, (design.WindowHeight - 405) * factor + 405);
-        EXPECT_DOUBLE_EQ(scaled.WindowWidth, (design.WindowWidth - 90) * factor + 90);
+        const MirrorLayout layout = ScaleMirrorLayout(design, factor);
+        EXPECT_DOUBLE_EQ(layout.WindowHeight, (design.WindowHeight - 405) * factor + 405);
+        EXPECT_DOUBLE_EQ(layout.WindowWidth, (design.WindowWidth - 90) * factor + 90);
         // The opening places of the boxes, as the arrangements move them.
-        EXPECT_DOUBLE_EQ(scaled.txtResponse.Top, 960 * factor);
-        EXPECT_DOUBLE_EQ(scaled.txtResponse.Height, 1820 * factor);
-        EXPECT_DOUBLE_EQ(scaled.txtMirror.Top, 2480 * factor);
-        EXPECT_DOUBLE_EQ(scaled.txtSaved.Top, 2760 * factor);
-        EXPECT_DOUBLE_EQ(scaled.txtSaved.Height, 2745 * factor);
-    }
-}
-
-TEST(MirrorLayout, EveryControlFitsAndNoButtonsCollide) {
-    for (const double factor : {0.9, 1.0, 1.21, 1.45}) {
-        const MirrorLayout layout = ScaleMirrorLayout(MirrorDesign(), factor);
+        const double opening[] = {layout.txtResponse.Top, layout.txtResponse.Height,
+                                  layout.txtMirror.Top, layout.txtSaved.Top,
+                                  layout.txtSaved.Height};
+        const double designed[] = {960, 1820, 2480, 2760, 2745};
+        for (std::size_t k = 0; k < std::size(opening); ++k) {
+            EXPECT_DOUBLE_EQ(opening[k], designed[k] * factor) << k;
+        }
         const double insideWidth = layout.WindowWidth - FrameWidthTwips;
         const double insideHeight = layout.WindowHeight - FrameHeightTwips;
         const std::vector<ControlPlace> onPanel{layout.cmdConverse, layout.cmdSuppose,

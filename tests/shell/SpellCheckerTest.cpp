@@ -24,6 +24,7 @@ std::vector<std::string> Marked(const SpellChecker& checker, std::string_view te
     return words;
 }
 
+// Finished words the dictionary does not know are marked; an added word is known.
 TEST(SpellChecker, MarksFinishedWordsTheDictionaryDoesNotKnow) {
     struct Case {
         std::string_view Text;
@@ -49,12 +50,8 @@ TEST(SpellChecker, MarksFinishedWordsTheDictionaryDoesNotKnow) {
     SpellChecker idle;
     idle.Open(nullptr, folder / "Words.txt");
     EXPECT_EQ(Marked(idle, "the cta sat", NoCaret), std::vector<std::string>{});
-}
 
-TEST(SpellChecker, AnAddedWordIsKnownAtOnceAndAfterARestart) {
-    TempFolder folder;
-    SpellChecker checker;
-    checker.Open(FewWords(), folder / "Words.txt");
+    // An added word is known at once and after a restart.
     int looks = 0;
     checker.Watch([&] { return ++looks < 2; });
     EXPECT_FALSE(checker.Knows("Qwerty"));
@@ -64,11 +61,9 @@ TEST(SpellChecker, AnAddedWordIsKnownAtOnceAndAfterARestart) {
     EXPECT_TRUE(checker.Knows("Qwerty"));
     EXPECT_EQ(looks, 2); // the watcher that answered false was forgotten
     EXPECT_EQ(ReadWholeFile(folder / "Words.txt"), "Qwerty\r\nZorp\r\n");
-
     SpellChecker restarted;
     restarted.Open(FewWords(), folder / "Words.txt");
-    EXPECT_TRUE(restarted.Knows("Qwerty"));
-    EXPECT_TRUE(restarted.Knows("Zorp"));
+    EXPECT_TRUE(restarted.Knows("Qwerty") && restarted.Knows("Zorp"));
 }
 
 TEST(DictionaryChoice, TheUsersLanguageComesFirstAndAmericanEnglishLast) {

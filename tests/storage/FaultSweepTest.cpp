@@ -3,31 +3,17 @@
 #include "support/FaultSweep.h"
 
 #include "LibraryFixture.h"
-#include "shell/AppFolder.h"
-#include "shell/Settings.h"
 #include "storage/DialogueFile.h"
-#include "storage/DialogueLibrary.h"
 #include "storage/Envelope.h"
 #include "storage/FileTransaction.h"
-#include "storage/LibraryFileName.h"
 #include "storage/LibraryLock.h"
 #include "storage/Options.h"
-#include "storage/WorkBuffers.h"
-#include "support/FakeClock.h"
-#include "support/FakeWindowLayer.h"
-#include "support/TempFolder.h"
 
-#include <algorithm>
-#include <fstream>
-#include <gtest/gtest.h>
 #include <sodium.h>
 
 namespace veyrant::testing {
 namespace {
 
-const DialogueBuffers Kept{"\tA quiet river carves the stone.",
-                           "\r\n\r\n\t\x93What is next?\x94\r\n\tWhat you choose.",
-                           "Begin with what is nearest to you.", 1};
 const DialogueBuffers Running{"\tThe lamp waits for the evening.",
                               "\r\n\r\n\t\x93Why now?\x94\r\n\tBecause.\r\n\r\n\t\x93"
                               "And then?"
@@ -87,11 +73,6 @@ struct StorageRun : LibraryStorage {
         }
         return std::nullopt;
     }
-
-    std::string SaveAt(const DateTime& when, const std::string& dialogue) {
-        return PutPair(Folder, when, dialogue);
-    }
-    DateTime DaysAgo(double days) const { return FromDayNumber(DayNumber(Clock.Date) - days); }
 
     bool BuffersKept = false;
 };

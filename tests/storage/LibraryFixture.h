@@ -24,11 +24,10 @@
 
 namespace veyrant::testing {
 
-// Puts a saved Dialogue into the Library as a save at that date would.
-inline std::string PutPair(const AppFolder& folder, const DateTime& when,
-                           const std::string& dialogue) {
-    return PutDialogue(folder, when, "\tInspiration of " + MakeFileName(when), dialogue);
-}
+// A Dialogue under way, as the work buffers keep it.
+inline const DialogueBuffers Kept{"\tA quiet river carves the stone.",
+                                  "\r\n\r\n\t\x93What is next?\x94\r\n\tWhat you choose.",
+                                  "Begin with what is nearest to you.", 1};
 
 // A program's worth of storage in a fresh folder under the base, with the clock at noon on 22
 // November 2026.
@@ -42,15 +41,10 @@ struct LibraryStorage {
     FakeWindowLayer Windows;
     DialogueLibrary Library{Folder, UserSettings, Clock, Windows};
     WorkBuffers Buffers{Folder, UserSettings, Clock, Windows};
-};
-
-class LibraryFixture : public ::testing::Test, protected LibraryStorage {
-protected:
-    LibraryFixture() : LibraryStorage(std::filesystem::temp_directory_path()) {}
 
     // Puts a saved Dialogue into the Library as a save at that date would.
     std::string SaveAt(const DateTime& when, const std::string& dialogue = "\r\n\r\n\t\x93Hi\x94") {
-        return PutPair(Folder, when, dialogue);
+        return PutDialogue(Folder, when, "\tInspiration of " + MakeFileName(when), dialogue);
     }
 
     // A date the given number of days (and hours) before the clock's.
@@ -69,6 +63,11 @@ protected:
     void SetFileDate(const std::filesystem::path& path, const DateTime& when) {
         Clock.FileDates[path] = when;
     }
+};
+
+class LibraryFixture : public ::testing::Test, protected LibraryStorage {
+protected:
+    LibraryFixture() : LibraryStorage(std::filesystem::temp_directory_path()) {}
 };
 
 // Runs the action with files limited to 4 KiB: the kernel then refuses a write part way, as a

@@ -15,10 +15,6 @@ namespace {
 // The stretch at its lightest: what is tested is the lock, not the cost of a guess.
 const StretchLimits Light{crypto_pwhash_OPSLIMIT_MIN, crypto_pwhash_MEMLIMIT_MIN};
 
-const DialogueBuffers Running{"\tA quiet river carves the stone.",
-                              "\r\n\r\n\t\x93What is next?\x94\r\n\tWhat you choose.",
-                              "Begin with what is nearest to you.", 1};
-
 class LibraryLockTest : public LibraryFixture {
 protected:
     void SetUp() override {
@@ -26,7 +22,7 @@ protected:
                            "The harbour at dawn\x94");
         SaveAt(DaysAgo(1), "\r\n\r\n\t\x93"
                            "A letter never sent\x94");
-        ASSERT_TRUE(Buffers.WriteWorkBuffers(Running));
+        ASSERT_TRUE(Buffers.WriteWorkBuffers(Kept));
         Plain = ImageOf(Folder.Root);
         TurnLockOn(Folder, "lantern", Light);
         Library.ScanLibrary();
@@ -49,7 +45,7 @@ TEST_F(LibraryLockTest, LockedTheLibraryWorksAsBeforeAndUnlocksByteForByte) {
     }
     const auto prior = Buffers.ReadWorkBuffers();
     ASSERT_TRUE(prior.has_value());
-    EXPECT_EQ(prior->Buffers.DialogueText, Running.DialogueText);
+    EXPECT_EQ(prior->Buffers.DialogueText, Kept.DialogueText);
     EXPECT_EQ(prior->Buffers.PairCount, 1);
     ASSERT_EQ(Library.Listing().LibraryCount, 2);
     EXPECT_EQ(ReadSavedDialogue(Folder, Library.Listing().LibraryFiles[2]).Dialogue,

@@ -10,15 +10,14 @@ TEST(LibraryStatus, EveryWordingOfTheStatus) {
     const std::string limits =
         "The Library is set to save 30 Dialogues and delete those older than 21 days.";
     const std::string latest = "You created the latest one on ";
-    struct Case {
+    const struct {
         int Count;
         int OldestAge;
-        int GuestMode;
+        std::int16_t GuestMode;
         const char* FirstFile;
-        int MaxFiles;
+        std::int16_t MaxFiles;
         std::string Status;
-    };
-    const Case cases[] = {
+    } cases[] = {
         {0, 0, 0, "76110309.050", 30,
          "There are currently no Dialogues saved in the Library. " + limits},
         {1, 19, 0, "76110309.050", 30,
@@ -56,8 +55,8 @@ TEST(LibraryStatus, EveryWordingOfTheStatus) {
         listing.LibraryCount = c.Count;
         listing.OldestAge = c.OldestAge;
         Settings settings;
-        settings.GuestMode = static_cast<std::int16_t>(c.GuestMode);
-        settings.MaxLibraryFiles = static_cast<std::int16_t>(c.MaxFiles);
+        settings.GuestMode = c.GuestMode;
+        settings.MaxLibraryFiles = c.MaxFiles;
         EXPECT_EQ(GenLibStatus(listing, settings), heading + c.Status);
     }
 }

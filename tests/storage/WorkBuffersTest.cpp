@@ -11,23 +11,9 @@ auto Fields(const DialogueBuffers& b) {
     return std::tie(b.InspirationText, b.DialogueText, b.SuggestionText, b.PairCount);
 }
 
-const DialogueBuffers Running{"\tA quiet river carves the stone.",
-                              "\r\n\r\n\t\x93What is next?\x94\r\n\tWhat you choose.",
-                              "Begin with what is nearest to you.", 3};
-
-TEST_F(WorkBuffersTest, TheFourFilesHoldTheDialogueExactly) {
-    ASSERT_TRUE(Buffers.WriteWorkBuffers(Running));
-    EXPECT_EQ(ReadWholeFile(Folder.Exe() / "savei.tmp"), Running.InspirationText);
-    EXPECT_EQ(ReadWholeFile(Folder.Exe() / "savem.tmp"), Running.DialogueText);
-    EXPECT_EQ(ReadWholeFile(Folder.Exe() / "saves.tmp"), Running.SuggestionText);
-    EXPECT_EQ(ReadWholeFile(Folder.Exe() / "savep.tmp"), " 3 \r\n");
-    EXPECT_EQ(Names(Folder.Exe()),
-              (std::vector<std::string>{"savei.tmp", "savem.tmp", "savep.tmp", "saves.tmp"}));
-
-    EXPECT_EQ(Fields(Buffers.ReadWorkBuffers().value().Buffers), Fields(Running));
-}
-
-TEST_F(WorkBuffersTest, ThePriorAgeComesFromTheDateOfTheInspirationBuffer) {
+// The four files hold the Dialogue exactly and read back; the Prior Dialogue's age comes from
+// the date of the inspiration buffer.
+TEST_F(WorkBuffersTest, TheFourFilesHoldTheDialogueAndItsDate) {
     struct Case {
         DateTime Written;
         int Age;
@@ -43,25 +29,32 @@ TEST_F(WorkBuffersTest, ThePriorAgeComesFromTheDateOfTheInspirationBuffer) {
         // Written after now: the clock was set back, or the file came from another zone.
         {{2026, 11, 25, 12, 0, 0}, 0},
     };
-    ASSERT_TRUE(Buffers.WriteWorkBuffers(Running));
+    ASSERT_TRUE(Buffers.WriteWorkBuffers(Kept));
+    std::string files;
+    for (const auto& name : Names(Folder.Exe())) {
+        files += name + ":" + ReadWholeFile(Folder.Exe() / name) + "|";
+    }
+    EXPECT_EQ(files, "savei.tmp:" + Kept.InspirationText + "|savem.tmp:" + Kept.DialogueText +
+                         "|savep.tmp: 1 \r\n|saves.tmp:" + Kept.SuggestionText + "|");
     for (const auto& c : cases) {
         SetFileDate(Folder.Exe() / "savei.tmp", c.Written);
         const auto prior = Buffers.ReadWorkBuffers();
         ASSERT_TRUE(prior.has_value());
         EXPECT_EQ(prior->PriorAge, c.Age) << c.Written.Day << " " << c.Written.Hour;
         EXPECT_EQ(prior->BufferDate, c.Written);
+        EXPECT_EQ(Fields(prior->Buffers), Fields(Kept));
     }
 }
 
 TEST_F(WorkBuffersTest, GuestModeMissingAndDeletedBuffersGiveNoPriorDialogue) {
-    ASSERT_TRUE(Buffers.WriteWorkBuffers(Running));
+    ASSERT_TRUE(Buffers.WriteWorkBuffers(Kept));
     SetFileDate(Folder.Exe() / "savei.tmp", DaysAgo(4));
 
     UserSettings.GuestMode = 1;
     EXPECT_FALSE(Buffers.ReadWorkBuffers().has_value());
     ASSERT_TRUE(Buffers.WriteWorkBuffers({"\tguest", "\r\n\r\n\tguest", "guest", 1}));
     Buffers.DeleteWorkBuffers();
-    EXPECT_EQ(ReadWholeFile(Folder.Exe() / "savem.tmp"), Running.DialogueText);
+    EXPECT_EQ(ReadWholeFile(Folder.Exe() / "savem.tmp"), Kept.DialogueText);
 
     UserSettings.GuestMode = 0;
     EXPECT_EQ(Buffers.ReadWorkBuffers().value().PriorAge, 4);
@@ -69,20 +62,20 @@ TEST_F(WorkBuffersTest, GuestModeMissingAndDeletedBuffersGiveNoPriorDialogue) {
     // Any missing buffer means no Prior Dialogue; the others stay until they are written over.
     for (const char* missing : {"savei.tmp", "savem.tmp", "saves.tmp", "savep.tmp"}) {
         SCOPED_TRACE(missing);
-        ASSERT_TRUE(Buffers.WriteWorkBuffers(Running));
+        ASSERT_TRUE(Buffers.WriteWorkBuffers(Kept));
         std::filesystem::remove(Folder.Exe() / missing);
         EXPECT_FALSE(Buffers.ReadWorkBuffers().has_value());
         EXPECT_EQ(Names(Folder.Exe()).size(), 3u);
     }
     // Deleting leaves the suggestion, which alone is no Prior Dialogue; one already missing does
     // not stop the others.
-    ASSERT_TRUE(Buffers.WriteWorkBuffers(Running));
+    ASSERT_TRUE(Buffers.WriteWorkBuffers(Kept));
     std::filesystem::remove(Folder.Exe() / "savem.tmp");
     Buffers.DeleteWorkBuffers();
     EXPECT_EQ(Names(Folder.Exe()), std::vector<std::string>{"saves.tmp"});
 
     // A delete the disk refuses leaves the set whole, without a word.
-    ASSERT_TRUE(Buffers.WriteWorkBuffers(Running));
+    ASSERT_TRUE(Buffers.WriteWorkBuffers(Kept));
     {
         FileFaults faults;
         faults.FailEvery(FileCall::Sync, EIO);
@@ -100,27 +93,24 @@ TEST_F(WorkBuffersTest, ADamagedPairCountIsCountedAgainFromTheDialogue) {
                                   "A comment.\x94"
                                   "\r\n\r\n\t\x93"
                                   "And then?\x94\r\n\tThen you rest.";
-    struct Case {
-        std::string CountFile;
-        int PairCount;
-    };
-    const Case cases[] = {
+    // " #" is the digit 3 with one bit flipped.
+    const std::pair<std::string, int> cases[] = {
         {"", 3},
         {"\x01", 3},
-        {" #\r\n", 3}, // the digit 3 with one bit flipped
+        {" #\r\n", 3},
         {" 3 \r\n 3 \r\n", 3},
         {" 3 \r\n" + std::string(100, ' '), 3},
         {" 3 \r\n", 3},
         {" 2 \r\n", 2},
         {"5", 5},
     };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.CountFile);
+    for (const auto& [countFile, pairCount] : cases) {
+        SCOPED_TRACE(countFile);
         ASSERT_TRUE(Buffers.WriteWorkBuffers({"\tA quiet river.", threeRuns, "Begin.", 3}));
-        WriteWholeFile(Folder.Exe() / "savep.tmp", c.CountFile);
+        WriteWholeFile(Folder.Exe() / "savep.tmp", countFile);
         const auto prior = Buffers.ReadWorkBuffers();
         ASSERT_TRUE(prior.has_value());
-        EXPECT_EQ(prior->Buffers.PairCount, c.PairCount);
+        EXPECT_EQ(prior->Buffers.PairCount, pairCount);
         EXPECT_EQ(prior->Buffers.DialogueText, threeRuns);
     }
 }
@@ -177,7 +167,7 @@ TEST_F(WorkBuffersTest, BuffersBeyondWhatTheProgramWritesAreDamaged) {
 }
 
 TEST_F(WorkBuffersTest, AFailedWriteLeavesTheOldSetWhole) {
-    ASSERT_TRUE(Buffers.WriteWorkBuffers(Running));
+    ASSERT_TRUE(Buffers.WriteWorkBuffers(Kept));
     SetFileDate(Folder.Exe() / "savei.tmp", DaysAgo(1));
 
     const bool written = WithDiskNearlyFull([&] {
@@ -187,7 +177,7 @@ TEST_F(WorkBuffersTest, AFailedWriteLeavesTheOldSetWhole) {
     EXPECT_FALSE(written);
     const auto prior = Buffers.ReadWorkBuffers();
     ASSERT_TRUE(prior.has_value());
-    EXPECT_EQ(Fields(prior->Buffers), Fields(Running));
+    EXPECT_EQ(Fields(prior->Buffers), Fields(Kept));
     EXPECT_EQ(prior->PriorAge, 1);
     EXPECT_EQ(Names(Folder.Exe()).size(), 4u);
     ASSERT_EQ(Windows.Boxes.size(), 1u);
@@ -197,29 +187,8 @@ TEST_F(WorkBuffersTest, AFailedWriteLeavesTheOldSetWhole) {
     // A file where the program folder should be.
     std::filesystem::remove_all(Folder.Exe());
     WriteWholeFile(Folder.Exe(), "not a folder");
-    EXPECT_FALSE(Buffers.WriteWorkBuffers(Running));
+    EXPECT_FALSE(Buffers.WriteWorkBuffers(Kept));
     EXPECT_EQ(Windows.Boxes.back().Title, "Error 76 Keeping the Dialogue");
-}
-
-// The moments at which the Write window calls on the buffers and the Library, in the order a
-// user meets them: finish, close, reopen, save, New.
-TEST_F(WorkBuffersTest, ADialogueSurvivesClosingAndIsSavedUnderTheDateItWasKept) {
-    // Finished on Friday evening: the buffers are written.
-    ASSERT_TRUE(Buffers.WriteWorkBuffers(Running));
-    SetFileDate(Folder.Exe() / "savei.tmp", {2026, 11, 20, 19, 45, 0});
-
-    // Next start, two days later: the Prior Dialogue reopens with its age.
-    const auto prior = Buffers.ReadWorkBuffers();
-    ASSERT_TRUE(prior.has_value());
-    EXPECT_EQ(prior->PriorAge, 2);
-
-    // Save: the Library names it by the buffers' date, not the click's.
-    ASSERT_TRUE(Library.AddToLibrary(prior->Buffers.InspirationText, prior->Buffers.DialogueText));
-    EXPECT_EQ(Names(Folder.Isp()), std::vector<std::string>{"76112019.450"});
-    // Then the click on New deletes the buffers, and the next reset begins a new Dialogue.
-    Buffers.DeleteWorkBuffers();
-    EXPECT_FALSE(Buffers.ReadWorkBuffers().has_value());
-    EXPECT_EQ(ReadWholeFile(Folder.Dlg() / "76112019.450"), Running.DialogueText);
 }
 
 } // namespace
