@@ -101,22 +101,6 @@ TEST_F(AssembleMessage, ReportsAComponentOutsideTheStocks) {
     EXPECT_EQ(windows.Boxes[0].Buttons, MessageButtons::OkCancel);
 }
 
-TEST_F(AssembleMessage, SplitsThePoolBetweenMessageSectionsAndRows) {
-    tables.MaxSections = 2;
-    tables.MaxComponents = 3;
-    std::vector<float> pool(2 + 3 + 15 + 1);
-    for (std::size_t i = 1; i < pool.size(); ++i) {
-        pool[i] = static_cast<float>(i);
-    }
-    composer.SplitSeeds(pool);
-    EXPECT_EQ(composer.MessageSeed, 1.0f);
-    EXPECT_EQ(composer.SectionSeeds, (std::vector<float>{0, 2, 3, 4, 0, 0}));
-    ASSERT_EQ(composer.RowSeeds.size(), pool.size());
-    EXPECT_EQ(composer.RowSeeds[1], 5.0f);
-    EXPECT_EQ(composer.RowSeeds[16], 20.0f); // MaxComponents + 13 filled
-    EXPECT_EQ(composer.RowSeeds[17], 0.0f);
-}
-
 // Message 1 takes section 1 twice; section 1 takes component 0 once, twice or three times.
 const std::string RepeatingPlans =
     "1, 2, 1\r\n\"m\"\r\n\"s\", 1, 1\r\n\"s\", 1, 2\r\n\"s\", 1, 2\r\n"
@@ -145,6 +129,12 @@ TEST(BuildMessage, DrawsEachSectionAndEachRowWithASeedOfItsOwn) {
         pool[i] = 1000.25f * static_cast<float>(i);
     }
     composer.BuildMessage(1, pool, plans);
+    // The message draws with the first seed, the sections with the next, one spare among them.
+    EXPECT_EQ(composer.MessageSeed, pool[1]);
+    EXPECT_EQ(composer.SectionSeeds, (std::vector<float>{0, pool[2], pool[3], pool[4], 0, 0}));
+    ASSERT_EQ(composer.RowSeeds.size(), pool.size());
+    EXPECT_EQ(composer.RowSeeds[19], pool[23]); // MaxComponents + 13 filled
+    EXPECT_EQ(composer.RowSeeds[20], 0.0f);
 
     Random expected;
     const auto draw = [&expected](float seed, int scale) {

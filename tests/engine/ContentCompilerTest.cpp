@@ -71,6 +71,10 @@ TEST(ContentCompiler, RefusalsNameFileAndLine) {
         std::string Stock1, Plans, Message;
         std::string Suggestions = "= Heading\nA short text.\n";
     };
+    std::string manyChoices = "2: .";
+    for (int i = 0; i < 250; ++i) {
+        manyChoices += " | .";
+    }
     const Case cases[] = {
         {SmallStock1 + "of course\n", SmallPlans(),
          "01.txt:11: a row must begin with a capital letter"},
@@ -92,15 +96,7 @@ TEST(ContentCompiler, RefusalsNameFileAndLine) {
         {SmallStock1, Replaced(SmallPlans(), "2: .", "2:"), "plans.txt:7: slot 2 has no choice"},
         {SmallStock1, Replaced(SmallPlans(), "Yes | Maybe", "Yes | "),
          "plans.txt:6: a slot has a choice with nothing in it"},
-        {SmallStock1,
-         Replaced(SmallPlans(), "2: .\n",
-                  [] {
-                      std::string slot = "2: .";
-                      for (int i = 0; i < 250; ++i) {
-                          slot += "\n| .";
-                      }
-                      return slot + "\n";
-                  }()),
+        {SmallStock1, Replaced(SmallPlans(), "2: .", manyChoices),
          "plans.txt:7: slot 2 holds 251 choices, more than 250"},
         {SmallStock1, Replaced(SmallPlans(), "CaseKeepers , .", "CaseKeepers . ,"),
          "plans.txt:3: the first of the CaseKeepers must be the comma"},

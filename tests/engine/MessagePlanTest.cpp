@@ -1,9 +1,10 @@
 #include "engine/MessagePlan.h"
 
+#include "EngineFixture.h"
 #include "core/ProgramError.h"
 #include "core/WholeFile.h"
 #include "engine/KeptPlans.h"
-#include "support/TempFolder.h"
+#include "engine/PlanFileReader.h"
 
 #include <gtest/gtest.h>
 
@@ -28,16 +29,6 @@ MessagePlan ReadOne(const std::string& text) {
     MessagePlan plan;
     ReadPlan(reader, plan);
     return plan;
-}
-
-TEST(ReadPlan, KeepsEveryTermWithItsTextAndEmptyTermsEmpty) {
-    const MessagePlan plan = ReadOne(TwoBlockPlan);
-    EXPECT_EQ(plan.TermCount, 6);
-    EXPECT_EQ(plan.BlockCount, 2);
-    EXPECT_EQ(plan.SlotCount[2][6], 3);
-    EXPECT_EQ(plan.SlotChoice[2][6][3], 6);
-    EXPECT_EQ(plan.TermText[4], "");
-    EXPECT_EQ(plan.TermText[6], "40");
 }
 
 TEST(ReadPlan, FaultsRaiseTheirNumber) {
@@ -165,6 +156,32 @@ TEST(KeptPlans, RefuseATermThatWouldNotPartCleanly) {
             EXPECT_EQ(error.Number(), 13) << bad;
         }
     }
+}
+
+// The kept plans and their arithmetic must compose exactly what the plain routines give by
+// re-reading the plan file and counting up to the target.
+using OnTheShippedPlans = testing::EngineFixture;
+
+TEST_F(OnTheShippedPlans, ComposeAsThePlainRoutinesDo) {
+    PlanFileReader plain(Folder.Exe() / "qdr41.mtx", TheEngine.Tables());
+    Random random;
+    Composer reference(TheEngine.Tables(), TheEngine.Stocks(), random, Windows);
+    reference.MarkJoiners();
+    for (int reply = 0; reply < 40; ++reply) {
+        TheEngine.SeriesSeed = 3000.0f + 1713.37f * static_cast<float>(reply);
+        TheEngine.StretchSeeds();
+        for (std::int16_t message = 1; message <= 16; ++message) {
+            TheEngine.Compose(static_cast<MessageNumber>(message));
+            reference.BuildMessage(message, TheEngine.SeedPool, plain);
+            reference.AssembleMessage();
+            const Composer& fast = TheEngine.MessageComposer();
+            ASSERT_EQ(fast.CompositionComponents, reference.CompositionComponents);
+            ASSERT_EQ(fast.CompositionRows, reference.CompositionRows);
+            ASSERT_EQ(fast.ComposedText, reference.ComposedText);
+            ASSERT_GT(fast.CompositionLength, 0) << "message " << message;
+        }
+    }
+    EXPECT_TRUE(Windows.Boxes.empty());
 }
 
 } // namespace

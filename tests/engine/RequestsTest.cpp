@@ -24,80 +24,48 @@ protected:
     }
 };
 
-TEST_F(Requests, AnswerAndRemarkPickTheirMessageByEntryType) {
+// A type with no message of its own gives the last composition again (message 0 below).
+TEST_F(Requests, AnswerAndRemarkPickTheirMessageByEntryTypeAndOnlyTheAnswerShowsTheBusyPointer) {
     const struct {
         bool Answer;
         std::int16_t Type;
         std::int16_t Message;
-    } cases[] = {{true, 1, 1},   {true, 10, 2},   {true, 20, 3},   {true, 30, 4},
-                 {true, 40, 5},  {true, 50, 6},   {true, 60, 7},   {true, 2, 8},
-                 {false, 1, 11}, {false, 10, 12}, {false, 60, 12}, {false, 1000, 12},
-                 {false, 2, 13}, {false, 9, 14}};
+    } cases[] = {{true, 1, 1},    {true, 10, 2},   {true, 20, 3},     {true, 30, 4},
+                 {true, 40, 5},   {true, 50, 6},   {true, 60, 7},     {true, 2, 8},
+                 {true, 0, 0},    {true, -1, 0},   {true, 9, 0},      {false, 1, 11},
+                 {false, 10, 12}, {false, 60, 12}, {false, 1000, 12}, {false, 2, 13},
+                 {false, 9, 14},  {false, 0, 0},   {false, -3, 0},    {false, 5, 0}};
     for (const auto& c : cases) {
-        const std::string expected = Composed(c.Message);
-        Composed(c.Message == 15 ? 16 : 15); // something else in between
+        SCOPED_TRACE(std::to_string(c.Answer) + " for type " + std::to_string(c.Type));
+        const std::string wanted = c.Message == 0 ? "" : Composed(c.Message);
+        const std::string last = Composed(c.Message == 16 ? 15 : 16); // something in between
+        Windows.BusyChanges.clear();
         if (c.Answer) {
             TheEngine.RequestAnswer(static_cast<SentenceType>(c.Type));
         } else {
             TheEngine.RequestRemark(static_cast<SentenceType>(c.Type));
         }
-        EXPECT_EQ(TheEngine.ReplyText, expected) << "type " << c.Type;
+        EXPECT_EQ(TheEngine.ReplyText, c.Message == 0 ? last : wanted);
         EXPECT_EQ(TheEngine.ReplyText.substr(0, 2), "\t ");
+        EXPECT_EQ(Windows.BusyChanges,
+                  (c.Answer ? std::vector<bool>{true, false} : std::vector<bool>{}));
     }
 }
 
-TEST_F(Requests, ATypeWithNoMessageRepeatsTheLastComposition) {
-    for (const std::int16_t type : {0, -1, -4, 3, 9}) {
-        const std::string last = Composed(16);
-        TheEngine.RequestAnswer(static_cast<SentenceType>(type));
-        EXPECT_EQ(TheEngine.ReplyText, last) << type;
-    }
-    for (const std::int16_t type : {0, -3, 5}) {
-        const std::string last = Composed(15);
-        TheEngine.RequestRemark(static_cast<SentenceType>(type));
-        EXPECT_EQ(TheEngine.ReplyText, last) << type;
-    }
-}
-
-class BusyRecorder : public testing::FakeWindowLayer {
-public:
-    void SetBusyPointer(bool busy) override { Changes.push_back(busy); }
-    std::vector<bool> Changes;
-};
-
-TEST(RequestAnswer, ShowsTheBusyPointerWhileItComposes) {
-    testing::TempFolder temp;
-    const AppFolder folder{temp.Path()};
-    InstallEngineFiles(folder);
-    BusyRecorder windows;
-    testing::FakeClock clock;
-    Random random;
-    Engine engine(random, clock, windows);
-    ASSERT_TRUE(engine.LoadSystem(folder));
-    engine.SeedSeries();
-    engine.SeriesSeed = clock.Timer();
-    engine.StretchSeeds();
-    engine.RequestAnswer(SentenceType::WhatQuestion);
-    EXPECT_EQ(windows.Changes, (std::vector<bool>{true, false}));
-    engine.RequestRemark(SentenceType::WhatQuestion);
-    EXPECT_EQ(windows.Changes.size(), 2u);
-}
-
-TEST_F(Requests, IdeaVerdictContinuesTheSentenceOnlyWhenChosen) {
-    const std::string chosen = Composed(9);
+TEST_F(Requests, VerdictInspirationAndInterjectionTakeTheirMessage) {
+    // Chosen, the verdict goes on the user's sentence in lower case.
+    std::string chosen = Mid(Composed(9), 3);
+    LowerAt(chosen, 1);
     TheEngine.RequestIdeaVerdict(ReplyKind::Answer);
-    std::string expected = Mid(chosen, 3);
-    LowerAt(expected, 1);
-    EXPECT_EQ(TheEngine.IdeaVerdict, expected);
-    EXPECT_NE(TheEngine.IdeaVerdict.front(), ' ');
+    EXPECT_EQ(TheEngine.IdeaVerdict, chosen);
     EXPECT_EQ(TheEngine.IdeaVerdict.front(), LowerChar(TheEngine.IdeaVerdict.front()));
+    EXPECT_NE(TheEngine.IdeaVerdict.front(), ' ');
 
     const std::string declined = Composed(10);
     TheEngine.RequestIdeaVerdict(ReplyKind::Remark);
     EXPECT_EQ(TheEngine.IdeaVerdict, declined);
-}
 
-TEST_F(Requests, InspirationAndInterjectionKeepTheFirstCapital) {
+    // The Inspiration keeps its first capital.
     const std::string inspiration = Composed(15);
     TheEngine.RequestInspiration();
     EXPECT_EQ(TheEngine.InspirationText, "\t" + Mid(inspiration, 3));
@@ -189,7 +157,6 @@ TEST_F(Requests, ADamagedPlanFileGivesItsBoxAndTheProgramGoesOn) {
                                      "Sagrel cannot compose a response until the file is "
                                      "restored.");
     EXPECT_EQ(engine.ReplyText, "\t");
-    EXPECT_EQ(Trim(Mid(engine.ReplyText, 3)), "");
 
     // Restored, the file is read at the next request.
     WriteWholeFile(Folder.Exe() / "qdr41.mtx", ShippedPlanFile());
