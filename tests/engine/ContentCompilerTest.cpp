@@ -1,12 +1,15 @@
 #include "ContentSources.h"
 #include "EngineData.h"
+#include "StockReport.h"
 #include "core/WholeFile.h"
 #include "engine/EngineTables.h"
 #include "engine/KeptPlans.h"
 #include "support/Replaced.h"
 #include "support/TempFolder.h"
 
+#include <array>
 #include <gtest/gtest.h>
+#include <tuple>
 
 namespace veyrant {
 namespace {
@@ -120,6 +123,38 @@ TEST(ContentCompiler, RefusalsNameFileAndLine) {
         } catch (const ContentError& error) {
             EXPECT_EQ(std::string(error.what()).substr(0, c.Message.size()), c.Message);
         }
+    }
+}
+
+const char* const InOrder =
+    "[Alpha]\n(3) One\nTwo\n[Own-group]\nTwo\n[Beta]\nThree\n[Gamma]\nFour\n";
+
+// The table asks for Alpha, Beta and Gamma; a stock may hold groups of its own between them.
+TEST(StockTally, CountsRowsAndChecksTheLabelTable) {
+    // The source, the rows it should have, its rows, distinct rows and repeats, the labels missing
+    // and out of order, and whether it fits within a tenth.
+    const std::tuple<const char*, int, std::array<int, 3>, std::vector<std::string>,
+                     std::vector<std::string>, bool>
+        cases[] = {{InOrder, 11, {11, 4, 3}, {}, {}, true},
+                   {InOrder, 10, {11, 4, 3}, {}, {}, true},
+                   {InOrder, 12, {11, 4, 3}, {}, {}, true},
+                   {InOrder, 9, {11, 4, 3}, {}, {}, false},
+                   {InOrder, 13, {11, 4, 3}, {}, {}, false},
+                   {"[Alpha]\n(5) One\n[Gamma]\n(3) Three\n", 10, {10, 2, 6}, {"Beta"}, {}, false},
+                   {"[Beta]\n(3) Two\n[Alpha]\n(2) One\n[Gamma]\nThree\n",
+                    10,
+                    {9, 3, 3},
+                    {},
+                    {"Beta"},
+                    false}};
+    for (const auto& [source, rows, counts, missing, outOfOrder, fits] : cases) {
+        SCOPED_TRACE(std::string(source) + " of " + std::to_string(rows));
+        const StockTally tally =
+            TallyStock(ReadStockSource("07.txt", source), {rows, {"Alpha", "Beta", "Gamma"}});
+        EXPECT_EQ((std::array<int, 3>{tally.Rows, tally.DistinctRows, tally.Repeats}), counts);
+        EXPECT_EQ(tally.MissingLabels, missing);
+        EXPECT_EQ(tally.LabelsOutOfOrder, outOfOrder);
+        EXPECT_EQ(tally.Fits(), fits);
     }
 }
 

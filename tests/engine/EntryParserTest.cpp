@@ -3,6 +3,7 @@
 #include "core/Text.h"
 
 #include <gtest/gtest.h>
+#include <tuple>
 #include <vector>
 
 namespace veyrant {
@@ -47,52 +48,47 @@ TEST(ClassifyEntry, GivesTheSentenceTypeAndLeavesThePreparedForm) {
 }
 
 TEST(CheckEntry, SetsStatusAndType) {
-    const struct {
-        std::int16_t ActiveMethod;
-        std::int16_t PairCount;
-        const char* Sentence;
-        std::int16_t EntryStatus;
-        std::int16_t EntryType; // 77 when it must stay as it was
-    } cases[] = {// The first entry of a Dialogue must be longer and denser than later ones.
-                 {1, 0, "Will I be happy?", -3, 77},
-                 {1, 0, "Is it?", -2, 77},
-                 {1, 1, "Is it?", -2, 77},
-                 {1, 1, "Is it ok?", -3, 77},
-                 {1, 0, "Will tomorrow bring happiness?", 1000, 1},
-                 {1, 1, "Will tomorrow bring happiness?", 1000, 1},
-                 // Runs of blanks are not folded: two blanks are two gaps.
-                 {1, 1, "Is  it?", -3, 77},
-                 {1, 1, "Will tomorrow bring happiness?   ", 1000, 1},
-                 {1, 1, "Something here is wrong\"", -1, 77},
-                 // No end mark: a positive type leaves the 0, a bad one replaces it.
-                 {1, 1, "Will tomorrow bring happiness", 0, 1},
-                 {1, 1, "Tomorrow brings happiness for everyone", -10, 0},
-                 {1, 1, "Tomorrow brings happiness for everyone.", 1000, 2},
-                 // A statement never reaches the classifier, whatever word it opens with.
-                 {1, 1, "Why does everything feel so heavy!", 1000, 2},
-                 // A comment is only checked at its end.
-                 {4, 0, "Hi.", 1000, 77},
-                 {4, 0, "Hi", 0, 77},
-                 {4, 0, "Hi\"", -1, 77},
-                 // Supposition wants a question.
-                 {2, 1, "Tomorrow brings happiness for everyone.", 2, 77},
-                 {2, 1, "What should I change about my work?", 1000, 20},
-                 {2, 1, "What should I change about my work", 2, 77},
-                 // Inner marks become commas and start clauses.
-                 {1, 1, "Why me? who knows?", -12, -2},
-                 {1, 1, "If I go. will it rain?", 1000, 1},
-                 {1, 1, "Who knows; what matters now?", -12, -2},
-                 {1, 1, "I wondered who really knew it?", -13, -3},
-                 {1, 1, "Is it, is it, is it, is it, is it?", -11, -1},
-                 {1, 1, "Tell me about the weather?", -10, 0}};
-    for (const auto& c : cases) {
-        const std::string entryText = std::string(1, Tab) + OpenQuote + c.Sentence;
+    // Method, pairs so far, entry, its status and its type (77: left as it was).
+    const std::tuple<int, std::int16_t, const char*, int, int> cases[] = {
+        // The first entry of a Dialogue must be longer and denser than later ones.
+        {1, 0, "Will I be happy?", -3, 77},
+        {1, 0, "Is it?", -2, 77},
+        {1, 1, "Is it?", -2, 77},
+        {1, 1, "Is it ok?", -3, 77},
+        {1, 0, "Will tomorrow bring happiness?", 1000, 1},
+        {1, 1, "Will tomorrow bring happiness?", 1000, 1},
+        // Runs of blanks are not folded: two blanks are two gaps.
+        {1, 1, "Is  it?", -3, 77},
+        {1, 1, "Will tomorrow bring happiness?   ", 1000, 1},
+        {1, 1, "Something here is wrong\"", -1, 77},
+        // No end mark: a positive type leaves the 0, a bad one replaces it.
+        {1, 1, "Will tomorrow bring happiness", 0, 1},
+        {1, 1, "Tomorrow brings happiness for everyone", -10, 0},
+        {1, 1, "Tomorrow brings happiness for everyone.", 1000, 2},
+        // A statement never reaches the classifier, whatever word it opens with.
+        {1, 1, "Why does everything feel so heavy!", 1000, 2},
+        // A comment is only checked at its end.
+        {4, 0, "Hi.", 1000, 77},
+        {4, 0, "Hi", 0, 77},
+        {4, 0, "Hi\"", -1, 77},
+        // Supposition wants a question.
+        {2, 1, "Tomorrow brings happiness for everyone.", 2, 77},
+        {2, 1, "What should I change about my work?", 1000, 20},
+        {2, 1, "What should I change about my work", 2, 77},
+        // Inner marks become commas and start clauses.
+        {1, 1, "Why me? who knows?", -12, -2},
+        {1, 1, "If I go. will it rain?", 1000, 1},
+        {1, 1, "Who knows; what matters now?", -12, -2},
+        {1, 1, "I wondered who really knew it?", -13, -3},
+        {1, 1, "Is it, is it, is it, is it, is it?", -11, -1},
+        {1, 1, "Tell me about the weather?", -10, 0}};
+    for (const auto& [method, pairs, sentence, wantedStatus, wantedType] : cases) {
         auto status = static_cast<EntryVerdict>(-500);
         auto entryType = static_cast<SentenceType>(77);
-        CheckEntry(entryText, static_cast<WriteMethod>(c.ActiveMethod), c.PairCount, status,
-                   entryType);
-        EXPECT_EQ(static_cast<std::int16_t>(status), c.EntryStatus) << c.Sentence;
-        EXPECT_EQ(static_cast<std::int16_t>(entryType), c.EntryType) << c.Sentence;
+        CheckEntry(std::string(1, Tab) + OpenQuote + sentence, static_cast<WriteMethod>(method),
+                   pairs, status, entryType);
+        EXPECT_EQ(static_cast<int>(status), wantedStatus) << sentence;
+        EXPECT_EQ(static_cast<int>(entryType), wantedType) << sentence;
     }
 }
 

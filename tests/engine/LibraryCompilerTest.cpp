@@ -1,7 +1,9 @@
 #include "LibrarySource.h"
+#include "LibraryTally.h"
 #include "support/Replaced.h"
 
 #include <gtest/gtest.h>
+#include <tuple>
 
 namespace veyrant {
 namespace {
@@ -10,14 +12,8 @@ using namespace content;
 using testing::Replaced;
 
 const std::string Catalogue = "[0] < Opening >\n[1] First Topic \n[2] Inner Topic\n";
-const std::string Bodies = "# The opening Section.\n"
-                           "[0] < Opening >\n"
-                           "Welcome.\n"
-                           "\n"
-                           "[1] First Topic \n"
-                           "One paragraph ends in a blank. \n"
-                           "* A listed item\n"
-                           "[2] Inner Topic\n"
+const std::string Bodies = "# The opening Section.\n[0] < Opening >\nWelcome.\n\n[1] First Topic \n"
+                           "One paragraph ends in a blank. \n* A listed item\n[2] Inner Topic\n"
                            "It’s short—and curly.\n";
 
 LibrarySource Read(const std::string& bodies, int width = 60) {
@@ -125,6 +121,70 @@ TEST(LibraryCompiler, WidthsNameEachLibraryOnce) {
     };
     for (const auto& fault : faults) {
         EXPECT_EQ(Refusal([&] { ReadLibraryWidths({"widths.txt", fault.Text}); }), fault.Message);
+    }
+}
+
+// A body of the given length as the compiler writes it: a tab, text, CR LF.
+std::string Body(int length) {
+    return "\t" + std::string(static_cast<std::size_t>(length - 3), 'x') + "\r\n";
+}
+
+// Two Sections: the first with a one-tab and a two-tab Topic, the second with one Topic.
+LibrarySource Small(const std::string& secondSection = "< Second >", int longest = 100,
+                    int width = 110) {
+    return {"knowledge",
+            {{"< First >", Body(50), {}},
+             {"\tTopic", Body(longest), {}},
+             {"\t\tInner", Body(20), {}},
+             {secondSection, Body(60), {}},
+             {"\tLast", Body(30), {}}},
+            width};
+}
+
+const LibraryTarget Target{"knowledge", "Knowledge Library", 5, 2, 2, 1, 100, 40, 70};
+
+LibraryTarget With(int LibraryTarget::*field, int value) {
+    LibraryTarget target = Target;
+    target.*field = value;
+    return target;
+}
+
+// A Topic of 62000 characters makes the merge of its Section too long for the Reader.
+LibrarySource WithLongMerge(const std::string& section) {
+    LibrarySource library = Small(section);
+    library.Rows[4].Text = Body(62000);
+    return library;
+}
+
+// Titles with their tabs and texts sum up to the next Section.
+TEST(LibraryTally, DeparturesAreNamed) {
+    const std::tuple<LibrarySource, LibraryTarget, std::vector<std::string>> cases[] = {
+        {Small(), Target, {}},
+        {Small(), With(&LibraryTarget::Rows, 6), {"rows 5, designed 6"}},
+        {Small(), With(&LibraryTarget::Sections, 3), {"Sections 2, designed 3"}},
+        {Small(), With(&LibraryTarget::OneTabTopics, 1), {"one-tab Topics 2, designed 1"}},
+        {Small(), With(&LibraryTarget::TwoTabTopics, 0), {"two-tab Topics 1, designed 0"}},
+        {Small("< Second >", 111, 121), Target, {"longest body 111, designed 100 within a tenth"}},
+        {Small("< Second >", 110, 120), Target, {}},
+        {Small("< Second >", 100, 120),
+         Target,
+         {"RecordWidth 120 in data/libraries/widths.txt, designed 110 (longest body + 10)"}},
+        {Small(),
+         With(&LibraryTarget::SectionBodyHigh, 55),
+         {"Section bodies 50-60, designed 40-55"}},
+        {WithLongMerge("< Second >"),
+         Target,
+         {"longest body 62000, designed 100 within a tenth",
+          "RecordWidth 110 in data/libraries/widths.txt, designed 62010 (longest body + 10)",
+          "merge sum of < Second > 62005, more than 62000"}},
+        {WithLongMerge("< The Ambrel >"),
+         With(&LibraryTarget::Longest, 62000),
+         {"RecordWidth 110 in data/libraries/widths.txt, designed 62010 (longest body + 10)"}},
+        {Small("< The Ambrel >"),
+         Target,
+         {"merge sum of < The Ambrel > 35, designed above 62000"}}};
+    for (const auto& [library, target, departures] : cases) {
+        EXPECT_EQ(TallyLibrary(library, target).Departures, departures);
     }
 }
 

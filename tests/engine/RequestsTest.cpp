@@ -96,23 +96,18 @@ TEST_F(Requests, RollAnswerGivesARemarkForDrawsUpToThePercent) {
     }
 }
 
-TEST_F(Requests, SeedSeriesRoundsTheScalesHalvesToEven) {
+TEST_F(Requests, SeedSeriesRoundsTheScalesHalvesToEvenAndStretchSeedsFillsThePool) {
     TheClock.Seconds = 40000.0f;
     TheRandom.Script = {0.5f, 0.125f, 0.25f, 0.375f, 0.0f, 0.625f, 0.75f, 0.875f};
     TheEngine.SeedSeries();
     EXPECT_EQ(TheEngine.SeriesSeed, 40000.0f);
     EXPECT_FLOAT_EQ(TheEngine.SeriesBase[0], 40000.0f * 0.5f + 4000.0f);
-    EXPECT_EQ(TheEngine.SeriesScale[0], 14); // 13.5
-    EXPECT_EQ(TheEngine.SeriesScale[1], 38); // 38.5
     EXPECT_FLOAT_EQ(TheEngine.SeriesBase[2], 4000.0f);
-    EXPECT_EQ(TheEngine.SeriesScale[2], 64); // 63.5
-    EXPECT_EQ(TheEngine.SeriesScale[3], 88); // 88.5
-}
+    const std::vector<int> halves = {14, 38, 64, 88}; // from 13.5, 38.5, 63.5 and 88.5
+    EXPECT_EQ(halves,
+              std::vector<int>(TheEngine.SeriesScale.begin(), TheEngine.SeriesScale.begin() + 4));
 
-TEST_F(Requests, StretchSeedsFillsThePoolToItsLastIndex) {
-    const auto& tables = TheEngine.Tables();
-    const int size = tables.MaxSections + tables.MaxComponents + 15;
-    TheEngine.SeriesSeed = 777.0f;
+    const int size = TheEngine.Tables().MaxSections + TheEngine.Tables().MaxComponents + 15;
     TheRandom.Draws = 0;
     TheRandom.Script = {0.0f};
     TheRandom.Script.insert(TheRandom.Script.end(), 40, 0.5f);
