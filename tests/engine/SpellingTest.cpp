@@ -42,19 +42,6 @@ std::string PlainQuotes(std::string text) {
     return text;
 }
 
-// The text a line of a stock shows: no label line, no repeat mark.
-std::string StockPhrase(const std::string& line) {
-    if (line.starts_with("[")) {
-        return {};
-    }
-    return line.starts_with("(") ? line.substr(line.find(')') + 1) : line;
-}
-
-// The text a line of the Suggestions shows: the heading without its mark, or the text itself.
-std::string SuggestionPhrase(const std::string& line) {
-    return line.starts_with("=") ? line.substr(1) : line;
-}
-
 // Paths, addresses, settings and keys ("~/.local", "support@...", "$XDG_DATA_HOME", "F1") are
 // names the manual quotes, not words: a token with a digit or a mark of a path is left out.
 std::string WithoutQuotedNames(const std::string& text) {
@@ -70,23 +57,22 @@ std::string WithoutQuotedNames(const std::string& text) {
     return kept;
 }
 
-// The text a line of a library shows: a title without its level mark, an item without its star.
-std::string LibraryPhrase(const std::string& line) {
+// The text a line shows: a stock's without its label lines and repeat marks, a Suggestion's
+// heading without its mark, a library's title without its level mark and item without its star.
+std::string Phrase(const std::string& file, const std::string& line) {
+    if (file.starts_with("stocks/")) {
+        if (line.starts_with("[")) {
+            return {};
+        }
+        return line.starts_with("(") ? line.substr(line.find(')') + 1) : line;
+    }
+    if (!file.starts_with("libraries/")) {
+        return line.starts_with("=") ? line.substr(1) : line;
+    }
     if (line.size() >= 4 && line.front() == '[' && line[2] == ']') {
         return line.substr(4);
     }
     return WithoutQuotedNames(line.starts_with("* ") ? line.substr(2) : line);
-}
-
-void AddLines(const fs::path& content, const std::string& relative,
-              std::string (*phraseOf)(const std::string&), std::vector<PhraseLine>& lines) {
-    const auto source = content::SourceLines(relative, ReadWholeFile(content / relative));
-    for (std::size_t i = 0; i < source.size(); ++i) {
-        const std::string text = phraseOf(source[i]);
-        if (!text.empty()) {
-            lines.push_back({relative, static_cast<int>(i) + 1, Cp1252ToUtf8(text)});
-        }
-    }
 }
 
 // The .txt files of a folder in name order, relative to the content folder.
@@ -104,17 +90,21 @@ std::vector<std::string> TextFiles(const fs::path& content, const fs::path& fold
 // The stocks folder holds the group order as well, which shows no phrase. The libraries' titles
 // are read where their bodies stand.
 std::vector<PhraseLine> PhraseLines(const fs::path& content) {
-    std::vector<PhraseLine> lines;
-    for (const std::string& name : TextFiles(content, "stocks")) {
-        if (!name.ends_with("order.txt")) {
-            AddLines(content, name, StockPhrase, lines);
-        }
-    }
-    AddLines(content, "suggestions.txt", SuggestionPhrase, lines);
+    std::vector<std::string> files = TextFiles(content, "stocks");
+    std::erase(files, "stocks/order.txt");
+    files.push_back("suggestions.txt");
     for (const std::string_view folder : content::LibraryFolders) {
         if (fs::is_directory(content / "libraries" / folder)) {
-            for (const std::string& name : TextFiles(content, fs::path("libraries") / folder)) {
-                AddLines(content, name, LibraryPhrase, lines);
+            const auto library = TextFiles(content, fs::path("libraries") / folder);
+            files.insert(files.end(), library.begin(), library.end());
+        }
+    }
+    std::vector<PhraseLine> lines;
+    for (const std::string& file : files) {
+        const auto source = content::SourceLines(file, ReadWholeFile(content / file));
+        for (std::size_t i = 0; i < source.size(); ++i) {
+            if (const std::string text = Phrase(file, source[i]); !text.empty()) {
+                lines.push_back({file, static_cast<int>(i) + 1, Cp1252ToUtf8(text)});
             }
         }
     }
