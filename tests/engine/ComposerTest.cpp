@@ -13,7 +13,7 @@ namespace {
 // dash (TightJoiner), " I am" (CaseKeeper), and three plain phrases.
 enum : std::int16_t { Comma, Period, Dash, IAm, Hello, Big, Third };
 
-class AssembleMessage : public ::testing::Test {
+class Composing : public ::testing::Test {
 protected:
     void SetUp() override {
         stocks.Rows[1] = {"",      " Label",       ",",         ".",     "\x97",
@@ -51,7 +51,7 @@ protected:
 
 // Row 0 of a component, its label, lies in the idle plane; the draw runs from row 1, so a label
 // row marked there never shows.
-TEST_F(AssembleMessage, SetsCaseAndSpacingByTheTwoListsAndNeverShowsTheLabelRow) {
+TEST_F(Composing, AssembleSetsCaseAndSpacingByTheTwoListsAndNeverShowsTheLabelRow) {
     tables.Map.At(0, Hello, 0) = 1;
     const struct {
         std::vector<std::int16_t> Components;
@@ -85,13 +85,13 @@ TEST_F(AssembleMessage, SetsCaseAndSpacingByTheTwoListsAndNeverShowsTheLabelRow)
 }
 
 // Tables that name no CaseKeeper have no comma rule: every row after the first is lowered.
-TEST_F(AssembleMessage, WorksWithoutCaseKeepers) {
+TEST_F(Composing, AssembleWorksWithoutCaseKeepers) {
     tables.CaseKeepers = {0};
     composer.MarkJoiners();
     EXPECT_EQ(Assemble({Hello, Comma, IAm, Big}), "\t Hello there, i am big news");
 }
 
-TEST_F(AssembleMessage, ReportsAComponentOutsideTheStocks) {
+TEST_F(Composing, AssembleReportsAComponentOutsideTheStocks) {
     tables.ComponentBlock[Big] = 0;
     EXPECT_EQ(Assemble({Hello, Big}), "\t Hello there hello there");
     ASSERT_EQ(windows.Boxes.size(), 1u);
@@ -109,8 +109,7 @@ const std::string RepeatingPlans =
     "\"s\", 1, 4\r\n\"s\", 1, 4\r\n\"s\", 1, 4\r\n0\r\n"
     "1, 1, \"0\"\r\n2, 1, \"0, 0\"\r\n3, 1, \"0,0 0\"\r\n4, 1, \"\"\r\n";
 
-TEST(BuildMessage, DrawsEachSectionAndEachRowWithASeedOfItsOwn) {
-    EngineTables tables;
+TEST_F(Composing, BuildMessageDrawsEachSectionAndEachRowWithASeedOfItsOwn) {
     tables.MessageCount = 1;
     tables.SectionCount = 1;
     tables.MaxSections = 2;
@@ -119,10 +118,6 @@ TEST(BuildMessage, DrawsEachSectionAndEachRowWithASeedOfItsOwn) {
     tables.SectionCombos = {0, 3};
     tables.ComponentRows = {100};
     tables.ComponentBlock = {1};
-    PhraseStocks stocks;
-    Random random;
-    testing::FakeWindowLayer windows;
-    Composer composer(tables, stocks, random, windows);
     KeptPlans plans(RepeatingPlans, tables);
     std::vector<float> pool(2 + 6 + 15 + 1);
     for (std::size_t i = 1; i < pool.size(); ++i) {

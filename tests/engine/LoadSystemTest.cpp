@@ -38,6 +38,8 @@ std::string ShippedWith(std::string_view from, std::string_view to) {
 using LoadSystem = testing::EngineFixture;
 
 TEST_F(LoadSystem, ADamagedTableFileEndsTheStartWithItsBox) {
+    const std::string tooLarge =
+        "DESIGN ERROR: Sysblocks too large for current system design. Sysblocks=";
     const std::pair<std::string, std::string> cases[] = {
         {ShippedWith("\"Parity\"", "7, \"Parity\""), ParityText},
         {ShippedWith("\"Parity\"", "\"parity\""), ParityText},
@@ -53,12 +55,8 @@ TEST_F(LoadSystem, ADamagedTableFileEndsTheStartWithItsBox) {
         // anything is allocated for them.
         {SmallSystemFile(14).replace(6, 4, "32767, 1"), MemoryText},
         {ShippedWith("\r\n4\r\n1\r\n14\r\n", "\r\n4\r\n1\r\n32767\r\n"), MemoryText},
-        {SmallSystemFile(15),
-         "DESIGN ERROR: Sysblocks too large for current system design. Sysblocks=15 "
-         "exceeds MaxDataBlocks=14"},
-        {SmallSystemFile(32767),
-         "DESIGN ERROR: Sysblocks too large for current system design. Sysblocks=32767 "
-         "exceeds MaxDataBlocks=14"},
+        {SmallSystemFile(15), tooLarge + "15 exceeds MaxDataBlocks=14"},
+        {SmallSystemFile(32767), tooLarge + "32767 exceeds MaxDataBlocks=14"},
         {SmallSystemFile(13),
          "Incorrect number=14 of LCMs in LoadSystem. Probable missing BAS file(s) in "
          "system MAK. Required SysBlocks=13\r\n\r\nThe missing cmp.BAS files must be "
@@ -88,19 +86,17 @@ TEST_F(LoadSystem, TheShippedTablesFitTheStocksAndThePlans) {
     EXPECT_EQ(t.SysBlockCount, 14);
     EXPECT_EQ(t.MessageCount, 16);
     EXPECT_EQ(stocks.LastLoaded, 14);
-    for (int b = 1; b <= 14; ++b) {
-        EXPECT_EQ(t.BlockRows[static_cast<std::size_t>(b)] + 1u,
-                  stocks.Rows[static_cast<std::size_t>(b)].size());
+    for (std::size_t b = 1; b <= 14; ++b) {
+        EXPECT_EQ(t.BlockRows[b] + 1u, stocks.Rows[b].size());
     }
     for (int c = 0; c <= t.ComponentCount; ++c) {
         const int block = t.ComponentBlock[static_cast<std::size_t>(c)];
-        ASSERT_GE(block, 1);
-        ASSERT_LE(block, 14);
+        ASSERT_TRUE(block >= 1 && block <= 14) << block;
         const auto& rows = stocks.Rows[static_cast<std::size_t>(block)];
         EXPECT_FALSE(rows.at(static_cast<std::size_t>(t.Map.At(0, c, 0))).empty());
-        ASSERT_GE(t.ComponentRows[static_cast<std::size_t>(c)], 1);
-        ASSERT_LE(t.ComponentRows[static_cast<std::size_t>(c)], t.RowCap);
-        for (int r = 1; r <= t.ComponentRows[static_cast<std::size_t>(c)]; ++r) {
+        const int count = t.ComponentRows[static_cast<std::size_t>(c)];
+        ASSERT_TRUE(count >= 1 && count <= t.RowCap) << count;
+        for (int r = 1; r <= count; ++r) {
             const std::string_view row = rows.at(static_cast<std::size_t>(t.Map.At(block, c, r)));
             const bool punctuation = row == "." || row == "?" || row == "," || row == "\x97";
             const bool phrase = row.size() > 1 && row[0] == ' ' &&

@@ -139,25 +139,22 @@ TEST_F(Requests, PickGuidanceDrawsOverTheSuggestionsThatStand) {
     EXPECT_NE(TheEngine.SuggestionText.find("\r\n\t"), std::string::npos);
 }
 
+// The plans are read at the first request.
 TEST_F(Requests, ADamagedPlanFileGivesItsBoxAndTheProgramGoesOn) {
     WriteWholeFile(Folder.Exe() / "qdr41.mtx", "1, 2, x\r\n");
-    Engine engine(TheRandom, TheClock, Windows);
-    ASSERT_TRUE(engine.LoadSystem(Folder));
-    engine.SeriesSeed = 100.0f;
-    engine.StretchSeeds();
-    engine.RequestAnswer(SentenceType::YesNoQuestion);
+    TheEngine.RequestAnswer(SentenceType::YesNoQuestion);
     ASSERT_EQ(Windows.Boxes.size(), 1u);
     EXPECT_EQ(Windows.Boxes[0].Title, "Error LoadPlan");
     EXPECT_EQ(Windows.Boxes[0].Text, "Error 13 reading the message plans in qdr41.mtx. The "
                                      "Sagrel cannot compose a response until the file is "
                                      "restored.");
-    EXPECT_EQ(engine.ReplyText, "\t");
+    EXPECT_EQ(TheEngine.ReplyText, "\t");
 
     // Restored, the file is read at the next request.
     WriteWholeFile(Folder.Exe() / "qdr41.mtx", ShippedPlanFile());
-    engine.RequestAnswer(SentenceType::YesNoQuestion);
+    TheEngine.RequestAnswer(SentenceType::YesNoQuestion);
     EXPECT_EQ(Windows.Boxes.size(), 1u);
-    EXPECT_GT(engine.ReplyText.size(), 3u);
+    EXPECT_GT(TheEngine.ReplyText.size(), 3u);
 }
 
 } // namespace
