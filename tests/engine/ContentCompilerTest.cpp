@@ -61,6 +61,10 @@ TEST(ContentCompiler, WritesTheEngineFilesOfTheSmallContent) {
     EXPECT_EQ(tables.ComponentCount, 3);
     EXPECT_EQ(tables.ComponentRows[2], 3);
     EXPECT_EQ(tables.Map.At(1, 2, 3), 8);
+    // The label row lies in the idle plane only.
+    EXPECT_EQ(tables.Map.At(0, 2, 0), 5);
+    EXPECT_EQ(tables.Map.At(1, 2, 0), 0);
+    EXPECT_EQ(tables.CaseKeepers.size(), 3u); // a blank first, then the comma and the period
     EXPECT_EQ(tables.ComponentBlock[3], 2);
     EXPECT_EQ(tables.MessageCombos[1], 2);
     const KeptPlans plans(data.PlanFile, tables);
