@@ -5,6 +5,7 @@
 #include "support/FakeWindowLayer.h"
 
 #include <gtest/gtest.h>
+#include <utility>
 
 namespace veyrant {
 namespace {
@@ -53,10 +54,7 @@ protected:
 // row marked there never shows.
 TEST_F(Composing, AssembleSetsCaseAndSpacingByTheTwoListsAndNeverShowsTheLabelRow) {
     tables.Map.At(0, Hello, 0) = 1;
-    const struct {
-        std::vector<std::int16_t> Components;
-        const char* Text;
-    } cases[] = {
+    const std::pair<std::vector<std::int16_t>, const char*> cases[] = {
         // One component: a tab and the row, lead blank included.
         {{Hello}, "\t Hello there"},
         {{Hello, Big}, "\t Hello there big news"},
@@ -78,8 +76,8 @@ TEST_F(Composing, AssembleSetsCaseAndSpacingByTheTwoListsAndNeverShowsTheLabelRo
         {{Hello, Hello}, "\t Hello there hello there"},
         {{}, "\t"},
     };
-    for (const auto& c : cases) {
-        EXPECT_EQ(Assemble(c.Components), c.Text);
+    for (const auto& [components, text] : cases) {
+        EXPECT_EQ(Assemble(components), text);
     }
     EXPECT_TRUE(windows.Boxes.empty());
 }

@@ -58,48 +58,45 @@ TEST(LibraryCompiler, ASectionMayContinueInTheNextFile) {
 
 // Each refusal names its file and line.
 TEST(LibraryCompiler, RefusalsNameFileAndLine) {
-    const struct {
-        std::string Bodies;
-        int Width;
-        std::string Message;
-    } cases[] = {{Replaced(Bodies, "[1] First Topic \n", "[1] First Topic\n"), 60,
-                  "1-opening.txt:5: the title \"First Topic\" stands where the catalogue has "
-                  "\"First Topic\" (row 1, with its level and blanks)"},
-                 {Replaced(Bodies, "[2] Inner", "[1] Inner"), 60,
-                  "1-opening.txt:8: the title \"Inner Topic\" stands where the catalogue has "
-                  "\"Inner Topic\" (row 2, with its level and blanks)"},
-                 {"[0] < Opening >\nA.\n[2] Inner Topic\nB.\n[1] First Topic \nC.\n", 60,
-                  "1-opening.txt:3: the title \"Inner Topic\" stands where the catalogue has "
-                  "\"First Topic\" (row 1, with its level and blanks)"},
-                 {Bodies + "[1] Extra\nD.\n", 60,
-                  "1-opening.txt:10: the title \"Extra\" is past the 3 rows of the catalogue"},
-                 {Replaced(Bodies, "[2] Inner Topic\nIt’s short—and curly.\n", ""), 60,
-                  "catalogue.txt:3: the row \"Inner Topic\" has no body in "
-                  "data/libraries/knowledge/"},
-                 {Replaced(Bodies, "[2] Inner", "[3] Inner"), 60,
-                  "1-opening.txt:8: a title is marked [0], [1] or [2]"},
-                 {Replaced(Bodies, "Welcome.\n", ""), 60,
-                  "1-opening.txt:2: the row \"< Opening >\" has no text"},
-                 {"Preface.\n" + Bodies, 60, "1-opening.txt:1: text before the first title"},
-                 {Bodies, 50,
-                  "1-opening.txt:5: the body of \"First Topic\" holds 51 characters, more than "
-                  "the library's width of 50 (data/libraries/widths.txt)"},
-                 {Replaced(Bodies, "Welcome.", " Welcome."), 60,
-                  "1-opening.txt:3: a paragraph begins with a blank or a tab; the program "
-                  "gives it its own tab"},
-                 {Replaced(Bodies, "Welcome.", "\tWelcome."), 60,
-                  "1-opening.txt:3: a paragraph begins with a blank or a tab; the program "
-                  "gives it its own tab"},
-                 {Replaced(Bodies, "Welcome.", "Wel\tcome."), 60,
-                  "1-opening.txt:3: a paragraph holds a tab or a control character"},
-                 {Replaced(Bodies, "* A listed", "*A listed"), 60,
-                  "1-opening.txt:7: an item is written \"* \" and its text"},
-                 {Replaced(Bodies, "* A listed item", "* "), 60,
-                  "1-opening.txt:7: an item is written \"* \" and its text"},
-                 {Replaced(Bodies, "Welcome.", "Welcome \xE2\x98\x83."), 60,
-                  "1-opening.txt:3: a character at byte 9 has no Windows-1252 code"}};
-    for (const auto& c : cases) {
-        EXPECT_EQ(Refusal([&] { Read(c.Bodies, c.Width); }), c.Message);
+    const std::tuple<std::string, int, std::string> cases[] = {
+        {Replaced(Bodies, "[1] First Topic \n", "[1] First Topic\n"), 60,
+         "1-opening.txt:5: the title \"First Topic\" stands where the catalogue has "
+         "\"First Topic\" (row 1, with its level and blanks)"},
+        {Replaced(Bodies, "[2] Inner", "[1] Inner"), 60,
+         "1-opening.txt:8: the title \"Inner Topic\" stands where the catalogue has "
+         "\"Inner Topic\" (row 2, with its level and blanks)"},
+        {"[0] < Opening >\nA.\n[2] Inner Topic\nB.\n[1] First Topic \nC.\n", 60,
+         "1-opening.txt:3: the title \"Inner Topic\" stands where the catalogue has "
+         "\"First Topic\" (row 1, with its level and blanks)"},
+        {Bodies + "[1] Extra\nD.\n", 60,
+         "1-opening.txt:10: the title \"Extra\" is past the 3 rows of the catalogue"},
+        {Replaced(Bodies, "[2] Inner Topic\nIt’s short—and curly.\n", ""), 60,
+         "catalogue.txt:3: the row \"Inner Topic\" has no body in "
+         "data/libraries/knowledge/"},
+        {Replaced(Bodies, "[2] Inner", "[3] Inner"), 60,
+         "1-opening.txt:8: a title is marked [0], [1] or [2]"},
+        {Replaced(Bodies, "Welcome.\n", ""), 60,
+         "1-opening.txt:2: the row \"< Opening >\" has no text"},
+        {"Preface.\n" + Bodies, 60, "1-opening.txt:1: text before the first title"},
+        {Bodies, 50,
+         "1-opening.txt:5: the body of \"First Topic\" holds 51 characters, more than "
+         "the library's width of 50 (data/libraries/widths.txt)"},
+        {Replaced(Bodies, "Welcome.", " Welcome."), 60,
+         "1-opening.txt:3: a paragraph begins with a blank or a tab; the program "
+         "gives it its own tab"},
+        {Replaced(Bodies, "Welcome.", "\tWelcome."), 60,
+         "1-opening.txt:3: a paragraph begins with a blank or a tab; the program "
+         "gives it its own tab"},
+        {Replaced(Bodies, "Welcome.", "Wel\tcome."), 60,
+         "1-opening.txt:3: a paragraph holds a tab or a control character"},
+        {Replaced(Bodies, "* A listed", "*A listed"), 60,
+         "1-opening.txt:7: an item is written \"* \" and its text"},
+        {Replaced(Bodies, "* A listed item", "* "), 60,
+         "1-opening.txt:7: an item is written \"* \" and its text"},
+        {Replaced(Bodies, "Welcome.", "Welcome \xE2\x98\x83."), 60,
+         "1-opening.txt:3: a character at byte 9 has no Windows-1252 code"}};
+    for (const auto& [bodies, width, message] : cases) {
+        EXPECT_EQ(Refusal([&] { Read(bodies, width); }), message);
     }
 }
 
@@ -107,10 +104,7 @@ TEST(LibraryCompiler, WidthsNameEachLibraryOnce) {
     const auto widths = ReadLibraryWidths(
         {"widths.txt", "# records\ninformation 870\nknowledge 884\nadvanced 2842\n"});
     EXPECT_EQ(widths.at("knowledge"), 884);
-    const struct {
-        const char* Text;
-        const char* Message;
-    } faults[] = {
+    const std::pair<const char*, const char*> faults[] = {
         {"information 870\nknowledge 884\n", "widths.txt:0: no width for advanced"},
         {"information 870\nknowledge 884\nadvanced\n",
          "widths.txt:3: a width is written \"information 870\", naming information, knowledge "
@@ -119,8 +113,8 @@ TEST(LibraryCompiler, WidthsNameEachLibraryOnce) {
          "widths.txt:3: a width is written \"information 870\", naming information, knowledge "
          "or advanced"},
     };
-    for (const auto& fault : faults) {
-        EXPECT_EQ(Refusal([&] { ReadLibraryWidths({"widths.txt", fault.Text}); }), fault.Message);
+    for (const auto& [text, message] : faults) {
+        EXPECT_EQ(Refusal([&] { ReadLibraryWidths({"widths.txt", text}); }), message);
     }
 }
 

@@ -110,27 +110,24 @@ TEST(LoadPlan, ScansMessagesThenSectionsAsTheKeptPlansDo) {
     tables.MessageCount = 2;
     tables.SectionCount = 2;
     const KeptPlans kept(FourPlanFile(), tables);
-    const struct {
-        const char* Kind;
-        std::int16_t Number;
-        const char* Sequence;
-    } cases[] = {{"Message", 1, "100"},
-                 {"Message", 2, "200"},
-                 // Section 1 stands right behind the last message.
-                 {"Section", 1, "300"},
-                 {"Section", 2, "400"},
-                 // A scan that never meets its plan ends on the last.
-                 {"Section", 3, "400"},
-                 {"Message", 0, "400"},
-                 {"message", 1, "400"}};
-    for (const auto& c : cases) {
-        SCOPED_TRACE(std::string(c.Kind) + " " + std::to_string(c.Number));
+    const std::tuple<const char*, std::int16_t, const char*> cases[] = {
+        {"Message", 1, "100"},
+        {"Message", 2, "200"},
+        // Section 1 stands right behind the last message.
+        {"Section", 1, "300"},
+        {"Section", 2, "400"},
+        // A scan that never meets its plan ends on the last.
+        {"Section", 3, "400"},
+        {"Message", 0, "400"},
+        {"message", 1, "400"}};
+    for (const auto& [kind, number, sequenceText] : cases) {
+        SCOPED_TRACE(std::string(kind) + " " + std::to_string(number));
         MessagePlan plan;
-        LoadPlan(temp / "qdr41.mtx", c.Kind, c.Number, tables, plan);
-        EXPECT_EQ(GenMatrixSeq(plan, 1), c.Sequence);
+        LoadPlan(temp / "qdr41.mtx", kind, number, tables, plan);
+        EXPECT_EQ(GenMatrixSeq(plan, 1), sequenceText);
         std::vector<std::int16_t> sequence;
-        KeptPlans(kept).AppendSequence(c.Kind, c.Number, 1, sequence);
-        EXPECT_EQ(sequence, ReadSequence(c.Sequence));
+        KeptPlans(kept).AppendSequence(kind, number, 1, sequence);
+        EXPECT_EQ(sequence, ReadSequence(sequenceText));
     }
 }
 

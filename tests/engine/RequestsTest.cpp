@@ -4,6 +4,7 @@
 #include "engine/Suggestions.h"
 
 #include <gtest/gtest.h>
+#include <tuple>
 
 namespace veyrant {
 namespace {
@@ -26,29 +27,26 @@ protected:
 
 // A type with no message of its own gives the last composition again (message 0 below).
 TEST_F(Requests, AnswerAndRemarkPickTheirMessageByEntryTypeAndOnlyTheAnswerShowsTheBusyPointer) {
-    const struct {
-        bool Answer;
-        std::int16_t Type;
-        std::int16_t Message;
-    } cases[] = {{true, 1, 1},    {true, 10, 2},   {true, 20, 3},     {true, 30, 4},
-                 {true, 40, 5},   {true, 50, 6},   {true, 60, 7},     {true, 2, 8},
-                 {true, 0, 0},    {true, -1, 0},   {true, 9, 0},      {false, 1, 11},
-                 {false, 10, 12}, {false, 60, 12}, {false, 1000, 12}, {false, 2, 13},
-                 {false, 9, 14},  {false, 0, 0},   {false, -3, 0},    {false, 5, 0}};
-    for (const auto& c : cases) {
-        SCOPED_TRACE(std::to_string(c.Answer) + " for type " + std::to_string(c.Type));
-        const std::string wanted = c.Message == 0 ? "" : Composed(c.Message);
-        const std::string last = Composed(c.Message == 16 ? 15 : 16); // something in between
+    // Answer or remark, the entry type, and the message that answers (0: none).
+    const std::tuple<bool, std::int16_t, std::int16_t> cases[] = {
+        {true, 1, 1},   {true, 10, 2},  {true, 20, 3},   {true, 30, 4},   {true, 40, 5},
+        {true, 50, 6},  {true, 60, 7},  {true, 2, 8},    {true, 0, 0},    {true, -1, 0},
+        {true, 9, 0},   {false, 1, 11}, {false, 10, 12}, {false, 60, 12}, {false, 1000, 12},
+        {false, 2, 13}, {false, 9, 14}, {false, 0, 0},   {false, -3, 0},  {false, 5, 0}};
+    for (const auto& [answer, type, message] : cases) {
+        SCOPED_TRACE(std::to_string(answer) + " for type " + std::to_string(type));
+        const std::string wanted = message == 0 ? "" : Composed(message);
+        const std::string last = Composed(message == 16 ? 15 : 16); // something in between
         Windows.BusyChanges.clear();
-        if (c.Answer) {
-            TheEngine.RequestAnswer(static_cast<SentenceType>(c.Type));
+        if (answer) {
+            TheEngine.RequestAnswer(static_cast<SentenceType>(type));
         } else {
-            TheEngine.RequestRemark(static_cast<SentenceType>(c.Type));
+            TheEngine.RequestRemark(static_cast<SentenceType>(type));
         }
-        EXPECT_EQ(TheEngine.ReplyText, c.Message == 0 ? last : wanted);
+        EXPECT_EQ(TheEngine.ReplyText, message == 0 ? last : wanted);
         EXPECT_EQ(TheEngine.ReplyText.substr(0, 2), "\t ");
         EXPECT_EQ(Windows.BusyChanges,
-                  (c.Answer ? std::vector<bool>{true, false} : std::vector<bool>{}));
+                  (answer ? std::vector<bool>{true, false} : std::vector<bool>{}));
     }
 }
 
@@ -79,19 +77,16 @@ TEST_F(Requests, VerdictInspirationAndInterjectionTakeTheirMessage) {
 }
 
 TEST_F(Requests, RollAnswerGivesARemarkForDrawsUpToThePercent) {
-    const struct {
-        float Draw;
-        std::int16_t Percent;
-        std::int16_t Flag;
-    } cases[] = {{0.0f, 25, 0},  {0.24f, 25, 0}, {0.25f, 25, 1}, {0.99f, 25, 1},
-                 {0.19f, 20, 0}, {0.2f, 20, 1},  {0.5f, 0, 1},   {0.99f, 100, 0}};
-    for (const auto& c : cases) {
+    // The draw, the percent of remarks, and the flag: 0 a remark, 1 an answer.
+    const std::tuple<float, std::int16_t, int> cases[] = {
+        {0.0f, 25, 0},  {0.24f, 25, 0}, {0.25f, 25, 1}, {0.99f, 25, 1},
+        {0.19f, 20, 0}, {0.2f, 20, 1},  {0.5f, 0, 1},   {0.99f, 100, 0}};
+    for (const auto& [draw, percent, flag] : cases) {
         TheClock.Seconds = 1234.5f;
         TheRandom.Seeds.clear();
-        TheRandom.Script = {c.Draw};
-        TheEngine.RollAnswer(c.Percent);
-        EXPECT_EQ(static_cast<std::int16_t>(TheEngine.AnswerFlag), c.Flag)
-            << c.Draw << " of " << c.Percent;
+        TheRandom.Script = {draw};
+        TheEngine.RollAnswer(percent);
+        EXPECT_EQ(static_cast<int>(TheEngine.AnswerFlag), flag) << draw << " of " << percent;
         EXPECT_EQ(TheRandom.Seeds, std::vector<float>{1234.5f});
     }
 }
