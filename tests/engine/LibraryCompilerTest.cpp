@@ -58,16 +58,20 @@ TEST(LibraryCompiler, ASectionMayContinueInTheNextFile) {
 
 // Each refusal names its file and line.
 TEST(LibraryCompiler, RefusalsNameFileAndLine) {
+    const auto misplaced = [](const char* line, const char* title, const char* row) {
+        return std::string("1-opening.txt:") + line + ": the title \"" + title +
+               "\" stands where the catalogue has " + row + " with its level and blanks)";
+    };
+    const std::string leadBlank = "1-opening.txt:3: a paragraph begins with a blank or a tab; the "
+                                  "program gives it its own tab";
+    const std::string item = "1-opening.txt:7: an item is written \"* \" and its text";
     const std::tuple<std::string, int, std::string> cases[] = {
         {Replaced(Bodies, "[1] First Topic \n", "[1] First Topic\n"), 60,
-         "1-opening.txt:5: the title \"First Topic\" stands where the catalogue has "
-         "\"First Topic\" (row 1, with its level and blanks)"},
+         misplaced("5", "First Topic", "\"First Topic\" (row 1,")},
         {Replaced(Bodies, "[2] Inner", "[1] Inner"), 60,
-         "1-opening.txt:8: the title \"Inner Topic\" stands where the catalogue has "
-         "\"Inner Topic\" (row 2, with its level and blanks)"},
+         misplaced("8", "Inner Topic", "\"Inner Topic\" (row 2,")},
         {"[0] < Opening >\nA.\n[2] Inner Topic\nB.\n[1] First Topic \nC.\n", 60,
-         "1-opening.txt:3: the title \"Inner Topic\" stands where the catalogue has "
-         "\"First Topic\" (row 1, with its level and blanks)"},
+         misplaced("3", "Inner Topic", "\"First Topic\" (row 1,")},
         {Bodies + "[1] Extra\nD.\n", 60,
          "1-opening.txt:10: the title \"Extra\" is past the 3 rows of the catalogue"},
         {Replaced(Bodies, "[2] Inner Topic\nIt’s short—and curly.\n", ""), 60,
@@ -81,18 +85,12 @@ TEST(LibraryCompiler, RefusalsNameFileAndLine) {
         {Bodies, 50,
          "1-opening.txt:5: the body of \"First Topic\" holds 51 characters, more than "
          "the library's width of 50 (data/libraries/widths.txt)"},
-        {Replaced(Bodies, "Welcome.", " Welcome."), 60,
-         "1-opening.txt:3: a paragraph begins with a blank or a tab; the program "
-         "gives it its own tab"},
-        {Replaced(Bodies, "Welcome.", "\tWelcome."), 60,
-         "1-opening.txt:3: a paragraph begins with a blank or a tab; the program "
-         "gives it its own tab"},
+        {Replaced(Bodies, "Welcome.", " Welcome."), 60, leadBlank},
+        {Replaced(Bodies, "Welcome.", "\tWelcome."), 60, leadBlank},
         {Replaced(Bodies, "Welcome.", "Wel\tcome."), 60,
          "1-opening.txt:3: a paragraph holds a tab or a control character"},
-        {Replaced(Bodies, "* A listed", "*A listed"), 60,
-         "1-opening.txt:7: an item is written \"* \" and its text"},
-        {Replaced(Bodies, "* A listed item", "* "), 60,
-         "1-opening.txt:7: an item is written \"* \" and its text"},
+        {Replaced(Bodies, "* A listed", "*A listed"), 60, item},
+        {Replaced(Bodies, "* A listed item", "* "), 60, item},
         {Replaced(Bodies, "Welcome.", "Welcome \xE2\x98\x83."), 60,
          "1-opening.txt:3: a character at byte 9 has no Windows-1252 code"}};
     for (const auto& [bodies, width, message] : cases) {
