@@ -5,6 +5,7 @@
 #include "support/FakeWindowLayer.h"
 
 #include <gtest/gtest.h>
+#include <utility>
 
 namespace veyrant {
 namespace {
@@ -13,7 +14,7 @@ namespace {
 // dash (TightJoiner), " I am" (CaseKeeper), and three plain phrases.
 enum : std::int16_t { Comma, Period, Dash, IAm, Hello, Big, Third };
 
-class AssembleMessage : public ::testing::Test {
+class Composing : public ::testing::Test {
 protected:
     void SetUp() override {
         stocks.Rows[1] = {"",      " Label",       ",",         ".",     "\x97",
@@ -51,12 +52,9 @@ protected:
 
 // Row 0 of a component, its label, lies in the idle plane; the draw runs from row 1, so a label
 // row marked there never shows.
-TEST_F(AssembleMessage, SetsCaseAndSpacingByTheTwoListsAndNeverShowsTheLabelRow) {
+TEST_F(Composing, AssembleSetsCaseAndSpacingByTheTwoListsAndNeverShowsTheLabelRow) {
     tables.Map.At(0, Hello, 0) = 1;
-    const struct {
-        std::vector<std::int16_t> Components;
-        const char* Text;
-    } cases[] = {
+    const std::pair<std::vector<std::int16_t>, const char*> cases[] = {
         // One component: a tab and the row, lead blank included.
         {{Hello}, "\t Hello there"},
         {{Hello, Big}, "\t Hello there big news"},
@@ -78,20 +76,20 @@ TEST_F(AssembleMessage, SetsCaseAndSpacingByTheTwoListsAndNeverShowsTheLabelRow)
         {{Hello, Hello}, "\t Hello there hello there"},
         {{}, "\t"},
     };
-    for (const auto& c : cases) {
-        EXPECT_EQ(Assemble(c.Components), c.Text);
+    for (const auto& [components, text] : cases) {
+        EXPECT_EQ(Assemble(components), text);
     }
     EXPECT_TRUE(windows.Boxes.empty());
 }
 
 // Tables that name no CaseKeeper have no comma rule: every row after the first is lowered.
-TEST_F(AssembleMessage, WorksWithoutCaseKeepers) {
+TEST_F(Composing, AssembleWorksWithoutCaseKeepers) {
     tables.CaseKeepers = {0};
     composer.MarkJoiners();
     EXPECT_EQ(Assemble({Hello, Comma, IAm, Big}), "\t Hello there, i am big news");
 }
 
-TEST_F(AssembleMessage, ReportsAComponentOutsideTheStocks) {
+TEST_F(Composing, AssembleReportsAComponentOutsideTheStocks) {
     tables.ComponentBlock[Big] = 0;
     EXPECT_EQ(Assemble({Hello, Big}), "\t Hello there hello there");
     ASSERT_EQ(windows.Boxes.size(), 1u);
@@ -99,22 +97,6 @@ TEST_F(AssembleMessage, ReportsAComponentOutsideTheStocks) {
     EXPECT_EQ(windows.Boxes[0].Text, "Error in Sub Rcmp configuration. Must be put into "
                                      "comformity for the correct number of SysBlocks.");
     EXPECT_EQ(windows.Boxes[0].Buttons, MessageButtons::OkCancel);
-}
-
-TEST_F(AssembleMessage, SplitsThePoolBetweenMessageSectionsAndRows) {
-    tables.MaxSections = 2;
-    tables.MaxComponents = 3;
-    std::vector<float> pool(2 + 3 + 15 + 1);
-    for (std::size_t i = 1; i < pool.size(); ++i) {
-        pool[i] = static_cast<float>(i);
-    }
-    composer.SplitSeeds(pool);
-    EXPECT_EQ(composer.MessageSeed, 1.0f);
-    EXPECT_EQ(composer.SectionSeeds, (std::vector<float>{0, 2, 3, 4, 0, 0}));
-    ASSERT_EQ(composer.RowSeeds.size(), pool.size());
-    EXPECT_EQ(composer.RowSeeds[1], 5.0f);
-    EXPECT_EQ(composer.RowSeeds[16], 20.0f); // MaxComponents + 13 filled
-    EXPECT_EQ(composer.RowSeeds[17], 0.0f);
 }
 
 // Message 1 takes section 1 twice; section 1 takes component 0 once, twice or three times.
@@ -125,8 +107,7 @@ const std::string RepeatingPlans =
     "\"s\", 1, 4\r\n\"s\", 1, 4\r\n\"s\", 1, 4\r\n0\r\n"
     "1, 1, \"0\"\r\n2, 1, \"0, 0\"\r\n3, 1, \"0,0 0\"\r\n4, 1, \"\"\r\n";
 
-TEST(BuildMessage, DrawsEachSectionAndEachRowWithASeedOfItsOwn) {
-    EngineTables tables;
+TEST_F(Composing, BuildMessageDrawsEachSectionAndEachRowWithASeedOfItsOwn) {
     tables.MessageCount = 1;
     tables.SectionCount = 1;
     tables.MaxSections = 2;
@@ -135,16 +116,18 @@ TEST(BuildMessage, DrawsEachSectionAndEachRowWithASeedOfItsOwn) {
     tables.SectionCombos = {0, 3};
     tables.ComponentRows = {100};
     tables.ComponentBlock = {1};
-    PhraseStocks stocks;
-    Random random;
-    testing::FakeWindowLayer windows;
-    Composer composer(tables, stocks, random, windows);
     KeptPlans plans(RepeatingPlans, tables);
     std::vector<float> pool(2 + 6 + 15 + 1);
     for (std::size_t i = 1; i < pool.size(); ++i) {
         pool[i] = 1000.25f * static_cast<float>(i);
     }
     composer.BuildMessage(1, pool, plans);
+    // The message draws with the first seed, the sections with the next, one spare among them.
+    EXPECT_EQ(composer.MessageSeed, pool[1]);
+    EXPECT_EQ(composer.SectionSeeds, (std::vector<float>{0, pool[2], pool[3], pool[4], 0, 0}));
+    ASSERT_EQ(composer.RowSeeds.size(), pool.size());
+    EXPECT_EQ(composer.RowSeeds[19], pool[23]); // MaxComponents + 13 filled
+    EXPECT_EQ(composer.RowSeeds[20], 0.0f);
 
     Random expected;
     const auto draw = [&expected](float seed, int scale) {

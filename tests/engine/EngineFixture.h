@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/Random.h"
+#include "core/WholeFile.h"
 #include "engine/Engine.h"
 #include "engine/EngineFiles.h"
 #include "support/FakeClock.h"
@@ -9,8 +10,21 @@
 
 #include <deque>
 #include <gtest/gtest.h>
+#include <sstream>
 
 namespace veyrant::testing {
+
+// The lines of a list file, leaving out empty ones and comments, which begin with '#'.
+inline std::vector<std::string> ListedLines(const std::filesystem::path& file) {
+    std::vector<std::string> lines;
+    std::istringstream text(ReadWholeFile(file));
+    for (std::string line; std::getline(text, line);) {
+        if (!line.empty() && line.front() != '#') {
+            lines.push_back(line);
+        }
+    }
+    return lines;
+}
 
 // Draws what the test lists, then falls back to the real series; counts the draws.
 class ScriptedRandom : public Random {
@@ -33,6 +47,13 @@ public:
     int Draws = 0;
 };
 
+// Records each change of the busy pointer.
+class BusyRecordingWindows : public FakeWindowLayer {
+public:
+    void SetBusyPointer(bool busy) override { BusyChanges.push_back(busy); }
+    std::vector<bool> BusyChanges;
+};
+
 // A program folder with the shipped engine files laid down and the engine loaded from them.
 class EngineFixture : public ::testing::Test {
 protected:
@@ -44,7 +65,7 @@ protected:
 
     TempFolder Temp;
     AppFolder Folder{Temp.Path()};
-    FakeWindowLayer Windows;
+    BusyRecordingWindows Windows;
     FakeClock TheClock;
     ScriptedRandom TheRandom;
     Engine TheEngine{TheRandom, TheClock, Windows};

@@ -8,8 +8,6 @@
 namespace veyrant {
 namespace {
 
-using testing::FakeWindowLayer;
-
 const std::string MemoryText =
     "The system cannot load the Veyrant Sagrel because it has insufficient available "
     "memory.\r\n\r\n"
@@ -37,7 +35,11 @@ std::string ShippedWith(std::string_view from, std::string_view to) {
 }
 
 // A damaged table file ends the start with the program's box.
-TEST(LoadSystem, ADamagedTableFileEndsTheStartWithItsBox) {
+using LoadSystem = testing::EngineFixture;
+
+TEST_F(LoadSystem, ADamagedTableFileEndsTheStartWithItsBox) {
+    const std::string tooLarge =
+        "DESIGN ERROR: Sysblocks too large for current system design. Sysblocks=";
     const std::pair<std::string, std::string> cases[] = {
         {ShippedWith("\"Parity\"", "7, \"Parity\""), ParityText},
         {ShippedWith("\"Parity\"", "\"parity\""), ParityText},
@@ -53,74 +55,48 @@ TEST(LoadSystem, ADamagedTableFileEndsTheStartWithItsBox) {
         // anything is allocated for them.
         {SmallSystemFile(14).replace(6, 4, "32767, 1"), MemoryText},
         {ShippedWith("\r\n4\r\n1\r\n14\r\n", "\r\n4\r\n1\r\n32767\r\n"), MemoryText},
-        {SmallSystemFile(15),
-         "DESIGN ERROR: Sysblocks too large for current system design. Sysblocks=15 "
-         "exceeds MaxDataBlocks=14"},
-        {SmallSystemFile(32767),
-         "DESIGN ERROR: Sysblocks too large for current system design. Sysblocks=32767 "
-         "exceeds MaxDataBlocks=14"},
+        {SmallSystemFile(15), tooLarge + "15 exceeds MaxDataBlocks=14"},
+        {SmallSystemFile(32767), tooLarge + "32767 exceeds MaxDataBlocks=14"},
         {SmallSystemFile(13),
          "Incorrect number=14 of LCMs in LoadSystem. Probable missing BAS file(s) in "
          "system MAK. Required SysBlocks=13\r\n\r\nThe missing cmp.BAS files must be "
          "added to the MAK file, sub LoadSystem reconfigured, and the EXE "
          "re-compiled."}};
     for (const auto& [systemFile, text] : cases) {
-        testing::TempFolder temp;
-        const AppFolder folder{temp.Path()};
-        std::filesystem::create_directories(folder.Exe());
+        SCOPED_TRACE(systemFile.substr(0, 40));
+        Windows.Boxes.clear();
+        std::filesystem::remove(Folder.Exe() / "qdr41.sys");
         if (!systemFile.empty()) { // empty: no file at all
-            WriteWholeFile(folder.Exe() / "qdr41.sys", systemFile);
+            WriteWholeFile(Folder.Exe() / "qdr41.sys", systemFile);
         }
-        FakeWindowLayer windows;
-        testing::FakeClock clock;
-        Random random;
-        Engine engine(random, clock, windows);
-        EXPECT_FALSE(engine.LoadSystem(folder));
-        ASSERT_EQ(windows.Boxes.size(), 1u);
-        EXPECT_EQ(windows.Boxes[0].Title, "Error LoadSystem");
-        EXPECT_EQ(windows.Boxes[0].Icon, MessageIcon::Warning);
-        EXPECT_EQ(windows.Boxes[0].Text, text);
+        Engine engine(TheRandom, TheClock, Windows);
+        EXPECT_FALSE(engine.LoadSystem(Folder));
+        ASSERT_EQ(Windows.Boxes.size(), 1u);
+        EXPECT_EQ(Windows.Boxes[0].Title, "Error LoadSystem");
+        EXPECT_EQ(Windows.Boxes[0].Icon, MessageIcon::Warning);
+        EXPECT_EQ(Windows.Boxes[0].Text, text);
         EXPECT_EQ(engine.SystemError, 1);
     }
 }
 
-TEST(ReadEngineTables, PutsRowZeroIntoTheIdlePlane) {
-    testing::TempFolder temp;
-    WriteWholeFile(temp / "qdr41.sys", SmallSystemFile(14));
-    EngineTables tables;
-    ASSERT_EQ(ReadEngineTables(temp / "qdr41.sys", tables), 0);
-    EXPECT_EQ(tables.ComponentRows[1], 2);
-    EXPECT_EQ(tables.ComponentBlock[1], 1);
-    EXPECT_EQ(tables.Map.At(0, 1, 0), 3); // the label row, read before the stock was known
-    EXPECT_EQ(tables.Map.At(1, 1, 0), 0);
-    EXPECT_EQ(tables.Map.At(1, 1, 1), 4);
-    EXPECT_EQ(tables.Map.At(1, 1, 2), 5);
-    EXPECT_EQ(tables.CaseKeepers.size(), 2u);
-    EXPECT_EQ(tables.TightJoiners.size(), 1u);
-}
-
-using ShippedTables = testing::EngineFixture;
-
 // The shipped tables, read back by the engine's own reader, fit the stocks and the plans.
-TEST_F(ShippedTables, FitTheStocksAndThePlans) {
+TEST_F(LoadSystem, TheShippedTablesFitTheStocksAndThePlans) {
     const EngineTables& t = TheEngine.Tables();
     const PhraseStocks& stocks = TheEngine.Stocks();
     EXPECT_EQ(t.SysBlockCount, 14);
     EXPECT_EQ(t.MessageCount, 16);
     EXPECT_EQ(stocks.LastLoaded, 14);
-    for (int b = 1; b <= 14; ++b) {
-        EXPECT_EQ(t.BlockRows[static_cast<std::size_t>(b)] + 1u,
-                  stocks.Rows[static_cast<std::size_t>(b)].size());
+    for (std::size_t b = 1; b <= 14; ++b) {
+        EXPECT_EQ(t.BlockRows[b] + 1u, stocks.Rows[b].size());
     }
     for (int c = 0; c <= t.ComponentCount; ++c) {
         const int block = t.ComponentBlock[static_cast<std::size_t>(c)];
-        ASSERT_GE(block, 1);
-        ASSERT_LE(block, 14);
+        ASSERT_TRUE(block >= 1 && block <= 14) << block;
         const auto& rows = stocks.Rows[static_cast<std::size_t>(block)];
         EXPECT_FALSE(rows.at(static_cast<std::size_t>(t.Map.At(0, c, 0))).empty());
-        ASSERT_GE(t.ComponentRows[static_cast<std::size_t>(c)], 1);
-        ASSERT_LE(t.ComponentRows[static_cast<std::size_t>(c)], t.RowCap);
-        for (int r = 1; r <= t.ComponentRows[static_cast<std::size_t>(c)]; ++r) {
+        const int count = t.ComponentRows[static_cast<std::size_t>(c)];
+        ASSERT_TRUE(count >= 1 && count <= t.RowCap) << count;
+        for (int r = 1; r <= count; ++r) {
             const std::string_view row = rows.at(static_cast<std::size_t>(t.Map.At(block, c, r)));
             const bool punctuation = row == "." || row == "?" || row == "," || row == "\x97";
             const bool phrase = row.size() > 1 && row[0] == ' ' &&
@@ -135,6 +111,21 @@ TEST_F(ShippedTables, FitTheStocksAndThePlans) {
     for (std::int16_t s = 1; s <= t.SectionCount; ++s) {
         EXPECT_EQ(plans.TrueCombos("Section", s), t.SectionCombos[static_cast<std::size_t>(s)]);
     }
+}
+
+// The first run lays down the shipped files; a file damaged in place is left for the program's
+// box, and a newer build replaces them all.
+TEST_F(LoadSystem, TheShippedFilesAreLaidDownOnceAndAgainForANewerBuild) {
+    const auto onDisk = [&](std::string_view name) { return ReadWholeFile(Folder.Exe() / name); };
+    WriteWholeFile(Folder.Exe() / "qdr41.sys", "damaged");
+    InstallEngineFiles(Folder);
+    EXPECT_EQ(onDisk("qdr41.sys"), "damaged");
+    WriteWholeFile(Folder.Exe() / "qdr41.mtx", "old plans");
+    WriteWholeFile(Folder.Exe() / "qdr41.ver", "0123456789abcdef");
+    InstallEngineFiles(Folder);
+    EXPECT_EQ(onDisk("qdr41.sys"), ShippedSystemFile());
+    EXPECT_EQ(onDisk("qdr41.mtx"), ShippedPlanFile());
+    EXPECT_EQ(onDisk("qdr41.ver"), ShippedEngineStamp());
 }
 
 } // namespace

@@ -1,11 +1,13 @@
 #include "engine/MessagePlan.h"
 
+#include "EngineFixture.h"
 #include "core/ProgramError.h"
 #include "core/WholeFile.h"
 #include "engine/KeptPlans.h"
-#include "support/TempFolder.h"
+#include "engine/PlanFileReader.h"
 
 #include <gtest/gtest.h>
+#include <tuple>
 
 namespace veyrant {
 namespace {
@@ -30,32 +32,26 @@ MessagePlan ReadOne(const std::string& text) {
     return plan;
 }
 
-TEST(ReadPlan, KeepsEveryTermWithItsTextAndEmptyTermsEmpty) {
-    const MessagePlan plan = ReadOne(TwoBlockPlan);
-    EXPECT_EQ(plan.TermCount, 6);
-    EXPECT_EQ(plan.BlockCount, 2);
-    EXPECT_EQ(plan.SlotCount[2][6], 3);
-    EXPECT_EQ(plan.SlotChoice[2][6][3], 6);
-    EXPECT_EQ(plan.TermText[4], "");
-    EXPECT_EQ(plan.TermText[6], "40");
-}
-
-TEST(ReadPlan, FaultsRaiseTheirNumber) {
-    const struct {
-        std::string From, To;
-        int Error;
-    } cases[] = {{"\r\n0\r\n", "\r\n3\r\n", 1002},       // blocks not closed
-                 {"3, 1, \"20\"", "4, 1, \"20\"", 1004}, // a term out of step
-                 {"\"s4\", 1, 6", "\"s4\", 251, 6", 9},  // a slot too full
-                 {"6, 1, \"40\"\r\n", "6, 1", 62}};      // cut short
-    for (const auto& c : cases) {
+// The kept plans read each plan as the plain reader does, and refuse a term that would not part
+// cleanly.
+TEST(KeptPlans, FaultsRaiseTheirNumber) {
+    EngineTables tables;
+    tables.MessageCount = 1;
+    const std::tuple<std::string, std::string, int> cases[] = {
+        {"\r\n0\r\n", "\r\n3\r\n", 1002},       // blocks not closed
+        {"3, 1, \"20\"", "4, 1, \"20\"", 1004}, // a term out of step
+        {"\"s4\", 1, 6", "\"s4\", 251, 6", 9},  // a slot too full
+        {"6, 1, \"40\"\r\n", "6, 1", 62},       // cut short
+        {"\"11, 12\"", "\"1,,2\"", 13},         {"\"11, 12\"", "\"1, \"", 13},
+        {"\"11, 12\"", "\", 1\"", 13},          {"\"11, 12\"", "\"  \"", 13}};
+    for (const auto& [from, to, number] : cases) {
         std::string text = TwoBlockPlan;
-        text.replace(text.find(c.From), c.From.size(), c.To);
+        text.replace(text.find(from), from.size(), to);
         try {
-            ReadOne(text);
-            ADD_FAILURE() << "no error for " << c.Error;
+            KeptPlans kept(text, tables);
+            ADD_FAILURE() << "no error for " << to;
         } catch (const ProgramError& error) {
-            EXPECT_EQ(error.Number(), c.Error);
+            EXPECT_EQ(error.Number(), number) << to;
         }
     }
 }
@@ -114,27 +110,24 @@ TEST(LoadPlan, ScansMessagesThenSectionsAsTheKeptPlansDo) {
     tables.MessageCount = 2;
     tables.SectionCount = 2;
     const KeptPlans kept(FourPlanFile(), tables);
-    const struct {
-        const char* Kind;
-        std::int16_t Number;
-        const char* Sequence;
-    } cases[] = {{"Message", 1, "100"},
-                 {"Message", 2, "200"},
-                 // Section 1 stands right behind the last message.
-                 {"Section", 1, "300"},
-                 {"Section", 2, "400"},
-                 // A scan that never meets its plan ends on the last.
-                 {"Section", 3, "400"},
-                 {"Message", 0, "400"},
-                 {"message", 1, "400"}};
-    for (const auto& c : cases) {
-        SCOPED_TRACE(std::string(c.Kind) + " " + std::to_string(c.Number));
+    const std::tuple<const char*, std::int16_t, const char*> cases[] = {
+        {"Message", 1, "100"},
+        {"Message", 2, "200"},
+        // Section 1 stands right behind the last message.
+        {"Section", 1, "300"},
+        {"Section", 2, "400"},
+        // A scan that never meets its plan ends on the last.
+        {"Section", 3, "400"},
+        {"Message", 0, "400"},
+        {"message", 1, "400"}};
+    for (const auto& [kind, number, sequenceText] : cases) {
+        SCOPED_TRACE(std::string(kind) + " " + std::to_string(number));
         MessagePlan plan;
-        LoadPlan(temp / "qdr41.mtx", c.Kind, c.Number, tables, plan);
-        EXPECT_EQ(GenMatrixSeq(plan, 1), c.Sequence);
+        LoadPlan(temp / "qdr41.mtx", kind, number, tables, plan);
+        EXPECT_EQ(GenMatrixSeq(plan, 1), sequenceText);
         std::vector<std::int16_t> sequence;
-        KeptPlans(kept).AppendSequence(c.Kind, c.Number, 1, sequence);
-        EXPECT_EQ(sequence, ReadSequence(c.Sequence));
+        KeptPlans(kept).AppendSequence(kind, number, 1, sequence);
+        EXPECT_EQ(sequence, ReadSequence(sequenceText));
     }
 }
 
@@ -152,19 +145,30 @@ TEST(KeptPlans, AgreeWithCountingForEveryTarget) {
     }
 }
 
-TEST(KeptPlans, RefuseATermThatWouldNotPartCleanly) {
-    EngineTables tables;
-    tables.MessageCount = 1;
-    for (const std::string bad : {"1,,2", "1, ", ", 1", "  "}) {
-        std::string file = TwoBlockPlan;
-        file.replace(file.find("\"11, 12\""), 8, "\"" + bad + "\"");
-        try {
-            KeptPlans kept(file, tables);
-            ADD_FAILURE() << bad;
-        } catch (const ProgramError& error) {
-            EXPECT_EQ(error.Number(), 13) << bad;
+// The kept plans and their arithmetic must compose exactly what the plain routines give by
+// re-reading the plan file and counting up to the target.
+using OnTheShippedPlans = testing::EngineFixture;
+
+TEST_F(OnTheShippedPlans, ComposeAsThePlainRoutinesDo) {
+    PlanFileReader plain(Folder.Exe() / "qdr41.mtx", TheEngine.Tables());
+    Random random;
+    Composer reference(TheEngine.Tables(), TheEngine.Stocks(), random, Windows);
+    reference.MarkJoiners();
+    for (int reply = 0; reply < 40; ++reply) {
+        TheEngine.SeriesSeed = 3000.0f + 1713.37f * static_cast<float>(reply);
+        TheEngine.StretchSeeds();
+        for (std::int16_t message = 1; message <= 16; ++message) {
+            TheEngine.Compose(static_cast<MessageNumber>(message));
+            reference.BuildMessage(message, TheEngine.SeedPool, plain);
+            reference.AssembleMessage();
+            const Composer& fast = TheEngine.MessageComposer();
+            ASSERT_EQ(fast.CompositionComponents, reference.CompositionComponents);
+            ASSERT_EQ(fast.CompositionRows, reference.CompositionRows);
+            ASSERT_EQ(fast.ComposedText, reference.ComposedText);
+            ASSERT_GT(fast.CompositionLength, 0) << "message " << message;
         }
     }
+    EXPECT_TRUE(Windows.Boxes.empty());
 }
 
 } // namespace

@@ -4,6 +4,7 @@
 #include "engine/Suggestions.h"
 
 #include <gtest/gtest.h>
+#include <tuple>
 
 namespace veyrant {
 namespace {
@@ -24,80 +25,45 @@ protected:
     }
 };
 
-TEST_F(Requests, AnswerAndRemarkPickTheirMessageByEntryType) {
-    const struct {
-        bool Answer;
-        std::int16_t Type;
-        std::int16_t Message;
-    } cases[] = {{true, 1, 1},   {true, 10, 2},   {true, 20, 3},   {true, 30, 4},
-                 {true, 40, 5},  {true, 50, 6},   {true, 60, 7},   {true, 2, 8},
-                 {false, 1, 11}, {false, 10, 12}, {false, 60, 12}, {false, 1000, 12},
-                 {false, 2, 13}, {false, 9, 14}};
-    for (const auto& c : cases) {
-        const std::string expected = Composed(c.Message);
-        Composed(c.Message == 15 ? 16 : 15); // something else in between
-        if (c.Answer) {
-            TheEngine.RequestAnswer(static_cast<SentenceType>(c.Type));
+// A type with no message of its own gives the last composition again (message 0 below).
+TEST_F(Requests, AnswerAndRemarkPickTheirMessageByEntryTypeAndOnlyTheAnswerShowsTheBusyPointer) {
+    // Answer or remark, the entry type, and the message that answers (0: none).
+    const std::tuple<bool, std::int16_t, std::int16_t> cases[] = {
+        {true, 1, 1},   {true, 10, 2},  {true, 20, 3},   {true, 30, 4},   {true, 40, 5},
+        {true, 50, 6},  {true, 60, 7},  {true, 2, 8},    {true, 0, 0},    {true, -1, 0},
+        {true, 9, 0},   {false, 1, 11}, {false, 10, 12}, {false, 60, 12}, {false, 1000, 12},
+        {false, 2, 13}, {false, 9, 14}, {false, 0, 0},   {false, -3, 0},  {false, 5, 0}};
+    for (const auto& [answer, type, message] : cases) {
+        SCOPED_TRACE(std::to_string(answer) + " for type " + std::to_string(type));
+        const std::string wanted = message == 0 ? "" : Composed(message);
+        const std::string last = Composed(message == 16 ? 15 : 16); // something in between
+        Windows.BusyChanges.clear();
+        if (answer) {
+            TheEngine.RequestAnswer(static_cast<SentenceType>(type));
         } else {
-            TheEngine.RequestRemark(static_cast<SentenceType>(c.Type));
+            TheEngine.RequestRemark(static_cast<SentenceType>(type));
         }
-        EXPECT_EQ(TheEngine.ReplyText, expected) << "type " << c.Type;
+        EXPECT_EQ(TheEngine.ReplyText, message == 0 ? last : wanted);
         EXPECT_EQ(TheEngine.ReplyText.substr(0, 2), "\t ");
+        EXPECT_EQ(Windows.BusyChanges,
+                  (answer ? std::vector<bool>{true, false} : std::vector<bool>{}));
     }
 }
 
-TEST_F(Requests, ATypeWithNoMessageRepeatsTheLastComposition) {
-    for (const std::int16_t type : {0, -1, -4, 3, 9}) {
-        const std::string last = Composed(16);
-        TheEngine.RequestAnswer(static_cast<SentenceType>(type));
-        EXPECT_EQ(TheEngine.ReplyText, last) << type;
-    }
-    for (const std::int16_t type : {0, -3, 5}) {
-        const std::string last = Composed(15);
-        TheEngine.RequestRemark(static_cast<SentenceType>(type));
-        EXPECT_EQ(TheEngine.ReplyText, last) << type;
-    }
-}
-
-class BusyRecorder : public testing::FakeWindowLayer {
-public:
-    void SetBusyPointer(bool busy) override { Changes.push_back(busy); }
-    std::vector<bool> Changes;
-};
-
-TEST(RequestAnswer, ShowsTheBusyPointerWhileItComposes) {
-    testing::TempFolder temp;
-    const AppFolder folder{temp.Path()};
-    InstallEngineFiles(folder);
-    BusyRecorder windows;
-    testing::FakeClock clock;
-    Random random;
-    Engine engine(random, clock, windows);
-    ASSERT_TRUE(engine.LoadSystem(folder));
-    engine.SeedSeries();
-    engine.SeriesSeed = clock.Timer();
-    engine.StretchSeeds();
-    engine.RequestAnswer(SentenceType::WhatQuestion);
-    EXPECT_EQ(windows.Changes, (std::vector<bool>{true, false}));
-    engine.RequestRemark(SentenceType::WhatQuestion);
-    EXPECT_EQ(windows.Changes.size(), 2u);
-}
-
-TEST_F(Requests, IdeaVerdictContinuesTheSentenceOnlyWhenChosen) {
-    const std::string chosen = Composed(9);
+TEST_F(Requests, VerdictInspirationAndInterjectionTakeTheirMessage) {
+    // Chosen, the verdict goes on the user's sentence in lower case.
+    std::string chosen = Mid(Composed(9), 3);
+    LowerAt(chosen, 1);
     TheEngine.RequestIdeaVerdict(ReplyKind::Answer);
-    std::string expected = Mid(chosen, 3);
-    LowerAt(expected, 1);
-    EXPECT_EQ(TheEngine.IdeaVerdict, expected);
-    EXPECT_NE(TheEngine.IdeaVerdict.front(), ' ');
+    EXPECT_EQ(TheEngine.IdeaVerdict, chosen);
     EXPECT_EQ(TheEngine.IdeaVerdict.front(), LowerChar(TheEngine.IdeaVerdict.front()));
+    EXPECT_NE(TheEngine.IdeaVerdict.front(), ' ');
 
     const std::string declined = Composed(10);
     TheEngine.RequestIdeaVerdict(ReplyKind::Remark);
     EXPECT_EQ(TheEngine.IdeaVerdict, declined);
-}
 
-TEST_F(Requests, InspirationAndInterjectionKeepTheFirstCapital) {
+    // The Inspiration keeps its first capital.
     const std::string inspiration = Composed(15);
     TheEngine.RequestInspiration();
     EXPECT_EQ(TheEngine.InspirationText, "\t" + Mid(inspiration, 3));
@@ -111,40 +77,32 @@ TEST_F(Requests, InspirationAndInterjectionKeepTheFirstCapital) {
 }
 
 TEST_F(Requests, RollAnswerGivesARemarkForDrawsUpToThePercent) {
-    const struct {
-        float Draw;
-        std::int16_t Percent;
-        std::int16_t Flag;
-    } cases[] = {{0.0f, 25, 0},  {0.24f, 25, 0}, {0.25f, 25, 1}, {0.99f, 25, 1},
-                 {0.19f, 20, 0}, {0.2f, 20, 1},  {0.5f, 0, 1},   {0.99f, 100, 0}};
-    for (const auto& c : cases) {
+    // The draw, the percent of remarks, and the flag: 0 a remark, 1 an answer.
+    const std::tuple<float, std::int16_t, int> cases[] = {
+        {0.0f, 25, 0},  {0.24f, 25, 0}, {0.25f, 25, 1}, {0.99f, 25, 1},
+        {0.19f, 20, 0}, {0.2f, 20, 1},  {0.5f, 0, 1},   {0.99f, 100, 0}};
+    for (const auto& [draw, percent, flag] : cases) {
         TheClock.Seconds = 1234.5f;
         TheRandom.Seeds.clear();
-        TheRandom.Script = {c.Draw};
-        TheEngine.RollAnswer(c.Percent);
-        EXPECT_EQ(static_cast<std::int16_t>(TheEngine.AnswerFlag), c.Flag)
-            << c.Draw << " of " << c.Percent;
+        TheRandom.Script = {draw};
+        TheEngine.RollAnswer(percent);
+        EXPECT_EQ(static_cast<int>(TheEngine.AnswerFlag), flag) << draw << " of " << percent;
         EXPECT_EQ(TheRandom.Seeds, std::vector<float>{1234.5f});
     }
 }
 
-TEST_F(Requests, SeedSeriesRoundsTheScalesHalvesToEven) {
+TEST_F(Requests, SeedSeriesRoundsTheScalesHalvesToEvenAndStretchSeedsFillsThePool) {
     TheClock.Seconds = 40000.0f;
     TheRandom.Script = {0.5f, 0.125f, 0.25f, 0.375f, 0.0f, 0.625f, 0.75f, 0.875f};
     TheEngine.SeedSeries();
     EXPECT_EQ(TheEngine.SeriesSeed, 40000.0f);
     EXPECT_FLOAT_EQ(TheEngine.SeriesBase[0], 40000.0f * 0.5f + 4000.0f);
-    EXPECT_EQ(TheEngine.SeriesScale[0], 14); // 13.5
-    EXPECT_EQ(TheEngine.SeriesScale[1], 38); // 38.5
     EXPECT_FLOAT_EQ(TheEngine.SeriesBase[2], 4000.0f);
-    EXPECT_EQ(TheEngine.SeriesScale[2], 64); // 63.5
-    EXPECT_EQ(TheEngine.SeriesScale[3], 88); // 88.5
-}
+    const std::vector<int> halves = {14, 38, 64, 88}; // from 13.5, 38.5, 63.5 and 88.5
+    EXPECT_EQ(halves,
+              std::vector<int>(TheEngine.SeriesScale.begin(), TheEngine.SeriesScale.begin() + 4));
 
-TEST_F(Requests, StretchSeedsFillsThePoolToItsLastIndex) {
-    const auto& tables = TheEngine.Tables();
-    const int size = tables.MaxSections + tables.MaxComponents + 15;
-    TheEngine.SeriesSeed = 777.0f;
+    const int size = TheEngine.Tables().MaxSections + TheEngine.Tables().MaxComponents + 15;
     TheRandom.Draws = 0;
     TheRandom.Script = {0.0f};
     TheRandom.Script.insert(TheRandom.Script.end(), 40, 0.5f);
@@ -176,26 +134,22 @@ TEST_F(Requests, PickGuidanceDrawsOverTheSuggestionsThatStand) {
     EXPECT_NE(TheEngine.SuggestionText.find("\r\n\t"), std::string::npos);
 }
 
+// The plans are read at the first request.
 TEST_F(Requests, ADamagedPlanFileGivesItsBoxAndTheProgramGoesOn) {
     WriteWholeFile(Folder.Exe() / "qdr41.mtx", "1, 2, x\r\n");
-    Engine engine(TheRandom, TheClock, Windows);
-    ASSERT_TRUE(engine.LoadSystem(Folder));
-    engine.SeriesSeed = 100.0f;
-    engine.StretchSeeds();
-    engine.RequestAnswer(SentenceType::YesNoQuestion);
+    TheEngine.RequestAnswer(SentenceType::YesNoQuestion);
     ASSERT_EQ(Windows.Boxes.size(), 1u);
     EXPECT_EQ(Windows.Boxes[0].Title, "Error LoadPlan");
     EXPECT_EQ(Windows.Boxes[0].Text, "Error 13 reading the message plans in qdr41.mtx. The "
                                      "Sagrel cannot compose a response until the file is "
                                      "restored.");
-    EXPECT_EQ(engine.ReplyText, "\t");
-    EXPECT_EQ(Trim(Mid(engine.ReplyText, 3)), "");
+    EXPECT_EQ(TheEngine.ReplyText, "\t");
 
     // Restored, the file is read at the next request.
     WriteWholeFile(Folder.Exe() / "qdr41.mtx", ShippedPlanFile());
-    engine.RequestAnswer(SentenceType::YesNoQuestion);
+    TheEngine.RequestAnswer(SentenceType::YesNoQuestion);
     EXPECT_EQ(Windows.Boxes.size(), 1u);
-    EXPECT_GT(engine.ReplyText.size(), 3u);
+    EXPECT_GT(TheEngine.ReplyText.size(), 3u);
 }
 
 } // namespace

@@ -1,0 +1,227 @@
+// What a reader would meet in composed replies, where a rule can be checked by machine: too
+// little variety, a word said twice, the user's "I" put in the Sagrel's mouth, a claim about
+// what the user feels, believes or has not realised, and replies that all begin alike. Each
+// message is drawn at many moments of the day, as the Write window draws it.
+
+#include "EngineFixture.h"
+#include "core/Cp1252.h"
+#include "core/FieldReader.h"
+#include "core/Text.h"
+#include "engine/MessagePlan.h"
+
+#include <algorithm>
+#include <cctype>
+#include <gmock/gmock.h>
+#include <map>
+#include <set>
+
+namespace veyrant {
+namespace {
+
+// Messages 1 to 8 answer, 9 and 10 give the verdict on an idea, 11 to 14 remark, 15 is the
+// Inspiration and 16 the interjection.
+struct MessageRequest {
+    std::int16_t Message;
+    std::int16_t Argument; // the entry type, or the verdict's flag
+    const char* Name;
+};
+
+const MessageRequest Messages[] = {
+    {1, 1, "YesNoAnswer"},      {2, 10, "WhoAnswer"},      {3, 20, "WhatAnswer"},
+    {4, 30, "WhenAnswer"},      {5, 40, "WhereAnswer"},    {6, 50, "WhyAnswer"},
+    {7, 60, "HowAnswer"},       {8, 2, "StatementAnswer"}, {9, 1, "IdeaChosen"},
+    {10, 0, "IdeaDeclined"},    {11, 1, "YesNoRemark"},    {12, 10, "QuestionRemark"},
+    {13, 2, "StatementRemark"}, {14, 9, "SupposeRemark"},  {15, 0, "Inspiration"},
+    {16, 0, "Interjection"}};
+
+void PrintTo(const MessageRequest& request, std::ostream* out) {
+    *out << "message " << request.Message;
+}
+
+// The reply through the request the Write window uses.
+std::string Compose(Engine& engine, const MessageRequest& request) {
+    const auto type = static_cast<SentenceType>(request.Argument);
+    if (request.Message <= 8) {
+        engine.RequestAnswer(type);
+    } else if (request.Message <= 10) {
+        engine.RequestIdeaVerdict(static_cast<ReplyKind>(request.Argument));
+        return engine.IdeaVerdict;
+    } else if (request.Message <= 14) {
+        engine.RequestRemark(type);
+    } else if (request.Message == 15) {
+        engine.RequestInspiration();
+        return engine.InspirationText;
+    } else {
+        engine.RequestInterjection();
+    }
+    return engine.ReplyText;
+}
+
+constexpr double LeastReplies = 1'000'000;
+constexpr int DrawnReplies = 10'000;
+constexpr double LeastDistinctShare = 0.99;
+// The most replies of one message that may share their first three words.
+constexpr double MostSharedOpening = 0.10;
+constexpr char EmDash = '\x97';
+
+// The replies a plan allows, given what each number of its terms allows: the product
+// distributes over the slots, so a block counts the product over its slots of the sum over
+// their choices. Counted in floating point, as counts grow past 64 bits when sections multiply.
+double PlanVariety(const MessagePlan& plan, const std::vector<double>& byNumber) {
+    double total = 0;
+    for (std::size_t b = 1; b <= static_cast<std::size_t>(plan.BlockCount); ++b) {
+        double block = 1;
+        for (int s = 1; s <= SlotsPerBlock; ++s) {
+            double slot = 0;
+            for (int c = 1; c <= plan.SlotCount[b][s]; ++c) {
+                double term = 1;
+                const auto choice = static_cast<std::size_t>(plan.SlotChoice[b][s][c]);
+                for (const std::int16_t number : ReadSequence(plan.TermText[choice])) {
+                    term *= byNumber.at(static_cast<std::size_t>(number));
+                }
+                slot += term;
+            }
+            block *= slot;
+        }
+        total += block;
+    }
+    return total;
+}
+
+// The words of a text split at blanks and dashes, each with whatever marks cling to it, so
+// that "you, you" is two different words and "through through" the same one twice.
+std::vector<std::string> BlankWords(const std::string& text) {
+    std::vector<std::string> words(1);
+    for (const char c : text) {
+        if (c != ' ' && c != '\t' && c != EmDash) {
+            words.back() += c;
+        } else if (!words.back().empty()) {
+            words.emplace_back();
+        }
+    }
+    if (words.back().empty()) {
+        words.pop_back();
+    }
+    std::transform(words.begin(), words.end(), words.begin(), Lower);
+    return words;
+}
+
+bool HasDoubledWord(const std::string& text) {
+    const auto words = BlankWords(text);
+    return std::adjacent_find(words.begin(), words.end()) != words.end();
+}
+
+// The user's own voice may stand only as words offered to try, which the content frames
+// behind a dash in the same sentence ("Try saying—I can rest now.").
+bool HasUnframedFirstPerson(const std::string& text) {
+    static const std::set<std::string> firstPerson = {"i",  "i'm",    "i've", "me",
+                                                      "my", "myself", "mine"};
+    bool framed = false;
+    std::string word;
+    for (const char c : text + ".") {
+        if (std::isalpha(static_cast<unsigned char>(c)) != 0 || c == '\'') {
+            word += c;
+            continue;
+        }
+        // Only the capital "I" is the pronoun.
+        if (!framed && word != "i" && firstPerson.contains(Lower(word))) {
+            return true;
+        }
+        word.clear();
+        framed = c == EmDash || (framed && c != '.' && c != '?' && c != '!');
+    }
+    return false;
+}
+
+// Frames that tell the user what they feel, believe or have not realised, or shapes that read
+// as machine-made, one a line in lower case; comments begin with '#'.
+bool HasFaultyFrame(const std::string& text) {
+    static const std::vector<std::string> frames = testing::ListedLines(
+        std::filesystem::path(VEYRANT_TEST_DATA) / "engine" / "faulty-frames.txt");
+    const std::string lower = Lower(text);
+    return std::any_of(frames.begin(), frames.end(), [&](const std::string& frame) {
+        return lower.find(frame) != std::string::npos;
+    });
+}
+
+std::string Opening(const std::string& text) {
+    auto words = BlankWords(text);
+    words.resize(std::min<std::size_t>(words.size(), 3));
+    std::string opening;
+    for (const auto& word : words) {
+        opening += word + " ";
+    }
+    return opening;
+}
+
+class ContentQuality : public testing::EngineFixture,
+                       public ::testing::WithParamInterface<MessageRequest> {
+protected:
+    // The replies a message allows: each section counted over its components' rows, then the
+    // message over its sections. The plan file holds the messages first, then the sections.
+    double MessageVariety(std::int16_t message) {
+        const EngineTables& tables = TheEngine.Tables();
+        const std::string planFile(ShippedPlanFile());
+        FieldReader reader(planFile);
+        std::vector<MessagePlan> messages(static_cast<std::size_t>(tables.MessageCount) + 1);
+        for (std::size_t m = 1; m < messages.size(); ++m) {
+            ReadPlan(reader, messages[m]);
+        }
+        std::vector<double> rows(tables.ComponentRows.begin(), tables.ComponentRows.end());
+        std::vector<double> sections(static_cast<std::size_t>(tables.SectionCount) + 1);
+        for (std::size_t s = 1; s < sections.size(); ++s) {
+            MessagePlan section;
+            ReadPlan(reader, section);
+            sections[s] = PlanVariety(section, rows);
+        }
+        return PlanVariety(messages.at(static_cast<std::size_t>(message)), sections);
+    }
+};
+
+TEST_P(ContentQuality, VariedRepliesWithNoDoubledWordUnframedFirstPersonOrBeliefClaim) {
+    const MessageRequest& request = GetParam();
+    EXPECT_GE(MessageVariety(request.Message), LeastReplies);
+    // The verdicts on an idea, the remarks and the interjection open with the set verdicts their
+    // groups are made of ("That question ..."), so only the answers and the Inspiration must
+    // vary their openings. The first person is the user's own only in the answers and in the
+    // remark on a question; elsewhere the Sagrel may say what it does and does not answer.
+    const bool mustVaryOpening = request.Message <= 8 || request.Message == 15;
+    const bool keepsFirstPersonFramed = request.Message <= 8 || request.Message == 12;
+
+    TheEngine.SeedSeries();
+    std::set<std::string> texts;
+    std::map<std::string, std::set<std::string>> faulty; // the replies with each fault
+    std::map<std::string, int> openings;
+    for (int k = 0; k < DrawnReplies; ++k) {
+        TheClock.Seconds = 120.0f + 8.5f * static_cast<float>(k);
+        TheEngine.SeriesSeed = TheClock.Timer();
+        TheEngine.StretchSeeds();
+        const std::string text = Compose(TheEngine, request);
+        ASSERT_GT(text.size(), 2u) << "reply " << k << " came out empty";
+        texts.insert(text);
+        for (const auto& [fault, found] :
+             {std::pair{"doubled word", HasDoubledWord(text)},
+              {"unframed first person", keepsFirstPersonFramed && HasUnframedFirstPerson(text)},
+              {"belief claim", HasFaultyFrame(text)}}) {
+            if (found) {
+                faulty[fault].insert(Cp1252ToUtf8(text));
+            }
+        }
+        ++openings[Opening(text)];
+    }
+    EXPECT_GE(static_cast<double>(texts.size()), LeastDistinctShare * DrawnReplies);
+    EXPECT_THAT(faulty, ::testing::IsEmpty());
+    EXPECT_TRUE(Windows.Boxes.empty());
+    const auto most =
+        std::max_element(openings.begin(), openings.end(),
+                         [](const auto& a, const auto& b) { return a.second < b.second; });
+    EXPECT_TRUE(!mustVaryOpening || most->second <= MostSharedOpening * DrawnReplies)
+        << "\"" << Cp1252ToUtf8(most->first) << "...\" opens " << most->second << " of "
+        << DrawnReplies;
+}
+
+INSTANTIATE_TEST_SUITE_P(Messages, ContentQuality, ::testing::ValuesIn(Messages),
+                         [](const auto& info) { return std::string(info.param.Name); });
+
+} // namespace
+} // namespace veyrant
