@@ -117,7 +117,7 @@ TEST(SettingsFiles, DamagedFileRepairsItselfWithDefaultsAndScreenOption) {
     }
 }
 
-TEST(SettingsFiles, SavedFileReadsBackAndDefaultsLookAsDocumented) {
+TEST(SettingsFiles, SavedFilesReadBackAndDefaultsLookAsDocumented) {
     AppFixture fixture;
     fixture.App.UserSettings = Settings{};
     SaveSettings(fixture.App);
@@ -132,6 +132,15 @@ TEST(SettingsFiles, SavedFileReadsBackAndDefaultsLookAsDocumented) {
     fixture.App.UserSettings = Settings{};
     LoadSettings(fixture.App);
     EXPECT_EQ(Values(fixture.App.UserSettings), Values(saved));
+
+    // A negative mark is written with its minus sign.
+    ReadSettings& read = fixture.App.ReaderSettings;
+    read.OpenFlags[LibraryId::Information] = OpenFlag::Marked;
+    read.MarkRows[LibraryId::Information] = 12;
+    read.MarkRows[LibraryId::Dialogue] = -1;
+    read.MarkRows[LibraryId::Advanced] = -250;
+    SaveReadSettings(fixture.App);
+    EXPECT_EQ(fixture.ExeFile("Read.ini"), " 1  12 \r\n 0 -1 \r\n 0  0 \r\n 0 -250 \r\n");
 }
 
 TEST(SettingsFiles, SavingReplacesTheFileWholeInsteadOfWritingIntoIt) {
@@ -152,16 +161,6 @@ TEST(SettingsFiles, SavingReplacesTheFileWholeInsteadOfWritingIntoIt) {
                             std::filesystem::directory_iterator()),
               3)
         << "no temporary file is left behind beside the two files and Preferences.ini";
-}
-
-TEST(SettingsFiles, NegativeMarkIsWrittenWithItsMinusSign) {
-    AppFixture fixture;
-    fixture.App.ReaderSettings.OpenFlags[LibraryId::Information] = OpenFlag::Marked;
-    fixture.App.ReaderSettings.MarkRows[LibraryId::Information] = 12;
-    fixture.App.ReaderSettings.MarkRows[LibraryId::Dialogue] = -1;
-    fixture.App.ReaderSettings.MarkRows[LibraryId::Advanced] = -250;
-    SaveReadSettings(fixture.App);
-    EXPECT_EQ(fixture.ExeFile("Read.ini"), " 1  12 \r\n 0 -1 \r\n 0  0 \r\n 0 -250 \r\n");
 }
 
 TEST(SettingsFiles, ReadFlagsKeepTheRequestMadeInMemory) {
