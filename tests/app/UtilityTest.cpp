@@ -54,50 +54,31 @@ TEST(Utility, EachButtonHidesTheWindowAndLeadsOnOrEnds) {
               "cmdAbout \"About Veyrant Sagrel\"\n");
 }
 
+// A click stores the scale and the marks at once; Cancel puts both back.
 TEST(Resize, TheChosenScaleIsStoredAtOnceAndCancelPutsItBack) {
-    struct Case {
-        std::int16_t Stored;
-        int Clicked;
-        bool SpellingOff;
-        bool Cancel;
-        std::int16_t Kept;
-    };
-    const Case cases[] = {
-        {1, 3, false, false, 3},
-        {2, 0, true, false, 0},
-        {1, 2, true, true, 1},
-        {3, -1, false, true, 3},
-    };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.Clicked);
-        FakeWindowLayer layer;
-        Settings settings;
-        settings.DisplayOption = c.Stored;
-        Preferences preferences;
-        int exits = 0;
-        Resize window(settings, preferences, layer, [&] { ++exits; });
-        window.Form_Load();
-        if (c.Clicked >= 0) {
-            window.Option_Click(c.Clicked);
-            EXPECT_EQ(settings.DisplayOption, c.Clicked);
-        }
-        if (c.SpellingOff) {
-            window.chkSpelling_Click(false);
-        }
-        if (c.Stored == 2) {
-            EXPECT_EQ(window.Dump(), "title \"Display Size\"\n"
-                                     "Option4 (x) \"90% for 12\" display, 640x480 (not recomnd)\"\n"
-                                     "Option1 ( ) \"100% for 15\" display, 800x600 resolution\"\n"
-                                     "Option2 ( ) \"120% for 17\" display, 1280x960 resolution\"\n"
-                                     "Option3 ( ) \"145% for 19\" display, 1600x1200 resolution\"\n"
-                                     "chkSpelling [ ] \"Mark misspelt words while typing\"\n");
-        }
-        c.Cancel ? window.cmdCancel_Click() : window.cmdOK_Click();
-        EXPECT_EQ(settings.DisplayOption, c.Kept);
-        EXPECT_EQ(preferences.SpellingMarks, c.Cancel || !c.SpellingOff);
-        EXPECT_EQ(exits, 1);
-        EXPECT_EQ(layer.WindowEvents.back(), "hide Resize");
-    }
+    FakeWindowLayer layer;
+    Settings settings;
+    settings.DisplayOption = 2;
+    Preferences preferences;
+    int exits = 0;
+    Resize window(settings, preferences, layer, [&] { ++exits; });
+    window.Form_Load();
+    window.Option_Click(0);
+    window.chkSpelling_Click(false);
+    EXPECT_EQ(settings.DisplayOption, 0);
+    EXPECT_FALSE(preferences.SpellingMarks);
+    EXPECT_EQ(window.Dump(), "title \"Display Size\"\n"
+                             "Option4 (x) \"90% for 12\" display, 640x480 (not recomnd)\"\n"
+                             "Option1 ( ) \"100% for 15\" display, 800x600 resolution\"\n"
+                             "Option2 ( ) \"120% for 17\" display, 1280x960 resolution\"\n"
+                             "Option3 ( ) \"145% for 19\" display, 1600x1200 resolution\"\n"
+                             "chkSpelling [ ] \"Mark misspelt words while typing\"\n");
+    window.cmdCancel_Click();
+    EXPECT_EQ(settings.DisplayOption, 2);
+    EXPECT_TRUE(preferences.SpellingMarks);
+    EXPECT_NE(window.Dump().find("Option2 (x)"), std::string::npos) << window.Dump();
+    EXPECT_EQ(exits, 1);
+    EXPECT_EQ(layer.WindowEvents.back(), "hide Resize");
 }
 
 } // namespace
