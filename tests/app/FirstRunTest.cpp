@@ -10,28 +10,6 @@
 namespace veyrant::testing {
 namespace {
 
-TEST(FirstRun, LaysDownTheFoldersAndTheFacesThisMachineHas) {
-    struct Case {
-        const char* Missing;
-        const char* FontTable;
-    };
-    const Case cases[] = {
-        {"", "Times New Roman\r\nTimes New Roman Italic\r\n"},
-        {"Times New Roman", "Liberation Serif\r\nLiberation Serif Italic\r\n"},
-        {"Times New Roman/italic", "Liberation Serif\r\nLiberation Serif Italic\r\n"},
-    };
-    for (const Case& c : cases) {
-        TempFolder temp;
-        FakeWindowLayer windows;
-        windows.MissingFaces.insert(c.Missing);
-        const AppFolder folder{temp / "data" / "veyrant-sagrel"};
-        InstallAppFolder(folder, windows);
-        EXPECT_TRUE(std::filesystem::is_directory(folder.Dlg()));
-        EXPECT_TRUE(std::filesystem::is_directory(folder.Isp()));
-        EXPECT_EQ(ReadWholeFile(folder.Exe() / "Qdrfonts.ini"), c.FontTable);
-    }
-}
-
 // An installed folder is left alone; one that cannot be made raises the program's error.
 TEST(FirstRun, LeavesAnInstalledFolderAloneAndSaysWhenItCannotMakeOne) {
     AppFixture fixture;
@@ -73,24 +51,27 @@ unsigned Rights(const std::filesystem::path& path) {
     return status.st_mode & 07777;
 }
 
-// Another account must not read the Dialogues: not on a fresh install, not in a folder an earlier
-// version left open, and not in a file written since.
-TEST(FirstRun, TheFolderAndEveryFileAreTheUsersAlone) {
+// The folders are laid down with the faces this machine has, and another account must not read
+// the Dialogues: not on a fresh install, not in a folder an earlier version left open, and not in
+// a file written since.
+TEST(FirstRun, LaysDownTheFoldersWithTheFacesThisMachineHasForTheUserAlone) {
     struct Case {
         const char* Name;
         unsigned FolderRights; // 0: the folder is new
         unsigned FileRights;
+        const char* Missing;
     };
     const Case cases[] = {
-        {"fresh", 0, 0},
-        {"left open by an earlier version", 0755, 0644},
-        {"open to everyone", 0777, 0666},
-        {"already private", 0700, 0600},
-        {"narrower than ours", 0700, 0400},
+        {"fresh", 0, 0, ""},
+        {"left open by an earlier version", 0755, 0644, "Times New Roman"},
+        {"open to everyone", 0777, 0666, "Times New Roman/italic"},
+        {"already private", 0700, 0600, ""},
+        {"narrower than ours", 0700, 0400, ""},
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(c.Name);
         AppFixture fixture;
+        fixture.Windows.MissingFaces.insert(c.Missing);
         const AppFolder& folder = fixture.Folder;
         const auto saved = folder.Dlg() / "76112010.000";
         if (c.FolderRights != 0) {
@@ -114,6 +95,8 @@ TEST(FirstRun, TheFolderAndEveryFileAreTheUsersAlone) {
             EXPECT_EQ(Rights(folder.Exe() / name), 0600u) << name;
         }
         EXPECT_EQ(Rights(folder.Isp() / "76112011.000"), 0600u);
+        const std::string face = *c.Missing == 0 ? "Times New Roman" : "Liberation Serif";
+        EXPECT_EQ(fixture.ExeFile("Qdrfonts.ini"), face + "\r\n" + face + " Italic\r\n");
     }
 }
 

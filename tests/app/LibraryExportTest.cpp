@@ -24,14 +24,29 @@ struct SavedPair {
     const char* Dialogue; // nullptr: the dlg/ file is missing
 };
 
-// Three Dialogues of 22 and 23 November 2026, one of them lacking its dlg/ file.
-const std::vector<SavedPair> FullLibrary = {
+// Four Dialogues of 22 and 23 November 2026, one of them lacking its dlg/ file, and one saved in
+// the minute of the first; a Library is named by the digits of its pairs.
+const SavedPair Pairs[] = {
     {"76112309.150", "\tThe latest.", "\r\n\r\n\t\x93Why now?\x94\r\n\tBecause."},
     {"76112212.000", "\tThe first.", "\r\n\r\n\t\x93What is it?\x94\r\n\tA start."},
     {"76112301.150", "\tBroken.", nullptr},
     {"76112221.050", "\tThe evening.",
      "\r\n\r\n\t\x93"
      "A comment.\x94"},
+    {"76112309.151", "\tAgain.",
+     "\r\n\r\n\t\x93"
+     "Again?\x94\r\n\tYes."},
+};
+const char* const FullLibrary = "0123";
+
+// What each exported file shows on its first line.
+const std::map<std::string, std::string> Headings = {
+    {"2026-11-22 12.00.md", "# Sunday, 12:00 PM, November 22, 2026"},
+    {"2026-11-22 21.05.md", "# Sunday, 9:05 PM, November 22, 2026"},
+    {"2026-11-23 09.15.md", "# Monday, 9:15 AM, November 23, 2026"},
+    {"2026-11-23 09.15 (2).md", "# Monday, 9:15 AM, November 23, 2026"},
+    {"index.md", "# Veyrant Sagrel Dialogue Library"},
+    {"Library.pdf", "%PDF 3"},
 };
 
 class FakePdf final : public LibraryPdfMaker {
@@ -47,9 +62,10 @@ void Write(const std::filesystem::path& path, const std::string& bytes) {
     std::ofstream(path, std::ios::binary) << bytes;
 }
 
-AppFolder LibraryOf(const TempFolder& folder, const std::vector<SavedPair>& pairs) {
+AppFolder LibraryOf(const TempFolder& folder, const std::string& pairs) {
     const AppFolder library{folder / "veyrant-sagrel"};
-    for (const auto& pair : pairs) {
+    for (const char digit : pairs) {
+        const SavedPair& pair = Pairs[digit - '0'];
         Write(library.Isp() / pair.Name, pair.Inspiration);
         if (pair.Dialogue != nullptr) {
             Write(library.Dlg() / pair.Name, pair.Dialogue);
@@ -69,87 +85,48 @@ std::map<std::string, std::string> FilesIn(const std::filesystem::path& folder) 
     return files;
 }
 
+// Every file written is listed in the output and shows its heading; nothing else is written.
 TEST(LibraryExport, CommandLineWritesReportsAndExits) {
     struct Case {
         const char* Name;
-        std::vector<SavedPair> Library;
-        std::vector<std::string> Options;
+        const char* Library;
+        const char* Option;
         int RenamesBeforeFullDisk; // 0: the disk never fills
         int ExitCode;
         std::string Output; // "@" stands for the export folder
-        std::map<std::string, std::string> Files;
     };
-    const std::string latest = "# Monday, 9:15 AM, November 23, 2026";
     const Case cases[] = {
-        {"an empty Library",
-         {},
-         {},
-         0,
-         1,
-         "There are no Dialogues saved in the Library, so there is nothing to export.\n",
-         {}},
-        {"one Dialogue",
-         {FullLibrary[1]},
-         {},
-         0,
-         0,
+        {"an empty Library", "", nullptr, 0, 1,
+         "There are no Dialogues saved in the Library, so there is nothing to export.\n"},
+        {"one Dialogue", "1", nullptr, 0, 0,
          "@/2026-11-22 12.00.md\n@/index.md\n1 Dialogue written to @.\n\n"
-         "The exported files are not encrypted.\n",
-         {{"2026-11-22 12.00.md", "# Sunday, 12:00 PM, November 22, 2026"},
-          {"index.md", "# Veyrant Sagrel Dialogue Library"}}},
-        {"a full Library with a damaged Dialogue",
-         FullLibrary,
-         {"--pdf"},
-         0,
-         2,
+         "The exported files are not encrypted.\n"},
+        {"a full Library with a damaged Dialogue", FullLibrary, "--pdf", 0, 2,
          "@/2026-11-22 12.00.md\n@/2026-11-22 21.05.md\n@/2026-11-23 09.15.md\n@/index.md\n"
          "@/Library.pdf\n3 Dialogues written to @.\n\nNot written:\n"
          "76112301.150: Error 53, one of its two files is missing from the Library.\n\n"
-         "The exported files are not encrypted.\n",
-         {{"2026-11-22 12.00.md", "# Sunday, 12:00 PM, November 22, 2026"},
-          {"2026-11-22 21.05.md", "# Sunday, 9:05 PM, November 22, 2026"},
-          {"2026-11-23 09.15.md", latest},
-          {"index.md", "# Veyrant Sagrel Dialogue Library"},
-          {"Library.pdf", "%PDF 3"}}},
-        {"a pair saved in one minute",
-         {FullLibrary[0],
-          {"76112309.151", "\tAgain.",
-           "\r\n\r\n\t\x93"
-           "Again?\x94\r\n\tYes."}},
-         {},
-         0,
-         0,
+         "The exported files are not encrypted.\n"},
+        {"a pair saved in one minute", "04", nullptr, 0, 0,
          "@/2026-11-23 09.15.md\n@/2026-11-23 09.15 (2).md\n@/index.md\n"
-         "2 Dialogues written to @.\n\nThe exported files are not encrypted.\n",
-         {{"2026-11-23 09.15.md", latest},
-          {"2026-11-23 09.15 (2).md", latest},
-          {"index.md", "# Veyrant Sagrel Dialogue Library"}}},
-        {"a full disk half-way",
-         FullLibrary,
-         {},
-         2,
-         2,
+         "2 Dialogues written to @.\n\nThe exported files are not encrypted.\n"},
+        {"a full disk half-way", FullLibrary, nullptr, 2, 2,
          "@/2026-11-22 12.00.md\n@/2026-11-22 21.05.md\n2 Dialogues written to @.\n\n"
-         "Not written:\n76112301.150: Error 53, one of its two files is missing from the Library.\n"
-         "2026-11-23 09.15.md: Error 61, the disk is full.\n"
+         "Not written:\n76112301.150: Error 53, one of its two files is missing from the "
+         "Library.\n2026-11-23 09.15.md: Error 61, the disk is full.\n"
          "index.md: not every Dialogue it lists could be written.\n\n"
-         "The exported files are not encrypted.\n",
-         {{"2026-11-22 12.00.md", "# Sunday, 12:00 PM, November 22, 2026"},
-          {"2026-11-22 21.05.md", "# Sunday, 9:05 PM, November 22, 2026"}}},
-        {"arguments not understood",
-         {FullLibrary[1]},
-         {"--pfd"},
-         0,
-         2,
-         "usage: veyrant-sagrel --export-library FOLDER [--pdf]\n",
-         {}},
+         "The exported files are not encrypted.\n"},
+        {"arguments not understood", "1", "--pfd", 0, 2,
+         "usage: veyrant-sagrel --export-library FOLDER [--pdf]\n"},
     };
     for (const Case& c : cases) {
+        SCOPED_TRACE(c.Name);
         TempFolder folder;
         const AppFolder library = LibraryOf(folder, c.Library);
         const auto out = folder / "export";
         std::vector<std::string> arguments{"--export-library", out.string()};
-        arguments.insert(arguments.end(), c.Options.begin(), c.Options.end());
+        if (c.Option != nullptr) {
+            arguments.emplace_back(c.Option);
+        }
         int renames = 0;
         SetFileFault([&](FileCall call, const std::filesystem::path&) {
             renames += call == FileCall::Rename ? 1 : 0;
@@ -166,15 +143,25 @@ TEST(LibraryExport, CommandLineWritesReportsAndExits) {
         for (auto at = expected.find('@'); at != std::string::npos; at = expected.find('@')) {
             expected.replace(at, 1, out.string());
         }
-        EXPECT_EQ(exitCode, c.ExitCode) << c.Name;
-        EXPECT_EQ(output.str(), expected) << c.Name;
-        EXPECT_EQ(FilesIn(out), c.Files) << c.Name;
+        EXPECT_EQ(exitCode, c.ExitCode);
+        EXPECT_EQ(output.str(), expected);
+        std::size_t listed = 0;
+        for (auto at = expected.find(out.string() + "/"); at != std::string::npos;
+             at = expected.find(out.string() + "/", at + 1)) {
+            ++listed;
+        }
+        const auto files = FilesIn(out);
+        EXPECT_EQ(files.size(), listed);
+        for (const auto& [name, heading] : files) {
+            EXPECT_NE(expected.find(out.string() + "/" + name + "\n"), std::string::npos) << name;
+            EXPECT_EQ(heading, Headings.at(name));
+        }
     }
 }
 
 TEST(LibraryExport, CommandLineNeitherReplacesNorExportsAGuestOrALockedLibrary) {
     TempFolder folder;
-    const AppFolder library = LibraryOf(folder, {FullLibrary[1]});
+    const AppFolder library = LibraryOf(folder, "1");
     Write(folder / "export/index.md", "mine");
     FakePdf pdf;
     std::ostringstream refused;
@@ -197,7 +184,7 @@ TEST(LibraryExport, CommandLineNeitherReplacesNorExportsAGuestOrALockedLibrary) 
                            "is nothing to export.\n");
 
     std::filesystem::remove(library.Exe() / "Tolmira.ini");
-    AppFolder locked = LibraryOf(folder, {FullLibrary[1]});
+    AppFolder locked = LibraryOf(folder, "1");
     TurnLockOn(locked, "lantern", {crypto_pwhash_OPSLIMIT_MIN, crypto_pwhash_MEMLIMIT_MIN});
     locked.Key.reset(); // a new process: nobody has typed the passphrase
     std::ostringstream refusedLocked;
@@ -214,39 +201,28 @@ TEST(LibraryExport, WindowAsksWritesUnderProgressAndCancels) {
     struct Case {
         const char* Name;
         std::int16_t GuestMode;
-        std::vector<SavedPair> Library;
-        int CancelAtStep;                  // 0: never
-        std::deque<MessageAnswer> Answers; // the PDF, then opening the folder
+        const char* Library;
+        int CancelAtStep;    // 0: never
+        const char* Answers; // Y or N: the PDF, then opening the folder
         std::size_t FilesWritten;
         std::string Told;
-        bool Opened;
     };
     const Case cases[] = {
-        {"with the PDF, opening the folder",
-         0,
-         FullLibrary,
-         0,
-         {MessageAnswer::Yes, MessageAnswer::Yes},
-         5,
-         "3 Dialogues written to @.",
-         true},
-        {"a cancel half-way",
-         0,
-         FullLibrary,
-         2,
-         {MessageAnswer::No, MessageAnswer::No},
-         2,
-         "2 Dialogues written to @. The export was cancelled before it was finished.",
-         false},
-        {"an empty Library", 0, {}, 0, {}, 0, "There are no Dialogues saved in the Library", false},
-        {"Guest Mode", 1, FullLibrary, 0, {}, 0, "The Library is in the Guest Mode.", false},
+        {"with the PDF, opening the folder", 0, FullLibrary, 0, "YY", 5,
+         "3 Dialogues written to @."},
+        {"a cancel half-way", 0, FullLibrary, 2, "NN", 2,
+         "2 Dialogues written to @. The export was cancelled before it was finished."},
+        {"an empty Library", 0, "", 0, "", 0, "There are no Dialogues saved in the Library"},
+        {"Guest Mode", 1, FullLibrary, 0, "", 0, "The Library is in the Guest Mode."},
     };
     for (const Case& c : cases) {
         TempFolder folder;
         const AppFolder library = LibraryOf(folder, c.Library);
         FakeWindowLayer layer;
         layer.FolderAnswers = {folder.Path()};
-        layer.Answers = c.Answers;
+        for (const char* answer = c.Answers; *answer != 0; ++answer) {
+            layer.Answers.push_back(*answer == 'Y' ? MessageAnswer::Yes : MessageAnswer::No);
+        }
         const FakeClock clock;
         Settings settings;
         settings.GuestMode = c.GuestMode;
@@ -271,7 +247,7 @@ TEST(LibraryExport, WindowAsksWritesUnderProgressAndCancels) {
         }
         ASSERT_FALSE(layer.Boxes.empty()) << c.Name;
         EXPECT_EQ(layer.Boxes.back().Text.substr(0, told.size()), told) << c.Name;
-        EXPECT_EQ(layer.OpenedFolders.size(), c.Opened ? 1u : 0u) << c.Name;
+        EXPECT_EQ(layer.OpenedFolders.size(), c.Answers[0] == 'Y' ? 1u : 0u) << c.Name;
         EXPECT_EQ(exits, 1) << c.Name;
     }
 }

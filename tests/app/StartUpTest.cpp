@@ -76,21 +76,14 @@ TEST(StartUp, Timer1RevealsTheWriteWindowAndTheBackdropOnWideScreens) {
         EXPECT_EQ(fixture.Windows.WindowEvents, c.Events) << c.ScreenPixels;
         EXPECT_EQ(fixture.Windows.Timers.count(TimerId::MirrorTimer1), 0u);
         EXPECT_FALSE(fixture.Windows.Busy);
+        // A new Dialogue with its own Inspiration.
+        const MirrorState& state = fixture.App.Write->State();
+        EXPECT_EQ(state.ActiveMethod, WriteMethod::None);
+        EXPECT_EQ(state.InspirationText.substr(0, 1), "\t");
+        EXPECT_GT(state.InspirationText.size(), 20u);
+        EXPECT_FALSE(state.SuggestionText.empty());
+        EXPECT_TRUE(std::filesystem::exists(fixture.Folder.Exe() / "qdr41.mtx"));
     }
-}
-
-TEST(StartUp, TheWriteWindowOpensOnANewDialogueWithItsOwnInspiration) {
-    AppFixture fixture;
-    Main(fixture.App);
-    Timer1(fixture.App);
-    ASSERT_TRUE(fixture.Windows.Boxes.empty()) << fixture.Windows.Boxes[0].Title;
-    const MirrorState& state = fixture.App.Write->State();
-    EXPECT_EQ(state.ActiveMethod, WriteMethod::None);
-    EXPECT_EQ(state.InspirationText.substr(0, 1), "\t");
-    EXPECT_GT(state.InspirationText.size(), 20u);
-    EXPECT_FALSE(state.SuggestionText.empty());
-    EXPECT_TRUE(std::filesystem::exists(fixture.Folder.Exe() / "qdr41.sys"));
-    EXPECT_TRUE(std::filesystem::exists(fixture.Folder.Exe() / "qdr41.mtx"));
 }
 
 TEST(StartUp, ADamagedEngineFileEndsTheStartWithTheEnginesBox) {
@@ -109,19 +102,6 @@ TEST(StartUp, ADamagedEngineFileEndsTheStartWithTheEnginesBox) {
                                      "structure is incorrect.");
     EXPECT_TRUE(nextRun.Ended);
     EXPECT_EQ(nextRun.Timers.count(TimerId::MirrorTimer1), 0u);
-}
-
-TEST(StartUp, MissingExecutableGivesSystemError53BeforeTheBanner) {
-    AppFixture fixture;
-    fixture.App.ProgramFile = fixture.Temp / "gone";
-    Main(fixture.App);
-    ASSERT_EQ(fixture.Windows.Boxes.size(), 1u);
-    EXPECT_EQ(fixture.Windows.Boxes[0].Title,
-              "Unknown System Error 53 -- Please Notify Veyrant Technology");
-    EXPECT_EQ(fixture.Windows.Boxes[0].Icon, MessageIcon::Warning);
-    EXPECT_EQ(fixture.Windows.Boxes[0].Buttons, MessageButtons::Ok);
-    EXPECT_TRUE(fixture.Windows.Ended);
-    EXPECT_TRUE(fixture.Windows.WindowEvents.empty());
 }
 
 TEST(StartUp, LargeOptionOnASmallScreenIsLoweredAndTheNextStartRuns) {
@@ -264,33 +244,34 @@ TEST(StartUp, AnyFailureOfTheStartEndsInTheSystemErrorBox) {
          "Unknown System Error 1001 -- Please Notify Veyrant Technology"},
         {"the program's own error", [] { throw ProgramError(ErrorNumber::FileNotFound); },
          "Unknown System Error 53 -- Please Notify Veyrant Technology"},
+        {"the program's file gone", nullptr,
+         "Unknown System Error 53 -- Please Notify Veyrant Technology"},
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(c.Name);
         AppFixture fixture;
-        SetFileFault([&](FileCall, const std::filesystem::path&) -> int {
-            c.Fail();
-            return 0;
-        });
+        if (c.Fail) {
+            SetFileFault([&](FileCall, const std::filesystem::path&) -> int {
+                c.Fail();
+                return 0;
+            });
+        } else {
+            fixture.App.ProgramFile = fixture.Temp / "gone";
+        }
         Main(fixture.App);
         SetFileFault({});
         ASSERT_EQ(fixture.Windows.Boxes.size(), 1u);
         EXPECT_EQ(fixture.Windows.Boxes[0].Title, c.Title);
+        EXPECT_EQ(fixture.Windows.Boxes[0].Icon, MessageIcon::Warning);
+        EXPECT_EQ(fixture.Windows.Boxes[0].Buttons, MessageButtons::Ok);
         EXPECT_TRUE(fixture.Windows.Ended);
+        EXPECT_TRUE(fixture.Windows.WindowEvents.empty());
     }
 }
 
-TEST(StartUp, SystemErrorBoxesByNumber) {
-    const std::pair<int, const char*> cases[] = {
-        {7, "Cannot Load -- Out of Memory"},
-        {35, "System Conflict, Error 35 -- Close Programs and Log In Again"},
-        {1001, "Unknown System Error 1001 -- Please Notify Veyrant Technology"},
-    };
-    for (const auto& [number, title] : cases) {
-        const MessageBoxRequest box = SystemErrorBox(number);
-        EXPECT_EQ(box.Title, title);
-        EXPECT_EQ(box.Icon, MessageIcon::Warning);
-    }
+TEST(StartUp, ASystemConflictAndAnUnknownErrorSayWhatToDo) {
+    EXPECT_EQ(SystemErrorBox(35).Title,
+              "System Conflict, Error 35 -- Close Programs and Log In Again");
     EXPECT_NE(SystemErrorBox(1001).Text.find("support@veyrant-sagrel.org that you encountered "
                                              "System Error 1001"),
               std::string::npos);

@@ -84,7 +84,7 @@ class AccessibilityTest : public QObject {
     Q_OBJECT
 
 private slots:
-    void everyControlOfEveryWindowHasAName() {
+    void everyControlOfEveryWindowHasANameAndTabReadsInOrder() {
         Program program;
         MirrorWindow& write = *program.Window;
         BannerWindow banner(program.Layer);
@@ -125,6 +125,28 @@ private slots:
         // The Write window's controls in the state of a Dialogue under way.
         QTest::mouseClick(write.Widget(MirrorControl::cmdConverse), Qt::LeftButton);
         QVERIFY2(Unnamed(write).isEmpty(), qPrintable(Unnamed(write).join(", ")));
+
+        // Tab walks the dialogs' commands in reading order.
+        struct Case {
+            QWidget* Window;
+            QStringList Order;
+        };
+        const std::vector<Case> cases = {
+            {&utilities, {"cmdOptions", "cmdResize", "cmdExport", "cmdAbout"}},
+            {&displaySize, {"Option1", "chkSpelling", "cmdOK", "cmdCancel"}},
+            // An empty Library has nothing to clean, and its button is passed over.
+            {&options, {"txtSetSave", "txtSetDays", "Check1", "cmdOK", "cmdCancel"}},
+        };
+        for (const Case& c : cases) {
+            QApplication::setActiveWindow(c.Window);
+            QVERIFY(QTest::qWaitForWindowActive(c.Window));
+            // The round is read from the first control on, wherever the focus began.
+            QStringList order = TabOrder();
+            const auto first = order.indexOf(c.Order.front());
+            QVERIFY2(first >= 0, qPrintable(order.join(", ")));
+            order = order.mid(first) + order.first(first);
+            QCOMPARE(order, c.Order);
+        }
     }
 
     void theWriteWindowSpeaksItsHoverHelp() {
@@ -164,34 +186,6 @@ private slots:
         QCOMPARE(Spoken(note, QAccessible::Description),
                  QString("Type your question or statement. Click 'Rewrite' to erase the text. "
                          "Press 'Enter' for the Sagrel response."));
-    }
-
-    void tabWalksTheDialogsInReadingOrder() {
-        Program program;
-        UtilityWindow utilities(program.Utilities, 1.0);
-        ResizeWindow displaySize(program.DisplaySize, 1.0);
-        OptionsWindow options(program.LibraryOptions);
-        struct Case {
-            QWidget* Window;
-            QStringList Order;
-        };
-        const std::vector<Case> cases = {
-            {&utilities, {"cmdOptions", "cmdResize", "cmdExport", "cmdAbout"}},
-            {&displaySize, {"Option1", "chkSpelling", "cmdOK", "cmdCancel"}},
-            // An empty Library has nothing to clean, and its button is passed over.
-            {&options, {"txtSetSave", "txtSetDays", "Check1", "cmdOK", "cmdCancel"}},
-        };
-        for (const Case& c : cases) {
-            c.Window->show();
-            QApplication::setActiveWindow(c.Window);
-            QVERIFY(QTest::qWaitForWindowActive(c.Window));
-            // The round is read from the first control on, wherever the focus began.
-            QStringList order = TabOrder();
-            const auto first = order.indexOf(c.Order.front());
-            QVERIFY2(first >= 0, qPrintable(order.join(", ")));
-            order = order.mid(first) + order.first(first);
-            QCOMPARE(order, c.Order);
-        }
     }
 };
 

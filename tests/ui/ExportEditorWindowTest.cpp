@@ -120,7 +120,7 @@ private slots:
     }
 
     // A correction replaces the word in this text only; an added word is known in every window at
-    // once and after a restart, and its list is the user's alone.
+    // once and after a restart, and its list is the user's alone. Each language has its own words.
     void MarkedWordsOfferCorrectionsAndAddToDictionary() {
         testing::FakeWindowLayer windows;
         testing::TempFolder folder;
@@ -159,19 +159,15 @@ private slots:
         menu.reset(editor.ContextMenu(PointOf(editor.Editor(), "Sagrel")));
         QVERIFY(!Texts(*menu).contains("Add to Dictionary"));
         QVERIFY(windows.Boxes.empty());
-    }
 
-    // The dictionary of the user's language judges its accented words.
-    void TheUsersLanguageKnowsItsAccentedWords() {
-        testing::FakeWindowLayer windows;
-        testing::TempFolder folder;
-        SpellChecker spelling;
-        OpenFor(spelling, "de_DE.UTF-8", folder / "Words.txt");
-        ExportEditorWindow editor(windows, folders, spelling,
+        // The dictionary of the user's language judges its accented words.
+        SpellChecker german;
+        OpenFor(german, "de_DE.UTF-8", folder / "Wörter.txt");
+        ExportEditorWindow street(windows, folders, german,
                                   QString::fromUtf8("Die Stra\u00dfe ist gem\u00fctlich, die "
                                                     "Strase nicht.\n"),
                                   QStringLiteral("Dialogue.txt"));
-        QCOMPARE(MarkedWords(editor.Editor()), QStringList({"Strase"}));
+        QCOMPARE(MarkedWords(street.Editor()), QStringList({"Strase"}));
     }
 };
 

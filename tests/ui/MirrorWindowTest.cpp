@@ -62,7 +62,9 @@ private slots:
         }
     }
 
-    void TypedEntryIsAnsweredOnScreen() {
+    // A Converse typed and answered on screen, a button's help under the resting pointer, and the
+    // full view of the Dialogue over the boxes and back.
+    void TypedEntryIsAnsweredOnScreenAndShownWhole() {
         WriteWindow write;
         write.Click(MirrorControl::cmdConverse);
         auto* entry = write.Box(MirrorControl::txtMirror);
@@ -70,6 +72,17 @@ private slots:
         QCOMPARE(entry->toPlainText(), Prefix);
         auto* mark = static_cast<QLabel*>(write.Window->Widget(MirrorControl::lblRem));
         QCOMPARE(mark->text(), QStringLiteral("X"));
+        QWidget* cancel = write.Window->Widget(MirrorControl::cmdNew);
+        QTest::mouseMove(cancel, QPoint(10, 10));
+        QTest::mouseMove(cancel, QPoint(12, 11));
+        QCOMPARE(int(write.Logic->Controls()[MirrorControl::cmdNew].Ink), int(Colour::HoverInk));
+        QVERIFY(cancel->property("hoverMark").toBool());
+        QCOMPARE(write.Layer.Timers.count(TimerId::MirrorHover), 1u);
+        write.Logic->TimerFired(TimerId::MirrorHover);
+        write.Window->Render();
+        auto* note = static_cast<QLabel*>(write.Window->Widget(MirrorControl::txtNote));
+        QCOMPARE(note->text(),
+                 QStringLiteral("Cancel your interaction and return to New Dialogue."));
 
         QTest::keyClicks(entry, QStringLiteral("Why do I keep the old letters in a box?"));
         QCOMPARE(entry->toPlainText(),
@@ -89,6 +102,19 @@ private slots:
                     .startsWith(QStringLiteral("Dialogue")));
         // The entry now stands above the response.
         QVERIFY(entry->y() < write.Box(MirrorControl::txtResponse)->y());
+
+        if (choice == QStringLiteral("Keep")) {
+            write.Click(MirrorControl::cmdRemove);
+        }
+        QTest::keyClick(entry, Qt::Key_F11);
+        QCOMPARE(write.Caption(MirrorControl::cmdDisplay), QStringLiteral("Write"));
+        auto* saved = write.Box(MirrorControl::txtSaved);
+        QVERIFY(saved->toPlainText().startsWith(QStringLiteral("Inspiration\n\n\t")));
+        // The panel rises to the top of the boxes' area and covers them.
+        QCOMPARE(saved->y(), 960 / 15);
+        QVERIFY(note->text().startsWith(QStringLiteral("Your Dialogue is less than 1 page long.")));
+        QTest::mouseClick(saved->viewport(), Qt::LeftButton);
+        QCOMPARE(write.Caption(MirrorControl::cmdDisplay), QStringLiteral("Display"));
     }
 
     // A finished word the dictionary does not know is marked and loses the mark when corrected.
@@ -137,32 +163,10 @@ private slots:
         }
     }
 
-    // A character the Dialogue file cannot hold, typed (an emoji is a surrogate pair) or sent by
-    // an input method, is refused with the program's notice and is never counted.
-    void UnwritableCharactersAreRefusedWithANotice() {
-        WriteWindow write;
-        write.Click(MirrorControl::cmdConverse);
-        auto* entry = write.Box(MirrorControl::txtMirror);
-        QTest::keyClicks(entry, QStringLiteral("I feel "));
-        const int count = write.Logic->State().EntryCount;
-        for (const char* typed : {"\U0001F600", "\u0151", "\u03B1"}) {
-            QKeyEvent key(QEvent::KeyPress, 0, Qt::NoModifier, QString::fromUtf8(typed));
-            QApplication::sendEvent(entry, &key);
-        }
-        QInputMethodEvent composed;
-        composed.setCommitString(QStringLiteral("\u0436"));
-        QApplication::sendEvent(entry, &composed);
-        QCOMPARE(write.Layer.Boxes.size(), std::size_t{4});
-        QCOMPARE(write.Layer.Boxes.back().Title, std::string("Invalid Key"));
-        QCOMPARE(entry->toPlainText(), Prefix + QStringLiteral("I feel "));
-        QCOMPARE(write.Logic->State().EntryCount, count);
-        QTest::keyClicks(entry, QStringLiteral("about my new home today."));
-        QTest::keyClick(entry, Qt::Key_Return);
-        QVERIFY(!write.Box(MirrorControl::txtResponse)->toPlainText().contains("too short"));
-    }
-
-    // The head of the entry is out of reach; paste, drop and shortcuts are refused.
-    void HeadIsProtectedAndPasteDropAndShortcutsAreRefused() {
+    // The head of the entry is out of reach; paste, drop and shortcuts are refused; a character
+    // the Dialogue file cannot hold, typed (an emoji is a surrogate pair) or sent by an input
+    // method, is refused with the program's notice and is never counted.
+    void HeadPasteShortcutsAndUnwritableCharactersAreRefused() {
         WriteWindow write;
         write.Click(MirrorControl::cmdConverse);
         auto* entry = write.Box(MirrorControl::txtMirror);
@@ -182,47 +186,29 @@ private slots:
         QTest::mouseClick(entry->viewport(), Qt::MiddleButton);
         QCOMPARE(entry->toPlainText(), Prefix + QStringLiteral("Xabc"));
         // The control key itself is named in the program's box.
-        const auto boxes = write.Layer.Boxes.size();
+        auto boxes = write.Layer.Boxes.size();
         QTest::keyClick(entry, Qt::Key_Control);
         QCOMPARE(write.Layer.Boxes.size(), boxes + 1);
         QCOMPARE(write.Layer.Boxes.back().Title, std::string("Invalid Key"));
-    }
 
-    void RestingOnAButtonMarksItAndItsHelpFollows() {
-        WriteWindow write;
-        write.Click(MirrorControl::cmdConverse);
-        QWidget* cancel = write.Window->Widget(MirrorControl::cmdNew);
-        QTest::mouseMove(cancel, QPoint(10, 10));
-        QTest::mouseMove(cancel, QPoint(12, 11));
-        QCOMPARE(int(write.Logic->Controls()[MirrorControl::cmdNew].Ink), int(Colour::HoverInk));
-        QVERIFY(cancel->property("hoverMark").toBool());
-        QCOMPARE(write.Layer.Timers.count(TimerId::MirrorHover), 1u);
-        write.Logic->TimerFired(TimerId::MirrorHover);
-        write.Window->Render();
-        auto* note = static_cast<QLabel*>(write.Window->Widget(MirrorControl::txtNote));
-        QCOMPARE(note->text(),
-                 QStringLiteral("Cancel your interaction and return to New Dialogue."));
-    }
-
-    void FullViewCoversTheBoxesAndComesBack() {
-        WriteWindow write;
-        write.Click(MirrorControl::cmdConverse);
-        auto* entry = write.Box(MirrorControl::txtMirror);
-        QTest::keyClicks(entry, QStringLiteral("I want to understand why Sundays feel heavy."));
-        QTest::keyClick(entry, Qt::Key_Return);
-        if (write.Caption(MirrorControl::cmdRemove) == QStringLiteral("Keep")) {
-            write.Click(MirrorControl::cmdRemove);
+        QTest::keyClick(entry, Qt::Key_End);
+        QTest::keyClicks(entry, QStringLiteral(" I feel "));
+        const int count = write.Logic->State().EntryCount;
+        boxes = write.Layer.Boxes.size();
+        for (const char* typed : {"\U0001F600", "\u0151", "\u03B1"}) {
+            QKeyEvent key(QEvent::KeyPress, 0, Qt::NoModifier, QString::fromUtf8(typed));
+            QApplication::sendEvent(entry, &key);
         }
-        QTest::keyClick(entry, Qt::Key_F11);
-        QCOMPARE(write.Caption(MirrorControl::cmdDisplay), QStringLiteral("Write"));
-        auto* saved = write.Box(MirrorControl::txtSaved);
-        QVERIFY(saved->toPlainText().startsWith(QStringLiteral("Inspiration\n\n\t")));
-        // The panel rises to the top of the boxes' area and covers them.
-        QCOMPARE(saved->y(), 960 / 15);
-        auto* note = static_cast<QLabel*>(write.Window->Widget(MirrorControl::txtNote));
-        QVERIFY(note->text().startsWith(QStringLiteral("Your Dialogue is less than 1 page long.")));
-        QTest::mouseClick(saved->viewport(), Qt::LeftButton);
-        QCOMPARE(write.Caption(MirrorControl::cmdDisplay), QStringLiteral("Display"));
+        QInputMethodEvent composed;
+        composed.setCommitString(QStringLiteral("\u0436"));
+        QApplication::sendEvent(entry, &composed);
+        QCOMPARE(write.Layer.Boxes.size(), boxes + 4);
+        QCOMPARE(write.Layer.Boxes.back().Title, std::string("Invalid Key"));
+        QCOMPARE(entry->toPlainText(), Prefix + QStringLiteral("Xabc I feel "));
+        QCOMPARE(write.Logic->State().EntryCount, count);
+        QTest::keyClicks(entry, QStringLiteral("about my new home today."));
+        QTest::keyClick(entry, Qt::Key_Return);
+        QVERIFY(!write.Box(MirrorControl::txtResponse)->toPlainText().contains("too short"));
     }
 
     void IdeasAreTypedIntoTheListAndSelectChoosesOne() {

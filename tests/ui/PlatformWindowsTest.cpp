@@ -152,7 +152,7 @@ private slots:
     }
 
     // Last: the way out asks the application to quit, which ends any event loop after it.
-    void startUpAShortDialogueAndTheWayOut() {
+    void startUpTheLibrariesAShortDialogueAndTheWayOut() {
         StartedProgram program;
         Main(program.App);
         QVERIFY(!program.Windows.Ended());
@@ -168,7 +168,42 @@ private slots:
             QCOMPARE(program.Back->frameGeometry(), program.Back->geometry());
         }
 
-        QTest::mouseClick(program.Write->Widget(MirrorControl::cmdConverse), Qt::LeftButton);
+        // Each library opens in the Read window, which closes when the user comes back to the
+        // Write window: on X11 through minimise and restore, on Wayland through activation.
+        MirrorWindow* write = program.Write;
+        const auto& read = program.Read;
+        const struct {
+            MirrorControl Button;
+            Qt::MouseButton Mouse;
+            const char* Title;
+        } libraries[] = {
+            {MirrorControl::cmdHelp, Qt::LeftButton, "Veyrant Information Library"},
+            {MirrorControl::cmdKnow, Qt::LeftButton, "Veyrant Knowledge Library"},
+            {MirrorControl::cmdKnow, Qt::RightButton, "Veyrant Advanced Knowledge Library"},
+            {MirrorControl::cmdRetrieve, Qt::LeftButton,
+             "Veyrant Dialogue Library -- No Dialogues Saved"},
+        };
+        for (const auto& c : libraries) {
+            QTest::mouseClick(write->Widget(c.Button), c.Mouse);
+            QVERIFY(read);
+            QCOMPARE(read->windowTitle(), QString::fromLatin1(c.Title));
+            QVERIFY(read->isVisible());
+            QVERIFY(program.Windows.IsWindowMinimised(WindowId::Mirror));
+            QTest::keyClick(read.data(), Qt::Key_Down);
+            QVERIFY(read->windowTitle() != QString::fromLatin1(c.Title) ||
+                    c.Button == MirrorControl::cmdRetrieve);
+            if (write->isMinimized()) {
+                write->showNormal();
+            }
+            QApplication::setActiveWindow(write);
+            QTRY_VERIFY(!read || !read->isVisible());
+            QCOMPARE(program.App.Reading.ReaderOpen, ReaderOpenState::Closed);
+            QVERIFY(!program.Windows.IsWindowMinimised(WindowId::Mirror));
+            QApplication::setActiveWindow(nullptr);
+        }
+        QVERIFY(std::filesystem::exists(program.App.Folder.Exe() / "Read.ini"));
+
+        QTest::mouseClick(write->Widget(MirrorControl::cmdConverse), Qt::LeftButton);
         auto* entry = static_cast<QPlainTextEdit*>(program.Write->Widget(MirrorControl::txtMirror));
         QTest::keyClicks(entry, QStringLiteral("What would I tell myself a year from now?"));
         QTest::keyClick(entry, Qt::Key_Return);

@@ -145,29 +145,6 @@ private slots:
         QCOMPARE(read.Caption(ReaderControl::cmdSelect), QStringLiteral("< Index 2 >"));
     }
 
-    void dialogueLibraryStepsLatestFirst() {
-        ReadWindow read;
-        read.Open(1);
-        QCOMPARE(read.Window->windowTitle(),
-                 QStringLiteral("Veyrant Dialogue Library -- No Dialogues Saved"));
-        QVERIFY(!read.Window->Widget(ReaderControl::cmdNext)->isEnabled());
-        read.App.Links.CloseLibrary();
-
-        for (const DateTime when :
-             {DateTime{2026, 11, 18, 9, 0, 0}, DateTime{2026, 11, 21, 20, 15, 0}}) {
-            read.SaveDialogue(when, "\tA path through the reeds.", "\r\n\r\n\tOn.");
-        }
-        read.Open(1);
-        QCOMPARE(read.List()->count(), 2);
-        read.Key(Qt::Key_PageDown);
-        QCOMPARE(read.Window->windowTitle(),
-                 QStringLiteral("Veyrant Dialogue -- 2/2 -- Saturday, 8:15 pm, November 21, 2026 "
-                                "-- 1/21 Days Old/Max"));
-        read.Key(Qt::Key_PageDown);
-        QVERIFY(read.Window->windowTitle().startsWith(QStringLiteral("Veyrant Dialogue -- 1/2")));
-        QVERIFY(!read.Window->Widget(ReaderControl::cmdNext)->isEnabled());
-    }
-
     // A search of the Knowledge Library typed into the real box: the hit is selected in the
     // text and scrolled into view, Enter steps on, and a word not there ends in "No text found".
     void searchesAFixedLibrary() {
@@ -209,13 +186,31 @@ private slots:
         QVERIFY(!read.SearchBox()->isEnabled());
     }
 
-    // A search of all Dialogues opens the one it finds, latest to earliest, with the hit selected.
-    void searchesAllDialogues() {
+    // The Dialogue Library steps latest first, and a search of all Dialogues opens the one it
+    // finds, latest to earliest, with the hit selected.
+    void dialogueLibraryStepsLatestFirstAndIsSearched() {
         ReadWindow read;
+        read.Open(1);
+        QCOMPARE(read.Window->windowTitle(),
+                 QStringLiteral("Veyrant Dialogue Library -- No Dialogues Saved"));
+        QVERIFY(!read.Window->Widget(ReaderControl::cmdNext)->isEnabled());
+        read.App.Links.CloseLibrary();
         read.SaveDialogue({2026, 11, 12, 9, 0, 0}, "\tA heron by the water.", LongDialogue());
         read.SaveDialogue({2026, 11, 18, 9, 0, 0}, "\tA path.", "\r\n\r\n\t\x93Why?\x94\r\n\tOn.");
         read.SaveDialogue({2026, 11, 21, 20, 15, 0}, "\tStones.",
                           "\r\n\r\n\t\x93No.\x94\r\n\tYes.");
+        read.Open(1);
+        QCOMPARE(read.List()->count(), 3);
+        read.Key(Qt::Key_PageDown);
+        QCOMPARE(read.Window->windowTitle(),
+                 QStringLiteral("Veyrant Dialogue -- 3/3 -- Saturday, 8:15 pm, November 21, 2026 "
+                                "-- 1/21 Days Old/Max"));
+        for (const char* shown : {"Veyrant Dialogue -- 2/3", "Veyrant Dialogue -- 1/3"}) {
+            read.Key(Qt::Key_PageDown);
+            QVERIFY(read.Window->windowTitle().startsWith(QString::fromLatin1(shown)));
+        }
+        QVERIFY(!read.Window->Widget(ReaderControl::cmdNext)->isEnabled());
+        read.App.Links.CloseLibrary();
         read.Open(1);
         read.SearchFor(QStringLiteral("heron?"));
         QVERIFY(read.Window->windowTitle().startsWith(QStringLiteral("Veyrant Dialogue -- 1/3")));
