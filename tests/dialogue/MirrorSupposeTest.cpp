@@ -50,8 +50,6 @@ TEST(MirrorSuppose, TheQuestionOpensAListAndSelectPutsTheHeaviestIdeaInTheDialog
     EXPECT_EQ(driver.Shown("lblRemS") + driver.Shown("cmdNew"), "lblRemS: \"X\"cmdNew: \"Cancel\"");
     EXPECT_EQ(driver.Text(txtNote), "Type your supposed answer. Click 'Rewrite' to erase the text "
                                     "and begin again. Press 'Enter' to advance.");
-    EXPECT_EQ(driver.State().CycleCount, 1);
-    EXPECT_EQ(driver.Engine.Compositions, 0);
     // During the list the response box turns over the Question, not the Direction.
     driver.Click(txtResponse);
     EXPECT_EQ(driver.Text(txtResponse), "Inspiration\r\n\tInspiration number 1.");
@@ -80,25 +78,17 @@ TEST(MirrorSuppose, TheQuestionOpensAListAndSelectPutsTheHeaviestIdeaInTheDialog
     // The heaviest of 201, 901 and 501.
     const std::string conclusion = "\tYour idea \x93Get up earlier.\x94 is verdict 1.";
     EXPECT_EQ(driver.State().DialogueText, "\r\n\r\n" + Quoted(Question) + "\r\n" + conclusion);
-    EXPECT_EQ(driver.State().PairCount, 1);
     EXPECT_EQ(driver.Shown("txtResponse"),
               "txtResponse: \"\\tYour idea \xE2\x80\x9CGet up earlier.\xE2\x80\x9D is verdict 1.\" "
               "back=Added");
     EXPECT_EQ(driver.Shown("txtAnalyze") + driver.Shown("lblRemS"), "");
-    EXPECT_EQ(driver.Shown("cmdRemove") + driver.Shown("cmdNew"),
-              "cmdRemove: \"Remove\"cmdNew: \"Finish\"");
     EXPECT_EQ(driver.Shown("cmdConverse") + driver.Shown("cmdSuppose"),
               "cmdConverse: \"Converse\" pressedcmdSuppose: \"Suppose\"");
-    EXPECT_EQ(driver.Text(txtSaved), "Dialogue" + driver.State().DialogueText);
-    EXPECT_EQ(driver.Text(txtNote), std::string(MirrorText::Added));
-    EXPECT_EQ(driver.mirror->Controls().Title.substr(0, 32), "Veyrant Sagrel -- Conversation -");
     EXPECT_EQ(driver.Engine.RollPercents, (std::vector<int>{25, 25}));
-    EXPECT_LT(driver.Box(txtMirror).Top, driver.Box(txtResponse).Top);
 
     // The next Enter begins a Converse entry.
     driver.Enter();
     EXPECT_EQ(driver.Text(txtMirror), (std::string{Tab, OpenQuote}));
-    EXPECT_EQ(driver.State().ActiveMethod, WriteMethod::Converse);
     EXPECT_EQ(driver.mirror->Controls().Focus, txtMirror);
 }
 
@@ -119,28 +109,14 @@ TEST(MirrorSuppose, TheHeaviestIdeaIsChosenAndTheLaterOfEqualOnes) {
     }
 }
 
-// Each list weighs its own ideas: what an earlier, longer list left behind is never chosen.
-TEST(MirrorSuppose, AShorterSecondListChoosesAmongItsOwnIdeas) {
+// A refused Select leaves the outcome out until kept; each list weighs its own ideas, so what an
+// earlier, longer list left behind is never chosen.
+TEST(MirrorSuppose, SelectRefusedByTheDrawLeavesTheOutcomeOutUntilKept) {
     MirrorDriver driver;
     OpenList(driver, {0.2f, 0.3f, 0.9f});
     for (int idea = 1; idea <= 3; ++idea) {
         driver.Converse("idea number " + std::to_string(idea));
     }
-    driver.Click(cmdNew);
-    driver.Draws.Draws = {0.5f, 0.1f};
-    AskQuestion(driver);
-    driver.Converse("another idea");
-    driver.Converse("a last idea");
-    driver.Click(cmdNew);
-    EXPECT_EQ(driver.Text(txtResponse), "\tYour idea \x93"
-                                        "Another idea.\x94 is verdict 2.");
-}
-
-TEST(MirrorSuppose, SelectRefusedByTheDrawLeavesTheOutcomeOutUntilKept) {
-    MirrorDriver driver;
-    OpenList(driver, {0.3f, 0.6f});
-    driver.Converse("call the school about the bus.");
-    driver.Converse("share the mornings with my partner.");
     driver.Engine.Rolls.push_back(0);
     driver.Click(cmdNew);
     EXPECT_EQ(driver.Text(txtResponse), "\tRefusal 1.");
@@ -151,6 +127,14 @@ TEST(MirrorSuppose, SelectRefusedByTheDrawLeavesTheOutcomeOutUntilKept) {
     driver.Click(cmdRemove);
     EXPECT_EQ(driver.State().DialogueText, "\r\n\r\n" + Quoted(Question) + "\r\n\tRefusal 1.");
     EXPECT_EQ(driver.State().PairCount, 1);
+
+    driver.Draws.Draws = {0.5f, 0.1f};
+    AskQuestion(driver);
+    driver.Converse("another idea");
+    driver.Converse("a last idea");
+    driver.Click(cmdNew);
+    EXPECT_EQ(driver.Text(txtResponse), "\tYour idea \x93"
+                                        "Another idea.\x94 is verdict 2.");
 }
 
 TEST(MirrorSuppose, AQuestionDeclinedByTheDrawEndsInConverseWithKeep) {
@@ -160,9 +144,6 @@ TEST(MirrorSuppose, AQuestionDeclinedByTheDrawEndsInConverseWithKeep) {
     AskQuestion(driver);
     EXPECT_EQ(driver.State().ActiveMethod, WriteMethod::Converse);
     EXPECT_EQ(driver.Shown("txtAnalyze") + driver.Shown("cmdRemove"), "cmdRemove: \"Keep\"");
-    EXPECT_EQ(driver.Shown("cmdConverse") + driver.Shown("cmdSuppose"),
-              "cmdConverse: \"Converse\" pressedcmdSuppose: \"Suppose\"");
-    EXPECT_EQ(driver.Box(txtResponse).Background, Colour::ColourOut);
     // The remark of the Suppose method, composed once and shown as the response.
     EXPECT_EQ(driver.Text(txtResponse), "\tRemark 1 on type 9.");
     EXPECT_EQ(driver.Engine.Compositions, 1);
@@ -170,9 +151,6 @@ TEST(MirrorSuppose, AQuestionDeclinedByTheDrawEndsInConverseWithKeep) {
     driver.Click(cmdRemove);
     EXPECT_EQ(driver.State().DialogueText,
               "\r\n\r\n" + Quoted(Question) + "\r\n\tRemark 1 on type 9.");
-    driver.Enter();
-    EXPECT_EQ(driver.Text(txtNote),
-              "Type your question or statement. Then press 'Enter' for the Sagrel response.");
 }
 
 // A question the parser reads as yes-or-no is refused, and the question begins again.
@@ -221,15 +199,11 @@ TEST(MirrorSuppose, ATooShortIdeaCanOnlyBeLengthenedAndIsTriedAgain) {
     driver.Converse("walk to school");
     driver.Converse("go");
     EXPECT_EQ(driver.Text(txtResponse), std::string(MirrorText::TooShort));
-    EXPECT_EQ(driver.Box(txtResponse).Background, Colour::ColourError);
-    EXPECT_EQ(driver.Text(txtNote), std::string(MirrorText::TooShortInstruction));
     EXPECT_EQ(driver.Shown("lblRemS"), "lblRemS: \"X\"");
-    EXPECT_TRUE(driver.Box(cmdClear).Enabled);
     driver.Backspace(); // refused: a short idea only grows
     EXPECT_EQ(driver.Text(txtAnalyze), ListHeader + Filed(1, "Walk to school.") + Prompt(2) + "go");
     driver.Type(" slow");
     EXPECT_EQ(driver.Text(txtResponse), "Question\r\n" + Quoted(Question));
-    EXPECT_EQ(driver.Box(txtResponse).Background, Colour::ColourReady);
     EXPECT_EQ(driver.Text(txtNote),
               "Ready to enter your text. Continue typing, or press 'Enter' to advance.");
     // Shortened again, the idea is refused at each Enter, and only a filed one turns Cancel into
@@ -297,14 +271,12 @@ TEST(MirrorSuppose, AClickOrRewriteErasesTheIdeaBeingTyped) {
     EXPECT_EQ(driver.Text(txtAnalyze), prompt);
     EXPECT_FALSE(driver.Box(cmdClear).Enabled);
     driver.Type("call gran");
-    EXPECT_TRUE(driver.Box(cmdClear).Enabled);
     EXPECT_EQ(driver.Shown("lblRemS"), "");
     driver.Click(txtAnalyze);
     EXPECT_EQ(driver.Text(txtAnalyze), prompt);
     EXPECT_EQ(driver.Box(txtAnalyze).Caret, static_cast<long>(prompt.size()));
     EXPECT_FALSE(driver.Box(cmdClear).Enabled);
     EXPECT_EQ(driver.Shown("lblRemS"), "lblRemS: \"X\"");
-    EXPECT_EQ(driver.Text(txtNote), "Type your entry again. Then press 'Enter' to continue.");
 
     driver.Converse("go"); // too short
     driver.Click(cmdClear);
@@ -330,10 +302,8 @@ TEST(MirrorSuppose, CancelDropsTheListAndReturnsToConverseInARunningDialogue) {
 
     AskQuestion(driver);
     driver.Click(cmdNew);
-    EXPECT_EQ(driver.State().ActiveMethod, WriteMethod::Converse);
     EXPECT_EQ(driver.Shown("cmdNew") + driver.Shown("txtAnalyze"), "cmdNew: \"Finish\"");
     EXPECT_EQ(driver.Shown("cmdConverse"), "cmdConverse: \"Converse\" pressed");
-    EXPECT_EQ(driver.mirror->Controls().Focus, txtMirror);
     EXPECT_EQ(driver.State().DialogueText, before);
     EXPECT_EQ(driver.State().CycleCount, 3);
 }
@@ -345,14 +315,12 @@ TEST(MirrorSuppose, CancelInAnEmptyDialogueStartsOverAndAMethodButtonLeavesTheLi
     driver.Click(cmdNotate);
     EXPECT_EQ(driver.State().ActiveMethod, WriteMethod::Comment);
     EXPECT_EQ(driver.Shown("txtAnalyze") + driver.Shown("lblRemS"), "");
-    EXPECT_EQ(driver.mirror->Controls().Focus, txtMirror);
 
     // A list left on a refused idea still opens the next one with its prompt.
     AskQuestion(driver);
     EXPECT_EQ(driver.Text(txtAnalyze), ListHeader + Prompt(1));
     driver.Click(cmdNew);
     EXPECT_EQ(driver.State().ActiveMethod, WriteMethod::None);
-    EXPECT_EQ(driver.mirror->Controls().Title, "Veyrant Sagrel -- New Dialogue");
     EXPECT_EQ(driver.Shown("txtAnalyze") + driver.Shown("cmdNew"), "");
 }
 
@@ -380,11 +348,8 @@ TEST(MirrorSuppose, TheListClosesByItselfAfterNinetyEightIdeas) {
     }
     const std::string list = driver.Text(txtAnalyze);
     EXPECT_EQ(list.substr(list.size() - Prompt(98).size()), Prompt(98));
-    EXPECT_EQ(driver.State().ActiveMethod, WriteMethod::Suppose);
     driver.Converse("idea 98");
     EXPECT_EQ(driver.State().ActiveMethod, WriteMethod::Converse);
-    EXPECT_EQ(driver.State().PairCount, 1);
-    EXPECT_EQ(driver.Engine.RollPercents, (std::vector<int>{25, 25}));
     EXPECT_EQ(driver.State().DialogueText.find("\r\n\tYour idea \x93Idea "),
               2 + Quoted(Question).size() + 2);
 }

@@ -79,9 +79,17 @@ TEST(MirrorTranscript, AdviceOnceThenWarningsThenTheLimit) {
     EXPECT_EQ(driver.Layer.Boxes[1].Icon, MessageIcon::Warning);
 }
 
+// A response left out does not bring the limit nearer; at 121 every entry is refused.
 TEST(MirrorTranscript, AtOneHundredTwentyOneEveryEntryIsRefused) {
     MirrorDriver driver;
-    ContinuePrior(driver, 121);
+    ContinuePrior(driver, 120);
+    driver.Engine.Rolls.push_back(0);
+    driver.Converse(Entry);
+    ASSERT_EQ(driver.Text(cmdRemove), "Keep");
+    driver.Enter();
+    driver.Converse(Entry);
+    EXPECT_EQ(driver.Text(cmdRemove), "Remove");
+    driver.Enter();
     driver.Converse(Entry);
     EXPECT_EQ(driver.Text(txtResponse),
               ">> ! Your Dialogue has reached the system limit, and no more text can be added. "
@@ -95,21 +103,6 @@ TEST(MirrorTranscript, AtOneHundredTwentyOneEveryEntryIsRefused) {
     driver.Converse("A last comment on all of it.");
     EXPECT_EQ(driver.State().PairCount, 121);
     EXPECT_EQ(driver.Text(txtNote), "Press 'Enter' to begin this entry again.");
-}
-
-TEST(MirrorTranscript, AResponseLeftOutDoesNotBringTheLimitNearer) {
-    MirrorDriver driver;
-    ContinuePrior(driver, 120);
-    driver.Engine.Rolls.push_back(0);
-    driver.Converse(Entry);
-    ASSERT_EQ(driver.Text(cmdRemove), "Keep");
-    driver.Enter();
-    driver.Converse(Entry);
-    EXPECT_EQ(driver.Text(cmdRemove), "Remove");
-    EXPECT_EQ(driver.State().PairCount, 121);
-    driver.Enter();
-    driver.Converse(Entry);
-    EXPECT_EQ(driver.Text(txtResponse).substr(0, 4), ">> !");
 }
 
 TEST(MirrorTranscript, ClickOnTheNewDialoguePanelDrawsAnotherSuggestion) {
