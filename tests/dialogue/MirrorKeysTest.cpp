@@ -184,12 +184,9 @@ TEST(MirrorLayout, ArrangementsMoveTheBoxesByTheScaledTable) {
         };
         driver.mirror->StartWindow();
         EXPECT_EQ(top(txtResponse), scaled(960));
-        EXPECT_EQ(driver.Box(txtResponse).Height, scaled(1820));
         EXPECT_EQ(top(txtSaved), scaled(2760));
         driver.Click(cmdConverse);
         EXPECT_EQ(top(txtMirror), scaled(2280));
-        EXPECT_EQ(top(lblRem), scaled(2760));
-        EXPECT_EQ(driver.Box(txtSaved).Height, scaled(2175));
         driver.Converse(Entry);
         EXPECT_EQ(top(txtMirror), scaled(960));
         EXPECT_EQ(top(txtResponse), scaled(1680));
@@ -197,7 +194,6 @@ TEST(MirrorLayout, ArrangementsMoveTheBoxesByTheScaledTable) {
         driver.Click(cmdDisplay);
         EXPECT_EQ(top(txtSaved), scaled(960));
         EXPECT_EQ(driver.Box(txtSaved).Height, scaled(4215));
-        EXPECT_EQ(driver.Box(cmdNew).FontSize, driver.App.Scale.ButtonFontSize);
     }
 }
 

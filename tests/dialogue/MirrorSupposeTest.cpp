@@ -199,6 +199,7 @@ TEST(MirrorSuppose, ATooShortIdeaCanOnlyBeLengthenedAndIsTriedAgain) {
     driver.Converse("walk to school");
     driver.Converse("go");
     EXPECT_EQ(driver.Text(txtResponse), std::string(MirrorText::TooShort));
+    EXPECT_EQ(driver.Text(txtNote), std::string(MirrorText::TooShortInstruction));
     EXPECT_EQ(driver.Shown("lblRemS"), "lblRemS: \"X\"");
     driver.Backspace(); // refused: a short idea only grows
     EXPECT_EQ(driver.Text(txtAnalyze), ListHeader + Filed(1, "Walk to school.") + Prompt(2) + "go");
@@ -293,6 +294,7 @@ TEST(MirrorSuppose, CancelDropsTheListAndReturnsToConverseInARunningDialogue) {
     AskQuestion(driver);
     driver.Converse("earlier nights.");
     driver.Converse("fewer screens.");
+    driver.Converse("go"); // refused as too short
     // Esc with Select leaves the method as F5 does.
     driver.Press(KeyCode::Escape);
     EXPECT_EQ(driver.State().ActiveMethod, WriteMethod::Converse);
@@ -300,28 +302,14 @@ TEST(MirrorSuppose, CancelDropsTheListAndReturnsToConverseInARunningDialogue) {
     EXPECT_EQ(driver.State().DialogueText, before);
     EXPECT_EQ(driver.State().CycleCount, 2);
 
+    // A list left on a refused idea still opens the next one with its prompt.
     AskQuestion(driver);
+    EXPECT_EQ(driver.Text(txtAnalyze), ListHeader + Prompt(1));
     driver.Click(cmdNew);
     EXPECT_EQ(driver.Shown("cmdNew") + driver.Shown("txtAnalyze"), "cmdNew: \"Finish\"");
     EXPECT_EQ(driver.Shown("cmdConverse"), "cmdConverse: \"Converse\" pressed");
     EXPECT_EQ(driver.State().DialogueText, before);
     EXPECT_EQ(driver.State().CycleCount, 3);
-}
-
-TEST(MirrorSuppose, CancelInAnEmptyDialogueStartsOverAndAMethodButtonLeavesTheList) {
-    MirrorDriver driver;
-    OpenList(driver);
-    driver.Converse("go");
-    driver.Click(cmdNotate);
-    EXPECT_EQ(driver.State().ActiveMethod, WriteMethod::Comment);
-    EXPECT_EQ(driver.Shown("txtAnalyze") + driver.Shown("lblRemS"), "");
-
-    // A list left on a refused idea still opens the next one with its prompt.
-    AskQuestion(driver);
-    EXPECT_EQ(driver.Text(txtAnalyze), ListHeader + Prompt(1));
-    driver.Click(cmdNew);
-    EXPECT_EQ(driver.State().ActiveMethod, WriteMethod::None);
-    EXPECT_EQ(driver.Shown("txtAnalyze") + driver.Shown("cmdNew"), "");
 }
 
 TEST(MirrorSuppose, TheFullViewCoversTheListAndWriteGivesItBack) {
