@@ -1,4 +1,3 @@
-#include "core/KeyCodes.h"
 #include "core/Text.h"
 #include "dialogue/MirrorDriver.h"
 
@@ -9,21 +8,20 @@ namespace {
 
 const std::string Prefix{Tab, OpenQuote};
 const std::string Question = "why do I keep putting off the letter to my brother?";
-const std::string Statement = "I feel calmer about the move than I expected to feel.";
+const std::string Notice =
+    ">> Regarding the conversation. To continue, press 'Enter'.\r\n\tThe talk has turned inward.";
+const std::string YesNoRefusal = ">> Questions asking for a yes-no-type answer are not valid for "
+                                 "Supposition. Press 'Enter' to start again.";
 
 TEST(MirrorCycle, NewDialogueOffersTheMethodsAndTheInspiration) {
     MirrorDriver driver;
     driver.mirror->StartWindow();
-    EXPECT_EQ(driver.State().ActiveMethod, WriteMethod::None);
-    EXPECT_EQ(driver.Text(MirrorControl::txtResponse), "Inspiration\r\n\tInspiration number 1.");
-    EXPECT_EQ(driver.Text(MirrorControl::txtSaved).substr(0, 39),
-              "Suggestion 1\r\n\r\nDialogue Library Status");
-    EXPECT_EQ(driver.Text(MirrorControl::txtNote),
-              "Reflect upon the Inspiration and Suggestion to compose your thoughts before you "
-              "begin. Click either text to change it.");
-    EXPECT_FALSE(driver.Box(MirrorControl::cmdNew).Visible);
-    EXPECT_FALSE(driver.Box(MirrorControl::cmdRemove).Visible);
-    EXPECT_FALSE(driver.Box(MirrorControl::txtMirror).Enabled);
+    EXPECT_EQ(driver.Text(txtResponse), "Inspiration\r\n\tInspiration number 1.");
+    EXPECT_EQ(driver.Text(txtSaved).substr(0, 39), "Suggestion 1\r\n\r\nDialogue Library Status");
+    EXPECT_EQ(driver.Text(txtNote), "Reflect upon the Inspiration and Suggestion to compose your "
+                                    "thoughts before you begin. Click either text to change it.");
+    EXPECT_FALSE(driver.Box(cmdNew).Visible || driver.Box(cmdRemove).Visible);
+    EXPECT_FALSE(driver.Box(txtMirror).Enabled);
     EXPECT_EQ(driver.mirror->Controls().Title,
               "Veyrant Sagrel 4.1 -- Written Dialogues of Self-Reflection");
 }
@@ -35,45 +33,33 @@ TEST(MirrorCycle, ConverseEntryIsAcceptedAnsweredAndKept) {
     driver.StartConverse();
     EXPECT_EQ(driver.mirror->Controls().Title,
               "Veyrant Sagrel -- Conversation -- Sunday, 12:00 pm, November 22, 2026");
-    EXPECT_EQ(driver.Box(MirrorControl::txtResponse).Background, Colour::ColourReady);
-    EXPECT_EQ(driver.Text(MirrorControl::cmdNew), "Cancel");
     std::vector<std::string> painted;
-    driver.mirror->SetPainter([&] { painted.push_back(driver.Text(MirrorControl::txtResponse)); });
+    driver.mirror->SetPainter([&] { painted.push_back(driver.Text(txtResponse)); });
 
     driver.Engine.Judgements.push_back({1, 50});
     driver.Converse(Question);
     ASSERT_FALSE(painted.empty());
     EXPECT_EQ(painted.front(), "Processing . . .");
     EXPECT_GE(driver.Layer.Yields, 2);
-    const std::string entry = Quoted(Question);
-    EXPECT_EQ(driver.Text(MirrorControl::txtMirror), entry);
-    EXPECT_EQ(driver.Text(MirrorControl::txtResponse), "\tAnswer 1 to type 50.");
-    EXPECT_EQ(driver.Box(MirrorControl::txtResponse).Background, Colour::ColourAdded);
-    EXPECT_EQ(driver.State().DialogueText, "\r\n\r\n" + entry + "\r\n\tAnswer 1 to type 50.");
-    EXPECT_EQ(driver.Text(MirrorControl::txtSaved), "Dialogue" + driver.State().DialogueText);
-    EXPECT_EQ(driver.State().PairCount, 1);
-    EXPECT_EQ(driver.State().CycleCount, 1);
-    EXPECT_EQ(driver.Text(MirrorControl::cmdRemove), "Remove");
-    EXPECT_TRUE(driver.Box(MirrorControl::cmdRemove).Enabled);
-    EXPECT_EQ(driver.Text(MirrorControl::cmdNew), "Finish");
-    EXPECT_TRUE(driver.Box(MirrorControl::cmdDisplay).Enabled);
-    EXPECT_EQ(driver.Text(MirrorControl::txtNote),
-              "Text was added into the Dialogue. Click 'Remove' to erase it, before continuing. "
-              "Press 'Enter' to continue.");
+    EXPECT_EQ(driver.Text(txtMirror), Quoted(Question));
+    EXPECT_EQ(driver.Box(txtResponse).Background, Colour::ColourAdded);
+    EXPECT_EQ(driver.State().DialogueText,
+              "\r\n\r\n" + Quoted(Question) + "\r\n\tAnswer 1 to type 50.");
+    EXPECT_EQ(driver.State().PairCount + driver.State().CycleCount, 2);
+    EXPECT_TRUE(driver.Box(cmdRemove).Enabled && driver.Box(cmdDisplay).Enabled);
+    EXPECT_EQ(driver.Text(txtNote), "Text was added into the Dialogue. Click 'Remove' to erase it, "
+                                    "before continuing. Press 'Enter' to continue.");
     // The entry stands above the response once answered, and below it for the next one.
-    EXPECT_LT(driver.Box(MirrorControl::txtMirror).Top, driver.Box(MirrorControl::txtResponse).Top);
-    EXPECT_EQ(driver.Engine.RollPercents, std::vector<int>{25});
+    EXPECT_LT(driver.Box(txtMirror).Top, driver.Box(txtResponse).Top);
     EXPECT_EQ(driver.Engine.CheckedEntries.front(), Prefix + Question);
 
     driver.Enter();
-    EXPECT_EQ(driver.State().AwaitingEnter, 0);
-    EXPECT_EQ(driver.Text(MirrorControl::txtMirror), Prefix);
-    EXPECT_EQ(driver.Text(MirrorControl::txtResponse), driver.State().InspirationView);
-    EXPECT_EQ(driver.Text(MirrorControl::txtNote),
+    EXPECT_EQ(driver.Text(txtMirror), Prefix);
+    EXPECT_EQ(driver.Text(txtResponse), driver.State().InspirationView);
+    EXPECT_EQ(driver.Text(txtNote),
               "Type your question or statement. Then press 'Enter' for the Sagrel response.");
-    EXPECT_EQ(driver.Text(MirrorControl::cmdRemove), "Edit");
-    EXPECT_FALSE(driver.Box(MirrorControl::cmdRemove).Enabled);
-    EXPECT_GT(driver.Box(MirrorControl::txtMirror).Top, driver.Box(MirrorControl::txtResponse).Top);
+    EXPECT_EQ(driver.Shown("cmdRemove"), "cmdRemove: \"Edit\" disabled");
+    EXPECT_GT(driver.Box(txtMirror).Top, driver.Box(txtResponse).Top);
 }
 
 TEST(MirrorCycle, ClosingTheWindowKeepsARunningDialogueForNextTime) {
@@ -87,77 +73,67 @@ TEST(MirrorCycle, ClosingTheWindowKeepsARunningDialogueForNextTime) {
     ASSERT_TRUE(prior.has_value());
     EXPECT_EQ(prior->Buffers.DialogueText, driver.State().DialogueText);
     EXPECT_EQ(prior->Buffers.PairCount, 1);
-    EXPECT_FALSE(driver.Box(MirrorControl::txtMirror).Enabled);
+    EXPECT_FALSE(driver.Box(txtMirror).Enabled);
 }
 
 TEST(MirrorCycle, RemarkStaysOutUntilKeptAndKeepRemoveRestoreTheTextExactly) {
     MirrorDriver driver;
     driver.StartConverse();
-    driver.Converse(Statement);
-    driver.Enter();
-    const std::string before = driver.State().DialogueText;
-
     driver.Engine.Rolls.push_back(0);
     driver.Converse(Question);
-    EXPECT_EQ(driver.Text(MirrorControl::cmdRemove), "Keep");
-    EXPECT_EQ(driver.Box(MirrorControl::txtResponse).Background, Colour::ColourOut);
-    EXPECT_EQ(driver.Box(MirrorControl::txtNote).Ink, Colour::InkWarn);
-    EXPECT_EQ(driver.State().DialogueText, before);
-    EXPECT_EQ(driver.State().PairCount, 1);
+    // The first pair left out leaves Cancel and no Display.
+    EXPECT_EQ(driver.Text(cmdRemove) + driver.Text(cmdNew), "KeepCancel");
+    EXPECT_FALSE(driver.Box(cmdDisplay).Enabled);
+    EXPECT_EQ(driver.Text(txtSaved), "Dialogue");
 
-    driver.mirror->Click(MirrorControl::cmdRemove);
+    driver.Click(cmdRemove);
     const std::string kept = driver.State().DialogueText;
-    EXPECT_EQ(kept, before + "\r\n\r\n" + Quoted(Question) + "\r\n\tRemark 2 on type 2.");
-    EXPECT_EQ(driver.State().PairCount, 2);
-    EXPECT_EQ(driver.Text(MirrorControl::cmdRemove), "Remove");
-    EXPECT_EQ(driver.Text(MirrorControl::txtNote),
-              "Text was kept in the Dialogue. Click 'Remove' to erase it, before continuing. "
-              "Press 'Enter' to continue.");
+    EXPECT_EQ(kept, "\r\n\r\n" + Quoted(Question) + "\r\n\tRemark 1 on type 2.");
+    EXPECT_EQ(driver.Text(cmdRemove) + driver.Text(cmdNew), "RemoveFinish");
+    EXPECT_TRUE(driver.Box(cmdDisplay).Enabled);
+    EXPECT_EQ(driver.Text(txtNote), "Text was kept in the Dialogue. Click 'Remove' to erase it, "
+                                    "before continuing. Press 'Enter' to continue.");
 
-    driver.mirror->Click(MirrorControl::cmdRemove);
-    EXPECT_EQ(driver.State().DialogueText, before);
-    EXPECT_EQ(driver.Text(MirrorControl::txtSaved), "Dialogue" + before);
-    EXPECT_EQ(driver.Text(MirrorControl::txtNote),
-              "Text was removed from the Dialogue. Click 'Keep' to retain it, before continuing. "
-              "Press 'Enter' to continue.");
-    driver.mirror->Click(MirrorControl::cmdRemove);
+    driver.Click(cmdRemove);
+    EXPECT_EQ(driver.State().DialogueText, "");
+    EXPECT_EQ(driver.Text(txtSaved), "Dialogue");
+    EXPECT_EQ(driver.Text(txtNote), "Text was removed from the Dialogue. Click 'Keep' to retain "
+                                    "it, before continuing. Press 'Enter' to continue.");
+    driver.Click(cmdRemove);
     EXPECT_EQ(driver.State().DialogueText, kept);
 }
 
-TEST(MirrorCycle, FirstRemarkLeavesCancelAndNoDisplayUntilKept) {
-    MirrorDriver driver;
-    driver.StartConverse();
-    EXPECT_EQ(driver.Text(MirrorControl::txtSaved), "Dialogue");
-    driver.Engine.Rolls.push_back(0);
-    driver.Converse(Question);
-    EXPECT_EQ(driver.Text(MirrorControl::cmdNew), "Cancel");
-    EXPECT_FALSE(driver.Box(MirrorControl::cmdDisplay).Enabled);
-    EXPECT_EQ(driver.Text(MirrorControl::txtSaved), "Dialogue");
-    driver.mirror->Click(MirrorControl::cmdRemove);
-    EXPECT_EQ(driver.Text(MirrorControl::cmdNew), "Finish");
-    EXPECT_TRUE(driver.Box(MirrorControl::cmdDisplay).Enabled);
-    driver.mirror->Click(MirrorControl::cmdRemove);
-    EXPECT_EQ(driver.Text(MirrorControl::txtSaved), "Dialogue");
-}
-
-// Removing a pair takes it out of the Dialogue, not out of the count that brings the notice.
-TEST(MirrorCycle, RemovedPairsStillBringTheNotice) {
+// Removing a pair takes it out of the Dialogue, not out of the count that brings the notice,
+// and the notice comes only once the goal is reached and stays out of the Dialogue.
+TEST(MirrorCycle, NoticeComesOnceTheGoalIsReachedEvenWithThePairsRemoved) {
     MirrorDriver driver;
     driver.Draws.Draws = {0.05f}; // CycleGoal 3
     driver.StartConverse();
     for (int cycle = 0; cycle < 3; ++cycle) {
         driver.Converse(Question);
-        driver.mirror->Click(MirrorControl::cmdRemove);
+        driver.Click(cmdRemove);
         if (cycle < 2) {
             driver.Enter();
         }
     }
+    EXPECT_EQ(driver.Engine.RollPercents, (std::vector<int>{25, 25, 25}));
     EXPECT_EQ(driver.State().PairCount, 0);
+
     driver.Engine.Rolls.push_back(0);
     driver.Enter();
-    EXPECT_EQ(driver.Text(MirrorControl::txtResponse),
-              ">> Regarding the conversation. To continue, press 'Enter'.\r\n\tThe talk has "
-              "turned inward.");
+    EXPECT_EQ(driver.Engine.RollPercents.back(), 20);
+    EXPECT_EQ(driver.Text(txtResponse), Notice);
+    EXPECT_EQ(driver.Box(txtResponse).Background, Colour::ColourNotice);
+    EXPECT_EQ(driver.Text(txtNote), "Review the message regarding the conversation. Press "
+                                    "'Enter', then continue typing. Or click 'Finish'.");
+    EXPECT_EQ(driver.State().AwaitingEnter, 1);
+    EXPECT_EQ(driver.State().DialogueText, "");
+
+    // The next Enter draws again and, on a 1, simply begins the entry.
+    driver.Enter();
+    EXPECT_EQ(driver.Engine.RollPercents.back(), 20);
+    EXPECT_EQ(driver.State().AwaitingEnter, 0);
+    EXPECT_EQ(driver.Box(txtResponse).Background, Colour::ColourReady);
 }
 
 // Each refusal shows its message and instruction; the entry keeps its text and the caret
@@ -167,103 +143,65 @@ TEST(MirrorCycle, ARejectionShowsItsMessageAndInstruction) {
     const struct {
         int Status, Method;
         std::string Message, Instruction;
-        int AwaitingEnter;
-    } cases[] = {{-1, 1,
-                  ">> Do not add a quotation mark at the end of your entry. That is done for you "
-                  "automatically. Backspace out the quote, then press 'Enter' to continue.",
-                  "Backspace out the quote, then press 'Enter' to continue.", 0},
-                 {0, 1,
-                  ">> Your entry is not punctuated. Add your period or question mark, then press "
-                  "'Enter'.",
-                  "Enter your punctuation, then press 'Enter' to continue.", 0},
-                 {-2, 1,
-                  ">> Insufficient number of words. Add more content to your entry. Press 'Enter' "
-                  "to start again.",
-                  startAgain, 1},
-                 {-3, 1,
-                  ">> Insufficient number of meaningful words. Add complexity to your entry. "
-                  "Press 'Enter' to start again.",
-                  startAgain, 1},
-                 {-10, 1,
-                  ">> The syntax of your entry is not clear. Use simple, properly-spelled "
-                  "language that asks a question or makes a statement. Press 'Enter' to start "
-                  "again.",
-                  startAgain, 1},
-                 {-10, 2,
-                  ">> The syntax of your entry is not clear. Use simple, properly-spelled "
-                  "language that asks a Supposition-type question. Press 'Enter' to start again.",
-                  startAgain, 1},
-                 {-11, 1,
-                  ">> The subject of your entry is not clear. Keep it simple. Avoid unnecessary "
-                  "language. Break up complex sentences with a comma. Press 'Enter' to start "
-                  "again.",
-                  startAgain, 1},
-                 {-12, 2,
-                  ">> The point of your entry is not clear. Ask a direct Supposition-type "
-                  "question. Use commas to separate phrases. Press 'Enter' to start again.",
-                  startAgain, 1},
-                 {-13, 1,
-                  ">> The meaning of your entry is not clear. Ask a direct question or make a "
-                  "simple statement. Break up complex sentences with a comma. Press 'Enter' to "
-                  "start again.",
-                  startAgain, 1},
-                 {-14, 1,
-                  ">> The meaning of your entry cannot be deciphered. Ask a direct question or "
-                  "make a simple statement. Break up complex sentences with a comma. Press "
-                  "'Enter' to start again.",
-                  startAgain, 1},
-                 {2, 2,
-                  ">> Statements are not valid for Supposition. Press 'Enter' to start again.",
-                  startAgain, 1},
-                 {-100, 2,
-                  ">> Questions asking for a yes-no-type answer are not valid for Supposition. "
-                  "Press 'Enter' to start again.",
-                  startAgain, 1}};
+    } cases[] = {
+        {-1, 1, ">> Do not add a quotation mark at the end",
+         "Backspace out the quote, then press 'Enter' to continue."},
+        {0, 1, ">> Your entry is not punctuated.",
+         "Enter your punctuation, then press 'Enter' to continue."},
+        {-2, 1, ">> Insufficient number of words.", startAgain},
+        {-3, 1, ">> Insufficient number of meaningful words.", startAgain},
+        {-10, 1,
+         ">> The syntax of your entry is not clear. Use simple, properly-spelled language "
+         "that asks a question",
+         startAgain},
+        {-10, 2,
+         ">> The syntax of your entry is not clear. Use simple, properly-spelled language "
+         "that asks a Supposition-type question.",
+         startAgain},
+        {-11, 1, ">> The subject of your entry is not clear.", startAgain},
+        {-12, 2, ">> The point of your entry is not clear. Ask a direct Supposition", startAgain},
+        {-13, 1, ">> The meaning of your entry is not clear.", startAgain},
+        {-14, 1, ">> The meaning of your entry cannot be deciphered.", startAgain},
+        {2, 2, ">> Statements are not valid for Supposition.", startAgain},
+        {-100, 2, ">> Questions asking for a yes-no-type answer are not valid", startAgain}};
     for (const auto& c : cases) {
         SCOPED_TRACE(c.Message);
         MirrorDriver driver;
         driver.mirror->StartWindow();
-        driver.mirror->Click(c.Method == 2 ? MirrorControl::cmdSuppose
-                                           : MirrorControl::cmdConverse);
+        driver.Click(c.Method == 2 ? cmdSuppose : cmdConverse);
         driver.Engine.Judgements.push_back({c.Status, c.Status == -100 ? 1 : 2});
         driver.Converse(Question);
-        EXPECT_EQ(driver.Text(MirrorControl::txtResponse), c.Message);
-        EXPECT_EQ(driver.Box(MirrorControl::txtResponse).Background, Colour::ColourError);
-        EXPECT_EQ(driver.Text(MirrorControl::txtNote), c.Instruction);
-        EXPECT_EQ(driver.State().AwaitingEnter, c.AwaitingEnter);
-        EXPECT_EQ(driver.State().EntryFailed, 1);
+        EXPECT_EQ(driver.Text(txtResponse).substr(0, c.Message.size()), c.Message);
+        EXPECT_EQ(driver.Box(txtResponse).Background, Colour::ColourError);
+        EXPECT_EQ(driver.Text(txtNote), c.Instruction);
+        const bool again = c.Instruction == startAgain;
+        EXPECT_EQ(driver.State().AwaitingEnter, again ? 1 : 0);
         EXPECT_EQ(driver.State().CycleCount + driver.State().PairCount, 0);
-        EXPECT_FALSE(driver.Box(MirrorControl::cmdRemove).Enabled);
-        EXPECT_EQ(driver.Text(MirrorControl::txtMirror), Prefix + Question);
-        EXPECT_EQ(driver.Box(MirrorControl::txtMirror).Caret == 0, c.AwaitingEnter == 1);
-        if (c.AwaitingEnter == 1) { // the next Enter begins the entry again
+        EXPECT_EQ(driver.Text(txtMirror), Prefix + Question);
+        EXPECT_EQ(driver.Box(txtMirror).Caret == 0, again);
+        if (again) { // the next Enter begins the entry again
             driver.Enter();
-            EXPECT_EQ(driver.Text(MirrorControl::txtMirror), Prefix);
-            EXPECT_EQ(driver.State().EntryFailed, 0);
-            EXPECT_EQ(driver.Box(MirrorControl::txtResponse).Background, Colour::ColourReady);
+            EXPECT_EQ(driver.Text(txtMirror), Prefix);
+            EXPECT_EQ(driver.Box(txtResponse).Background, Colour::ColourReady);
         }
     }
 }
 
-TEST(MirrorCycle, TooShortAndTooLongAreJudgedBeforeTheParser) {
+TEST(MirrorCycle, TooShortIsJudgedBeforeTheParser) {
     MirrorDriver driver;
     driver.StartConverse();
     driver.Converse("Why me?");
-    EXPECT_EQ(driver.Text(MirrorControl::txtResponse),
+    EXPECT_EQ(driver.Text(txtResponse),
               ">> Your entry is too short. Add more detail to clarify its meaning until the "
               "display status to the right no longer shows 'X'. Or click 'Rewrite' or the text "
               "to begin again.");
-    EXPECT_EQ(driver.Text(MirrorControl::txtNote),
-              "Lengthen your entry, or click 'Rewrite' to begin again. Press 'Enter' when 'X' no "
-              "longer shows.");
-    EXPECT_TRUE(driver.Box(MirrorControl::lblRem).Visible);
-    EXPECT_TRUE(driver.Box(MirrorControl::cmdClear).Enabled);
-    EXPECT_EQ(driver.State().AwaitingEnter, 0);
+    EXPECT_EQ(driver.Text(txtNote), "Lengthen your entry, or click 'Rewrite' to begin again. "
+                                    "Press 'Enter' when 'X' no longer shows.");
+    EXPECT_TRUE(driver.Box(lblRem).Visible && driver.Box(cmdClear).Enabled);
     EXPECT_TRUE(driver.Engine.CheckedEntries.empty());
-
     // Typing on clears the message at once and the entry goes on.
     driver.Type(" Why is it always me who has to call first?");
-    EXPECT_EQ(driver.Box(MirrorControl::txtResponse).Background, Colour::ColourReady);
+    EXPECT_EQ(driver.Box(txtResponse).Background, Colour::ColourReady);
     driver.Enter();
     EXPECT_EQ(driver.State().PairCount, 1);
 }
@@ -271,80 +209,85 @@ TEST(MirrorCycle, TooShortAndTooLongAreJudgedBeforeTheParser) {
 TEST(MirrorCycle, CommentGoesInAtOnceAndHandsOverToConverse) {
     MirrorDriver driver;
     driver.mirror->StartWindow();
-    driver.mirror->Click(MirrorControl::cmdNotate);
+    driver.Click(cmdNotate);
     EXPECT_EQ(driver.mirror->Controls().Title.substr(0, 28), "Veyrant Sagrel -- Notation -");
-    EXPECT_EQ(driver.Text(MirrorControl::txtResponse).substr(0, 32),
-              "Direction for Beginning Notation");
-    driver.Converse("tonight I want to look at why work feels heavy.");
-    const std::string comment = Quoted("tonight I want to look at why work feels heavy.");
-    EXPECT_EQ(driver.State().DialogueText, "\r\n\r\n" + comment);
-    EXPECT_EQ(driver.Text(MirrorControl::txtResponse), "Comment\r\n" + comment);
-    EXPECT_EQ(driver.State().ActiveMethod, WriteMethod::Converse);
-    EXPECT_TRUE(driver.Box(MirrorControl::cmdConverse).PressedIn);
-    EXPECT_FALSE(driver.Box(MirrorControl::cmdNotate).PressedIn);
-    EXPECT_EQ(driver.Text(MirrorControl::cmdNew), "Finish");
+    EXPECT_EQ(driver.Text(txtResponse).substr(0, 32), "Direction for Beginning Notation");
+    const std::string comment = "tonight I want to look at why work feels heavy.";
+    driver.Converse(comment);
+    EXPECT_EQ(driver.State().DialogueText, "\r\n\r\n" + Quoted(comment));
+    EXPECT_EQ(driver.Text(txtResponse), "Comment\r\n" + Quoted(comment));
+    EXPECT_TRUE(driver.Box(cmdConverse).PressedIn && !driver.Box(cmdNotate).PressedIn);
+    EXPECT_EQ(driver.Text(cmdNew), "Finish");
     EXPECT_EQ(driver.State().CycleCount, 0);
     driver.Enter();
-    EXPECT_EQ(driver.Text(MirrorControl::txtMirror), Prefix);
+    EXPECT_EQ(driver.Text(txtMirror), Prefix);
     EXPECT_EQ(driver.mirror->Controls().Title.substr(0, 32), "Veyrant Sagrel -- Conversation -");
 }
 
-TEST(MirrorCycle, NoticeComesOnceTheGoalIsReachedAndStaysOutOfTheDialogue) {
-    MirrorDriver driver;
-    driver.Draws.Draws = {0.05f}; // CycleGoal 3
-    driver.StartConverse();
-    EXPECT_EQ(driver.State().CycleGoal, 3);
-    for (int cycle = 0; cycle < 3; ++cycle) {
-        driver.Converse(Question);
-        if (cycle < 2) {
+// The window over the program's own parser and composer with the starter content.
+TEST(MirrorComposed, ADialogueOfSeveralCyclesWithTheRealEngine) {
+    MirrorDriver driver(1, MirrorDriver::Replies::Composed);
+    driver.mirror->StartWindow();
+    EXPECT_EQ(driver.Text(txtResponse).substr(0, 14), "Inspiration\r\n\t");
+    driver.Click(cmdConverse);
+
+    const std::string entries[] = {
+        "Why do I hesitate before every important decision?",
+        "I feel that my work no longer means what it once did.",
+        "How can I be kinder to myself on the difficult days?",
+        "What should I do about the friend I have not called?",
+    };
+    int answered = 0;
+    for (const auto& entry : entries) {
+        driver.Clock.Seconds += 37.5f;
+        driver.Converse(entry);
+        ASSERT_EQ(driver.State().EntryFailed, 0) << driver.Text(txtResponse);
+        const std::string response = driver.Text(txtResponse);
+        if (response.rfind(">> Regarding", 0) == 0) {
             driver.Enter();
+            driver.Converse(entry);
         }
+        ASSERT_EQ(driver.Text(txtResponse).substr(0, 1), "\t");
+        answered += driver.State().PairState == PairShown::Kept ? 1 : 0;
+        driver.Enter();
     }
-    EXPECT_EQ(driver.Engine.RollPercents, (std::vector<int>{25, 25, 25}));
-    const std::string before = driver.State().DialogueText;
+    EXPECT_EQ(driver.State().PairCount, answered);
+    EXPECT_GE(driver.State().CycleCount, 4);
 
-    driver.Engine.Rolls.push_back(0);
-    driver.Enter();
-    EXPECT_EQ(driver.Engine.RollPercents.back(), 20);
-    EXPECT_EQ(driver.Text(MirrorControl::txtResponse),
-              ">> Regarding the conversation. To continue, press 'Enter'.\r\n\tThe talk has "
-              "turned inward.");
-    EXPECT_EQ(driver.Box(MirrorControl::txtResponse).Background, Colour::ColourNotice);
-    EXPECT_EQ(driver.Text(MirrorControl::txtNote),
-              "Review the message regarding the conversation. Press 'Enter', then continue "
-              "typing. Or click 'Finish'.");
-    EXPECT_EQ(driver.State().AwaitingEnter, 1);
-    EXPECT_FALSE(driver.Box(MirrorControl::cmdRemove).Enabled);
-    EXPECT_EQ(driver.State().DialogueText, before);
-
-    // The next Enter draws again and, on a 1, simply begins the entry.
-    driver.Enter();
-    EXPECT_EQ(driver.Engine.RollPercents.back(), 20);
+    // The program's parser refuses an entry with no end mark.
+    driver.Converse("Why does the evening feel so long lately");
+    EXPECT_EQ(driver.Text(txtResponse),
+              ">> Your entry is not punctuated. Add your period or question mark, then press "
+              "'Enter'.");
     EXPECT_EQ(driver.State().AwaitingEnter, 0);
-    EXPECT_EQ(driver.Box(MirrorControl::txtResponse).Background, Colour::ColourReady);
+    driver.Type("?");
+    driver.Enter();
+    EXPECT_EQ(driver.State().EntryFailed, 0);
 }
 
-TEST(MirrorCycle, NoNoticeBeforeTheGoalNorForAComment) {
-    MirrorDriver driver;
-    driver.Draws.Draws = {0.05f};
-    driver.StartConverse();
-    driver.Converse(Question);
-    driver.Enter();
-    driver.Converse(Question);
-    driver.Enter();
-    EXPECT_EQ(driver.Engine.RollPercents, (std::vector<int>{25, 25}));
-    driver.Converse(Question);
-    driver.mirror->Click(MirrorControl::cmdNotate);
-    EXPECT_EQ(driver.Engine.RollPercents, (std::vector<int>{25, 25, 25}));
-}
-
-TEST(MirrorCycle, CancelInAnEmptyConverseReturnsToNewDialogue) {
-    MirrorDriver driver;
-    driver.StartConverse();
-    driver.mirror->Click(MirrorControl::cmdNew);
-    EXPECT_EQ(driver.State().ActiveMethod, WriteMethod::None);
-    EXPECT_EQ(driver.mirror->Controls().Title, "Veyrant Sagrel -- New Dialogue");
-    EXPECT_EQ(driver.Engine.Inspirations, 2);
+// An entry that the parser refuses before it reads the sentence keeps the type of the entry
+// before: after a yes-or-no question in Suppose, every such refusal is the yes-or-no one.
+TEST(MirrorComposed, AfterAYesNoQuestionAnEarlyRefusalStaysTheYesNoOne) {
+    for (const char* early : {"Tomorrow will bring happiness for all.", "Tomorrow, maybe, perhaps?",
+                              "Is it not so, is it?", "Will tomorrow bring happiness",
+                              "Will tomorrow bring happiness\""}) {
+        SCOPED_TRACE(early);
+        MirrorDriver driver(1, MirrorDriver::Replies::Composed);
+        driver.mirror->StartWindow();
+        driver.Click(cmdSuppose);
+        driver.Converse("Will tomorrow bring happiness for all?");
+        ASSERT_EQ(driver.Text(txtResponse), YesNoRefusal);
+        driver.Enter();
+        driver.Converse(early);
+        EXPECT_EQ(driver.Text(txtResponse), YesNoRefusal);
+        EXPECT_EQ(driver.Text(txtNote), "Press 'Enter' to start again.");
+        EXPECT_EQ(driver.State().AwaitingEnter, 1);
+        // A question the parser reads replaces the type and is accepted.
+        driver.Enter();
+        driver.Converse("What would bring happiness to us all?");
+        EXPECT_EQ(driver.State().EntryFailed, 0) << driver.Text(txtResponse);
+        EXPECT_EQ(driver.State().CycleCount, 1);
+    }
 }
 
 } // namespace

@@ -176,6 +176,29 @@ void MirrorDriver::Press(int keyCode) {
     Key(keyCode, 0);
 }
 
+std::string MirrorDriver::Help(MirrorControl control) {
+    mirror->MouseMove(control);
+    mirror->TimerFired(TimerId::MirrorHover);
+    return Text(MirrorControl::txtNote);
+}
+
+std::string MirrorDriver::Shown(const std::string& control) const {
+    const std::string dump = mirror->Dump();
+    const auto start = dump.find("\n" + control + ": ");
+    if (start == std::string::npos) {
+        return {};
+    }
+    return dump.substr(start + 1, dump.find('\n', start + 1) - start - 1);
+}
+
+std::string MirrorDriver::Titles() const {
+    std::string titles;
+    for (const auto& box : Layer.Boxes) {
+        titles += box.Title + ";";
+    }
+    return titles;
+}
+
 void MirrorDriver::StartConverse() {
     mirror->StartWindow();
     mirror->Click(MirrorControl::cmdConverse);

@@ -22,13 +22,16 @@
 
 namespace veyrant::testing {
 
+// The Write window's controls by their own names, in every test of its logic.
+using enum MirrorControl;
+
 // Judges entries and composes replies from a script, so a test chooses the outcome.
 class ScriptedEngine : public DialogueEngine {
 public:
     EntryJudgement CheckEntry(const std::string& entryText, WriteMethod activeMethod, int pairCount,
                               SentenceType entryType) override;
     void RecordKey(float time, int characterCode) override;
-    void StretchSeeds(float seriesSeed) override { Stretched.push_back(seriesSeed); }
+    void StretchSeeds(float) override {}
     ReplyKind RollAnswer(int percent) override;
     std::string RequestAnswer(SentenceType entryType) override;
     std::string RequestRemark(SentenceType entryType) override;
@@ -47,7 +50,6 @@ public:
     std::vector<std::string> CheckedEntries;
     std::vector<int> KeyCodes;
     std::vector<float> KeyTimes;
-    std::vector<float> Stretched;
     int Compositions = 0;
     std::string Last;
     int Inspirations = 0;
@@ -83,9 +85,16 @@ public:
     // Types and enters one accepted entry.
     void Converse(const std::string& entry);
 
+    void Click(MirrorControl control) { mirror->Click(control); }
+    // Rests the mouse on a control, lets the hover timer tick once and reads the instruction.
+    std::string Help(MirrorControl control);
     const Control& Box(MirrorControl control) const { return mirror->Controls()[control]; }
     std::string Text(MirrorControl control) const { return Box(control).Text; }
     const MirrorState& State() const { return mirror->State(); }
+    // The line of the dump that shows one control, empty when it is hidden.
+    std::string Shown(const std::string& control) const;
+    // The titles of the boxes shown so far, each followed by ";".
+    std::string Titles() const;
 
     // Leaves work buffers that reopen as a Prior Dialogue of that many items.
     void LeavePriorDialogue(int pairCount);

@@ -1,6 +1,8 @@
 #include "core/Text.h"
 #include "core/WholeFile.h"
 #include "dialogue/MirrorDriver.h"
+#include "dialogue/Transcript.h"
+#include "printing/ExportText.h"
 #include "storage/LibraryFileName.h"
 #include "support/FileFaults.h"
 
@@ -12,78 +14,77 @@ namespace {
 
 const std::string Statement = "I want to understand why Sundays feel so heavy.";
 const std::string Question = "what would make Sunday evenings lighter?";
+const std::string Entry = "What am I still carrying from last winter?";
 
-// A Dialogue of one answered statement and one Suppose pair, its first idea chosen.
-void WriteTwoPairs(MirrorDriver& driver) {
-    driver.Draws.Draws = {0.9f, 0.7f, 0.2f};
+// Reopens a Prior Dialogue of that many items and continues it in Converse.
+void ContinuePrior(MirrorDriver& driver, int pairCount) {
+    driver.LeavePriorDialogue(pairCount);
+    driver.mirror->StartWindow();
+    driver.Click(cmdRemove);
+}
+
+// A Finished Dialogue of one answered statement.
+void FinishOnePair(MirrorDriver& driver) {
     driver.StartConverse();
     driver.Converse(Statement);
-    driver.mirror->Click(MirrorControl::cmdSuppose);
-    driver.Engine.Judgements.push_back({1, 20});
-    driver.Converse(Question);
-    driver.Converse("plan something small for the evening.");
-    driver.Converse("lay out Monday on Saturday.");
-    driver.mirror->Click(MirrorControl::cmdNew); // Select
+    driver.Click(cmdNew); // Finish
 }
 
 TEST(MirrorFinish, FinishThenContinueThenFinishAgain) {
     MirrorDriver driver;
-    WriteTwoPairs(driver);
+    // One answered statement and one Suppose pair, its first idea chosen.
+    driver.Draws.Draws = {0.9f, 0.7f, 0.2f};
+    driver.StartConverse();
+    driver.Converse(Statement);
+    driver.Click(cmdSuppose);
+    driver.Engine.Judgements.push_back({1, 20});
+    driver.Converse(Question);
+    driver.Converse("plan something small for the evening.");
+    driver.Converse("lay out Monday on Saturday.");
+    driver.Click(cmdNew); // Select
     const std::string twoPairs =
         "\r\n\r\n" + Quoted(Statement) + "\r\n\tAnswer 1 to type 2.\r\n\r\n" + Quoted(Question) +
         "\r\n\tYour idea \x93Plan something small for the evening.\x94 is verdict 2.";
     ASSERT_EQ(driver.State().DialogueText, twoPairs);
 
-    driver.mirror->Click(MirrorControl::cmdNew); // Finish
+    driver.Click(cmdNew); // Finish
     EXPECT_EQ(driver.mirror->Controls().Title,
               "Veyrant Sagrel -- Dialogue, 1 Page -- Sunday, 12:00 pm, November 22, 2026");
-    EXPECT_EQ(driver.Text(MirrorControl::txtNote),
-              "To keep your Dialogue, click 'Save', or close the program. Click 'New' to delete "
-              "the Dialogue and begin another.");
-    EXPECT_EQ(driver.Text(MirrorControl::txtSaved),
+    EXPECT_EQ(driver.Text(txtNote), "To keep your Dialogue, click 'Save', or close the program. "
+                                    "Click 'New' to delete the Dialogue and begin another.");
+    EXPECT_EQ(driver.Text(txtSaved),
               "Inspiration\r\n\r\n\tInspiration number 1.\r\n\r\nDialogue" + twoPairs);
-    for (auto method :
-         {MirrorControl::cmdConverse, MirrorControl::cmdSuppose, MirrorControl::cmdNotate}) {
-        EXPECT_FALSE(driver.Box(method).Enabled);
-        EXPECT_FALSE(driver.Box(method).PressedIn);
+    for (auto method : {cmdConverse, cmdSuppose, cmdNotate}) {
+        EXPECT_FALSE(driver.Box(method).Enabled || driver.Box(method).PressedIn);
     }
-    EXPECT_TRUE(driver.Box(MirrorControl::cmdSave).Enabled);
-    EXPECT_TRUE(driver.Box(MirrorControl::cmdPrint).Enabled);
-    EXPECT_EQ(driver.Text(MirrorControl::cmdDisplay), "File");
+    EXPECT_TRUE(driver.Box(cmdSave).Enabled && driver.Box(cmdPrint).Enabled);
     // A finished Dialogue takes no keys and answers a method button with a help box.
     const auto keys = driver.Engine.KeyCodes.size();
     driver.Type("more");
     EXPECT_EQ(driver.Engine.KeyCodes.size(), keys);
-    driver.mirror->Click(MirrorControl::cmdConverse);
-    ASSERT_EQ(driver.Layer.Boxes.size(), 1u);
-    EXPECT_EQ(driver.Layer.Boxes[0].Title, "Veyrant Sagrel Help");
+    driver.Click(cmdConverse);
+    EXPECT_EQ(driver.Titles(), "Veyrant Sagrel Help;");
     auto buffers = driver.Buffers.ReadWorkBuffers();
     ASSERT_TRUE(buffers.has_value());
     EXPECT_EQ(buffers->Buffers.DialogueText, twoPairs);
     EXPECT_EQ(buffers->Buffers.PairCount, 2);
 
-    driver.mirror->Click(MirrorControl::cmdRemove); // Continue
-    EXPECT_EQ(driver.State().ActiveMethod, WriteMethod::Converse);
-    EXPECT_TRUE(driver.Box(MirrorControl::cmdConverse).PressedIn);
-    EXPECT_EQ(driver.Text(MirrorControl::cmdNew), "Finish");
-    EXPECT_EQ(driver.Text(MirrorControl::cmdDisplay), "Display");
-    EXPECT_FALSE(driver.Box(MirrorControl::cmdSave).Enabled);
-    EXPECT_FALSE(driver.Box(MirrorControl::cmdPrint).Enabled);
-    EXPECT_EQ(driver.State().DisplayFull, 0);
-    EXPECT_EQ(driver.Text(MirrorControl::txtSaved), "Dialogue" + twoPairs);
+    driver.Click(cmdRemove); // Continue
+    EXPECT_TRUE(driver.Box(cmdConverse).PressedIn);
+    EXPECT_EQ(driver.Text(cmdNew) + driver.Text(cmdDisplay), "FinishDisplay");
+    EXPECT_FALSE(driver.Box(cmdSave).Enabled || driver.Box(cmdPrint).Enabled);
+    EXPECT_EQ(driver.Text(txtSaved), "Dialogue" + twoPairs);
     EXPECT_EQ(driver.State().CycleCount, 2);
-    EXPECT_EQ(driver.State().InspirationText, "\tInspiration number 1.");
 
     driver.Converse("Sunday is the day I stop being busy.");
-    driver.mirror->Click(MirrorControl::cmdNew); // Finish again
+    driver.Click(cmdNew); // Finish again
     buffers = driver.Buffers.ReadWorkBuffers();
     ASSERT_TRUE(buffers.has_value());
     EXPECT_EQ(buffers->Buffers.PairCount, 3);
     EXPECT_EQ(buffers->Buffers.DialogueText, twoPairs + "\r\n\r\n" +
                                                  Quoted("Sunday is the day I stop being busy.") +
                                                  "\r\n\tAnswer 3 to type 2.");
-    EXPECT_EQ(driver.Text(MirrorControl::cmdRemove), "Continue");
-    EXPECT_EQ(driver.Text(MirrorControl::cmdNew), "New");
+    EXPECT_EQ(driver.Text(cmdRemove) + driver.Text(cmdNew), "ContinueNew");
 }
 
 // New asks only for an unsaved Dialogue, and resets on No.
@@ -102,22 +103,15 @@ TEST(MirrorFinish, NewAsksOnlyForAnUnsavedDialogueAndResetsOnNo) {
         SCOPED_TRACE(c.Name);
         MirrorDriver driver;
         driver.App.UserSettings.GuestMode = c.Guest ? 1 : 0;
-        driver.StartConverse();
-        driver.Converse(Statement);
-        driver.mirror->Click(MirrorControl::cmdNew); // Finish
-        EXPECT_EQ(driver.Box(MirrorControl::cmdSave).Enabled, !c.Guest);
+        FinishOnePair(driver);
+        EXPECT_EQ(driver.Box(cmdSave).Enabled, !c.Guest);
         driver.Layer.Answers.push_back(c.Answer);
+        driver.Click(c.SavedFirst ? cmdSave : cmdNew);
         if (c.SavedFirst) {
-            driver.mirror->Click(MirrorControl::cmdSave);
             EXPECT_EQ(driver.Library.Listing().LibraryCount, 1);
-        } else {
-            driver.mirror->Click(MirrorControl::cmdNew);
         }
-
-        const bool asked = !driver.Layer.Boxes.empty();
-        EXPECT_EQ(asked, c.Asked);
-        if (asked) {
-            EXPECT_EQ(driver.Layer.Boxes[0].Title, "Save Finished Dialogue");
+        EXPECT_EQ(driver.Titles(), c.Asked ? "Save Finished Dialogue;" : "");
+        if (c.Asked) {
             EXPECT_EQ(driver.Layer.Boxes[0].Buttons, MessageButtons::YesNoCancel);
             EXPECT_EQ(driver.Layer.Boxes[0].Text,
                       "When you click 'Save', your Dialogue is added to the Library, where you may "
@@ -126,26 +120,21 @@ TEST(MirrorFinish, NewAsksOnlyForAnUnsavedDialogueAndResetsOnNo) {
                       "'New'.\r\n\r\nDo you wish to add your Dialogue to the Library before "
                       "beginning another?");
         }
-        if (c.Reset) {
-            EXPECT_EQ(driver.State().ActiveMethod, WriteMethod::None);
-            EXPECT_EQ(driver.State().DialogueText, "");
-            EXPECT_EQ(driver.State().PairCount, 0);
-            EXPECT_EQ(driver.State().CycleCount, 0);
-            EXPECT_EQ(driver.State().DialogueSaved, 0);
-            EXPECT_FALSE(driver.Buffers.ReadWorkBuffers().has_value());
-            EXPECT_EQ(driver.Text(MirrorControl::txtResponse),
-                      "Inspiration\r\n\tInspiration number 2.");
-            EXPECT_EQ(driver.Text(MirrorControl::txtSaved).substr(0, 12), "Suggestion 2");
-            EXPECT_EQ(driver.mirror->Controls().Title,
-                      c.Guest ? "Veyrant Sagrel -- New Dialogue -- Guest Mode"
-                              : "Veyrant Sagrel -- New Dialogue");
-            EXPECT_FALSE(driver.Box(MirrorControl::cmdNew).Visible);
-            EXPECT_TRUE(driver.Box(MirrorControl::cmdConverse).Enabled);
-        } else {
+        EXPECT_EQ(driver.Buffers.ReadWorkBuffers().has_value(), !c.Reset);
+        if (!c.Reset) {
             EXPECT_EQ(driver.State().PairCount, 1);
-            EXPECT_EQ(driver.Text(MirrorControl::cmdNew), "New");
-            EXPECT_TRUE(driver.Buffers.ReadWorkBuffers().has_value());
+            EXPECT_EQ(driver.Text(cmdNew), "New");
+            continue;
         }
+        EXPECT_EQ(driver.State().DialogueText, "");
+        EXPECT_EQ(driver.State().PairCount + driver.State().CycleCount, 0);
+        EXPECT_EQ(driver.State().DialogueSaved, 0);
+        EXPECT_EQ(driver.Text(txtResponse), "Inspiration\r\n\tInspiration number 2.");
+        EXPECT_EQ(driver.Text(txtSaved).substr(0, 12), "Suggestion 2");
+        EXPECT_EQ(driver.mirror->Controls().Title,
+                  c.Guest ? "Veyrant Sagrel -- New Dialogue -- Guest Mode"
+                          : "Veyrant Sagrel -- New Dialogue");
+        EXPECT_TRUE(driver.Box(cmdConverse).Enabled);
     }
 }
 
@@ -154,19 +143,16 @@ TEST(MirrorFinish, APriorDialogueReopensWithItsAge) {
     const struct {
         DateTime Written;
         std::string Title;
-    } cases[] = {{{2026, 11, 22, 8, 30, 0},
-                  "Veyrant Sagrel -- Dialogue, 1 Page, 0 Days -- Sunday, 8:30 am, "
-                  "November 22, 2026"},
-                 {{2026, 11, 21, 21, 5, 0},
-                  "Veyrant Sagrel -- Dialogue, 1 Page, 1 Day -- Saturday, 9:05 pm, "
-                  "November 21, 2026"},
-                 {{2026, 11, 17, 9, 5, 0},
-                  "Veyrant Sagrel -- Dialogue, 1 Page, 5 Days Old -- Tuesday, 9:05 "
-                  "am, November 17, 2026"},
-                 // Buffers dated after now, as when the clock was set back.
-                 {{2026, 11, 25, 19, 0, 0},
-                  "Veyrant Sagrel -- Dialogue, 1 Page, 0 Days -- Wednesday, 7:00 pm, "
-                  "November 25, 2026"}};
+    } cases[] = {
+        {{2026, 11, 22, 8, 30, 0},
+         "Veyrant Sagrel -- Dialogue, 1 Page, 0 Days -- Sunday, 8:30 am, November 22, 2026"},
+        {{2026, 11, 21, 21, 5, 0},
+         "Veyrant Sagrel -- Dialogue, 1 Page, 1 Day -- Saturday, 9:05 pm, November 21, 2026"},
+        {{2026, 11, 17, 9, 5, 0},
+         "Veyrant Sagrel -- Dialogue, 1 Page, 5 Days Old -- Tuesday, 9:05 am, November 17, 2026"},
+        // Buffers dated after now, as when the clock was set back.
+        {{2026, 11, 25, 19, 0, 0},
+         "Veyrant Sagrel -- Dialogue, 1 Page, 0 Days -- Wednesday, 7:00 pm, November 25, 2026"}};
     for (const auto& c : cases) {
         SCOPED_TRACE(c.Title);
         MirrorDriver driver;
@@ -174,43 +160,18 @@ TEST(MirrorFinish, APriorDialogueReopensWithItsAge) {
         driver.Clock.FileDates[driver.App.Folder.Exe() / "savei.tmp"] = c.Written;
         driver.mirror->StartWindow();
         EXPECT_EQ(driver.mirror->Controls().Title, c.Title);
-        EXPECT_EQ(driver.State().ActiveMethod, WriteMethod::None);
-        EXPECT_EQ(driver.Text(MirrorControl::cmdNew), "New");
-        EXPECT_EQ(driver.Text(MirrorControl::cmdRemove), "Continue");
-        EXPECT_EQ(driver.Text(MirrorControl::cmdDisplay), "File");
-        EXPECT_EQ(driver.Text(MirrorControl::txtSaved).substr(0, 35),
-                  "Inspiration\r\n\r\n\tAn old inspiration.");
-        EXPECT_EQ(driver.Text(MirrorControl::txtNote),
-                  "Click 'Continue' to open and continue the prior Dialogue. Or click 'New' to "
-                  "erase the Dialogue and begin another.");
+        EXPECT_EQ(driver.Text(cmdRemove) + driver.Text(cmdNew) + driver.Text(cmdDisplay),
+                  "ContinueNewFile");
+        EXPECT_EQ(driver.Text(txtSaved).substr(0, 35), "Inspiration\r\n\r\n\tAn old inspiration.");
+        EXPECT_EQ(driver.Text(txtNote), "Click 'Continue' to open and continue the prior Dialogue. "
+                                        "Or click 'New' to erase the Dialogue and begin another.");
         EXPECT_EQ(driver.State().PairCount, 3);
-        EXPECT_EQ(driver.State().DisplayFull, 1);
-        EXPECT_EQ(driver.Box(MirrorControl::txtSaved).Background, Colour::EntryYellow);
-        EXPECT_FALSE(driver.Box(MirrorControl::cmdConverse).Enabled);
-        EXPECT_FALSE(driver.Box(MirrorControl::cmdClear).Enabled);
-        EXPECT_TRUE(driver.Box(MirrorControl::cmdSave).Enabled);
+        EXPECT_FALSE(driver.Box(cmdConverse).Enabled || driver.Box(cmdClear).Enabled);
         EXPECT_EQ(driver.Engine.Inspirations, 0); // the Dialogue keeps its own
 
-        driver.mirror->Click(MirrorControl::cmdRemove); // Continue
-        EXPECT_EQ(driver.State().ActiveMethod, WriteMethod::Converse);
-        EXPECT_EQ(driver.State().InspirationText, "\tAn old inspiration.");
-        EXPECT_EQ(driver.Text(MirrorControl::txtResponse), "Inspiration\r\n\tAn old inspiration.");
-        EXPECT_EQ(driver.Text(MirrorControl::cmdNew), "Finish");
+        driver.Click(cmdRemove); // Continue
+        EXPECT_EQ(driver.Text(txtResponse), "Inspiration\r\n\tAn old inspiration.");
     }
-}
-
-TEST(MirrorFinish, SaveOnAPriorDialogueFilesItAndStartsANewOneWithoutAsking) {
-    MirrorDriver driver;
-    driver.LeavePriorDialogue(2);
-    driver.mirror->StartWindow();
-    driver.mirror->Click(MirrorControl::cmdSave);
-    EXPECT_TRUE(driver.Layer.Boxes.empty());
-    EXPECT_EQ(driver.Library.Listing().LibraryCount, 1);
-    EXPECT_FALSE(driver.Buffers.ReadWorkBuffers().has_value());
-    EXPECT_EQ(driver.State().ActiveMethod, WriteMethod::None);
-    EXPECT_EQ(driver.mirror->Controls().Title,
-              "Veyrant Sagrel 4.1 -- Written Dialogues of Self-Reflection");
-    EXPECT_EQ(driver.Text(MirrorControl::txtResponse), "Inspiration\r\n\tInspiration number 1.");
 }
 
 // The Library's limits can take a Dialogue the moment it is saved: an old Prior Dialogue, or one
@@ -218,15 +179,15 @@ TEST(MirrorFinish, SaveOnAPriorDialogueFilesItAndStartsANewOneWithoutAsking) {
 // the screen and in the buffers instead of vanishing with the New that a save clicks.
 TEST(MirrorFinish, ADialogueTheLimitsTakeAtOnceStaysOnTheScreen) {
     const struct {
-        std::int16_t MaxFiles, MaxDays;
+        std::int16_t MaxFiles;
         DateTime Written;
-    } cases[] = {{30, 21, {2026, 10, 28, 9, 0, 0}}, // older than the days
-                 {1, 21, {2026, 11, 19, 9, 0, 0}}}; // older than a full Library
+    } cases[] = {{30, {2026, 10, 28, 9, 0, 0}}, // older than the days
+                 {1, {2026, 11, 19, 9, 0, 0}}}; // older than a full Library
     for (const auto& c : cases) {
         SCOPED_TRACE(c.MaxFiles);
         MirrorDriver driver;
         driver.App.UserSettings.MaxLibraryFiles = c.MaxFiles;
-        driver.App.UserSettings.MaxLibraryDays = c.MaxDays;
+        driver.App.UserSettings.MaxLibraryDays = 21;
         const DateTime later{2026, 11, 20, 10, 0, 0};
         for (const auto& folder : {driver.App.Folder.Isp(), driver.App.Folder.Dlg()}) {
             std::filesystem::create_directories(folder);
@@ -238,13 +199,12 @@ TEST(MirrorFinish, ADialogueTheLimitsTakeAtOnceStaysOnTheScreen) {
         driver.mirror->StartWindow();
         const std::string dialogue = driver.State().DialogueText;
 
-        driver.mirror->Click(MirrorControl::cmdSave);
-        ASSERT_EQ(driver.Layer.Boxes.size(), 1u);
-        EXPECT_EQ(driver.Layer.Boxes[0].Title, "Dialogue Not Kept in the Library");
-        EXPECT_EQ(driver.Layer.Boxes[0].Text.rfind(
-                      "The Library keeps up to " + std::to_string(c.MaxFiles) +
-                          " Dialogues, none older than " + std::to_string(c.MaxDays) + " days.",
-                      0),
+        driver.Click(cmdSave);
+        EXPECT_EQ(driver.Titles(), "Dialogue Not Kept in the Library;");
+        EXPECT_EQ(driver.Layer.Boxes[0].Text.rfind("The Library keeps up to " +
+                                                       std::to_string(c.MaxFiles) +
+                                                       " Dialogues, none older than 21 days.",
+                                                   0),
                   0u);
         EXPECT_FALSE(driver.Library.Holds(MakeFileName(c.Written)));
         EXPECT_TRUE(driver.Library.Holds(MakeFileName(later)));
@@ -252,8 +212,7 @@ TEST(MirrorFinish, ADialogueTheLimitsTakeAtOnceStaysOnTheScreen) {
         ASSERT_TRUE(buffers.has_value());
         EXPECT_EQ(buffers->Buffers.DialogueText, dialogue);
         EXPECT_EQ(driver.State().DialogueText, dialogue);
-        EXPECT_EQ(driver.State().DialogueSaved, 0);
-        EXPECT_TRUE(driver.Box(MirrorControl::cmdSave).Enabled);
+        EXPECT_TRUE(driver.Box(cmdSave).Enabled);
         EXPECT_FALSE(driver.Layer.Busy);
     }
 }
@@ -264,16 +223,15 @@ TEST(MirrorFinish, ACancelledListInAnEmptyDialogueClosesBeforeOldBuffersReopen) 
     MirrorDriver driver;
     driver.mirror->StartWindow();
     driver.LeavePriorDialogue(1);
-    driver.mirror->Click(MirrorControl::cmdSuppose);
+    driver.Click(cmdSuppose);
     driver.Engine.Judgements.push_back({1, 20});
     driver.Converse(Question);
-    ASSERT_TRUE(driver.Box(MirrorControl::txtAnalyze).Visible);
-    driver.mirror->Click(MirrorControl::cmdNew); // Cancel
-    EXPECT_EQ(driver.Text(MirrorControl::cmdRemove), "Continue");
+    ASSERT_TRUE(driver.Box(txtAnalyze).Visible);
+    driver.Click(cmdNew); // Cancel
+    EXPECT_EQ(driver.Text(cmdRemove), "Continue");
     EXPECT_EQ(driver.State().PairCount, 1);
-    EXPECT_FALSE(driver.Box(MirrorControl::txtAnalyze).Visible);
-    EXPECT_FALSE(driver.Box(MirrorControl::lblRemS).Visible);
-    EXPECT_EQ(driver.mirror->Controls().Focus, MirrorControl::txtMirror);
+    EXPECT_FALSE(driver.Box(txtAnalyze).Visible || driver.Box(lblRemS).Visible);
+    EXPECT_EQ(driver.mirror->Controls().Focus, txtMirror);
 }
 
 // Finish writes the buffers once; when they could not take the Dialogue, the way out tries
@@ -281,20 +239,162 @@ TEST(MirrorFinish, ACancelledListInAnEmptyDialogueClosesBeforeOldBuffersReopen) 
 TEST(MirrorFinish, AFinishedDialogueTheBuffersRefusedIsKeptOnTheWayOut) {
     MirrorDriver driver;
     driver.StartConverse();
-    driver.Converse("What would I do if I were not afraid?");
+    driver.Converse(Statement);
     {
         FileFaults faults;
         faults.FailEvery(FileCall::Write, ENOSPC);
-        driver.mirror->Click(MirrorControl::cmdNew); // Finish
+        driver.Click(cmdNew); // Finish
     }
-    ASSERT_EQ(driver.Layer.Boxes.size(), 1u);
-    EXPECT_EQ(driver.Layer.Boxes[0].Title, "Error 61 Keeping the Dialogue");
-    EXPECT_EQ(driver.Text(MirrorControl::cmdNew), "New");
+    EXPECT_EQ(driver.Titles(), "Error 61 Keeping the Dialogue;");
+    EXPECT_EQ(driver.Text(cmdNew), "New");
     const auto kept = driver.App.Folder.Exe() / "savem.tmp";
     EXPECT_FALSE(std::filesystem::exists(kept));
-
     EXPECT_TRUE(driver.mirror->Unload());
     EXPECT_EQ(ReadWholeFile(kept), driver.State().DialogueText);
+}
+
+// Print sends the Finished Dialogue without its leading blank line; only a failure says so.
+TEST(MirrorFinish, PrintSendsTheDialogueAndOnlyAFailureShowsABox) {
+    for (const auto outcome :
+         {PrintOutcome::Printed, PrintOutcome::Cancelled, PrintOutcome::Failed}) {
+        MirrorDriver driver;
+        FinishOnePair(driver);
+        driver.Clock.Date = {2026, 11, 23, 8, 15, 0};
+        driver.Layer.PrintAnswer = outcome;
+        driver.Click(cmdPrint);
+        ASSERT_EQ(driver.Layer.Printed.size(), 1u);
+        const auto& printed = driver.Layer.Printed[0];
+        EXPECT_EQ(printed.Inspiration, "\tInspiration number 1.");
+        EXPECT_EQ(printed.Dialogue, Quoted(Statement) + "\r\n\tAnswer 1 to type 2.");
+        EXPECT_EQ(printed.Title, "Veyrant Dialogue");
+        EXPECT_EQ(printed.ShownDate, driver.Clock.Date);
+        EXPECT_TRUE(driver.Layer.BusyWhilePrinting && !driver.Layer.Busy);
+        EXPECT_TRUE(driver.Box(cmdPrint).Enabled);
+        if (outcome != PrintOutcome::Failed) {
+            EXPECT_TRUE(driver.Layer.Boxes.empty());
+            continue;
+        }
+        EXPECT_EQ(driver.Titles(), "Print Error;");
+        EXPECT_EQ(driver.Layer.Boxes[0].Text,
+                  "The system has detected a printing error.\r\n\r\nIf your printer normally "
+                  "functions properly with a word processer, you may have assigned 'Print' to a "
+                  "non-printing device (such as a Fax/Modem, Print-to-File, etc.). Check the "
+                  "printer setup.");
+    }
+}
+
+TEST(MirrorFinish, FileOpensTheFullViewInTheEditor) {
+    MirrorDriver driver;
+    FinishOnePair(driver);
+    driver.Clock.Date = {2026, 11, 23, 8, 15, 0};
+    driver.Click(cmdDisplay); // File
+    ASSERT_EQ(driver.Layer.EditorTexts.size(), 1u);
+    // The layout around the body is the export's own.
+    EXPECT_EQ(driver.Layer.EditorTexts[0].Text,
+              ExportText(driver.Clock.Date, "Inspiration\r\n\r\n\tInspiration number 1.\r\n\r\n"
+                                            "Dialogue\r\n\r\n" +
+                                                Quoted(Statement) + "\r\n\tAnswer 1 to type 2."));
+    EXPECT_EQ(driver.Layer.EditorTexts[0].ProposedFileName, "Dialogue 2026-11-23 8.15 AM.txt");
+    EXPECT_EQ(driver.Text(cmdDisplay), "File"); // the window stays as it was
+}
+
+TEST(MirrorTranscript, DisplayTellsTheLengthAndWriteRestoresTheState) {
+    const std::pair<int, std::string> cases[] = {{1, "less than 1 page"},
+                                                 {4, "less than 1 page"},
+                                                 {5, "about 1 page"},
+                                                 {6, "about 2 pages"},
+                                                 {14, "about 3 pages"}};
+    for (const auto& [pairCount, length] : cases) {
+        SCOPED_TRACE(pairCount);
+        MirrorDriver driver;
+        ContinuePrior(driver, pairCount);
+        driver.Type("half an entry");
+        const std::string before = driver.mirror->Dump();
+        driver.Click(cmdDisplay);
+        EXPECT_EQ(driver.Text(cmdDisplay), "Write");
+        EXPECT_EQ(driver.Text(txtNote), "Your Dialogue is " + length +
+                                            " long. Click 'Write' or the Dialogue text to restore "
+                                            "the display to the interactive mode.");
+        EXPECT_FALSE(driver.Box(cmdNew).Enabled || driver.Box(lblRem).Visible);
+        EXPECT_EQ(driver.Box(txtSaved).Background, Colour::EntryYellow);
+        EXPECT_EQ(driver.Text(txtSaved).substr(0, 13), "Inspiration\r\n");
+        // Keys are not typed into the hidden entry while the full view is up.
+        driver.Type("zz");
+        driver.Click(txtSaved);
+        EXPECT_EQ(driver.mirror->Dump(), before);
+    }
+}
+
+TEST(MirrorTranscript, PagesOfTheTitle) {
+    EXPECT_EQ(PagesTitle(4), "Dialogue, 1 Page");
+    EXPECT_EQ(PagesTitle(5), "Dialogue, 1 Page");
+    EXPECT_EQ(PagesTitle(6), "Dialogue, 2 Pages");
+    EXPECT_EQ(PagesTitle(13), "Dialogue, 2 Pages");
+    EXPECT_EQ(PagesTitle(22), "Dialogue, 4 Pages");
+}
+
+// The advice comes once, at the 61st pair; from 100 every fifth Enter warns, refused entries
+// counted; at 121 every entry is refused.
+TEST(MirrorTranscript, AdviceOnceThenWarningsThenTheLimit) {
+    MirrorDriver driver;
+    ContinuePrior(driver, 60);
+    driver.Converse(Entry);
+    EXPECT_TRUE(driver.Layer.Boxes.empty());
+    driver.Enter();
+    driver.Converse(Entry);
+    EXPECT_EQ(driver.Titles(), "Veyrant Sagrel Help -- Recommendation Regarding Conversation;");
+    EXPECT_EQ(driver.Layer.Boxes[0].Icon, MessageIcon::Information);
+    for (int pair = 62; pair < 100; ++pair) {
+        driver.Enter();
+        driver.Converse(Entry);
+    }
+    EXPECT_EQ(driver.Layer.Boxes.size(), 1u);
+    for (int enter = 1; enter <= 5; ++enter) {
+        driver.Enter();
+        driver.Engine.Judgements.push_back({-2, 2});
+        driver.Converse(Entry);
+        EXPECT_EQ(driver.Layer.Boxes.size(), enter < 5 ? 1u : 2u) << "Enter " << enter;
+    }
+    EXPECT_EQ(driver.Layer.Boxes[1].Title, "Veyrant Sagrel Help -- Nearing the Dialogue Limit");
+    EXPECT_EQ(driver.Layer.Boxes[1].Text,
+              "The length of your Dialogue is nearing the system limit. You have approximately 20 "
+              "cycles of interaction available.");
+    EXPECT_EQ(driver.Layer.Boxes[1].Icon, MessageIcon::Warning);
+}
+
+// A response left out does not bring the limit nearer; at 121 every entry is refused.
+TEST(MirrorTranscript, AtOneHundredTwentyOneEveryEntryIsRefused) {
+    MirrorDriver driver;
+    ContinuePrior(driver, 120);
+    driver.Engine.Rolls.push_back(0);
+    driver.Converse(Entry);
+    ASSERT_EQ(driver.Text(cmdRemove), "Keep");
+    driver.Enter();
+    driver.Converse(Entry);
+    EXPECT_EQ(driver.Text(cmdRemove), "Remove");
+    driver.Enter();
+    driver.Converse(Entry);
+    EXPECT_EQ(driver.Text(txtResponse),
+              ">> ! Your Dialogue has reached the system limit, and no more text can be added. "
+              "Click 'Finish' to end the Dialogue. Then you may print it if you prefer.");
+    EXPECT_EQ(driver.State().PairCount, 121);
+    EXPECT_EQ(driver.Text(cmdNew), "Finish");
+    EXPECT_EQ(driver.Text(txtNote), "Press 'Enter' to start again.");
+
+    driver.Enter();
+    driver.Click(cmdNotate);
+    driver.Converse("A last comment on all of it.");
+    EXPECT_EQ(driver.State().PairCount, 121);
+    EXPECT_EQ(driver.Text(txtNote), "Press 'Enter' to begin this entry again.");
+}
+
+TEST(MirrorTranscript, ClickOnTheNewDialoguePanelDrawsAnotherSuggestion) {
+    MirrorDriver driver;
+    driver.mirror->StartWindow();
+    driver.Click(txtSaved);
+    EXPECT_EQ(driver.Text(txtSaved).substr(0, 12), "Suggestion 2");
+    driver.Click(txtResponse);
+    EXPECT_EQ(driver.Text(txtResponse), "Inspiration\r\n\tInspiration number 2.");
 }
 
 } // namespace

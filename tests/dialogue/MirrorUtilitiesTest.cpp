@@ -13,124 +13,88 @@
 namespace veyrant::testing {
 namespace {
 
-TEST(MirrorUtilities, RightClickWindowsOpenWithTheRunningDialogueKept) {
-    struct Case {
-        const char* Name;
-        MirrorControl Button;
-        bool DialogueRunning;
-        WindowId Shown;
-        const char* ShownEvent;
-        bool BuffersWritten;
-    };
-    const Case cases[] = {
-        {"Library, mid-Dialogue", MirrorControl::cmdRetrieve, true, WindowId::Options,
-         "show Options", true},
-        {"Library, New Dialogue on show", MirrorControl::cmdRetrieve, false, WindowId::Options,
-         "show Options", false},
-        {"Help, mid-Dialogue", MirrorControl::cmdHelp, true, WindowId::Utility, "show Utility",
-         true},
-        {"Help, New Dialogue on show", MirrorControl::cmdHelp, false, WindowId::Utility,
-         "show Utility", false},
-    };
-    for (const Case& c : cases) {
-        MirrorDriver driver;
-        driver.mirror->StartWindow();
-        if (c.DialogueRunning) {
-            driver.StartConverse();
-            driver.Converse("Why do I wait so long before I decide anything?");
-        }
-        driver.mirror->MouseDown(c.Button, MouseButton::Right);
+const std::string Entry = "Why do I wait so long before I decide anything?";
 
-        EXPECT_EQ(driver.App.ClosingState, ClosingStates::UtilitiesUp) << c.Name;
-        EXPECT_FALSE(driver.Box(MirrorControl::txtMirror).Enabled) << c.Name;
-        EXPECT_EQ(driver.Layer.Visible.count(c.Shown), 1u) << c.Name;
-        EXPECT_EQ(driver.Layer.Visible.count(WindowId::Mirror), 0u) << c.Name;
-        EXPECT_EQ(driver.Layer.WindowEvents.back(), c.ShownEvent) << c.Name;
-        const auto kept = driver.App.Folder.Exe() / "savem.tmp";
-        EXPECT_EQ(std::filesystem::exists(kept), c.BuffersWritten) << c.Name;
-        if (c.BuffersWritten) {
-            EXPECT_EQ(ReadWholeFile(kept), driver.State().DialogueText);
-        }
+// Closes the window, or right-clicks for a window that puts it out of the way; true when the
+// program went on.
+bool Leave(MirrorDriver& driver, std::optional<MirrorControl> rightClick) {
+    if (!rightClick) {
+        return driver.mirror->Unload();
     }
+    driver.mirror->MouseDown(*rightClick, MouseButton::Right);
+    return driver.App.ClosingState == ClosingStates::UtilitiesUp;
 }
 
 // Closing the window or opening a right-click window ends the program; when the running
 // Dialogue cannot be kept first, the program stays with it on the screen, says why, and the next
 // try keeps it.
 TEST(MirrorUtilities, ADialogueTheBuffersCannotTakeKeepsTheWindowOpen) {
-    struct Case {
-        const char* Name;
+    const struct {
         int Error;
         const char* Title;
         std::optional<MirrorControl> RightClick; // none: the window is closed
-    };
-    const Case cases[] = {
-        {"close, disk full", ENOSPC, "Error 61 Keeping the Dialogue", std::nullopt},
-        {"close, read-only disk", EROFS, "Error 70 Keeping the Dialogue", std::nullopt},
-        {"Library Options, disk failing", EIO, "Error 75 Keeping the Dialogue",
-         MirrorControl::cmdRetrieve},
-        {"Utilities, disk full", ENOSPC, "Error 61 Keeping the Dialogue", MirrorControl::cmdHelp},
-    };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.Name);
+    } cases[] = {{ENOSPC, "Error 61 Keeping the Dialogue;", std::nullopt},
+                 {EROFS, "Error 70 Keeping the Dialogue;", std::nullopt},
+                 {EIO, "Error 75 Keeping the Dialogue;", cmdRetrieve},
+                 {ENOSPC, "Error 61 Keeping the Dialogue;", cmdHelp}};
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.Title);
         MirrorDriver driver;
         driver.StartConverse();
-        driver.Converse("Why do I wait so long before I decide anything?");
+        driver.Converse(Entry);
         const std::string dialogue = driver.State().DialogueText;
-        const auto leave = [&] {
-            if (!c.RightClick) {
-                return driver.mirror->Unload();
-            }
-            driver.mirror->MouseDown(*c.RightClick, MouseButton::Right);
-            return driver.App.ClosingState == ClosingStates::UtilitiesUp;
-        };
         {
             FileFaults faults;
             faults.FailEvery(FileCall::Write, c.Error);
-            EXPECT_FALSE(leave());
+            EXPECT_FALSE(Leave(driver, c.RightClick));
         }
         EXPECT_EQ(driver.App.ClosingState, ClosingStates::Running);
-        EXPECT_TRUE(driver.Box(MirrorControl::txtMirror).Enabled);
+        EXPECT_TRUE(driver.Box(txtMirror).Enabled);
         EXPECT_EQ(driver.State().DialogueText, dialogue);
-        ASSERT_EQ(driver.Layer.Boxes.size(), 1u);
-        EXPECT_EQ(driver.Layer.Boxes[0].Title, c.Title);
+        EXPECT_EQ(driver.Titles(), c.Title);
         EXPECT_NE(driver.Layer.Boxes[0].Text.find("Your Dialogue is not lost: it stays on the "
                                                   "screen, and the program stays open."),
                   std::string::npos);
         EXPECT_FALSE(std::filesystem::exists(driver.App.Folder.Exe() / "savem.tmp"));
-
-        EXPECT_TRUE(leave());
+        EXPECT_TRUE(Leave(driver, c.RightClick));
         EXPECT_EQ(ReadWholeFile(driver.App.Folder.Exe() / "savem.tmp"), dialogue);
+        if (c.RightClick) { // the window asked for, with this one out of the way
+            EXPECT_FALSE(driver.Box(txtMirror).Enabled);
+            EXPECT_EQ(driver.Layer.Visible.count(WindowId::Mirror), 0u);
+            EXPECT_EQ(driver.Layer.WindowEvents.back(),
+                      *c.RightClick == cmdHelp ? "show Utility" : "show Options");
+        }
     }
 }
 
 // When the work buffers cannot take the Dialogue on the way out, the box offers to save it as a
 // text file elsewhere; the program goes on only once the Dialogue is safe in that file.
 TEST(MirrorUtilities, ADialogueTheBuffersCannotTakeCanBeSavedElsewhereOnTheWayOut) {
-    struct Case {
+    const struct {
         const char* Name;
         std::optional<MirrorControl> RightClick; // none: the window is closed
         MessageAnswer Answer;                    // to the box that the buffers failed
         bool NameChosen;
-        int SaveError;           // 0: the chosen place takes the file
-        const char* SecondTitle; // the box after the offer, if any
-        bool GoesOn;
+        int SaveError;      // 0: the chosen place takes the file
+        const char* Titles; // the boxes shown
+    } cases[] = {
+        {"close, saved", std::nullopt, MessageAnswer::Yes, true, 0,
+         "Error 61 Keeping the Dialogue;Dialogue Saved;"},
+        {"Utilities, saved", cmdHelp, MessageAnswer::Yes, true, 0,
+         "Error 61 Keeping the Dialogue;Dialogue Saved;"},
+        {"close, save cancelled", std::nullopt, MessageAnswer::Yes, false, 0,
+         "Error 61 Keeping the Dialogue;"},
+        {"close, declined", std::nullopt, MessageAnswer::No, true, 0,
+         "Error 61 Keeping the Dialogue;"},
+        {"Library Options, the other place is full too", cmdRetrieve, MessageAnswer::Yes, true,
+         ENOSPC, "Error 61 Keeping the Dialogue;Save File Error;"},
     };
-    const Case cases[] = {
-        {"close, saved", std::nullopt, MessageAnswer::Yes, true, 0, "Dialogue Saved", true},
-        {"Utilities, saved", MirrorControl::cmdHelp, MessageAnswer::Yes, true, 0, "Dialogue Saved",
-         true},
-        {"close, save cancelled", std::nullopt, MessageAnswer::Yes, false, 0, nullptr, false},
-        {"close, declined", std::nullopt, MessageAnswer::No, true, 0, nullptr, false},
-        {"Library Options, the other place is full too", MirrorControl::cmdRetrieve,
-         MessageAnswer::Yes, true, ENOSPC, "Save File Error", false},
-    };
-    for (const Case& c : cases) {
+    for (const auto& c : cases) {
         SCOPED_TRACE(c.Name);
         MirrorDriver driver;
         driver.StartConverse();
-        driver.Converse("Why do I wait so long before I decide anything?");
-        const MirrorState before = driver.State();
+        driver.Converse(Entry);
+        const std::string dialogue = driver.State().DialogueText;
         const TempFolder elsewhere;
         const auto chosen = elsewhere / "my dialogue.txt";
         driver.Layer.Answers = {c.Answer};
@@ -145,49 +109,37 @@ TEST(MirrorUtilities, ADialogueTheBuffersCannotTakeCanBeSavedElsewhereOnTheWayOu
             }
             return path.string().rfind(programFolder, 0) == 0 ? ENOSPC : c.SaveError;
         });
-        bool wentOn = false;
-        if (c.RightClick) {
-            driver.mirror->MouseDown(*c.RightClick, MouseButton::Right);
-            wentOn = driver.App.ClosingState == ClosingStates::UtilitiesUp;
-        } else {
-            wentOn = driver.mirror->Unload();
-        }
+        const bool wentOn = Leave(driver, c.RightClick);
         SetFileFault({});
 
-        std::string titles;
-        for (const auto& box : driver.Layer.Boxes) {
-            titles += box.Title + ";";
-        }
-        EXPECT_EQ(titles, "Error 61 Keeping the Dialogue;" +
-                              std::string(c.SecondTitle ? c.SecondTitle + std::string(";") : ""));
+        EXPECT_EQ(driver.Titles(), c.Titles);
         const MessageBoxRequest& offer = driver.Layer.Boxes.at(0);
         EXPECT_EQ(offer.Buttons, MessageButtons::YesNo);
-        EXPECT_NE(offer.Text.find("The disk is full.\r\n\r\nYour Dialogue is not lost: it stays "
-                                  "on the screen, and the program stays open."),
-                  std::string::npos);
-        EXPECT_EQ(offer.Text.substr(offer.Text.find("\r\n\r\nOr save")),
-                  "\r\n\r\nOr save the Dialogue now as a text file in a place you choose, and "
-                  "the program goes on without it: the Dialogue then does not reopen at the next "
-                  "start.\r\n\r\nDo you wish to save the Dialogue as a text file?");
-        EXPECT_EQ(wentOn, c.GoesOn);
-        EXPECT_EQ(driver.State().DialogueText, before.DialogueText);
+        EXPECT_EQ(offer.Text.substr(offer.Text.find("The disk is full.")),
+                  "The disk is full.\r\n\r\nYour Dialogue is not lost: it stays on the screen, "
+                  "and the program stays open. The work buffers still hold the Dialogue as it was "
+                  "last kept. Make room on the disk, then try again.\r\n\r\nOr save the Dialogue "
+                  "now as a text file in a place you choose, and the program goes on without it: "
+                  "the Dialogue then does not reopen at the next start.\r\n\r\nDo you wish to "
+                  "save the Dialogue as a text file?");
+        EXPECT_EQ(driver.State().DialogueText, dialogue);
         EXPECT_FALSE(std::filesystem::exists(driver.App.Folder.Exe() / "savem.tmp"));
-        if (!c.GoesOn) {
-            EXPECT_TRUE(driver.Box(MirrorControl::txtMirror).Enabled);
+        const bool saved = std::string(c.Titles).find("Dialogue Saved") != std::string::npos;
+        EXPECT_EQ(wentOn, saved);
+        if (!saved) {
+            EXPECT_TRUE(driver.Box(txtMirror).Enabled);
             EXPECT_EQ(driver.App.ClosingState, ClosingStates::Running);
-            EXPECT_FALSE(std::filesystem::exists(chosen));
             EXPECT_TRUE(std::filesystem::is_empty(elsewhere.Path()));
             continue;
         }
-        EXPECT_EQ(driver.Layer.ProposedSaveNames,
-                  std::vector<std::string>{"Dialogue 2026-11-22 12.00 PM.txt"});
+        EXPECT_EQ(driver.Layer.ProposedSaveNames[0], "Dialogue 2026-11-22 12.00 PM.txt");
         EXPECT_EQ(driver.Layer.Boxes.back().Text,
                   "Your Dialogue is saved in the file " + chosen.string() + ".");
         // The export in UTF-8 with this system's line ends; its layout is the export's own.
-        EXPECT_EQ(ReadWholeFile(chosen).substr(0, 53),
-                  "Veyrant Sagrel\nSunday, 12:00 PM, November 22, 2026\n\n\n");
-        EXPECT_NE(ReadWholeFile(chosen).find("\n\t\xE2\x80\x9CWhy do I wait so long before I "
-                                             "decide anything?\xE2\x80\x9D\n"),
+        const std::string file = ReadWholeFile(chosen);
+        EXPECT_EQ(file.substr(0, 53), "Veyrant Sagrel\nSunday, 12:00 PM, November 22, 2026\n\n\n");
+        EXPECT_NE(file.find("\n\t\xE2\x80\x9CWhy do I wait so long before I decide anything?"
+                            "\xE2\x80\x9D\n"),
                   std::string::npos);
     }
 }
@@ -198,12 +150,12 @@ TEST(MirrorUtilities, GuestModeReachesTheUtilitiesThroughHelpOnly) {
     driver.App.UserSettings.GuestMode = 1;
     Mirror guest(driver.App.WriteWorld(), driver.Engine, driver.Buffers, driver.Library);
     guest.StartWindow();
-    EXPECT_FALSE(guest.Controls()[MirrorControl::cmdRetrieve].Enabled);
-    EXPECT_TRUE(guest.Controls()[MirrorControl::cmdKnow].Enabled);
-    guest.MouseDown(MirrorControl::cmdRetrieve, MouseButton::Right);
+    EXPECT_FALSE(guest.Controls()[cmdRetrieve].Enabled);
+    EXPECT_TRUE(guest.Controls()[cmdKnow].Enabled);
+    guest.MouseDown(cmdRetrieve, MouseButton::Right);
     EXPECT_EQ(driver.Layer.Visible.count(WindowId::Options), 0u);
     EXPECT_EQ(driver.App.ClosingState, ClosingStates::Running);
-    guest.MouseDown(MirrorControl::cmdHelp, MouseButton::Right);
+    guest.MouseDown(cmdHelp, MouseButton::Right);
     EXPECT_EQ(driver.Layer.Visible.count(WindowId::Utility), 1u);
     EXPECT_EQ(driver.App.ClosingState, ClosingStates::UtilitiesUp);
 }
