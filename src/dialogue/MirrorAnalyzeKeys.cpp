@@ -37,24 +37,24 @@ int Mirror::AnalyzeKeyPress(int keyAscii) {
     if (keyAscii != KeyCode::Enter && !CountIdea(keyAscii)) {
         passed = 0;
     }
-    if (state_.SupposeStage == 0 || state_.SupposeStage > 3) {
+    if (state_.SupposeStage == SupposeStep::Off) {
         return 0;
     }
 
     // After a refused idea, a too-long one can only be shortened and a too-short one only
     // lengthened.
     if (keyAscii != KeyCode::Enter) {
-        if (state_.IdeaFit == 2) {
+        if (state_.IdeaFit == EntryLength::TooLong) {
             if (keyAscii == KeyCode::Backspace) {
-                state_.IdeaFit = 0;
+                state_.IdeaFit = EntryLength::Fits;
             } else {
                 passed = 0;
             }
-        } else if (state_.IdeaFit == 1) {
+        } else if (state_.IdeaFit == EntryLength::TooShort) {
             if (keyAscii == KeyCode::Backspace) {
                 passed = 0;
             } else {
-                state_.IdeaFit = 0;
+                state_.IdeaFit = EntryLength::Fits;
             }
         }
     }
@@ -88,7 +88,8 @@ bool Mirror::CountIdea(int keyAscii) {
                                   "Over the maximum text limit. Backspace until this display "
                                   "status changes. Or click 'Rewrite' to erase the text."},
                                  keyAscii);
-    if (state_.EntryFit != 1 && C(MirrorControl::txtResponse).Text != state_.DirectionText) {
+    if (state_.EntryFit != EntryLength::TooLong &&
+        C(MirrorControl::txtResponse).Text != state_.DirectionText) {
         SetResponse(state_.DirectionText, Colour::ColourReady);
     }
     ShowInstruction();
@@ -98,12 +99,12 @@ bool Mirror::CountIdea(int keyAscii) {
 // A refused idea is tried again at the next Enter whatever was typed since; only the ordinary
 // road past the second idea turns Cancel into Select.
 void Mirror::EnterInList() {
-    if (state_.IdeaFit != 0) {
+    if (state_.IdeaFit != EntryLength::Fits) {
         AcceptIdea();
-        state_.IdeaFit = 0;
-    } else if (state_.SupposeStage == 2) {
+        state_.IdeaFit = EntryLength::Fits;
+    } else if (state_.SupposeStage == SupposeStep::PromptDue) {
         PromptIdea();
-    } else if (state_.SupposeStage == 3) {
+    } else if (state_.SupposeStage == SupposeStep::TypingIdea) {
         AcceptIdea();
         if (state_.IdeaIndex == 3) {
             C(MirrorControl::cmdNew).Text = "Select";
@@ -123,7 +124,7 @@ void Mirror::ClickAnalyzeBox() {
     C(MirrorControl::cmdClear).Enabled = false;
     C(MirrorControl::lblRemS).Visible = true;
     C(MirrorControl::lblRemS).Text = "X";
-    state_.IdeaFit = 0;
+    state_.IdeaFit = EntryLength::Fits;
     SetResponse(state_.DirectionText, Colour::ColourReady);
     state_.InstructionText = "Type your entry again. Then press 'Enter' to continue.";
     state_.InstructionColour = Colour::Black;

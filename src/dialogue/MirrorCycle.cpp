@@ -52,11 +52,11 @@ void Mirror::PressMethodButton(MirrorControl pressed) {
 }
 
 void Mirror::StartMethod(WriteMethod method) {
-    state_.SupposeStage = 0;
-    state_.AwaitingEnter = 1;
+    state_.SupposeStage = SupposeStep::Off;
+    state_.AwaitingEnter = true;
     state_.IdeaIndex = 0;
     state_.EntryType = SentenceType::None;
-    state_.EntryFailed = 0;
+    state_.EntryFailed = false;
     state_.IdeaLimit = 98;
 
     C(MirrorControl::cmdSave).Enabled = false;
@@ -65,7 +65,7 @@ void Mirror::StartMethod(WriteMethod method) {
     C(MirrorControl::cmdRemove).Enabled = false;
     C(MirrorControl::cmdNew).Enabled = true;
 
-    state_.DisplayFull = 0;
+    state_.DisplayFull = false;
     Place(MirrorControl::txtSaved, 3000, 2175);
     C(MirrorControl::txtAnalyze).Enabled = false;
     C(MirrorControl::txtAnalyze).Visible = false;
@@ -139,8 +139,8 @@ std::string Mirror::DirectionFor(WriteMethod method) const {
 
 void Mirror::StartEntry(WriteMethod method) {
     state_.PairState = PairShown::Nothing;
-    state_.EntryFailed = 0;
-    state_.AwaitingEnter = 0;
+    state_.EntryFailed = false;
+    state_.AwaitingEnter = false;
     state_.EntryStartTime = world_.Clock.Timer();
 
     auto& mirror = C(MirrorControl::txtMirror);
@@ -170,13 +170,13 @@ void Mirror::StartEntry(WriteMethod method) {
     C(MirrorControl::lblRemS).Visible = false;
     C(MirrorControl::lblRem).Visible = true;
     C(MirrorControl::lblRem).Text = "X";
-    state_.EntryFit = -1;
+    state_.EntryFit = EntryLength::TooShort;
     C(MirrorControl::cmdClear).Enabled = false;
     C(MirrorControl::cmdRemove).Enabled = false;
     C(MirrorControl::cmdRemove).Text = "Edit";
     C(MirrorControl::cmdRemove).Ink = Colour::Black;
 
-    state_.NoticeNotDue = 1;
+    state_.NoticeNotDue = true;
 
     const bool question = method == WriteMethod::Converse || method == WriteMethod::Suppose;
     if (question && state_.CycleCount >= state_.CycleGoal) {
@@ -190,7 +190,7 @@ void Mirror::StartEntry(WriteMethod method) {
 // The message regarding the conversation arrives through the same road as an entry: a
 // synthesised Enter on the entry box, with NoticeNotDue telling ProcessEntry what it carries.
 void Mirror::DeliverNotice() {
-    state_.NoticeNotDue = 0;
+    state_.NoticeNotDue = false;
     SetResponse(std::string(MirrorText::Processing), Colour::ColourReady);
     Yield();
     state_.ReplyText = engine_.RequestInterjection();
@@ -247,7 +247,7 @@ void Mirror::AdvanceCycle() {
         StartEntry(WriteMethod::Converse);
         break;
     case WriteMethod::Suppose:
-        if (state_.SupposeStage == 3) {
+        if (state_.SupposeStage == SupposeStep::TypingIdea) {
             Click(MirrorControl::cmdConverse);
         } else {
             state_.InstructionText = "Type your question. Click 'Rewrite' to erase the text. "
@@ -256,7 +256,7 @@ void Mirror::AdvanceCycle() {
         }
         break;
     case WriteMethod::Comment:
-        if (state_.EntryFailed == 1) {
+        if (state_.EntryFailed) {
             StartEntry(WriteMethod::Comment);
             state_.InstructionText = CommentInstruction();
         } else {
@@ -271,7 +271,7 @@ void Mirror::AdvanceCycle() {
 }
 
 void Mirror::EnterInEntryBox() {
-    if (state_.AwaitingEnter == 1) {
+    if (state_.AwaitingEnter) {
         AdvanceCycle();
     } else if (state_.ActiveMethod == WriteMethod::Comment) {
         ProcessComment();
@@ -284,8 +284,8 @@ void Mirror::EnterInEntryBox() {
 void Mirror::ProcessEntry() {
     SetResponse(std::string(MirrorText::Processing), Colour::ColourReady);
     Yield();
-    if (state_.NoticeNotDue == 0) {
-        state_.AwaitingEnter = 1;
+    if (!state_.NoticeNotDue) {
+        state_.AwaitingEnter = true;
         state_.ReplyText = Trim(Mid(state_.ReplyText, 3));
         SetResponse(">> Regarding the conversation. To continue, press 'Enter'.\r\n\t" +
                         state_.ReplyText,
@@ -293,16 +293,16 @@ void Mirror::ProcessEntry() {
         state_.InstructionText = "Review the message regarding the conversation. Press 'Enter', "
                                  "then continue typing. Or click 'Finish'.";
         state_.InstructionColour = Colour::Black;
-        state_.NoticeNotDue = 1;
+        state_.NoticeNotDue = true;
         return;
     }
 
     auto& mirror = C(MirrorControl::txtMirror);
     TakeEntry();
-    if (state_.EntryFit != 0) {
-        state_.AwaitingEnter = 0;
+    if (state_.EntryFit != EntryLength::Fits) {
+        state_.AwaitingEnter = false;
         RejectLength(MirrorControl::lblRem);
-        state_.EntryFailed = 1;
+        state_.EntryFailed = true;
         return;
     }
 
@@ -321,7 +321,7 @@ void Mirror::ProcessEntry() {
         return;
     }
 
-    state_.EntryFailed = 0;
+    state_.EntryFailed = false;
     ++state_.CycleCount;
     mirror.Text += CloseQuote;
     Yield();
@@ -391,7 +391,7 @@ void Mirror::ShowResult() {
 void Mirror::TakeEntry() {
     state_.EntryText = C(MirrorControl::txtMirror).Text;
     state_.EntryCount = static_cast<int>(state_.EntryText.size()) - 2;
-    state_.AwaitingEnter = 1;
+    state_.AwaitingEnter = true;
 }
 
 // The parser's judgement first, then the limit on kept items, which no other refusal outranks.
@@ -408,7 +408,7 @@ void Mirror::JudgeEntry() {
 // Length is judged from the status the last key left, before the parser sees the entry or the
 // list takes the idea; the mark is the one beside the box in use.
 void Mirror::RejectLength(MirrorControl mark) {
-    const bool tooShort = state_.EntryFit == -1;
+    const bool tooShort = state_.EntryFit == EntryLength::TooShort;
     SetResponse(std::string(tooShort ? MirrorText::TooShort : MirrorText::TooLong),
                 Colour::ColourError);
     state_.InstructionText =
@@ -423,28 +423,28 @@ void Mirror::RejectEntry(bool comment) {
     SetResponse(MirrorText::RejectionMessage(status, state_.ActiveMethod), Colour::ColourError);
     if (status == EntryVerdict::EndsWithQuote) {
         state_.InstructionText = "Backspace out the quote, then press 'Enter' to continue.";
-        state_.AwaitingEnter = 0;
+        state_.AwaitingEnter = false;
     } else if (status == EntryVerdict::Unpunctuated) {
         state_.InstructionText = "Enter your punctuation, then press 'Enter' to continue.";
-        state_.AwaitingEnter = 0;
+        state_.AwaitingEnter = false;
     } else {
         state_.InstructionText = comment && status == EntryVerdict::DialogueFull
                                      ? "Press 'Enter' to begin this entry again."
                                      : "Press 'Enter' to start again.";
-        state_.AwaitingEnter = 1;
+        state_.AwaitingEnter = true;
         C(MirrorControl::txtMirror).Caret = 0;
     }
     state_.InstructionColour = Colour::Black;
     ShowInstruction();
-    state_.EntryFailed = 1;
+    state_.EntryFailed = true;
 }
 
 void Mirror::ProcessComment() {
     auto& mirror = C(MirrorControl::txtMirror);
     TakeEntry();
     // A comment of the wrong length leaves EntryFailed as it was.
-    if (state_.EntryFit != 0) {
-        state_.AwaitingEnter = 0;
+    if (state_.EntryFit != EntryLength::Fits) {
+        state_.AwaitingEnter = false;
         RejectLength(MirrorControl::lblRem);
         return;
     }
@@ -456,7 +456,7 @@ void Mirror::ProcessComment() {
         return;
     }
 
-    state_.EntryFailed = 0;
+    state_.EntryFailed = false;
     state_.EntryText = mirror.Text;
     state_.EntryBackup = state_.EntryText;
     UpperAt(state_.EntryText, 3);

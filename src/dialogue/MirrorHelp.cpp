@@ -163,11 +163,11 @@ void Mirror::ResponseHover() {
         hover_.End();
         return;
     }
-    if (state_.ActiveMethod == WriteMethod::NotStarted || state_.EntryFailed == 1 ||
-        (state_.ActiveMethod == WriteMethod::Converse && state_.AwaitingEnter == 1)) {
+    if (state_.ActiveMethod == WriteMethod::NotStarted || state_.EntryFailed ||
+        (state_.ActiveMethod == WriteMethod::Converse && state_.AwaitingEnter)) {
         return;
     }
-    const std::string tip(state_.ActiveMethod == WriteMethod::Suppose && state_.AwaitingEnter == 1
+    const std::string tip(state_.ActiveMethod == WriteMethod::Suppose && state_.AwaitingEnter
                               ? MirrorText::TipQuestion
                               : MirrorText::TipDirection);
     if (C(MirrorControl::txtNote).Text == tip) {
@@ -205,8 +205,8 @@ void Mirror::ClickResponse() {
         SetResponse(state_.InspirationView, C(MirrorControl::txtResponse).Background);
         return;
     }
-    if (state_.ActiveMethod == WriteMethod::NotStarted || state_.EntryFailed == 1 ||
-        (state_.ActiveMethod == WriteMethod::Converse && state_.AwaitingEnter == 1)) {
+    if (state_.ActiveMethod == WriteMethod::NotStarted || state_.EntryFailed ||
+        (state_.ActiveMethod == WriteMethod::Converse && state_.AwaitingEnter)) {
         return;
     }
     auto& response = C(MirrorControl::txtResponse);

@@ -59,7 +59,7 @@ int Mirror::KeyDown(int keyCode) {
 }
 
 int Mirror::KeyPress(int keyAscii) {
-    if (!IsRunning(state_.ActiveMethod) || state_.DisplayFull == 1 || keyAscii == KeyCode::Tab) {
+    if (!IsRunning(state_.ActiveMethod) || state_.DisplayFull || keyAscii == KeyCode::Tab) {
         return 0;
     }
     if (keyAscii != KeyCode::Enter && keyAscii != KeyCode::Backspace) {
@@ -87,8 +87,8 @@ int Mirror::MirrorKeyDown(int keyCode) {
     if (keyCode == KeyCode::Control) {
         return RefuseControlKey(keyCode);
     }
-    if (state_.AwaitingEnter == 1 && keyCode != KeyCode::Enter) {
-        state_.EnterHintDue = 1;
+    if (state_.AwaitingEnter && keyCode != KeyCode::Enter) {
+        state_.EnterHintDue = true;
         auto& box = C(MirrorControl::txtMirror);
         box.Caret = 0;
         box.SelectionLength = 0;
@@ -105,7 +105,7 @@ int Mirror::RefuseControlKey(int keyCode) {
 // Refused at the key, before the count, the series or the checks could take it for a letter;
 // the user is told, as for the control key, wherever a box would have taken the key.
 void Mirror::RefuseUnwritable() {
-    const bool typing = IsRunning(state_.ActiveMethod) && state_.DisplayFull != 1 &&
+    const bool typing = IsRunning(state_.ActiveMethod) && !state_.DisplayFull &&
                         (controls_.Focus == MirrorControl::txtMirror ||
                          controls_.Focus == MirrorControl::txtAnalyze);
     if (typing) {
@@ -147,8 +147,8 @@ int Mirror::KeepCaretOffHead(MirrorControl control, long head, int keyCode) {
 
 int Mirror::MirrorKeyPress(int keyAscii) {
     auto& box = C(MirrorControl::txtMirror);
-    if (state_.EnterHintDue == 1) {
-        state_.EnterHintDue = 0;
+    if (state_.EnterHintDue) {
+        state_.EnterHintDue = false;
         Message(std::string(MirrorText::HelpTitle),
                 "Press 'Enter' to continue. Interaction is advanced to the next step by pressing "
                 "the 'Enter' key. Interaction is ended when you click 'Cancel' or 'Finish'. The "
@@ -181,7 +181,7 @@ int Mirror::MirrorKeyPress(int keyAscii) {
         C(MirrorControl::lblRem).Visible = false;
         EnterInEntryBox();
         keyAscii = 0;
-    } else if (state_.AwaitingEnter == 0 && !rewrite.Enabled) {
+    } else if (!state_.AwaitingEnter && !rewrite.Enabled) {
         rewrite.Enabled = true;
     }
     ShowInstruction();
@@ -203,8 +203,9 @@ bool Mirror::CountEntry(int keyAscii) {
                                  keyAscii);
 
     // Typing clears a ">>" message: the box goes back to what it showed before.
-    if (C(MirrorControl::txtResponse).Background != Colour::ColourReady && state_.EntryFit != 1) {
-        state_.EntryFailed = 0;
+    if (C(MirrorControl::txtResponse).Background != Colour::ColourReady &&
+        state_.EntryFit != EntryLength::TooLong) {
+        state_.EntryFailed = false;
         const bool direction = state_.ActiveMethod == WriteMethod::Suppose ||
                                state_.ActiveMethod == WriteMethod::Comment ||
                                state_.DialogueText.empty();
@@ -222,12 +223,12 @@ bool Mirror::JudgeCount(MirrorControl markControl, const CountWording& wording, 
         state_.InstructionColour = Colour::InkWarn;
         mark.Visible = true;
         mark.Text = "X";
-        state_.EntryFit = -1;
+        state_.EntryFit = EntryLength::TooShort;
     } else if (state_.EntryCount < state_.EntryNear) {
         state_.InstructionText = wording.Ready;
         state_.InstructionColour = Colour::Black;
         mark.Visible = false;
-        state_.EntryFit = 0;
+        state_.EntryFit = EntryLength::Fits;
     } else if (state_.EntryCount < state_.EntryMax) {
         const int wordsLeft = (state_.EntryMax - state_.EntryCount) / 6;
         state_.InstructionText = "Limit on word count is near. There is space for about " +
@@ -235,13 +236,13 @@ bool Mirror::JudgeCount(MirrorControl markControl, const CountWording& wording, 
         state_.InstructionColour = Colour::InkNear;
         mark.Visible = true;
         mark.Text = std::to_string(wordsLeft);
-        state_.EntryFit = 0;
+        state_.EntryFit = EntryLength::Fits;
     } else {
         state_.InstructionText = wording.Over;
         state_.InstructionColour = Colour::InkOver;
         mark.Visible = true;
         mark.Text = "X";
-        state_.EntryFit = 1;
+        state_.EntryFit = EntryLength::TooLong;
         return keyAscii == KeyCode::Backspace;
     }
     return true;
@@ -255,7 +256,7 @@ void Mirror::ClickEntryBox() {
     ShowInstruction();
     hover_.Unmark();
     hover_.Stop();
-    if (state_.AwaitingEnter == 1) {
+    if (state_.AwaitingEnter) {
         C(MirrorControl::txtMirror).Caret = 0;
         Message(std::string(MirrorText::HelpTitle),
                 "In this part of the cycle, you must press 'Enter' to advance the "

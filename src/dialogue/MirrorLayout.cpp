@@ -116,7 +116,7 @@ int Mirror::WindowKeyDown(int keyCode) {
     if (state_.ActiveMethod == WriteMethod::NotStarted) {
         return 0;
     }
-    if (state_.DisplayFull == 1) {
+    if (state_.DisplayFull) {
         auto& saved = C(MirrorControl::txtSaved);
         if (keyCode == KeyCode::Up || keyCode == KeyCode::PageUp || keyCode == KeyCode::Home) {
             saved.Caret = 0;

@@ -86,12 +86,12 @@ bool Mirror::MustKeep() const {
 
 void Mirror::ResetDialogue() {
     hover_.Rewind();
-    state_.SupposeStage = 0;
+    state_.SupposeStage = SupposeStep::Off;
     state_.PairCount = 0;
-    state_.AwaitingEnter = 1;
-    state_.EntryFailed = 0;
+    state_.AwaitingEnter = true;
+    state_.EntryFailed = false;
     state_.IdeaIndex = 0;
-    state_.DisplayFull = 0;
+    state_.DisplayFull = false;
     state_.EntryType = SentenceType::None;
     state_.IdeaLimit = 98;
     state_.EntryText.clear();
@@ -228,7 +228,7 @@ void Mirror::FinishDialogue() {
     C(MirrorControl::txtMirror).Enabled = true;
     controls_.Focus = MirrorControl::txtMirror;
     C(MirrorControl::txtSaved).Background = Colour::EntryYellow;
-    if (state_.DisplayFull == 0) {
+    if (!state_.DisplayFull) {
         state_.DialogueView = C(MirrorControl::txtSaved).Text;
         ShowDialogueFull();
     }
@@ -249,7 +249,7 @@ void Mirror::FinishDialogue() {
 }
 
 void Mirror::ContinueDialogue() {
-    state_.DisplayFull = 0;
+    state_.DisplayFull = false;
     for (auto button :
          {MirrorControl::cmdConverse, MirrorControl::cmdSuppose, MirrorControl::cmdNotate}) {
         C(button).Enabled = true;
@@ -275,7 +275,7 @@ void Mirror::SaveDialogue() {
         world_.Windows.SetBusyPointer(false);
         return;
     }
-    state_.DialogueSaved = 1;
+    state_.DialogueSaved = true;
     C(MirrorControl::cmdNew).Text = "New";
     Click(MirrorControl::cmdNew);
     world_.Windows.SetBusyPointer(false);
@@ -287,7 +287,7 @@ void Mirror::ClickNewCaption() {
         FinishDialogue();
     } else if (caption == "Cancel") {
         if (!state_.DialogueText.empty() && state_.ActiveMethod != WriteMethod::Converse) {
-            if (state_.DisplayFull == 1) {
+            if (state_.DisplayFull) {
                 Click(MirrorControl::cmdDisplay);
             }
             C(MirrorControl::cmdNew).Text = "Finish";
@@ -296,12 +296,12 @@ void Mirror::ClickNewCaption() {
             ResetDialogue();
         }
     } else if (caption == "Select") {
-        if (state_.DisplayFull == 1) {
+        if (state_.DisplayFull) {
             Click(MirrorControl::cmdDisplay);
         }
         ConcludeSupposition(ReplyKind::Answer);
     } else if (caption == "New") {
-        if (!state_.DialogueText.empty() && !GuestMode() && state_.DialogueSaved == 0) {
+        if (!state_.DialogueText.empty() && !GuestMode() && !state_.DialogueSaved) {
             const auto answer =
                 Message("Save Finished Dialogue",
                         "When you click 'Save', your Dialogue is added to the Library, where you "
@@ -314,7 +314,7 @@ void Mirror::ClickNewCaption() {
                 return;
             }
         }
-        state_.DialogueSaved = 0;
+        state_.DialogueSaved = false;
         unkept_ = false;
         buffers_.DeleteWorkBuffers();
         ResetDialogue();

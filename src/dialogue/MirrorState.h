@@ -19,20 +19,35 @@ enum class PairShown {
     LeftOut = 2,
 };
 
+// How the entry or idea being typed stands against its length limits.
+enum class EntryLength {
+    TooShort,
+    Fits,
+    TooLong,
+};
+
+// Where the list of ideas of the Suppose method stands: closed, waiting for the Enter that
+// prompts the next idea, or with an idea being typed.
+enum class SupposeStep {
+    Off,
+    PromptDue,
+    TypingIdea,
+};
+
 struct MirrorState {
     WriteMethod ActiveMethod = WriteMethod::NotStarted;
-    int AwaitingEnter = 0;
-    int EntryFit = -1; // -1 too short, 0 acceptable, 1 too long
+    bool AwaitingEnter = false;
+    EntryLength EntryFit = EntryLength::TooShort;
     int EntryCount = 0;
     int EntryMin = 17;
     int EntryNear = 90;
     int EntryMax = 140;
     EntryVerdict EntryStatus = EntryVerdict::Unpunctuated;
-    int EntryFailed = 0;
+    bool EntryFailed = false;
     PairShown PairState = PairShown::Nothing;
     SentenceType EntryType = SentenceType::None;
     ReplyKind AnswerFlag = ReplyKind::Answer;
-    int NoticeNotDue = 1;
+    bool NoticeNotDue = true;
     int CycleCount = 0;
     int CycleGoal = 3;
     float EntryStartTime = 0;
@@ -52,20 +67,20 @@ struct MirrorState {
     std::string InstructionText;
     Colour InstructionColour = Colour::Black;
     std::string TitleMethod;
-    int DisplayFull = 0;
-    int DialogueSaved = 0;
-    int SupposeStage = 0;
-    int EnterHintDue = 0;
+    bool DisplayFull = false;
+    bool DialogueSaved = false;
+    SupposeStep SupposeStage = SupposeStep::Off;
+    bool EnterHintDue = false;
     int IdeaIndex = 0; // the idea being typed, from 1; 0 with no list open
     int IdeaCount = 0;
     std::string SupposeQuestion;
     std::string SupposeHeading;
-    std::string ListText;           // the list box without its open prompt
-    std::vector<std::string> Ideas; // slot 0 the box with the open prompt, then the ideas
-    std::vector<int> IdeaWeight;    // 1 to 1000, drawn as each idea is accepted
-    std::vector<int> IdeaOrder;     // idea numbers by falling weight
-    int IdeaFit = 0;                // 0 accepted, 1 too short, 2 too long
-    long ListHead = 2;              // the protected head of the list box ends here
+    std::string ListText;                    // the list box without its open prompt
+    std::vector<std::string> Ideas;          // slot 0 the box with the open prompt, then the ideas
+    std::vector<int> IdeaWeight;             // 1 to 1000, drawn as each idea is accepted
+    std::vector<int> IdeaOrder;              // idea numbers by falling weight
+    EntryLength IdeaFit = EntryLength::Fits; // the last idea offered to the list
+    long ListHead = 2;                       // the protected head of the list box ends here
     std::string IdeaVerdict;
     std::string ConclusionView;
     int IdeaLimit = 98;

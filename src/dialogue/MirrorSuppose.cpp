@@ -31,11 +31,11 @@ void Mirror::OpenIdeaList() {
     state_.SupposeHeading = "Question\r\n" + state_.SupposeQuestion;
     SetResponse(state_.SupposeHeading, Colour::ColourReady);
     state_.DirectionText = state_.SupposeHeading;
-    state_.SupposeStage = 2;
+    state_.SupposeStage = SupposeStep::PromptDue;
     SetEntryLimits(EntrySize::Idea);
     state_.IdeaIndex = 1;
     // A list left on a refused idea must not hold back the prompt of the next one.
-    state_.IdeaFit = 0;
+    state_.IdeaFit = EntryLength::Fits;
     state_.ConclusionView.clear();
     const auto slots = static_cast<std::size_t>(state_.IdeaLimit) + 1;
     state_.Ideas.resize(slots);
@@ -59,7 +59,7 @@ void Mirror::OpenIdeaList() {
 }
 
 void Mirror::PromptIdea() {
-    state_.SupposeStage = 3;
+    state_.SupposeStage = SupposeStep::TypingIdea;
     auto& list = C(MirrorControl::txtAnalyze);
     list.Text = state_.ListText + "\r\n\r\nEntry " + std::to_string(state_.IdeaIndex) + " >> ";
     list.Caret = static_cast<long>(list.Text.size());
@@ -94,7 +94,7 @@ void Mirror::AcceptIdea() {
     }
     state_.Ideas[index] = idea;
     CheckIdea(idea);
-    if (state_.IdeaFit != 0) {
+    if (state_.IdeaFit != EntryLength::Fits) {
         return;
     }
 
@@ -108,7 +108,7 @@ void Mirror::AcceptIdea() {
     state_.IdeaCount = state_.IdeaIndex;
     ++state_.IdeaIndex;
     if (state_.IdeaIndex <= state_.IdeaLimit) {
-        state_.SupposeStage = 2;
+        state_.SupposeStage = SupposeStep::PromptDue;
         PromptIdea();
     } else {
         // The list is full: it closes as if the user had clicked, whatever the caption says.
@@ -119,14 +119,14 @@ void Mirror::AcceptIdea() {
 // Length is judged from the status the last key left; an idea with nothing left in it after
 // its closing mark is too short, whatever was typed.
 void Mirror::CheckIdea(const std::string& idea) {
-    state_.IdeaFit = 0;
+    state_.IdeaFit = EntryLength::Fits;
     if (idea.empty()) {
-        state_.EntryFit = -1;
+        state_.EntryFit = EntryLength::TooShort;
     }
-    if (state_.EntryFit == 0) {
+    if (state_.EntryFit == EntryLength::Fits) {
         return;
     }
-    state_.IdeaFit = state_.EntryFit == -1 ? 1 : 2;
+    state_.IdeaFit = state_.EntryFit;
     RejectLength(MirrorControl::lblRemS);
     ShowInstruction();
 }

@@ -87,7 +87,7 @@ void Mirror::ShowDialogueFull() {
     saved.Caret =
         state_.ActiveMethod == WriteMethod::Converse ? 0 : static_cast<long>(saved.Text.size());
     saved.Background = Colour::EntryYellow;
-    state_.DisplayFull = 1;
+    state_.DisplayFull = true;
 }
 
 void Mirror::ShowDialogueSmall() {
@@ -97,7 +97,7 @@ void Mirror::ShowDialogueSmall() {
     saved.Text = state_.DialogueView;
     saved.Caret = 0;
     saved.Background = Colour::DialogueGrey;
-    state_.DisplayFull = 0;
+    state_.DisplayFull = false;
 }
 
 void Mirror::ClickDisplay() {
@@ -152,7 +152,7 @@ void Mirror::ClickDisplay() {
 // In the New Dialogue state the panel shows a Suggestion, and a click draws another; otherwise a
 // click on the Dialogue toggles the full view.
 void Mirror::ClickSaved() {
-    if (state_.ActiveMethod == WriteMethod::None && state_.DisplayFull == 0) {
+    if (state_.ActiveMethod == WriteMethod::None && !state_.DisplayFull) {
         state_.SuggestionText = engine_.PickGuidance();
         C(MirrorControl::txtSaved).Text = LibraryStatusText(state_.SuggestionText);
         return;

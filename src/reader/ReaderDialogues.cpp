@@ -109,7 +109,7 @@ void Reader::OpenDialogueList() {
     world_.Values.LibraryName = LibraryLongName(LibraryId::Dialogue);
     state_.ReopenLibrary = LibraryId::Dialogue;
     state_.ListPos = -1;
-    state_.DialogueIndexShown = 1;
+    state_.DialogueIndexShown = true;
     SetButtons(1);
     C(ReaderControl::cmdNext).Text = "Latest";
     if (count < 1) {

@@ -115,8 +115,8 @@ void Reader::Click(ReaderControl control) {
         break;
     case ReaderControl::txtSpin:
         // The release of a right-click that changed the font is no toggle.
-        if (state_.SpinRightClick == 1) {
-            state_.SpinRightClick = 0;
+        if (state_.SpinRightClick) {
+            state_.SpinRightClick = false;
         } else {
             ClickWindow();
         }
@@ -130,10 +130,10 @@ void Reader::MouseDown(ReaderControl control, MouseButton button) {
     // A left press begins a click of its own: the release of a font step's right-click has
     // passed, even where the step's box took it.
     if (control == ReaderControl::txtSpin && button == MouseButton::Left) {
-        state_.SpinRightClick = 0;
+        state_.SpinRightClick = false;
     }
     if (control == ReaderControl::txtSpin && button == MouseButton::Right) {
-        state_.SpinRightClick = 1;
+        state_.SpinRightClick = true;
         Message("Change Font Size", "There are three font sizes available in the Read window.");
         CycleFontStep();
         return;

@@ -40,11 +40,11 @@ std::string PriorHelp(const std::string& caption) {
 } // namespace
 
 std::string Reader::WindowHoverText() const {
-    if (state_.SearchActive == 1) {
+    if (state_.SearchActive) {
         return "Change the temporary mode of display. During search, the Read window will make "
                "visible both the list and text boxes.";
     }
-    if (!IsDialogueLibrary() && state_.IndexMode == 0) {
+    if (!IsDialogueLibrary() && state_.IndexMode == IndexView::Sections) {
         return "The window mode cannot be changed when you open this Library or reset its main "
                "Index.";
     }
@@ -160,8 +160,7 @@ void Reader::CameToFront() {
     }
     world_.Windows.RestoreWindow(WindowId::Read);
     Yield();
-    controls_.Focus =
-        state_.SearchActive == 0 ? ReaderControl::txtCursor : ReaderControl::txtSearch;
+    controls_.Focus = !state_.SearchActive ? ReaderControl::txtCursor : ReaderControl::txtSearch;
 }
 
 void Reader::FocusGained(ReaderControl control) {
@@ -172,7 +171,7 @@ void Reader::FocusGained(ReaderControl control) {
         world_.Values.ReaderOpen == ReaderOpenState::Closed) {
         return;
     }
-    if (state_.SearchActive == 0) {
+    if (!state_.SearchActive) {
         controls_.Focus = ReaderControl::txtCursor;
     } else if (control == ReaderControl::txtSpin || C(ReaderControl::txtSearch).Enabled) {
         controls_.Focus = ReaderControl::txtSearch;

@@ -85,7 +85,7 @@ void Reader::ShowLibrary() {
     SetSearchMode(0);
     state_.ListPos = -1;
     state_.HitCount = 0;
-    state_.IndexMode = 0;
+    state_.IndexMode = IndexView::Sections;
     const LibraryId library = world_.Values.ReadLibrary;
     OpenFlag& flag = world_.Marks.OpenFlags[library];
     const bool marked = flag == OpenFlag::Marked;
@@ -98,7 +98,7 @@ void Reader::ShowLibrary() {
     } else {
         C(ReaderControl::cmdPrint).Text = "Merge";
         state_.KeyHint = KeyHintLibrary;
-        state_.IndexMode = marked ? 1 : 0;
+        state_.IndexMode = marked ? IndexView::EveryRow : IndexView::Sections;
         OpenFixedList();
     }
     if (marked) {
@@ -114,7 +114,7 @@ void Reader::FillFixedList(const FixedLibrary& library) {
     auto& rows = controls_.List.Rows;
     rows.clear();
     controls_.List.Selected = -1;
-    if (state_.IndexMode == 0) {
+    if (state_.IndexMode == IndexView::Sections) {
         for (int section = 0; section <= library.LastSection; ++section) {
             const int row = library.SectionRow[static_cast<std::size_t>(section)];
             rows.push_back(std::to_string(row + 1) + "\t" +
@@ -140,7 +140,7 @@ void Reader::OpenFixedList() {
     SetButtons(1);
     C(ReaderControl::cmdNext).Enabled = true;
     C(ReaderControl::cmdNext).Text = "First";
-    if (state_.IndexMode == 0) {
+    if (state_.IndexMode == IndexView::Sections) {
         state_.NoteText = "Select a Section to display its contents. Or click 'Index 1' to expand "
                           "the list of Topics, then select a Topic.";
         SetWindowLayout(0);

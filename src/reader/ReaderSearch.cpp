@@ -77,11 +77,11 @@ std::string SearchInstructions(LibraryId library) {
 
 void Reader::SetSearchMode(int on) {
     if (on == 1) {
-        state_.SearchActive = 1;
+        state_.SearchActive = true;
         EnterSearch();
         return;
     }
-    state_.SearchActive = 0;
+    state_.SearchActive = false;
     auto& box = C(ReaderControl::txtSearch);
     box.Enabled = false;
     box.Ink = Colour::IndexText;
@@ -107,14 +107,14 @@ void Reader::EnterSearch() {
     controls_.Focus = ReaderControl::txtSearch;
 
     // With a Dialogue open, that Dialogue stays on view and is all that is searched.
-    if (IsDialogueLibrary() && state_.DialogueIndexShown != 1) {
+    if (IsDialogueLibrary() && !state_.DialogueIndexShown) {
         return;
     }
     // A search always starts on the full list.
     if (IsDialogueLibrary()) {
         FillDialogueList();
     } else {
-        state_.IndexMode = 1;
+        state_.IndexMode = IndexView::EveryRow;
         FillFixedList(OpenLibrary());
     }
     // A list filled afresh shows from its first row.
@@ -143,15 +143,15 @@ void Reader::ClickSearch() {
     const std::string caption = C(ReaderControl::cmdSearch).Text;
     // The list, or a fixed library, is searched whole and shows split; an open Dialogue keeps its
     // layout.
-    const bool wholeLibrary = !IsDialogueLibrary() || state_.DialogueIndexShown == 1;
+    const bool wholeLibrary = !IsDialogueLibrary() || state_.DialogueIndexShown;
     if (caption == EnterCaption) {
         controls_.Focus = ReaderControl::txtSearch;
     }
-    if (caption == NewCaption && state_.SearchActive == 1) {
-        state_.SearchActive = 0;
+    if (caption == NewCaption && state_.SearchActive) {
+        state_.SearchActive = false;
         C(ReaderControl::txtSpin).SelectionLength = 0;
     }
-    if (state_.SearchActive == 0) {
+    if (!state_.SearchActive) {
         SetSearchMode(1);
         SetButtons(4);
         if (wholeLibrary) {
@@ -195,7 +195,7 @@ void Reader::SearchStep() {
     const NoCaseFinder finder(state_.SearchText);
     if (!IsDialogueLibrary()) {
         SearchFixedLibrary(finder);
-    } else if (state_.DialogueIndexShown == 1) {
+    } else if (state_.DialogueIndexShown) {
         SearchAllDialogues(finder);
     } else {
         SearchOpenDialogue(finder);
@@ -320,7 +320,7 @@ void Reader::EndWalk(const char* notFound) {
 
 std::string Reader::SearchHoverText() const {
     const std::string& caption = C(ReaderControl::cmdSearch).Text;
-    if (state_.SearchActive == 1) {
+    if (state_.SearchActive) {
         if (caption == EnterCaption) {
             return "Ready to enter the search text. Then click 'Go' or press 'Enter' to start the "
                    "search. Or click 'Cancel' to exit search mode.";
@@ -340,7 +340,7 @@ std::string Reader::SearchHoverText() const {
         return {};
     }
     if (IsDialogueLibrary()) {
-        return state_.DialogueIndexShown == 1
+        return state_.DialogueIndexShown
                    ? "Search for words or phrases within all the Dialogues. Starting with the "
                      "latest, Dialogues are opened as the search text is found."
                    : "Search for words or phrases within only the displayed Dialogue. Click "

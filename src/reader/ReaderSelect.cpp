@@ -47,12 +47,12 @@ void Reader::SelectDialogue(int position) {
     state_.ReopenLibrary = LibraryId::Dialogue;
     state_.ListPos = static_cast<std::int16_t>(position);
     world_.Marks.MarkRows[LibraryId::Dialogue] = static_cast<std::int16_t>(position);
-    if (state_.SearchActive == 1) {
+    if (state_.SearchActive) {
         return;
     }
     LoadDialogue(position + 1);
     ShowDialogue(position + 1);
-    state_.DialogueIndexShown = 0;
+    state_.DialogueIndexShown = false;
     SetButtons(2);
     SetWindowLayout(world_.UserSettings.WindowMode[LibraryId::Dialogue]);
     ScrollList();
@@ -62,11 +62,11 @@ void Reader::SelectFixedRow(int position) {
     const FixedLibrary& library = OpenLibrary();
     state_.ReopenLibrary = world_.Values.ReadLibrary;
     state_.ListPos = static_cast<std::int16_t>(position);
-    if (state_.IndexMode == 0) {
+    if (state_.IndexMode == IndexView::Sections) {
         // A Section of Index-1 opens Index-2 at that Section's row; the selection there does
         // the showing.
         const int row = library.SectionRow[static_cast<std::size_t>(position)];
-        state_.IndexMode = 1;
+        state_.IndexMode = IndexView::EveryRow;
         FillFixedList(library);
         state_.ListPos = static_cast<std::int16_t>(row);
         SelectRow(row);
@@ -79,7 +79,7 @@ void Reader::SelectFixedRow(int position) {
                       std::to_string(library.LastRow + 1) + " -- " +
                       CleanTitle(library.Titles[row]);
     state_.DisplayText = ComposeRowText(library, position);
-    if (state_.SearchActive != 1) {
+    if (!state_.SearchActive) {
         auto& spin = C(ReaderControl::txtSpin);
         spin.Text = state_.DisplayText;
         SetButtons(2);
@@ -110,7 +110,7 @@ void Reader::ClickSelect() {
         C(ReaderControl::txtSpin).SelectionLength = 0;
         // What a search found stays on view; only a search from the bare index goes back to it.
         const bool foundShows = IsDialogueLibrary()
-                                    ? !(state_.DialogueIndexShown == 1 && state_.HitCount == 0)
+                                    ? !(state_.DialogueIndexShown && state_.HitCount == 0)
                                     : state_.HitCount != 0;
         if (foundShows) {
             state_.HitCount = 0;
@@ -122,14 +122,14 @@ void Reader::ClickSelect() {
         state_.HitCount = 0;
     } else if (!IsDialogueLibrary()) {
         state_.ReopenLibrary = library;
-        if (state_.IndexMode == 0 && caption == IndexOneCaption) {
-            state_.IndexMode = 1;
-        } else if (state_.IndexMode == 1 && caption == IndexTwoCaption) {
-            state_.IndexMode = 0;
+        if (state_.IndexMode == IndexView::Sections && caption == IndexOneCaption) {
+            state_.IndexMode = IndexView::EveryRow;
+        } else if (state_.IndexMode == IndexView::EveryRow && caption == IndexTwoCaption) {
+            state_.IndexMode = IndexView::Sections;
         }
     }
     if (caption == IndexCaption) {
-        state_.IndexMode = 0;
+        state_.IndexMode = IndexView::Sections;
     }
     ReopenList();
 }
@@ -171,8 +171,8 @@ void Reader::SetButtons(int buttonState) {
             break;
         default:
             state_.NoteText =
-                std::string(state_.DialogueIndexShown == 1 ? "Search all Dialogues."
-                                                           : "Search this Dialogue only.") +
+                std::string(state_.DialogueIndexShown ? "Search all Dialogues."
+                                                      : "Search this Dialogue only.") +
                 " Enter the text, then click 'Go' or press 'Enter'. Click 'Cancel' "
                 "to exit the search.";
             break;
@@ -184,7 +184,8 @@ void Reader::SetButtons(int buttonState) {
     } else {
         switch (buttonState) {
         case 1:
-            select.Text = state_.IndexMode == 0 ? IndexOneCaption : IndexTwoCaption;
+            select.Text =
+                state_.IndexMode == IndexView::Sections ? IndexOneCaption : IndexTwoCaption;
             state_.NoteText = "Click 'First' to open the first Section, or click a Section on the "
                               "list to open the Index.";
             break;

@@ -14,11 +14,17 @@
 
 namespace veyrant {
 
+// What the index list of a fixed library shows: its sections, or every row of it.
+enum class IndexView {
+    Sections,
+    EveryRow,
+};
+
 struct ReaderState {
     std::int16_t ListPos = -1;
-    std::int16_t SearchActive = 0;
-    std::int16_t DialogueIndexShown = 0;
-    std::int16_t IndexMode = 0;                // 0 Index-1, the Sections; 1 Index-2, every row
+    bool SearchActive = false;
+    bool DialogueIndexShown = false;
+    IndexView IndexMode = IndexView::Sections;
     LibraryId ReopenLibrary = LibraryId::None; // whose list a reset of the index reopens
     std::string DisplayText;
     std::string DialogueBody;
@@ -33,7 +39,7 @@ struct ReaderState {
     // List position from 1 to the Dialogue's index in the Library's tables, latest first.
     std::vector<int> LibraryListOrder;
 
-    std::int16_t SpinRightClick = 0;
+    bool SpinRightClick = false;
 
     // The search. SearchText is always what stands in txtSearch, blanks included.
     std::string SearchText;

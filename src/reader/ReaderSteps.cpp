@@ -129,14 +129,15 @@ void Reader::SetWindowLayout(int mode) {
 void Reader::ClickWindow() {
     hover_.End();
     const bool indexShows = C(ReaderControl::txtSpin).Background == Colour::IndexText;
-    if (state_.SearchActive == 1 && indexShows) {
+    if (state_.SearchActive && indexShows) {
         Message("Split Window Mode When Searching",
                 "When entering the search mode, the window is automatically set in the split-view "
                 "mode. Once a selection is made, the text is shown in its saved window mode. Only "
                 "text that is found during a search can be expanded into the window.");
         return;
     }
-    if (state_.IndexMode == 0 && state_.SearchActive == 0 && indexShows && !IsDialogueLibrary()) {
+    if (state_.IndexMode == IndexView::Sections && !state_.SearchActive && indexShows &&
+        !IsDialogueLibrary()) {
         Message("Split Window Mode for Section Display",
                 "When entering the Library, resetting its index, or selecting a main <Section> "
                 "title, the window is automatically set in the split-view mode. Once you select "
@@ -157,7 +158,7 @@ void Reader::ClickWindow() {
     mode = mode == 0 ? 1 : 0;
     SetWindowLayout(mode);
     ScrollList();
-    if (state_.SearchActive == 1) {
+    if (state_.SearchActive) {
         controls_.Focus = ReaderControl::txtSearch;
     }
 }
@@ -166,7 +167,7 @@ int Reader::KeyDown(int keyCode) {
     const bool selectOn = C(ReaderControl::cmdSelect).Enabled;
     switch (keyCode) {
     case KeyCode::Enter:
-        if (state_.SearchActive == 0 && selectOn) {
+        if (!state_.SearchActive && selectOn) {
             ClickSelect();
             return 0;
         }
@@ -178,7 +179,7 @@ int Reader::KeyDown(int keyCode) {
         }
         break;
     case KeyCode::Space:
-        if (state_.SearchActive == 0) {
+        if (!state_.SearchActive) {
             ClickWindow();
             return 0;
         }
