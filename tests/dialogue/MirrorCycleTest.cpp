@@ -126,13 +126,13 @@ TEST(MirrorCycle, NoticeComesOnceTheGoalIsReachedEvenWithThePairsRemoved) {
     EXPECT_EQ(driver.Box(txtResponse).Background, Colour::ColourNotice);
     EXPECT_EQ(driver.Text(txtNote), "Review the message regarding the conversation. Press "
                                     "'Enter', then continue typing. Or click 'Finish'.");
-    EXPECT_EQ(driver.State().AwaitingEnter, 1);
+    EXPECT_TRUE(driver.State().AwaitingEnter);
     EXPECT_EQ(driver.State().DialogueText, "");
 
     // The next Enter draws again and, on a 1, simply begins the entry.
     driver.Enter();
     EXPECT_EQ(driver.Engine.RollPercents.back(), 20);
-    EXPECT_EQ(driver.State().AwaitingEnter, 0);
+    EXPECT_FALSE(driver.State().AwaitingEnter);
     EXPECT_EQ(driver.Box(txtResponse).Background, Colour::ColourReady);
 }
 
@@ -175,7 +175,7 @@ TEST(MirrorCycle, ARejectionShowsItsMessageAndInstruction) {
         EXPECT_EQ(driver.Box(txtResponse).Background, Colour::ColourError);
         EXPECT_EQ(driver.Text(txtNote), c.Instruction);
         const bool again = c.Instruction == startAgain;
-        EXPECT_EQ(driver.State().AwaitingEnter, again ? 1 : 0);
+        EXPECT_EQ(driver.State().AwaitingEnter, again);
         EXPECT_EQ(driver.State().CycleCount + driver.State().PairCount, 0);
         EXPECT_EQ(driver.Text(txtMirror), Prefix + Question);
         EXPECT_EQ(driver.Box(txtMirror).Caret == 0, again);
@@ -241,7 +241,7 @@ TEST(MirrorComposed, ADialogueOfSeveralCyclesWithTheRealEngine) {
     for (const auto& entry : entries) {
         driver.Clock.Seconds += 37.5f;
         driver.Converse(entry);
-        ASSERT_EQ(driver.State().EntryFailed, 0) << driver.Text(txtResponse);
+        ASSERT_FALSE(driver.State().EntryFailed) << driver.Text(txtResponse);
         const std::string response = driver.Text(txtResponse);
         if (response.rfind(">> Regarding", 0) == 0) {
             driver.Enter();
@@ -259,10 +259,10 @@ TEST(MirrorComposed, ADialogueOfSeveralCyclesWithTheRealEngine) {
     EXPECT_EQ(driver.Text(txtResponse),
               ">> Your entry is not punctuated. Add your period or question mark, then press "
               "'Enter'.");
-    EXPECT_EQ(driver.State().AwaitingEnter, 0);
+    EXPECT_FALSE(driver.State().AwaitingEnter);
     driver.Type("?");
     driver.Enter();
-    EXPECT_EQ(driver.State().EntryFailed, 0);
+    EXPECT_FALSE(driver.State().EntryFailed);
 }
 
 // An entry that the parser refuses before it reads the sentence keeps the type of the entry
@@ -281,11 +281,11 @@ TEST(MirrorComposed, AfterAYesNoQuestionAnEarlyRefusalStaysTheYesNoOne) {
         driver.Converse(early);
         EXPECT_EQ(driver.Text(txtResponse), YesNoRefusal);
         EXPECT_EQ(driver.Text(txtNote), "Press 'Enter' to start again.");
-        EXPECT_EQ(driver.State().AwaitingEnter, 1);
+        EXPECT_TRUE(driver.State().AwaitingEnter);
         // A question the parser reads replaces the type and is accepted.
         driver.Enter();
         driver.Converse("What would bring happiness to us all?");
-        EXPECT_EQ(driver.State().EntryFailed, 0) << driver.Text(txtResponse);
+        EXPECT_FALSE(driver.State().EntryFailed) << driver.Text(txtResponse);
         EXPECT_EQ(driver.State().CycleCount, 1);
     }
 }

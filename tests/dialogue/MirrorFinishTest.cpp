@@ -128,7 +128,7 @@ TEST(MirrorFinish, NewAsksOnlyForAnUnsavedDialogueAndResetsOnNo) {
         }
         EXPECT_EQ(driver.State().DialogueText, "");
         EXPECT_EQ(driver.State().PairCount + driver.State().CycleCount, 0);
-        EXPECT_EQ(driver.State().DialogueSaved, 0);
+        EXPECT_FALSE(driver.State().DialogueSaved);
         EXPECT_EQ(driver.Text(txtResponse), "Inspiration\r\n\tInspiration number 2.");
         EXPECT_EQ(driver.Text(txtSaved).substr(0, 12), "Suggestion 2");
         EXPECT_EQ(driver.mirror->Controls().Title,

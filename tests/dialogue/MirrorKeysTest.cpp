@@ -18,29 +18,29 @@ TEST(MirrorKeys, MarkAndInstructionFollowTheLaggingCount) {
         int Typed;
         const char* Mark; // lblRem, nullptr when hidden
         Colour Ink;
-        int EntryFit;
+        EntryLength EntryFit;
         std::string Note = {}; // the instruction, when the row checks it
     } cases[] = {
-        {1, 1, "X", Colour::InkWarn, -1,
+        {1, 1, "X", Colour::InkWarn, EntryLength::TooShort,
          "Type to reach the minimum number of words. Then press 'Enter' when your question or "
          "statement is ready."},
-        {1, 18, "X", Colour::InkWarn, -1},
-        {1, 19, nullptr, Colour::Black, 0,
+        {1, 18, "X", Colour::InkWarn, EntryLength::TooShort},
+        {1, 19, nullptr, Colour::Black, EntryLength::Fits,
          "Ready to enter your question or statement. Continue typing, or press 'Enter' to advance "
          "the cycle of conversation."},
-        {1, 91, nullptr, Colour::Black, 0},
-        {1, 92, "8", Colour::InkNear, 0,
+        {1, 91, nullptr, Colour::Black, EntryLength::Fits},
+        {1, 92, "8", Colour::InkNear, EntryLength::Fits,
          "Limit on word count is near. There is space for about 8 more words. Press 'Enter' when "
          "ready."},
-        {1, 135, "1", Colour::InkNear, 0},
-        {1, 142, "X", Colour::InkOver, 1,
+        {1, 135, "1", Colour::InkNear, EntryLength::Fits},
+        {1, 142, "X", Colour::InkOver, EntryLength::TooLong,
          "Over the maximum text limit. Delete words until this display status changes. Or click "
          "'Rewrite' to erase the text."},
-        {4, 5, "X", Colour::InkWarn, -1},
-        {4, 6, nullptr, Colour::Black, 0},
-        {4, 201, nullptr, Colour::Black, 0},
-        {4, 202, "13", Colour::InkNear, 0},
-        {4, 282, "X", Colour::InkOver, 1}};
+        {4, 5, "X", Colour::InkWarn, EntryLength::TooShort},
+        {4, 6, nullptr, Colour::Black, EntryLength::Fits},
+        {4, 201, nullptr, Colour::Black, EntryLength::Fits},
+        {4, 202, "13", Colour::InkNear, EntryLength::Fits},
+        {4, 282, "X", Colour::InkOver, EntryLength::TooLong}};
     for (const auto& c : cases) {
         SCOPED_TRACE(std::to_string(c.Method) + ", " + std::to_string(c.Typed) + " typed");
         MirrorDriver driver;
@@ -73,7 +73,7 @@ TEST(MirrorKeys, OverTheLimitOnlyBackspaceWorks) {
     driver.Backspace();
     driver.Backspace();
     EXPECT_EQ(driver.Text(txtMirror).size(), 2u + 139u);
-    EXPECT_EQ(driver.State().EntryFit, 0);
+    EXPECT_EQ(driver.State().EntryFit, EntryLength::Fits);
     // The count of a Backspace is one less than the next typed key will take.
     EXPECT_EQ(driver.State().EntryCount, 137);
     EXPECT_EQ(driver.Text(txtResponse), direction);
@@ -247,10 +247,10 @@ TEST(MirrorLayout, FunctionKeysActOnTheirButtonsUnlessGuarded) {
     driver.Press(KeyCode::Function(10));
     EXPECT_EQ(driver.Text(cmdRemove), "Keep");
     driver.Press(KeyCode::Function(11));
-    EXPECT_EQ(driver.State().DisplayFull, 0); // nothing kept, Display disabled
+    EXPECT_FALSE(driver.State().DisplayFull); // nothing kept, Display disabled
     driver.Press(KeyCode::Function(10));
     driver.Press(KeyCode::Function(11));
-    EXPECT_EQ(driver.State().DisplayFull, 1);
+    EXPECT_TRUE(driver.State().DisplayFull);
     // The full view's keys scroll the Dialogue.
     EXPECT_EQ(driver.Box(txtSaved).Caret, 0);
     driver.Press(KeyCode::PageDown);
@@ -258,7 +258,7 @@ TEST(MirrorLayout, FunctionKeysActOnTheirButtonsUnlessGuarded) {
     driver.Press(KeyCode::Home);
     EXPECT_EQ(driver.Box(txtSaved).Caret, 0);
     driver.Press(KeyCode::Function(11));
-    EXPECT_EQ(driver.State().DisplayFull, 0);
+    EXPECT_FALSE(driver.State().DisplayFull);
     driver.Press(KeyCode::Function(12));
     EXPECT_EQ(driver.Text(cmdDisplay), "File");
     driver.Press(KeyCode::Function(11)); // "File" is not a view switch
