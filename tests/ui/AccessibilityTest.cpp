@@ -28,6 +28,8 @@
 
 using namespace veyrant;
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // Every window of the program over one fresh folder, the Write window shown and started.
@@ -57,8 +59,7 @@ QStringList Unnamed(QWidget& window) {
     }
     for (QWidget* widget : window.findChildren<QWidget*>()) {
         if (IsControl(widget) && Spoken(widget, QAccessible::Name).trimmed().isEmpty()) {
-            unnamed << QStringLiteral("%1 (%2)").arg(widget->objectName(),
-                                                     widget->metaObject()->className());
+            unnamed << u"%1 (%2)"_s.arg(widget->objectName(), widget->metaObject()->className());
         }
     }
     return unnamed;
@@ -97,8 +98,7 @@ private slots:
         options.show();
         SaveFolder folders;
         ExportEditorWindow exported(program.Layer, folders, program.App.Spelling,
-                                    QStringLiteral("Dialogue text"),
-                                    QStringLiteral("Dialogue.txt"));
+                                    u"Dialogue text"_s, u"Dialogue.txt"_s);
         const auto about = BuildMessageBox(
             {"About the Veyrant Sagrel Program", AboutText("4.1.26.11.22", "2026")});
         QPrinter printer;
@@ -122,9 +122,35 @@ private slots:
         }
         // The backdrop's hint shows only under a moving pointer; a screen reader tells it always.
         QCOMPARE(Spoken(&backdrop, QAccessible::Description), QString(Backdrop::HintText));
-        // The Write window's controls in the state of a Dialogue under way.
+        // The hover help is spoken; a screen reader tells the key that presses a button, as the
+        // underlined letter shows it.
+        const std::tuple<MirrorControl, QString, QString> spoken[] = {
+            {MirrorControl::txtMirror, "Entry",
+             "Type a question or a statement, then press 'Enter'."},
+            {MirrorControl::cmdHelp, "Help",
+             "Open the Information Library for instructions and information on the program. "
+             "Right-click to open the Utilities window."},
+        };
+        for (const auto& [control, name, description] : spoken) {
+            QCOMPARE(Spoken(write.Widget(control), QAccessible::Name), name);
+            QCOMPARE(Spoken(write.Widget(control), QAccessible::Description), description);
+        }
+        QCOMPARE(QAccessible::queryAccessibleInterface(write.Widget(MirrorControl::cmdHelp))
+                     ->actionInterface()
+                     ->keyBindingsForAction(QAccessibleActionInterface::pressAction()),
+                 QStringList{"Alt+H"});
+        // The Write window's controls in the state of a Dialogue under way. The description
+        // follows the button's state, as the hover help does; the instruction line's follows its
+        // words.
         QTest::mouseClick(write.Widget(MirrorControl::cmdConverse), Qt::LeftButton);
         QVERIFY2(Unnamed(write).isEmpty(), qPrintable(Unnamed(write).join(", ")));
+        QCOMPARE(Spoken(write.Widget(MirrorControl::cmdConverse), QAccessible::Description),
+                 QString("Click 'Cancel' to exit Converse and reset to New Dialogue."));
+        QWidget* note = write.Widget(MirrorControl::txtNote);
+        QCOMPARE(Spoken(note, QAccessible::Name), QString("Instruction"));
+        QCOMPARE(Spoken(note, QAccessible::Description),
+                 QString("Type your question or statement. Click 'Rewrite' to erase the text. "
+                         "Press 'Enter' for the Sagrel response."));
 
         // Tab walks the dialogs' commands in reading order.
         struct Case {
@@ -147,45 +173,6 @@ private slots:
             order = order.mid(first) + order.first(first);
             QCOMPARE(order, c.Order);
         }
-    }
-
-    void theWriteWindowSpeaksItsHoverHelp() {
-        Program program;
-        MirrorWindow& write = *program.Window;
-
-        struct Case {
-            MirrorControl Control;
-            QString Name;
-            QString Description;
-        };
-        const std::vector<Case> cases = {
-            {MirrorControl::txtMirror, "Entry",
-             "Type a question or a statement, then press 'Enter'."},
-            {MirrorControl::cmdHelp, "Help",
-             "Open the Information Library for instructions and information on the program. "
-             "Right-click to open the Utilities window."},
-        };
-        for (const Case& c : cases) {
-            QWidget* widget = write.Widget(c.Control);
-            QCOMPARE(Spoken(widget, QAccessible::Name), c.Name);
-            QCOMPARE(Spoken(widget, QAccessible::Description), c.Description);
-        }
-        // A screen reader tells the key that presses a button, as the underlined letter shows it.
-        QAccessibleActionInterface* help =
-            QAccessible::queryAccessibleInterface(write.Widget(MirrorControl::cmdHelp))
-                ->actionInterface();
-        QCOMPARE(help->keyBindingsForAction(QAccessibleActionInterface::pressAction()),
-                 QStringList{"Alt+H"});
-        // The description follows the button's state, as the hover help does; the instruction
-        // line's follows its words.
-        QTest::mouseClick(write.Widget(MirrorControl::cmdConverse), Qt::LeftButton);
-        QCOMPARE(Spoken(write.Widget(MirrorControl::cmdConverse), QAccessible::Description),
-                 QString("Click 'Cancel' to exit Converse and reset to New Dialogue."));
-        QWidget* note = write.Widget(MirrorControl::txtNote);
-        QCOMPARE(Spoken(note, QAccessible::Name), QString("Instruction"));
-        QCOMPARE(Spoken(note, QAccessible::Description),
-                 QString("Type your question or statement. Click 'Rewrite' to erase the text. "
-                         "Press 'Enter' for the Sagrel response."));
     }
 };
 

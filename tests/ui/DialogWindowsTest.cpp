@@ -26,6 +26,8 @@
 
 namespace veyrant {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 template <typename Window>
@@ -190,7 +192,7 @@ private slots:
         // The entry quotes are Windows-1252 147 and 148; paragraphs are parted by CR LF.
         const auto box = BuildMessageBox({"Change Font Size", "\x93Why?\x94\r\n\r\nSee \xe9t\xe9.",
                                           MessageIcon::Question, MessageButtons::YesNoCancel, 2});
-        QCOMPARE(box->windowTitle(), QStringLiteral("Change Font Size"));
+        QCOMPARE(box->windowTitle(), u"Change Font Size"_s);
         QCOMPARE(box->text(), QString::fromUtf8("\u201cWhy?\u201d\n\nSee \u00e9t\u00e9."));
         QCOMPARE(box->icon(), QMessageBox::Question);
         QCOMPARE(box->standardButtons(), QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);

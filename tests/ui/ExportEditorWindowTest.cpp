@@ -1,6 +1,7 @@
 #include "ui/ExportEditorWindow.h"
 
 #include "SpellingMarks.h"
+#include "core/WholeFile.h"
 #include "support/FakeWindowLayer.h"
 #include "support/TempFolder.h"
 #include "ui/HunspellDictionary.h"
@@ -12,18 +13,12 @@
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
-#include <fstream>
-#include <sstream>
 
 namespace veyrant {
 
-namespace {
+using namespace Qt::StringLiterals;
 
-std::string ReadBytes(const std::filesystem::path& path) {
-    std::ostringstream bytes;
-    bytes << std::ifstream(path, std::ios::binary).rdbuf();
-    return bytes.str();
-}
+namespace {
 
 std::size_t FilesIn(const std::filesystem::path& folder) {
     return static_cast<std::size_t>(std::distance(std::filesystem::directory_iterator(folder),
@@ -60,49 +55,37 @@ class ExportEditorWindowTest : public QObject {
     SaveFolder folders;
 
 private slots:
-    // The user's edits are what is saved, as UTF-8 with the platform's line ends.
-    void SavesTheEditedTextAsUtf8OrSaysWhyNot() {
+    // The user's edits are what is saved, as UTF-8 with the platform's line ends. A failed save
+    // says so, leaves no file, and the text is still changed; closing then saves to the file the
+    // text already has, and no file dialog asks for a name again.
+    void SavesTheEditedTextAsUtf8OrSaysWhyNotAndClosingKeepsTheFile() {
         testing::FakeWindowLayer windows;
         testing::TempFolder folder;
         SpellChecker spelling;
-        ExportEditorWindow editor(windows, folders, spelling,
-                                  QString::fromUtf8("Veyrant Sagrel\n\u201cCaf\u00e9\u201d"),
-                                  QStringLiteral("Dialogue.txt"));
-        editor.Editor().appendPlainText(QStringLiteral("A line of my own."));
-        QVERIFY(editor.Editor().document()->isModified());
-
+        auto* editor = new ExportEditorWindow(
+            windows, folders, spelling, QString::fromUtf8("Veyrant Sagrel\n\u201cCaf\u00e9\u201d"),
+            u"Dialogue.txt"_s);
+        editor->show();
+        editor->Editor().appendPlainText(u"A line of my own."_s);
+        QVERIFY(editor->Editor().document()->isModified());
         const auto path = folder / "Sunday.txt";
-        QVERIFY(editor.SaveTo(QString::fromStdString(path.string())));
-        QCOMPARE(ReadBytes(path), std::string("Veyrant Sagrel\n\xe2\x80\x9c"
-                                              "Caf\xc3\xa9\xe2\x80\x9d\nA line of my own."));
-        QVERIFY(!editor.Editor().document()->isModified());
+        const std::string saved = "Veyrant Sagrel\n\xe2\x80\x9c"
+                                  "Caf\xc3\xa9\xe2\x80\x9d\nA line of my own.";
+        QVERIFY(editor->SaveTo(QString::fromStdString(path.string())));
+        QCOMPARE(ReadWholeFile(path), saved);
+        QVERIFY(!editor->Editor().document()->isModified());
         QCOMPARE(FilesIn(folder.Path()), std::size_t{1});
         QVERIFY(windows.Boxes.empty());
 
-        // A failed save says so, leaves no file, and the text is still changed, so closing will
-        // ask.
-        editor.Editor().appendPlainText(QStringLiteral("More."));
+        editor->Editor().appendPlainText(u"More."_s);
         const auto missing = folder / "missing" / "Sunday.txt";
-        QVERIFY(!editor.SaveTo(QString::fromStdString(missing.string())));
-        QCOMPARE(windows.Boxes.at(0).Title, std::string("Save File Error"));
-        QCOMPARE(windows.Boxes[0].Text,
-                 "Error 53 encountered attempting to save " + missing.string() + ".");
+        QVERIFY(!editor->SaveTo(QString::fromStdString(missing.string())));
+        QCOMPARE(windows.Boxes.at(0).Title + ": " + windows.Boxes[0].Text,
+                 "Save File Error: Error 53 encountered attempting to save " + missing.string() +
+                     ".");
         QCOMPARE(FilesIn(folder.Path()), std::size_t{1});
-        QVERIFY(editor.Editor().document()->isModified());
-    }
+        QVERIFY(editor->Editor().document()->isModified());
 
-    // Once saved, the text has its file: closing after more changes saves there, and no file
-    // dialog asks for a name again.
-    void ClosingAfterASaveKeepsTheFile() {
-        testing::FakeWindowLayer windows;
-        testing::TempFolder folder;
-        SpellChecker spelling;
-        auto* editor = new ExportEditorWindow(windows, folders, spelling, QStringLiteral("Text"),
-                                              QStringLiteral("Dialogue.txt"));
-        editor->show();
-        const auto path = folder / "Sunday.txt";
-        QVERIFY(editor->SaveTo(QString::fromStdString(path.string())));
-        editor->Editor().appendPlainText(QStringLiteral("More."));
         bool askedForAName = false;
         QTimer answer;
         connect(&answer, &QTimer::timeout, [&] {
@@ -116,7 +99,7 @@ private slots:
         answer.start(20);
         QVERIFY(editor->close());
         QVERIFY(!askedForAName);
-        QCOMPARE(ReadBytes(path), std::string("Text\nMore."));
+        QCOMPARE(ReadWholeFile(path), saved + "\nMore.");
     }
 
     // A correction replaces the word in this text only; an added word is known in every window at
@@ -130,9 +113,8 @@ private slots:
         ExportEditorWindow editor(windows, folders, spelling,
                                   QStringLiteral("Veyrant Sagrel\nI wrte to the Sagrel about "
                                                  "Tolmira's lettr, 12 times.\n"),
-                                  QStringLiteral("Dialogue.txt"));
-        ExportEditorWindow other(windows, folders, spelling, QStringLiteral("A lettr.\n"),
-                                 QStringLiteral("Dialogue.txt"));
+                                  u"Dialogue.txt"_s);
+        ExportEditorWindow other(windows, folders, spelling, u"A lettr.\n"_s, u"Dialogue.txt"_s);
         editor.show();
         QVERIFY(QTest::qWaitForWindowExposed(&editor));
         QCOMPARE(MarkedWords(editor.Editor()), QStringList({"wrte", "lettr"}));
@@ -149,7 +131,7 @@ private slots:
         menu->actions()[static_cast<int>(Texts(*menu).indexOf("Add to Dictionary"))]->trigger();
         QCOMPARE(MarkedWords(editor.Editor()), QStringList());
         QCOMPARE(MarkedWords(other.Editor()), QStringList());
-        QCOMPARE(other.Editor().toPlainText(), QStringLiteral("A lettr.\n"));
+        QCOMPARE(other.Editor().toPlainText(), u"A lettr.\n"_s);
         QCOMPARE(std::filesystem::status(words).permissions(),
                  std::filesystem::perms::owner_read | std::filesystem::perms::owner_write);
         SpellChecker restarted;
@@ -166,7 +148,7 @@ private slots:
         ExportEditorWindow street(windows, folders, german,
                                   QString::fromUtf8("Die Stra\u00dfe ist gem\u00fctlich, die "
                                                     "Strase nicht.\n"),
-                                  QStringLiteral("Dialogue.txt"));
+                                  u"Dialogue.txt"_s);
         QCOMPARE(MarkedWords(street.Editor()), QStringList({"Strase"}));
     }
 };

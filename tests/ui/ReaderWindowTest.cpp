@@ -25,6 +25,9 @@
 #include <memory>
 
 using namespace veyrant;
+using enum ReaderControl;
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -34,8 +37,7 @@ std::string LongDialogue() {
     for (int pair = 0; pair < 40; ++pair) {
         text += "\r\n\r\n\t\x93Where is it?\x94\r\n\tIn the reeds.";
     }
-    return text + "\r\n\r\n\t\x93"
-                  "And the Heron?\x94";
+    return text + "\r\n\r\n\t\223And the Heron?\224";
 }
 
 struct ReadWindow {
@@ -60,26 +62,22 @@ struct ReadWindow {
         Window->Render();
     }
     void Key(Qt::Key key) { QTest::keyClick(Window.get(), key); }
+    QString Title() const { return Window->windowTitle(); }
+    QString Selected() const { return Spin()->textCursor().selectedText(); }
     QString Caption(ReaderControl control) const {
         return static_cast<QPushButton*>(Window->Widget(control))->text();
     }
-    QListWidget* List() const {
-        return static_cast<QListWidget*>(Window->Widget(ReaderControl::List1));
-    }
-    QPlainTextEdit* Spin() const {
-        return static_cast<QPlainTextEdit*>(Window->Widget(ReaderControl::txtSpin));
-    }
-    QLineEdit* SearchBox() const {
-        return static_cast<QLineEdit*>(Window->Widget(ReaderControl::txtSearch));
-    }
+    QListWidget* List() const { return static_cast<QListWidget*>(Window->Widget(List1)); }
+    QPlainTextEdit* Spin() const { return static_cast<QPlainTextEdit*>(Window->Widget(txtSpin)); }
+    QLineEdit* SearchBox() const { return static_cast<QLineEdit*>(Window->Widget(txtSearch)); }
     void Click(ReaderControl button) { QTest::mouseClick(Window->Widget(button), Qt::LeftButton); }
     // Types into the search box as the user does, and presses Enter there.
     void SearchFor(const QString& text) {
-        Click(ReaderControl::cmdSearch);
+        Click(cmdSearch);
         QVERIFY(SearchBox()->isEnabled());
         QVERIFY(SearchBox()->hasFocus());
         QTest::keyClicks(SearchBox(), text);
-        QCOMPARE(Caption(ReaderControl::cmdSearch), QStringLiteral("< Go >"));
+        QCOMPARE(Caption(cmdSearch), u"< Go >"_s);
         QTest::keyClick(SearchBox(), Qt::Key_Return);
     }
     // The hit is the text selected in the text box, and it stands within the box's view.
@@ -111,9 +109,9 @@ private slots:
     void fixedLibrariesStepWithKeys_data() {
         QTest::addColumn<int>("library");
         QTest::addColumn<QString>("name");
-        QTest::newRow("Information") << 2 << QStringLiteral("Veyrant Information Library");
-        QTest::newRow("Knowledge") << 3 << QStringLiteral("Veyrant Knowledge Library");
-        QTest::newRow("Advanced") << 4 << QStringLiteral("Veyrant Advanced Knowledge Library");
+        QTest::newRow("Information") << 2 << u"Veyrant Information Library"_s;
+        QTest::newRow("Knowledge") << 3 << u"Veyrant Knowledge Library"_s;
+        QTest::newRow("Advanced") << 4 << u"Veyrant Advanced Knowledge Library"_s;
     }
     void fixedLibrariesStepWithKeys() {
         QFETCH(int, library);
@@ -121,17 +119,17 @@ private slots:
         ReadWindow read;
         read.Open(library);
         const auto& lib = read.App.Libraries[static_cast<LibraryId>(library)];
-        QCOMPARE(read.Window->windowTitle(), name);
+        QCOMPARE(read.Title(), name);
         QCOMPARE(read.List()->count(), lib.LastSection + 1);
-        QCOMPARE(read.Caption(ReaderControl::cmdNext), QStringLiteral("First"));
+        QCOMPARE(read.Caption(cmdNext), u"First"_s);
 
         read.Key(Qt::Key_Down);
-        QVERIFY(read.Window->windowTitle().startsWith(name + QStringLiteral(" -- 1/")));
+        QVERIFY(read.Title().startsWith(name + u" -- 1/"_s));
         QCOMPARE(read.List()->count(), lib.LastRow + 1);
         QCOMPARE(read.List()->currentRow(), 0);
         QVERIFY(read.List()->isVisible());
         read.Key(Qt::Key_Down);
-        QVERIFY(read.Window->windowTitle().startsWith(name + QStringLiteral(" -- 2/")));
+        QVERIFY(read.Title().startsWith(name + u" -- 2/"_s));
         QVERIFY(read.List()->isVisible());
         read.Key(Qt::Key_Space);
         QVERIFY(!read.List()->isVisible());
@@ -139,10 +137,10 @@ private slots:
             QString::fromStdString(Cp1252ToUtf8(CleanTitle(lib.Titles[1])))));
         read.Key(Qt::Key_Space);
         read.Key(Qt::Key_Escape);
-        QCOMPARE(read.Caption(ReaderControl::cmdSelect), QStringLiteral("< Index 1 >"));
+        QCOMPARE(read.Caption(cmdSelect), u"< Index 1 >"_s);
         QCOMPARE(read.List()->count(), lib.LastSection + 1);
         read.Key(Qt::Key_Return);
-        QCOMPARE(read.Caption(ReaderControl::cmdSelect), QStringLiteral("< Index 2 >"));
+        QCOMPARE(read.Caption(cmdSelect), u"< Index 2 >"_s);
     }
 
     // A search of the Knowledge Library typed into the real box: the hit is selected in the
@@ -150,39 +148,36 @@ private slots:
     void searchesAFixedLibrary() {
         ReadWindow read;
         read.Open(3);
-        read.SearchFor(QStringLiteral("wisdom"));
-        QCOMPARE(read.Caption(ReaderControl::cmdSearch), QStringLiteral("< Next >"));
-        QCOMPARE(read.Spin()->textCursor().selectedText().toLower(), QStringLiteral("wisdom"));
+        read.SearchFor(u"wisdom"_s);
+        QCOMPARE(read.Caption(cmdSearch), u"< Next >"_s);
+        QCOMPARE(read.Selected().toLower(), u"wisdom"_s);
         QVERIFY(read.HitInView());
-        QVERIFY(
-            read.Window->windowTitle().startsWith(QStringLiteral("Veyrant Knowledge Library -- ")));
+        QVERIFY(read.Title().startsWith(u"Veyrant Knowledge Library -- "_s));
         QVERIFY(read.SearchBox()->hasFocus());
         const int first = read.Spin()->textCursor().selectionStart();
-        const QString firstTitle = read.Window->windowTitle();
+        const QString firstTitle = read.Title();
         QTest::keyClick(read.SearchBox(), Qt::Key_Return);
-        QVERIFY(read.Window->windowTitle() != firstTitle ||
-                read.Spin()->textCursor().selectionStart() > first);
-        QCOMPARE(read.Spin()->textCursor().selectedText().toLower(), QStringLiteral("wisdom"));
+        QVERIFY(read.Title() != firstTitle || read.Spin()->textCursor().selectionStart() > first);
+        QCOMPARE(read.Selected().toLower(), u"wisdom"_s);
         QVERIFY(read.HitInView());
 
         // The window toggle keeps the hit selected in the expanded text.
-        read.Click(ReaderControl::cmdWindow);
+        read.Click(cmdWindow);
         QVERIFY(!read.List()->isVisible());
-        QCOMPARE(read.Spin()->textCursor().selectedText().toLower(), QStringLiteral("wisdom"));
+        QCOMPARE(read.Selected().toLower(), u"wisdom"_s);
         QVERIFY(read.HitInView());
 
         // A click on the box starts a new search.
         QTest::mouseClick(read.SearchBox(), Qt::LeftButton);
-        QCOMPARE(read.Caption(ReaderControl::cmdSearch), QStringLiteral("Enter >>"));
+        QCOMPARE(read.Caption(cmdSearch), u"Enter >>"_s);
         QCOMPARE(read.SearchBox()->text(), QString());
-        QCOMPARE(read.Window->windowTitle(),
-                 QStringLiteral("Veyrant Knowledge Library -- Search Text"));
-        QTest::keyClicks(read.SearchBox(), QStringLiteral("xylophone zebra"));
+        QCOMPARE(read.Title(), u"Veyrant Knowledge Library -- Search Text"_s);
+        QTest::keyClicks(read.SearchBox(), u"xylophone zebra"_s);
         QTest::keyClick(read.SearchBox(), Qt::Key_Enter);
-        QCOMPARE(read.SearchBox()->text(), QStringLiteral("No text found"));
-        QCOMPARE(read.Caption(ReaderControl::cmdSearch), QStringLiteral("New"));
+        QCOMPARE(read.SearchBox()->text(), u"No text found"_s);
+        QCOMPARE(read.Caption(cmdSearch), u"New"_s);
         read.Key(Qt::Key_Escape);
-        QCOMPARE(read.Caption(ReaderControl::cmdSearch), QStringLiteral("Search"));
+        QCOMPARE(read.Caption(cmdSearch), u"Search"_s);
         QVERIFY(!read.SearchBox()->isEnabled());
     }
 
@@ -191,9 +186,8 @@ private slots:
     void dialogueLibraryStepsLatestFirstAndIsSearched() {
         ReadWindow read;
         read.Open(1);
-        QCOMPARE(read.Window->windowTitle(),
-                 QStringLiteral("Veyrant Dialogue Library -- No Dialogues Saved"));
-        QVERIFY(!read.Window->Widget(ReaderControl::cmdNext)->isEnabled());
+        QCOMPARE(read.Title(), u"Veyrant Dialogue Library -- No Dialogues Saved"_s);
+        QVERIFY(!read.Window->Widget(cmdNext)->isEnabled());
         read.App.Links.CloseLibrary();
         read.SaveDialogue({2026, 11, 12, 9, 0, 0}, "\tA heron by the water.", LongDialogue());
         read.SaveDialogue({2026, 11, 18, 9, 0, 0}, "\tA path.", "\r\n\r\n\t\x93Why?\x94\r\n\tOn.");
@@ -202,39 +196,26 @@ private slots:
         read.Open(1);
         QCOMPARE(read.List()->count(), 3);
         read.Key(Qt::Key_PageDown);
-        QCOMPARE(read.Window->windowTitle(),
+        QCOMPARE(read.Title(),
                  QStringLiteral("Veyrant Dialogue -- 3/3 -- Saturday, 8:15 pm, November 21, 2026 "
                                 "-- 1/21 Days Old/Max"));
         for (const char* shown : {"Veyrant Dialogue -- 2/3", "Veyrant Dialogue -- 1/3"}) {
             read.Key(Qt::Key_PageDown);
-            QVERIFY(read.Window->windowTitle().startsWith(QString::fromLatin1(shown)));
+            QVERIFY(read.Title().startsWith(QString::fromLatin1(shown)));
         }
-        QVERIFY(!read.Window->Widget(ReaderControl::cmdNext)->isEnabled());
+        QVERIFY(!read.Window->Widget(cmdNext)->isEnabled());
         read.App.Links.CloseLibrary();
         read.Open(1);
-        read.SearchFor(QStringLiteral("heron?"));
-        QVERIFY(read.Window->windowTitle().startsWith(QStringLiteral("Veyrant Dialogue -- 1/3")));
-        QCOMPARE(read.Spin()->textCursor().selectedText(), QStringLiteral("Heron?"));
+        read.SearchFor(u"heron?"_s);
+        QVERIFY(read.Title().startsWith(u"Veyrant Dialogue -- 1/3"_s));
+        QCOMPARE(read.Selected(), u"Heron?"_s);
         QVERIFY(read.HitInView());
         QCOMPARE(read.List()->currentRow(), 2);
         QTest::keyClick(read.SearchBox(), Qt::Key_Return);
-        QCOMPARE(read.SearchBox()->text(), QStringLiteral("Search complete"));
-        read.Click(ReaderControl::cmdSelect);
-        QVERIFY(read.Window->windowTitle().startsWith(QStringLiteral("Veyrant Dialogue -- 1/3")));
-        QCOMPARE(read.Caption(ReaderControl::cmdSelect), QStringLiteral("< Index >"));
-    }
-
-    // The window, its instruction line and its buttons wear the Read window's grey.
-    void theWindowWearsItsColours() {
-        ReadWindow read;
-        read.Open(3);
-        const QImage shot = read.Window->grab().toImage();
-        for (const auto control :
-             {ReaderControl::Window, ReaderControl::txtNote, ReaderControl::cmdExitM}) {
-            const QWidget* widget = read.Window->Widget(control);
-            const QPoint inside = widget->mapTo(read.Window.get(), QPoint(3, widget->height() / 2));
-            QCOMPARE(shot.pixelColor(inside), QColor(190, 190, 196));
-        }
+        QCOMPARE(read.SearchBox()->text(), u"Search complete"_s);
+        read.Click(cmdSelect);
+        QVERIFY(read.Title().startsWith(u"Veyrant Dialogue -- 1/3"_s));
+        QCOMPARE(read.Caption(cmdSelect), u"< Index >"_s);
     }
 
     // Merge fills the window with the Section's Topics under a busy pointer; Mark Exit closes
@@ -242,17 +223,24 @@ private slots:
     void mergeFillsTheWindowAndMarkExitCloses() {
         ReadWindow read;
         read.Open(3);
+        // The window, its instruction line and its buttons wear the Read window's grey.
+        const QImage shot = read.Window->grab().toImage();
+        for (const auto control : {ReaderControl::Window, txtNote, cmdExitM}) {
+            const QWidget* widget = read.Window->Widget(control);
+            const QPoint inside = widget->mapTo(read.Window.get(), QPoint(3, widget->height() / 2));
+            QCOMPARE(shot.pixelColor(inside), QColor(190, 190, 196));
+        }
         read.Key(Qt::Key_Down);
         const QRect split = read.Spin()->geometry();
-        QTest::mouseClick(read.Window->Widget(ReaderControl::cmdPrint), Qt::LeftButton);
-        QVERIFY(read.Window->windowTitle().contains(QStringLiteral(" -- Merged Essay -- ")));
+        QTest::mouseClick(read.Window->Widget(cmdPrint), Qt::LeftButton);
+        QVERIFY(read.Title().contains(u" -- Merged Essay -- "_s));
         QVERIFY(!read.List()->isVisible());
         QVERIFY(read.Spin()->isVisible());
         QVERIFY(read.Spin()->geometry().top() < split.top());
         QVERIFY(read.Spin()->geometry().height() > split.height());
         QVERIFY(read.Spin()->toPlainText().startsWith(QString::fromStdString(
             Cp1252ToUtf8(CleanTitle(read.App.Libraries[LibraryId::Knowledge].Titles[1])))));
-        QVERIFY(!read.Window->Widget(ReaderControl::cmdPrint)->isEnabled());
+        QVERIFY(!read.Window->Widget(cmdPrint)->isEnabled());
         QVERIFY(read.Layer.Yields > 0);
         QVERIFY(!read.Layer.Busy);
         // No step takes the keys here: they scroll the long essay.
@@ -267,7 +255,7 @@ private slots:
         read.Key(Qt::Key_Home);
         QCOMPARE(bar->value(), 0);
 
-        QTest::mouseClick(read.Window->Widget(ReaderControl::cmdExitM), Qt::LeftButton);
+        QTest::mouseClick(read.Window->Widget(cmdExitM), Qt::LeftButton);
         QCOMPARE(read.App.Reading.ReaderOpen, ReaderOpenState::Closed);
         QVERIFY(!read.Layer.IsWindowVisible(WindowId::Read));
         // The Knowledge Library's line holds its mark at the Section's row.
