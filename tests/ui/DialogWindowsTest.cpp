@@ -168,10 +168,8 @@ struct ReadWindow {
         std::filesystem::create_directories(App.Folder.Exe());
         SetDisplayScale(1, App.Scale);
         LoadLibraries(App.Libraries);
-        for (auto* library :
-             {&App.Libraries[LibraryId::Information], &App.Libraries[LibraryId::Knowledge],
-              &App.Libraries[LibraryId::Advanced]}) {
-            BuildLibraryIndex(*library);
+        for (const LibraryId id : FixedLibraryIds) {
+            BuildLibraryIndex(App.Libraries[id]);
         }
     }
 
