@@ -427,8 +427,7 @@ private slots:
                                                &options,      &exported, about.get(), &reader,
                                                preview.get(), &backdrop};
         for (QWidget* window : windows) {
-            QVERIFY2(Unnamed(*window).isEmpty(),
-                     qPrintable(window->windowTitle() + ": " + Unnamed(*window).join(", ")));
+            QCOMPARE(Unnamed(*window), QStringList());
         }
         // The backdrop's hint shows only under a moving pointer; a screen reader tells it always.
         QCOMPARE(Spoken(&backdrop, QAccessible::Description), QString(Backdrop::HintText));
@@ -453,7 +452,7 @@ private slots:
         // follows the button's state, as the hover help does; the instruction line's follows its
         // words.
         QTest::mouseClick(write.Widget(MirrorControl::cmdConverse), Qt::LeftButton);
-        QVERIFY2(Unnamed(write).isEmpty(), qPrintable(Unnamed(write).join(", ")));
+        QCOMPARE(Unnamed(write), QStringList());
         QCOMPARE(Spoken(write.Widget(MirrorControl::cmdConverse), QAccessible::Description),
                  QString("Click 'Cancel' to exit Converse and reset to New Dialogue."));
         QWidget* note = write.Widget(MirrorControl::txtNote);
