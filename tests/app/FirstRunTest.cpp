@@ -1,8 +1,10 @@
 #include "app/FirstRun.h"
 
 #include "app/AppFixture.h"
+#include "app/FontCheck.h"
 #include "core/Cp1252.h"
 #include "core/ProgramError.h"
+#include "shell/DisplayScale.h"
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
@@ -17,9 +19,8 @@ TEST(FirstRun, LeavesAnInstalledFolderAloneAndSaysWhenItCannotMakeOne) {
     InstallAppFolder(fixture.Folder, fixture.Windows);
     EXPECT_EQ(fixture.ExeFile("Qdrfonts.ini"), "Garamond\r\n");
     WriteWholeFile(fixture.Temp / "blocked", "a file where a folder should be");
-    const AppFolder folder{fixture.Temp / "blocked" / "veyrant-sagrel"};
     try {
-        InstallAppFolder(folder, fixture.Windows);
+        InstallAppFolder(AppFolder{fixture.Temp / "blocked" / "veyrant-sagrel"}, fixture.Windows);
         FAIL() << "no error";
     } catch (const ProgramError& error) {
         EXPECT_EQ(error.Number(), ErrorNumber::PathNotFound);
@@ -55,48 +56,89 @@ unsigned Rights(const std::filesystem::path& path) {
 // the Dialogues: not on a fresh install, not in a folder an earlier version left open, and not in
 // a file written since.
 TEST(FirstRun, LaysDownTheFoldersWithTheFacesThisMachineHasForTheUserAlone) {
-    struct Case {
-        const char* Name;
-        unsigned FolderRights; // 0: the folder is new
-        unsigned FileRights;
-        const char* Missing;
+    // The rights of the folders and files found (0: the folder is new), and the face missing.
+    const std::tuple<unsigned, unsigned, const char*> cases[] = {
+        {0, 0, ""},
+        {0755, 0644, "Times New Roman"},
+        {0777, 0666, "Times New Roman/italic"},
+        {0700, 0600, ""},
+        {0700, 0400, ""},
     };
-    const Case cases[] = {
-        {"fresh", 0, 0, ""},
-        {"left open by an earlier version", 0755, 0644, "Times New Roman"},
-        {"open to everyone", 0777, 0666, "Times New Roman/italic"},
-        {"already private", 0700, 0600, ""},
-        {"narrower than ours", 0700, 0400, ""},
-    };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.Name);
+    for (const auto& [folderRights, fileRights, missing] : cases) {
+        SCOPED_TRACE(folderRights);
         AppFixture fixture;
-        fixture.Windows.MissingFaces.insert(c.Missing);
+        fixture.Windows.MissingFaces.insert(missing);
         const AppFolder& folder = fixture.Folder;
-        const auto saved = folder.Dlg() / "76112010.000";
-        if (c.FolderRights != 0) {
+        if (folderRights != 0) {
             for (const auto& path : {folder.Exe(), folder.Dlg(), folder.Isp()}) {
                 std::filesystem::create_directories(path);
                 WriteWholeFile(path / "76112010.000", "\r\n\r\n\tprivate");
-                ::chmod((path / "76112010.000").c_str(), c.FileRights);
-                ::chmod(path.c_str(), c.FolderRights);
+                ::chmod((path / "76112010.000").c_str(), fileRights);
+                ::chmod(path.c_str(), folderRights);
             }
-            ::chmod(folder.Root.c_str(), c.FolderRights);
+            ::chmod(folder.Root.c_str(), folderRights);
         }
         InstallAppFolder(folder, fixture.Windows);
         for (const auto& path : {folder.Root, folder.Exe(), folder.Dlg(), folder.Isp()}) {
             EXPECT_EQ(Rights(path), 0700u) << path;
         }
-        if (c.FolderRights != 0) {
-            EXPECT_EQ(Rights(saved), c.FileRights & 0600u);
+        if (folderRights != 0) {
+            EXPECT_EQ(Rights(folder.Dlg() / "76112010.000"), fileRights & 0600u);
         }
         WriteWholeFile(folder.Isp() / "76112011.000", "\tnew");
-        for (const auto& name : {"Qdrfonts.ini", "qdr41.sys", "qdr41.mtx"}) {
-            EXPECT_EQ(Rights(folder.Exe() / name), 0600u) << name;
+        for (const auto& path : {folder.Exe() / "Qdrfonts.ini", folder.Exe() / "qdr41.sys",
+                                 folder.Exe() / "qdr41.mtx", folder.Isp() / "76112011.000"}) {
+            EXPECT_EQ(Rights(path), 0600u) << path;
         }
-        EXPECT_EQ(Rights(folder.Isp() / "76112011.000"), 0600u);
-        const std::string face = *c.Missing == 0 ? "Times New Roman" : "Liberation Serif";
+        const std::string face = *missing == 0 ? "Times New Roman" : "Liberation Serif";
         EXPECT_EQ(fixture.ExeFile("Qdrfonts.ini"), face + "\r\n" + face + " Italic\r\n");
+    }
+}
+
+TEST(DisplayScale, AnOptionWithNoRowLeavesTheFactorAtZero) {
+    for (const int option : {7, -1, 4}) {
+        DisplayScale scale;
+        SetDisplayScale(option, scale);
+        EXPECT_EQ(scale.ScaleFactor, 0) << option;
+        EXPECT_EQ(scale.ButtonFontSize, 0) << option;
+    }
+}
+
+// Installed faces pass without a word; each face that cannot be selected is named, after one stop
+// box per failed step, and the program ends.
+TEST(FontCheck, EachFaceThatCannotBeSelectedIsNamedAndTheProgramEnds) {
+    AppFixture installed;
+    installed.PutExeFile("Qdrfonts.ini", "Liberation Serif\r\nLiberation Serif Italic\r\n");
+    EXPECT_TRUE(CheckFonts(installed.App));
+    EXPECT_TRUE(installed.Windows.Boxes.empty());
+    EXPECT_FALSE(installed.Windows.Ended);
+    const auto slot = [](const std::string& face, const char* file, const std::string& usual) {
+        return "Error 380 accessing your font named {" + face + "} associated with the file <" +
+               file + "> usually named {" + usual + "}.\r\n\r\n";
+    };
+    const std::string italic = slot("Garamond Italic", "timesi.ttf", "Times New Roman Italic");
+    const std::tuple<const char*, std::string, std::size_t> cases[] = {
+        {"Garamond", slot("Garamond", "times.ttf", "Times New Roman") + italic, 3},
+        {"Garamond/italic", italic, 2},
+    };
+    for (const auto& [missing, slots, boxes] : cases) {
+        AppFixture fixture;
+        fixture.PutExeFile("Qdrfonts.ini", "Garamond\r\nGaramond Italic\r\n");
+        fixture.Windows.MissingFaces.insert(missing);
+        EXPECT_FALSE(CheckFonts(fixture.App));
+        EXPECT_TRUE(fixture.Windows.Ended);
+        ASSERT_EQ(fixture.Windows.Boxes.size(), boxes);
+        const MessageBoxRequest& last = fixture.Windows.Boxes.back();
+        EXPECT_EQ(last.Title, "Fonts Not Functioning");
+        EXPECT_EQ(last.Icon, MessageIcon::Stop);
+        EXPECT_EQ(fixture.Windows.Boxes.front().Icon, MessageIcon::Stop);
+        EXPECT_EQ(last.Text, "The Veyrant Sagrel font system is not functioning, probably "
+                             "because one or more fonts have been changed since "
+                             "installation.\r\n\r\nThese required font(s) cannot be "
+                             "accessed:\r\n\r\n" +
+                                 slots +
+                                 " Details on how to resolve font problems are given in the "
+                                 "Information Library.");
     }
 }
 

@@ -1,12 +1,19 @@
 // The Utilities window passes the user on to one other window, or shows the About box; the Display
-// Size window stores the chosen scale. Every way out of either ends the program.
+// Size window stores the chosen scale; the Library Options lock the Library. Every way out of the
+// first two ends the program.
 
 #include "app/Utility.h"
 
+#include "app/LibraryUnlock.h"
+#include "app/LockOptions.h"
 #include "shell/Resize.h"
+#include "storage/LibraryLock.h"
 #include "support/FakeWindowLayer.h"
+#include "support/TempFolder.h"
 
+#include <deque>
 #include <gtest/gtest.h>
+#include <sodium.h>
 #include <string>
 #include <vector>
 
@@ -33,8 +40,9 @@ TEST(Utility, EachButtonHidesTheWindowAndLeadsOnOrEnds) {
         }
         EXPECT_EQ(layer.WindowEvents, events);
         EXPECT_EQ(exits, shown == nullptr ? 1 : 0);
-        if (press == &Utility::cmdAbout_Click) {
-            ASSERT_EQ(layer.Boxes.size(), 1u);
+        const bool about = press == &Utility::cmdAbout_Click;
+        ASSERT_EQ(layer.Boxes.size(), about ? 1u : 0u);
+        if (about) {
             EXPECT_EQ(layer.Boxes[0].Icon, MessageIcon::Information);
             EXPECT_EQ(
                 layer.Boxes[0].Text,
@@ -43,8 +51,6 @@ TEST(Utility, EachButtonHidesTheWindowAndLeadsOnOrEnds) {
                 "by the Veyrant Technology Dovrin\r\n A 'Ambrel' Application\r\n\r\nFor "
                 "Linux Desktops on X11 and Wayland\r\n\r\n\xA9 2027 Veyrant "
                 "Technology\r\nveyrant-sagrel.org");
-        } else {
-            EXPECT_TRUE(layer.Boxes.empty());
         }
     }
     FakeWindowLayer layer;
@@ -79,6 +85,89 @@ TEST(Resize, TheChosenScaleIsStoredAtOnceAndCancelPutsItBack) {
     EXPECT_NE(window.Dump().find("Option2 (x)"), std::string::npos) << window.Dump();
     EXPECT_EQ(exits, 1);
     EXPECT_EQ(layer.WindowEvents.back(), "hide Resize");
+}
+
+struct FakeKeyring : PassphraseKeeper {
+    bool Running = true;
+    std::optional<std::string> Kept;
+    bool Available() override { return Running; }
+    std::optional<std::string> Recall() override { return Kept; }
+    bool Keep(const std::string& passphrase) override {
+        Kept = passphrase;
+        return true;
+    }
+    void Forget() override { Kept.reset(); }
+};
+
+struct LockWorld {
+    TempFolder Temp{std::filesystem::temp_directory_path()};
+    AppFolder Folder{Temp.Path()};
+    FakeWindowLayer Windows;
+    FakeKeyring Keyring;
+    int Closed = 0;
+    LockOptions Window{Folder, Windows, &Keyring, [this] { ++Closed; },
+                       StretchLimits{crypto_pwhash_OPSLIMIT_MIN, crypto_pwhash_MEMLIMIT_MIN}};
+
+    void Choose(int lock, const std::string& first, const std::string& second, int keep = 0) {
+        Window.Form_Load();
+        Window.chkLock_Click(lock);
+        Window.chkKeep_Click(keep);
+        Window.txtPassphrase_Change(first);
+        Window.txtConfirm_Change(second);
+        Window.cmdOK_Click();
+    }
+};
+
+TEST(LockOptions, TheChoiceLocksChangesAndUnlocksAndTheStartAsksOnlyWithoutTheKeyring) {
+    LockWorld world;
+    world.Choose(1, "lantern", "lanterns");
+    EXPECT_FALSE(LibraryIsLocked(world.Folder));
+    EXPECT_EQ(world.Windows.Boxes.back().Text,
+              "The two passphrases are not the same. Type the passphrase again in both boxes.");
+    world.Choose(1, "lantern", "lantern", 1);
+    EXPECT_TRUE(LibraryIsLocked(world.Folder));
+    EXPECT_EQ(world.Keyring.Kept, "lantern");
+    EXPECT_EQ(world.Closed, 1);
+    world.Window.Form_Load();
+    EXPECT_EQ(world.Window.Dump(), "chkLock 1\nchkKeep 1, on\nlblPassphrase \"A new passphrase, "
+                                   "twice (leave empty to keep it):\", boxes on\n");
+
+    // With the keyring running, the passphrase typed at the start, then whether it opens.
+    using Typed = std::deque<std::optional<std::string>>;
+    const std::vector<std::string> asked = {UnlockPrompt, WrongPassphrasePrompt};
+    const std::tuple<bool, Typed, bool, std::vector<std::string>> starts[] = {
+        {true, {}, true, {}},
+        {false, {"beacon", "lantern"}, true, asked},
+        {false, {"beacon", std::nullopt}, false, asked},
+    };
+    for (auto [keyring, typed, opens, prompts] : starts) {
+        AppFolder next{world.Folder.Root};
+        world.Keyring.Running = keyring;
+        std::vector<std::string> shown;
+        EXPECT_EQ(OpenLockedLibrary(next, world.Windows, &world.Keyring,
+                                    [&](const std::string& prompt) {
+                                        shown.push_back(prompt);
+                                        auto answer = typed.front();
+                                        typed.pop_front();
+                                        return answer;
+                                    }),
+                  opens);
+        EXPECT_EQ(shown, prompts);
+        EXPECT_EQ(next.Key != nullptr, opens);
+    }
+
+    world.Keyring.Running = true;
+    world.Keyring.Forget();
+    world.Choose(1, "", "", 1);
+    EXPECT_EQ(world.Windows.Boxes.back().Text,
+              "To keep the passphrase in the keyring, type it in both boxes. The Library then "
+              "opens with the passphrase you typed.");
+    world.Choose(1, "lantern", "lantern", 1);
+    EXPECT_EQ(world.Keyring.Kept, "lantern");
+    world.Windows.Answers = {MessageAnswer::Yes};
+    world.Choose(0, "", "");
+    EXPECT_FALSE(LibraryIsLocked(world.Folder));
+    EXPECT_EQ(world.Keyring.Kept, std::nullopt);
 }
 
 } // namespace

@@ -12,6 +12,8 @@
 
 namespace veyrant {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 void WriteFile(const std::filesystem::path& path, const std::string& bytes) {
@@ -24,9 +26,8 @@ void SaveDialogue(const std::filesystem::path& library, const std::string& name,
                   int count, const std::string& inspiration) {
     std::string dialogue;
     for (int entry = first; entry < first + count; ++entry) {
-        dialogue += "\r\n\r\n\t\x93"
-                    "Entry number " +
-                    std::to_string(entry) + " of the Dialogue.\x94\r\n\tA short reply.";
+        dialogue += "\r\n\r\n\t\223Entry number " + std::to_string(entry) +
+                    " of the Dialogue.\224\r\n\tA short reply.";
     }
     WriteFile(library / "dlg" / name, dialogue);
     WriteFile(library / "isp" / name, inspiration);
@@ -38,20 +39,17 @@ QString Run(const QString& program, const QStringList& arguments,
     process.setProcessEnvironment(environment);
     process.start(program, arguments);
     if (!process.waitForFinished(60000) || process.exitCode() != 0) {
-        return QStringLiteral("failed: ") + program + QStringLiteral(" ") +
-               QString::fromUtf8(process.readAllStandardError());
+        return u"failed: "_s + program + u" "_s + QString::fromUtf8(process.readAllStandardError());
     }
     return QString::fromUtf8(process.readAllStandardOutput());
 }
 
+// The text of the PDF, or of one page of it.
 QString PdfText(const QString& pdf, int page = 0) {
-    QStringList arguments = {pdf, QStringLiteral("-")};
-    if (page > 0) {
-        arguments = QStringList{QStringLiteral("-f"), QString::number(page), QStringLiteral("-l"),
-                                QString::number(page)} +
-                    arguments;
-    }
-    return Run(QStringLiteral("pdftotext"), arguments);
+    const QString number = QString::number(page);
+    return Run(u"pdftotext"_s,
+               (page > 0 ? QStringList{"-f", number, "-l", number} : QStringList{}) +
+                   QStringList{pdf, "-"});
 }
 
 } // namespace
@@ -70,27 +68,26 @@ private slots:
         SaveDialogue(library, "76112212.000", 1, 3, "\tAn Inspiration.");
         const auto out = QString::fromStdString((folder / "out").string());
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert(QStringLiteral("XDG_DATA_HOME"), QString::fromStdString(folder.Path()));
+        environment.insert(u"XDG_DATA_HOME"_s, QString::fromStdString(folder.Path()));
         for (const char* display : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) {
             environment.remove(QString::fromLatin1(display));
         }
-        const QString said =
-            Run(QStringLiteral(VEYRANT_SAGREL),
-                {QStringLiteral("--export-library"), out, QStringLiteral("--pdf")}, environment);
-        QVERIFY2(said.endsWith(QStringLiteral("/Library.pdf\n2 Dialogues written to ") + out +
-                               QStringLiteral(".\n\nThe exported files are not encrypted.\n")),
+        const QString said = Run(QStringLiteral(VEYRANT_SAGREL),
+                                 {u"--export-library"_s, out, u"--pdf"_s}, environment);
+        QVERIFY2(said.endsWith(u"/Library.pdf\n2 Dialogues written to "_s + out +
+                               u".\n\nThe exported files are not encrypted.\n"_s),
                  qPrintable(said));
         QVERIFY(!std::filesystem::is_empty(library / "isp"));
         QVERIFY(!std::filesystem::exists(library / "exe"));
 
-        const QString text = PdfText(out + QStringLiteral("/Library.pdf"));
+        const QString text = PdfText(out + u"/Library.pdf"_s);
         const QStringList pages = text.split(QChar('\f'));
         // One page for the first Dialogue, four for the second, and the empty end.
         QCOMPARE(pages.size(), 6);
-        QVERIFY(pages[1].contains(QStringLiteral("Inspiration")));
+        QVERIFY(pages[1].contains(u"Inspiration"_s));
         qsizetype at = 0;
         for (int entry : {1, 2, 3, 100, 101, 139}) {
-            const QString quoted = QStringLiteral("“Entry number %1 of the Dialogue.”").arg(entry);
+            const QString quoted = u"“Entry number %1 of the Dialogue.”"_s.arg(entry);
             QCOMPARE(text.count(quoted), 1);
             const qsizetype found = text.indexOf(quoted);
             QVERIFY2(found > at, qPrintable(quoted));
@@ -107,27 +104,26 @@ private slots:
         const auto pdf = QString::fromStdString((folder / "dialogue.pdf").string());
         QCOMPARE(Run(QStringLiteral(PRINT_DIALOGUE),
                      {QString::fromStdString((folder / "dlg" / name).string()), pdf}),
-                 QStringLiteral("3 pages\n"));
+                 u"3 pages\n"_s);
         // Each page: what it shows, and the entries that start and end it.
-        const std::tuple<int, QString, int, int> pages[] = {
+        const std::tuple<int, QStringList, int, int> pages[] = {
             {1,
-             QString::fromUtf8("\u201cThe Power of your Inspiration Is in the Worth that You Give "
-                               "It\u201d"),
-             1, 9},
-            {2, QStringLiteral("Page 2"), 10, 20},
-            {3, QStringLiteral("Page 3"), 21, 30},
+             {u"\u201cThe Power of your Inspiration Is in the Worth that You Give It\u201d"_s,
+              "Veyrant Dialogue", "Sunday, 12:00 PM", "November 22, 2026",
+              "The Inspiration of the day."},
+             1,
+             9},
+            {2, {"Page 2"}, 10, 20},
+            {3, {"Page 3"}, 21, 30},
         };
         for (const auto& [number, shows, first, last] : pages) {
             const QString text = PdfText(pdf, number);
-            QVERIFY2(text.contains(shows), qPrintable(text));
-            QVERIFY(text.contains(QStringLiteral("Entry number %1 of").arg(first)));
-            QVERIFY(text.contains(QStringLiteral("Entry number %1 of the Dialogue.").arg(last)));
-            QVERIFY(!text.contains(QStringLiteral("Entry number %1 of").arg(last + 1)));
-        }
-        const QString first = PdfText(pdf, 1);
-        for (const char* head : {"Veyrant Dialogue", "Sunday, 12:00 PM", "November 22, 2026",
-                                 "The Inspiration of the day."}) {
-            QVERIFY2(first.contains(QString::fromUtf8(head)), head);
+            for (const QString& shown : shows) {
+                QVERIFY2(text.contains(shown), qPrintable(shown + u" not in "_s + text));
+            }
+            QVERIFY(text.contains(u"Entry number %1 of"_s.arg(first)));
+            QVERIFY(text.contains(u"Entry number %1 of the Dialogue."_s.arg(last)));
+            QVERIFY(!text.contains(u"Entry number %1 of"_s.arg(last + 1)));
         }
     }
 };

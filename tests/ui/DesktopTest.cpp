@@ -13,6 +13,8 @@
 
 using namespace veyrant;
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // The program started as the user starts it, the Write window up and the banner gone.
@@ -35,12 +37,10 @@ struct Desktop : StartedProgram {
 // Where a window stands in the window manager's stack, counted from the bottom.
 qsizetype StackPlace(const QWidget* window) {
     QProcess xprop;
-    xprop.start(QStringLiteral("xprop"),
-                {QStringLiteral("-root"), QStringLiteral("_NET_CLIENT_LIST_STACKING")});
+    xprop.start(u"xprop"_s, {u"-root"_s, u"_NET_CLIENT_LIST_STACKING"_s});
     xprop.waitForFinished();
     const QString ids = QString::fromLatin1(xprop.readAllStandardOutput()).section('#', 1);
-    return ids.simplified().remove(' ').split(',').indexOf(
-        QStringLiteral("0x%1").arg(window->winId(), 0, 16));
+    return ids.simplified().remove(' ').split(',').indexOf(u"0x%1"_s.arg(window->winId(), 0, 16));
 }
 
 } // namespace
@@ -119,16 +119,15 @@ private slots:
             return !program.Read->isMinimized() && program.Read->isActiveWindow();
         };
         for (int click = 0; click < 10; ++click) {
-            QProcess::execute(QStringLiteral("xdotool"), {QStringLiteral("windowactivate"),
-                                                          QString::number(program.Read->winId())});
+            QProcess::execute(u"xdotool"_s,
+                              {u"windowactivate"_s, QString::number(program.Read->winId())});
             if (QTest::qWaitFor(inFront, 2000)) {
                 break;
             }
         }
         QVERIFY(inFront());
         QTest::keyClick(program.Read, Qt::Key_Down);
-        QVERIFY(program.Read->windowTitle().startsWith(
-            QStringLiteral("Veyrant Knowledge Library -- 1/")));
+        QVERIFY(program.Read->windowTitle().startsWith(u"Veyrant Knowledge Library -- 1/"_s));
     }
 };
 

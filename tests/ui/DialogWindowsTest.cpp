@@ -1,30 +1,57 @@
-// The small windows as the user meets them (banner, Utilities, Display Size, Library Options) and
-// the window layer under them: boxes, faces, screen, windows and timers.
+// The windows besides the Write window as the user meets them: the Read window stepping through
+// each library by keys, the banner, Utilities, Display Size and Library Options, and the window
+// layer under them. Every window as a screen reader and a keyboard user meet it: each control
+// says what it is, and Tab walks the dialogs' commands in reading order.
 
+#include "WriteWindowFixture.h"
+#include "app/Application.h"
+#include "app/Utility.h"
+#include "core/Cp1252.h"
+#include "core/Random.h"
 #include "core/WholeFile.h"
+#include "reader/FixedLibrary.h"
+#include "shell/DisplayScale.h"
+#include "shell/Resize.h"
 #include "storage/LibraryFileName.h"
+#include "storage/Options.h"
 #include "support/FakeClock.h"
 #include "support/FakeWindowLayer.h"
 #include "support/SavedDialogue.h"
 #include "support/TempFolder.h"
+#include "ui/BackWindow.h"
 #include "ui/BannerWindow.h"
+#include "ui/ExportEditorWindow.h"
 #include "ui/OptionsWindow.h"
+#include "ui/PrintFlow.h"
 #include "ui/QtWindowLayer.h"
+#include "ui/ReaderWindow.h"
 #include "ui/ResizeWindow.h"
 #include "ui/UtilityWindow.h"
 
 #include <QAbstractButton>
+#include <QAccessible>
 #include <QCheckBox>
+#include <QComboBox>
 #include <QGuiApplication>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QMessageBox>
+#include <QPlainTextEdit>
+#include <QPrintPreviewDialog>
+#include <QPrinter>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScreen>
+#include <QScrollBar>
 #include <QtTest>
+#include <filesystem>
+#include <memory>
 
 namespace veyrant {
+
+using namespace Qt::StringLiterals;
+using enum ReaderControl;
 
 namespace {
 
@@ -78,6 +105,119 @@ struct LibraryOptions {
     int Exits = 0;
     Options Logic{Library, UserSettings, Windows, [this] { ++Exits; }, [] {}};
     OptionsWindow Window{Logic};
+};
+
+// Every window of the program over one fresh folder, the Write window shown and started.
+struct Program : WriteWindow {
+    Utility Utilities{Layer, "4.1.26.11.22", "2026", [] {}};
+    Resize DisplaySize{App.UserSettings, App.UserPreferences, Layer, [] {}};
+    Options LibraryOptions{Library, App.UserSettings, Layer, [] {}, [] {}};
+};
+
+QString Spoken(QWidget* widget, QAccessible::Text text) {
+    QAccessibleInterface* face = QAccessible::queryAccessibleInterface(widget);
+    return face == nullptr ? QString() : face->text(text);
+}
+
+bool IsControl(const QWidget* widget) {
+    return qobject_cast<const QAbstractButton*>(widget) != nullptr ||
+           qobject_cast<const QPlainTextEdit*>(widget) != nullptr ||
+           qobject_cast<const QLineEdit*>(widget) != nullptr ||
+           qobject_cast<const QComboBox*>(widget) != nullptr;
+}
+
+// The controls of a window that a screen reader would give no name.
+QStringList Unnamed(QWidget& window) {
+    QStringList unnamed;
+    if (Spoken(&window, QAccessible::Name).isEmpty()) {
+        unnamed << window.objectName();
+    }
+    for (QWidget* widget : window.findChildren<QWidget*>()) {
+        if (IsControl(widget) && Spoken(widget, QAccessible::Name).trimmed().isEmpty()) {
+            unnamed << u"%1 (%2)"_s.arg(widget->objectName(), widget->metaObject()->className());
+        }
+    }
+    return unnamed;
+}
+
+// The controls that the Tab key visits from the one in focus, by name, once round.
+QStringList TabOrder() {
+    QStringList order;
+    for (int press = 0; press < 20; ++press) {
+        const QString name = QApplication::focusWidget()->objectName();
+        if (order.contains(name)) {
+            break;
+        }
+        order << name;
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    }
+    return order;
+}
+
+// Forty pairs, so that the hit at the end is found far below the top of the text.
+std::string LongDialogue() {
+    std::string text;
+    for (int pair = 0; pair < 40; ++pair) {
+        text += "\r\n\r\n\t\x93Where is it?\x94\r\n\tIn the reeds.";
+    }
+    return text + "\r\n\r\n\t\223And the Heron?\224";
+}
+
+struct ReadWindow {
+    ReadWindow() : App(AppFolder{Temp / "app"}, Temp / "program", Clock, Draws, Layer) {
+        std::filesystem::create_directories(App.Folder.Exe());
+        SetDisplayScale(1, App.Scale);
+        LoadLibraries(App.Libraries);
+        for (const LibraryId id : FixedLibraryIds) {
+            BuildLibraryIndex(App.Libraries[id]);
+        }
+    }
+
+    void Open(int library) {
+        App.Links.BeginOpening();
+        App.Links.OpenLibrary(static_cast<LibraryId>(library));
+        Window = std::make_unique<ReaderWindow>(App, *App.Read);
+        Window->show();
+        Window->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(Window.get()));
+        Window->Render();
+    }
+    void Key(Qt::Key key) { QTest::keyClick(Window.get(), key); }
+    QString Title() const { return Window->windowTitle(); }
+    QString Selected() const { return Spin()->textCursor().selectedText(); }
+    QString Caption(ReaderControl control) const {
+        return static_cast<QPushButton*>(Window->Widget(control))->text();
+    }
+    QListWidget* List() const { return static_cast<QListWidget*>(Window->Widget(List1)); }
+    QPlainTextEdit* Spin() const { return static_cast<QPlainTextEdit*>(Window->Widget(txtSpin)); }
+    QLineEdit* SearchBox() const { return static_cast<QLineEdit*>(Window->Widget(txtSearch)); }
+    void Click(ReaderControl button) { QTest::mouseClick(Window->Widget(button), Qt::LeftButton); }
+    // Types into the search box as the user does, and presses Enter there.
+    void SearchFor(const QString& text) {
+        Click(cmdSearch);
+        QVERIFY(SearchBox()->isEnabled());
+        QVERIFY(SearchBox()->hasFocus());
+        QTest::keyClicks(SearchBox(), text);
+        QCOMPARE(Caption(cmdSearch), u"< Go >"_s);
+        QTest::keyClick(SearchBox(), Qt::Key_Return);
+    }
+    // The hit is the text selected in the text box, and it stands within the box's view.
+    bool HitInView() const {
+        const QRect caret = Spin()->cursorRect();
+        return Spin()->textCursor().hasSelection() &&
+               Spin()->viewport()->rect().contains(caret.center());
+    }
+    void SaveDialogue(const DateTime& when, const std::string& inspiration,
+                      const std::string& dialogue) {
+        testing::PutDialogue(App.Folder, when, inspiration, dialogue, &Clock);
+    }
+
+    testing::TempFolder Temp;
+    testing::FakeWindowLayer Layer;
+    testing::FakeClock Clock;
+    Random Draws;
+    Application App;
+    std::unique_ptr<ReaderWindow> Window;
 };
 
 } // namespace
@@ -190,7 +330,7 @@ private slots:
         // The entry quotes are Windows-1252 147 and 148; paragraphs are parted by CR LF.
         const auto box = BuildMessageBox({"Change Font Size", "\x93Why?\x94\r\n\r\nSee \xe9t\xe9.",
                                           MessageIcon::Question, MessageButtons::YesNoCancel, 2});
-        QCOMPARE(box->windowTitle(), QStringLiteral("Change Font Size"));
+        QCOMPARE(box->windowTitle(), u"Change Font Size"_s);
         QCOMPARE(box->text(), QString::fromUtf8("\u201cWhy?\u201d\n\nSee \u00e9t\u00e9."));
         QCOMPARE(box->icon(), QMessageBox::Question);
         QCOMPARE(box->standardButtons(), QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
@@ -254,6 +394,251 @@ private slots:
         QTRY_COMPARE(fired, 1);
         QTest::qWait(50);
         QCOMPARE(fired, 1);
+    }
+    void everyControlOfEveryWindowHasANameAndTabReadsInOrder() {
+        Program program;
+        MirrorWindow& write = *program.Window;
+        BannerWindow banner(program.Layer);
+        banner.show();
+        UtilityWindow utilities(program.Utilities, 1.0);
+        utilities.show();
+        ResizeWindow displaySize(program.DisplaySize, 1.0);
+        displaySize.show();
+        OptionsWindow options(program.LibraryOptions);
+        options.show();
+        SaveFolder folders;
+        ExportEditorWindow exported(program.Layer, folders, program.App.Spelling,
+                                    u"Dialogue text"_s, u"Dialogue.txt"_s);
+        const auto about = BuildMessageBox(
+            {"About the Veyrant Sagrel Program", AboutText("4.1.26.11.22", "2026")});
+        QPrinter printer;
+        const auto preview = BuildPrintPreview(printer, &write);
+        program.App.Back.Load();
+        BackWindow backdrop(program.App.Back);
+
+        // The Read window over the Dialogue Library, which needs no fixed library loaded.
+        program.App.Links.BeginOpening();
+        program.App.Links.OpenLibrary(LibraryId::Dialogue);
+        ReaderWindow reader(program.App, *program.App.Read);
+        reader.show();
+        reader.Render();
+
+        const std::vector<QWidget*> windows = {&write,        &banner,   &utilities,  &displaySize,
+                                               &options,      &exported, about.get(), &reader,
+                                               preview.get(), &backdrop};
+        for (QWidget* window : windows) {
+            QCOMPARE(Unnamed(*window), QStringList());
+        }
+        // The backdrop's hint shows only under a moving pointer; a screen reader tells it always.
+        QCOMPARE(Spoken(&backdrop, QAccessible::Description), QString(Backdrop::HintText));
+        // The hover help is spoken; a screen reader tells the key that presses a button, as the
+        // underlined letter shows it.
+        const std::tuple<MirrorControl, QString, QString> spoken[] = {
+            {MirrorControl::txtMirror, "Entry",
+             "Type a question or a statement, then press 'Enter'."},
+            {MirrorControl::cmdHelp, "Help",
+             "Open the Information Library for instructions and information on the program. "
+             "Right-click to open the Utilities window."},
+        };
+        for (const auto& [control, name, description] : spoken) {
+            QCOMPARE(Spoken(write.Widget(control), QAccessible::Name), name);
+            QCOMPARE(Spoken(write.Widget(control), QAccessible::Description), description);
+        }
+        QCOMPARE(QAccessible::queryAccessibleInterface(write.Widget(MirrorControl::cmdHelp))
+                     ->actionInterface()
+                     ->keyBindingsForAction(QAccessibleActionInterface::pressAction()),
+                 QStringList{"Alt+H"});
+        // The Write window's controls in the state of a Dialogue under way. The description
+        // follows the button's state, as the hover help does; the instruction line's follows its
+        // words.
+        QTest::mouseClick(write.Widget(MirrorControl::cmdConverse), Qt::LeftButton);
+        QCOMPARE(Unnamed(write), QStringList());
+        QCOMPARE(Spoken(write.Widget(MirrorControl::cmdConverse), QAccessible::Description),
+                 QString("Click 'Cancel' to exit Converse and reset to New Dialogue."));
+        QWidget* note = write.Widget(MirrorControl::txtNote);
+        QCOMPARE(Spoken(note, QAccessible::Name), QString("Instruction"));
+        QCOMPARE(Spoken(note, QAccessible::Description),
+                 QString("Type your question or statement. Click 'Rewrite' to erase the text. "
+                         "Press 'Enter' for the Sagrel response."));
+
+        // Tab walks the dialogs' commands in reading order.
+        struct Case {
+            QWidget* Window;
+            QStringList Order;
+        };
+        const std::vector<Case> cases = {
+            {&utilities, {"cmdOptions", "cmdResize", "cmdExport", "cmdAbout"}},
+            {&displaySize, {"Option1", "chkSpelling", "cmdOK", "cmdCancel"}},
+            // An empty Library has nothing to clean, and its button is passed over.
+            {&options, {"txtSetSave", "txtSetDays", "Check1", "cmdOK", "cmdCancel"}},
+        };
+        for (const Case& c : cases) {
+            QApplication::setActiveWindow(c.Window);
+            QVERIFY(QTest::qWaitForWindowActive(c.Window));
+            // The round is read from the first control on, wherever the focus began.
+            QStringList order = TabOrder();
+            const auto first = order.indexOf(c.Order.front());
+            QVERIFY2(first >= 0, qPrintable(order.join(", ")));
+            order = order.mid(first) + order.first(first);
+            QCOMPARE(order, c.Order);
+        }
+    }
+    // Index-1, a Section, its first Topic split and expanded, and back to Index-1 by Esc.
+    void fixedLibrariesStepWithKeys_data() {
+        QTest::addColumn<int>("library");
+        QTest::addColumn<QString>("name");
+        QTest::newRow("Information") << 2 << u"Veyrant Information Library"_s;
+        QTest::newRow("Knowledge") << 3 << u"Veyrant Knowledge Library"_s;
+        QTest::newRow("Advanced") << 4 << u"Veyrant Advanced Knowledge Library"_s;
+    }
+    void fixedLibrariesStepWithKeys() {
+        QFETCH(int, library);
+        QFETCH(QString, name);
+        ReadWindow read;
+        read.Open(library);
+        const auto& lib = read.App.Libraries[static_cast<LibraryId>(library)];
+        QCOMPARE(read.Title(), name);
+        QCOMPARE(read.List()->count(), lib.LastSection + 1);
+        QCOMPARE(read.Caption(cmdNext), u"First"_s);
+
+        read.Key(Qt::Key_Down);
+        QVERIFY(read.Title().startsWith(name + u" -- 1/"_s));
+        QCOMPARE(read.List()->count(), lib.LastRow + 1);
+        QCOMPARE(read.List()->currentRow(), 0);
+        QVERIFY(read.List()->isVisible());
+        read.Key(Qt::Key_Down);
+        QVERIFY(read.Title().startsWith(name + u" -- 2/"_s));
+        QVERIFY(read.List()->isVisible());
+        read.Key(Qt::Key_Space);
+        QVERIFY(!read.List()->isVisible());
+        QVERIFY(read.Spin()->toPlainText().startsWith(
+            QString::fromStdString(Cp1252ToUtf8(CleanTitle(lib.Titles[1])))));
+        read.Key(Qt::Key_Space);
+        read.Key(Qt::Key_Escape);
+        QCOMPARE(read.Caption(cmdSelect), u"< Index 1 >"_s);
+        QCOMPARE(read.List()->count(), lib.LastSection + 1);
+        read.Key(Qt::Key_Return);
+        QCOMPARE(read.Caption(cmdSelect), u"< Index 2 >"_s);
+    }
+
+    // A search of the Knowledge Library typed into the real box: the hit is selected in the
+    // text and scrolled into view, Enter steps on, and a word not there ends in "No text found".
+    void searchesAFixedLibrary() {
+        ReadWindow read;
+        read.Open(3);
+        read.SearchFor(u"wisdom"_s);
+        QCOMPARE(read.Caption(cmdSearch), u"< Next >"_s);
+        QCOMPARE(read.Selected().toLower(), u"wisdom"_s);
+        QVERIFY(read.HitInView());
+        QVERIFY(read.Title().startsWith(u"Veyrant Knowledge Library -- "_s));
+        QVERIFY(read.SearchBox()->hasFocus());
+        const int first = read.Spin()->textCursor().selectionStart();
+        const QString firstTitle = read.Title();
+        QTest::keyClick(read.SearchBox(), Qt::Key_Return);
+        QVERIFY(read.Title() != firstTitle || read.Spin()->textCursor().selectionStart() > first);
+        QCOMPARE(read.Selected().toLower(), u"wisdom"_s);
+        QVERIFY(read.HitInView());
+
+        // The window toggle keeps the hit selected in the expanded text.
+        read.Click(cmdWindow);
+        QVERIFY(!read.List()->isVisible());
+        QCOMPARE(read.Selected().toLower(), u"wisdom"_s);
+        QVERIFY(read.HitInView());
+
+        // A click on the box starts a new search.
+        QTest::mouseClick(read.SearchBox(), Qt::LeftButton);
+        QCOMPARE(read.Caption(cmdSearch), u"Enter >>"_s);
+        QCOMPARE(read.SearchBox()->text(), QString());
+        QCOMPARE(read.Title(), u"Veyrant Knowledge Library -- Search Text"_s);
+        QTest::keyClicks(read.SearchBox(), u"xylophone zebra"_s);
+        QTest::keyClick(read.SearchBox(), Qt::Key_Enter);
+        QCOMPARE(read.SearchBox()->text(), u"No text found"_s);
+        QCOMPARE(read.Caption(cmdSearch), u"New"_s);
+        read.Key(Qt::Key_Escape);
+        QCOMPARE(read.Caption(cmdSearch), u"Search"_s);
+        QVERIFY(!read.SearchBox()->isEnabled());
+    }
+
+    // The Dialogue Library steps latest first, and a search of all Dialogues opens the one it
+    // finds, latest to earliest, with the hit selected.
+    void dialogueLibraryStepsLatestFirstAndIsSearched() {
+        ReadWindow read;
+        read.Open(1);
+        QCOMPARE(read.Title(), u"Veyrant Dialogue Library -- No Dialogues Saved"_s);
+        QVERIFY(!read.Window->Widget(cmdNext)->isEnabled());
+        read.App.Links.CloseLibrary();
+        read.SaveDialogue({2026, 11, 12, 9, 0, 0}, "\tA heron by the water.", LongDialogue());
+        read.SaveDialogue({2026, 11, 18, 9, 0, 0}, "\tA path.", "\r\n\r\n\t\x93Why?\x94\r\n\tOn.");
+        read.SaveDialogue({2026, 11, 21, 20, 15, 0}, "\tStones.",
+                          "\r\n\r\n\t\x93No.\x94\r\n\tYes.");
+        read.Open(1);
+        QCOMPARE(read.List()->count(), 3);
+        read.Key(Qt::Key_PageDown);
+        QCOMPARE(read.Title(),
+                 QStringLiteral("Veyrant Dialogue -- 3/3 -- Saturday, 8:15 pm, November 21, 2026 "
+                                "-- 1/21 Days Old/Max"));
+        for (const char* shown : {"Veyrant Dialogue -- 2/3", "Veyrant Dialogue -- 1/3"}) {
+            read.Key(Qt::Key_PageDown);
+            QVERIFY(read.Title().startsWith(QString::fromLatin1(shown)));
+        }
+        QVERIFY(!read.Window->Widget(cmdNext)->isEnabled());
+        read.App.Links.CloseLibrary();
+        read.Open(1);
+        read.SearchFor(u"heron?"_s);
+        QVERIFY(read.Title().startsWith(u"Veyrant Dialogue -- 1/3"_s));
+        QCOMPARE(read.Selected(), u"Heron?"_s);
+        QVERIFY(read.HitInView());
+        QCOMPARE(read.List()->currentRow(), 2);
+        QTest::keyClick(read.SearchBox(), Qt::Key_Return);
+        QCOMPARE(read.SearchBox()->text(), u"Search complete"_s);
+        read.Click(cmdSelect);
+        QVERIFY(read.Title().startsWith(u"Veyrant Dialogue -- 1/3"_s));
+        QCOMPARE(read.Caption(cmdSelect), u"< Index >"_s);
+    }
+
+    // Merge fills the window with the Section's Topics under a busy pointer; Mark Exit closes
+    // the library with its place kept.
+    void mergeFillsTheWindowAndMarkExitCloses() {
+        ReadWindow read;
+        read.Open(3);
+        // The window, its instruction line and its buttons wear the Read window's grey.
+        const QImage shot = read.Window->grab().toImage();
+        for (const auto control : {ReaderControl::Window, txtNote, cmdExitM}) {
+            const QWidget* widget = read.Window->Widget(control);
+            const QPoint inside = widget->mapTo(read.Window.get(), QPoint(3, widget->height() / 2));
+            QCOMPARE(shot.pixelColor(inside), QColor(190, 190, 196));
+        }
+        read.Key(Qt::Key_Down);
+        const QRect split = read.Spin()->geometry();
+        QTest::mouseClick(read.Window->Widget(cmdPrint), Qt::LeftButton);
+        QVERIFY(read.Title().contains(u" -- Merged Essay -- "_s));
+        QVERIFY(!read.List()->isVisible());
+        QVERIFY(read.Spin()->isVisible());
+        QVERIFY(read.Spin()->geometry().top() < split.top());
+        QVERIFY(read.Spin()->geometry().height() > split.height());
+        QVERIFY(read.Spin()->toPlainText().startsWith(QString::fromStdString(
+            Cp1252ToUtf8(CleanTitle(read.App.Libraries[LibraryId::Knowledge].Titles[1])))));
+        QVERIFY(!read.Window->Widget(cmdPrint)->isEnabled());
+        QVERIFY(read.Layer.Yields > 0);
+        QVERIFY(!read.Layer.Busy);
+        // No step takes the keys here: they scroll the long essay.
+        QScrollBar* bar = read.Spin()->verticalScrollBar();
+        for (const auto key : {Qt::Key_PageDown, Qt::Key_Down}) {
+            const int before = bar->value();
+            read.Key(key);
+            QVERIFY(bar->value() > before);
+        }
+        read.Key(Qt::Key_End);
+        QCOMPARE(bar->value(), bar->maximum());
+        read.Key(Qt::Key_Home);
+        QCOMPARE(bar->value(), 0);
+
+        QTest::mouseClick(read.Window->Widget(cmdExitM), Qt::LeftButton);
+        QCOMPARE(read.App.Reading.ReaderOpen, ReaderOpenState::Closed);
+        QVERIFY(!read.Layer.IsWindowVisible(WindowId::Read));
+        // The Knowledge Library's line holds its mark at the Section's row.
+        const std::string marks = ReadWholeFile(read.App.Folder.Exe() / "Read.ini");
+        QCOMPARE(marks.substr(16, 8), std::string(" 1  0 \r\n"));
     }
 };
 

@@ -1,14 +1,27 @@
+// The application around every window: whatever a handler throws is reported, and a second start
+// of the program calls the first forward instead of opening the same folder twice.
+
 #include "ui/GuardedApplication.h"
 
+#include "core/FileCalls.h"
 #include "core/ProgramError.h"
+#include "shell/AppFolder.h"
+#include "storage/DialogueLibrary.h"
+#include "storage/WorkBuffers.h"
+#include "support/FakeClock.h"
+#include "support/FakeWindowLayer.h"
+#include "support/TempFolder.h"
+#include "ui/SingleCopy.h"
 
 #include <QEvent>
+#include <QSysInfo>
 #include <QTest>
-#include <filesystem>
+#include <fstream>
 #include <functional>
 #include <new>
 #include <stdexcept>
 #include <system_error>
+#include <thread>
 #include <vector>
 
 namespace veyrant {
@@ -39,11 +52,7 @@ public:
 private slots:
     // Whatever a handler throws reaches the system error box with a number, never a silent exit.
     void AnyExceptionOfAHandlerIsReportedWithItsNumber() {
-        struct Case {
-            std::function<void()> Fail;
-            int Number;
-        };
-        const std::vector<Case> cases = {
+        const std::vector<std::pair<std::function<void()>, int>> cases = {
             {[] {
                  throw std::filesystem::filesystem_error(
                      "directory iterator", std::make_error_code(std::errc::permission_denied));
@@ -53,13 +62,54 @@ private slots:
             {[] { throw std::runtime_error("anything"); }, ErrorNumber::ProgramState},
             {[] { throw ProgramError(ErrorNumber::DiskFull); }, ErrorNumber::DiskFull},
         };
-        for (const auto& c : cases) {
+        for (const auto& [fail, number] : cases) {
             reported_.clear();
-            FailingHandler handler(c.Fail);
+            FailingHandler handler(fail);
             QEvent event(QEvent::User);
             QCoreApplication::sendEvent(&handler, &event);
-            QCOMPARE(reported_, std::vector<int>{c.Number});
+            QCOMPARE(reported_, std::vector<int>{number});
         }
+    }
+
+    // At every file call of a save a second start finds the folder held, and the first copy
+    // comes forward when asked.
+    void ASecondStartDuringASaveCallsTheFirstForward() {
+        testing::TempFolder temp;
+        SingleCopy first(temp.Path());
+        QVERIFY(first.First());
+        int called = 0;
+        first.OnCalled = [&] { ++called; };
+        const AppFolder folder{temp.Path()};
+        Settings settings;
+        testing::FakeClock clock;
+        testing::FakeWindowLayer windows;
+        WorkBuffers buffers(folder, settings, clock, windows);
+        DialogueLibrary library(folder, settings, clock, windows);
+        int steps = 0;
+        int held = 0;
+        SetFileFault([&](FileCall, const std::filesystem::path&) {
+            ++steps;
+            held += SingleCopy(temp.Path()).First() ? 0 : 1;
+            return 0;
+        });
+        QVERIFY(buffers.WriteWorkBuffers({"\tA river.", "\r\n\r\n\t\x93Why?\x94", "", 1}));
+        QVERIFY(library.AddToLibrary("\tA river.", "\r\n\r\n\t\x93Why?\x94"));
+        SetFileFault({});
+        QVERIFY(steps > 0);
+        QCOMPARE(held, steps);
+        bool reached = false;
+        std::thread second([&] { reached = SingleCopy(temp.Path()).CallFirstForward(); });
+        QTRY_COMPARE(called, 1);
+        second.join();
+        QVERIFY(reached);
+    }
+
+    // A lock whose copy is no longer running is taken over.
+    void ALockACrashedCopyLeftIsTakenOver() {
+        testing::TempFolder temp;
+        std::ofstream(temp / ".lock") << "2147483646\nveyrant-sagrel\n"
+                                      << QSysInfo::machineHostName().toStdString() << "\n";
+        QVERIFY(SingleCopy(temp.Path()).First());
     }
 
 private:

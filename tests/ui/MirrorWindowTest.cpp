@@ -1,30 +1,83 @@
-// The Write window on a real (offscreen) screen: keys typed into its widgets go through the
-// rules and show as the user would see them.
+// The Write window and the export editor on a real (offscreen) screen: keys typed into their
+// widgets go through the rules and show as the user would see them.
 
 #include "ui/MirrorWindow.h"
 
-#include "SpellingMarks.h"
 #include "WriteWindowFixture.h"
+#include "core/WholeFile.h"
 #include "dialogue/Mirror.h"
 #include "shell/DisplayScale.h"
 #include "shell/MirrorLayout.h"
+#include "ui/ExportEditorWindow.h"
 
 #include <QApplication>
 #include <QClipboard>
 #include <QInputMethodEvent>
 #include <QLabel>
+#include <QMenu>
+#include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QTextBlock>
+#include <QTextLayout>
+#include <QTimer>
 #include <QtTest>
 #include <cmath>
 #include <functional>
 #include <memory>
 
 using namespace veyrant;
+using enum MirrorControl;
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString Prefix = QStringLiteral("\t\u201C");
+const QString Prefix = u"\t\u201C"_s;
+
+// The words of a box that carry the spelling mark, as the user sees them underlined.
+QStringList MarkedWords(const QPlainTextEdit& box) {
+    QStringList words;
+    for (QTextBlock block = box.document()->begin(); block.isValid(); block = block.next()) {
+        for (const QTextLayout::FormatRange& range : block.layout()->formats()) {
+            if (range.format.underlineStyle() == QTextCharFormat::SpellCheckUnderline) {
+                words << block.text().mid(range.start, range.length);
+            }
+        }
+    }
+    return words;
+}
+
+std::size_t FilesIn(const std::filesystem::path& folder) {
+    return static_cast<std::size_t>(std::distance(std::filesystem::directory_iterator(folder),
+                                                  std::filesystem::directory_iterator()));
+}
+
+// The machine's dictionary for a language, whatever the machine's own locale.
+void UseLanguage(const char* language) {
+    qunsetenv("LC_ALL");
+    qunsetenv("LC_MESSAGES");
+    qputenv("LANG", language);
+}
+
+void OpenFor(SpellChecker& spelling, const char* language, const std::filesystem::path& words) {
+    UseLanguage(language);
+    spelling.Open(OpenInstalledDictionary(SystemDictionaryFolder), words);
+}
+
+QPoint PointOf(QPlainTextEdit& editor, const QString& word) {
+    QTextCursor at(editor.document());
+    at.setPosition(static_cast<int>(editor.toPlainText().indexOf(word)) + 1);
+    return editor.cursorRect(at).center();
+}
+
+QStringList Texts(const QMenu& menu) {
+    QStringList texts;
+    for (const QAction* action : menu.actions()) {
+        texts << action->text();
+    }
+    return texts;
+}
 
 // The Alt keys that the buttons on show answer to, one for each button.
 QStringList AccessKeysOnShow(const MirrorWindow& window) {
@@ -42,6 +95,8 @@ QStringList AccessKeysOnShow(const MirrorWindow& window) {
 class MirrorWindowTest : public QObject {
     Q_OBJECT
 
+    SaveFolder folders;
+
 private slots:
     void WindowAndBoxesGrowWithTheDisplayOption() {
         const auto pixels = [](double twips) { return static_cast<int>(std::lround(twips / 15)); };
@@ -52,12 +107,12 @@ private slots:
             QCOMPARE(write.Window->width(), pixels((design.WindowWidth - 90) * factor));
             QCOMPARE(write.Window->height(), pixels((design.WindowHeight - 405) * factor));
             // The New Dialogue state shows the Opening arrangement.
-            QCOMPARE(write.Box(MirrorControl::txtResponse)->y(), pixels(960 * factor));
-            QCOMPARE(write.Box(MirrorControl::txtSaved)->y(), pixels(2760 * factor));
-            const QFont saved = write.Box(MirrorControl::txtSaved)->font();
+            QCOMPARE(write.Box(txtResponse)->y(), pixels(960 * factor));
+            QCOMPARE(write.Box(txtSaved)->y(), pixels(2760 * factor));
+            const QFont saved = write.Box(txtSaved)->font();
             QCOMPARE(saved.pointSizeF(), write.App.Scale.TextSize[1]);
             QCOMPARE(saved.bold(), option < 2);
-            QCOMPARE(write.Window->Widget(MirrorControl::cmdClear)->font().pointSizeF(),
+            QCOMPARE(write.Window->Widget(cmdClear)->font().pointSizeF(),
                      write.App.Scale.ButtonFontSize);
         }
     }
@@ -66,100 +121,84 @@ private slots:
     // full view of the Dialogue over the boxes and back.
     void TypedEntryIsAnsweredOnScreenAndShownWhole() {
         WriteWindow write;
-        write.Click(MirrorControl::cmdConverse);
-        auto* entry = write.Box(MirrorControl::txtMirror);
+        write.Click(cmdConverse);
+        auto* entry = write.Box(txtMirror);
         QVERIFY(entry->isVisible());
         QCOMPARE(entry->toPlainText(), Prefix);
-        auto* mark = static_cast<QLabel*>(write.Window->Widget(MirrorControl::lblRem));
-        QCOMPARE(mark->text(), QStringLiteral("X"));
-        QWidget* cancel = write.Window->Widget(MirrorControl::cmdNew);
+        auto* mark = static_cast<QLabel*>(write.Window->Widget(lblRem));
+        QCOMPARE(mark->text(), u"X"_s);
+        QWidget* cancel = write.Window->Widget(cmdNew);
         QTest::mouseMove(cancel, QPoint(10, 10));
         QTest::mouseMove(cancel, QPoint(12, 11));
-        QCOMPARE(int(write.Logic->Controls()[MirrorControl::cmdNew].Ink), int(Colour::HoverInk));
+        QCOMPARE(int(write.Logic->Controls()[cmdNew].Ink), int(Colour::HoverInk));
         QVERIFY(cancel->property("hoverMark").toBool());
         QCOMPARE(write.Layer.Timers.count(TimerId::MirrorHover), 1u);
         write.Logic->TimerFired(TimerId::MirrorHover);
         write.Window->Render();
-        auto* note = static_cast<QLabel*>(write.Window->Widget(MirrorControl::txtNote));
-        QCOMPARE(note->text(),
-                 QStringLiteral("Cancel your interaction and return to New Dialogue."));
+        auto* note = static_cast<QLabel*>(write.Window->Widget(txtNote));
+        QCOMPARE(note->text(), u"Cancel your interaction and return to New Dialogue."_s);
 
-        QTest::keyClicks(entry, QStringLiteral("Why do I keep the old letters in a box?"));
-        QCOMPARE(entry->toPlainText(),
-                 Prefix + QStringLiteral("Why do I keep the old letters in a box?"));
+        QTest::keyClicks(entry, u"Why do I keep the old letters in a box?"_s);
+        QCOMPARE(entry->toPlainText(), Prefix + u"Why do I keep the old letters in a box?"_s);
         QVERIFY(!mark->isVisible());
-        QVERIFY(write.Window->Widget(MirrorControl::cmdClear)->isEnabled());
+        QVERIFY(write.Window->Widget(cmdClear)->isEnabled());
 
         QTest::keyClick(entry, Qt::Key_Return);
-        QCOMPARE(entry->toPlainText(),
-                 Prefix + QStringLiteral("Why do I keep the old letters in a box?\u201D"));
-        const QString response = write.Box(MirrorControl::txtResponse)->toPlainText();
+        QCOMPARE(entry->toPlainText(), Prefix + u"Why do I keep the old letters in a box?\u201D"_s);
+        const QString response = write.Box(txtResponse)->toPlainText();
         QVERIFY(response.startsWith(QLatin1Char('\t')) && response.size() > 10);
-        const QString choice = write.Caption(MirrorControl::cmdRemove);
-        QVERIFY(choice == QStringLiteral("Remove") || choice == QStringLiteral("Keep"));
-        QVERIFY(write.Box(MirrorControl::txtSaved)
-                    ->toPlainText()
-                    .startsWith(QStringLiteral("Dialogue")));
+        const QString choice = write.Caption(cmdRemove);
+        QVERIFY(choice == u"Remove"_s || choice == u"Keep"_s);
+        QVERIFY(write.Box(txtSaved)->toPlainText().startsWith(u"Dialogue"_s));
         // The entry now stands above the response.
-        QVERIFY(entry->y() < write.Box(MirrorControl::txtResponse)->y());
+        QVERIFY(entry->y() < write.Box(txtResponse)->y());
 
-        if (choice == QStringLiteral("Keep")) {
-            write.Click(MirrorControl::cmdRemove);
+        if (choice == u"Keep"_s) {
+            write.Click(cmdRemove);
         }
         QTest::keyClick(entry, Qt::Key_F11);
-        QCOMPARE(write.Caption(MirrorControl::cmdDisplay), QStringLiteral("Write"));
-        auto* saved = write.Box(MirrorControl::txtSaved);
-        QVERIFY(saved->toPlainText().startsWith(QStringLiteral("Inspiration\n\n\t")));
+        QCOMPARE(write.Caption(cmdDisplay), u"Write"_s);
+        auto* saved = write.Box(txtSaved);
+        QVERIFY(saved->toPlainText().startsWith(u"Inspiration\n\n\t"_s));
         // The panel rises to the top of the boxes' area and covers them.
         QCOMPARE(saved->y(), 960 / 15);
-        QVERIFY(note->text().startsWith(QStringLiteral("Your Dialogue is less than 1 page long.")));
+        QVERIFY(note->text().startsWith(u"Your Dialogue is less than 1 page long."_s));
         QTest::mouseClick(saved->viewport(), Qt::LeftButton);
-        QCOMPARE(write.Caption(MirrorControl::cmdDisplay), QStringLiteral("Display"));
+        QCOMPARE(write.Caption(cmdDisplay), u"Display"_s);
     }
 
     // A finished word the dictionary does not know is marked and loses the mark when corrected.
     // With the marks off or no dictionary nothing is marked and nothing complains, and in every
     // case the keys make the same text and the same random series.
     void MisspeltWordsAreMarkedAndNothingElseChanges() {
-        qunsetenv("LC_ALL");
-        qunsetenv("LC_MESSAGES");
-        qputenv("LANG", "en_US.UTF-8");
+        UseLanguage("en_US.UTF-8");
         const testing::TempFolder noDictionaries;
-        struct Case {
-            const char* Name;
-            bool On;
-            std::filesystem::path Dictionaries;
-            QStringList Finished;
-        };
-        const Case cases[] = {
+        // The marks on, over the dictionaries, and the words marked once finished.
+        const std::tuple<const char*, bool, std::filesystem::path, QStringList> cases[] = {
             {"on", true, SystemDictionaryFolder, {"wrte"}},
             {"off", false, SystemDictionaryFolder, {}},
             {"no dictionary", true, noDictionaries.Path(), {}},
         };
-        std::optional<std::pair<decltype(Engine::SeriesBase), decltype(Engine::SeriesScale)>>
-            series;
-        for (const Case& c : cases) {
+        std::vector<std::pair<decltype(Engine::SeriesBase), decltype(Engine::SeriesScale)>> series;
+        for (const auto& [name, on, dictionaries, finished] : cases) {
             WriteWindow write;
-            write.App.UserPreferences.SpellingMarks = c.On;
-            OpenSpelling(write.App, c.Dictionaries);
-            write.Click(MirrorControl::cmdConverse);
-            auto* entry = write.Box(MirrorControl::txtMirror);
-            QTest::keyClicks(entry, QStringLiteral("Sagrel, I wrte"));
-            QVERIFY2(MarkedWords(*entry).isEmpty(), c.Name);
-            QTest::keyClicks(entry, QStringLiteral(" to you "));
-            QCOMPARE(MarkedWords(*entry), c.Finished);
+            write.App.UserPreferences.SpellingMarks = on;
+            OpenSpelling(write.App, dictionaries);
+            write.Click(cmdConverse);
+            auto* entry = write.Box(txtMirror);
+            QTest::keyClicks(entry, u"Sagrel, I wrte"_s);
+            QVERIFY2(MarkedWords(*entry).isEmpty(), name);
+            QTest::keyClicks(entry, u" to you "_s);
+            QCOMPARE(MarkedWords(*entry), finished);
             for (int back = 0; back < 10; ++back) {
                 QTest::keyClick(entry, Qt::Key_Backspace);
             }
-            QTest::keyClicks(entry, QStringLiteral("ite to you at 9."));
-            QVERIFY2(MarkedWords(*entry).isEmpty(), c.Name);
-            QCOMPARE(entry->toPlainText(), Prefix + QStringLiteral("Sagrel, I write to you at 9."));
-            QVERIFY2(write.Layer.Boxes.empty(), c.Name);
-            if (!series) {
-                series.emplace(write.Composer.SeriesBase, write.Composer.SeriesScale);
-            }
-            QVERIFY2(series->first == write.Composer.SeriesBase, c.Name);
-            QVERIFY2(series->second == write.Composer.SeriesScale, c.Name);
+            QTest::keyClicks(entry, u"ite to you at 9."_s);
+            QVERIFY2(MarkedWords(*entry).isEmpty(), name);
+            QCOMPARE(entry->toPlainText(), Prefix + u"Sagrel, I write to you at 9."_s);
+            QVERIFY2(write.Layer.Boxes.empty(), name);
+            series.emplace_back(write.Composer.SeriesBase, write.Composer.SeriesScale);
+            QVERIFY2(series.front() == series.back(), name);
         }
     }
 
@@ -168,23 +207,23 @@ private slots:
     // method, is refused with the program's notice and is never counted.
     void HeadPasteShortcutsAndUnwritableCharactersAreRefused() {
         WriteWindow write;
-        write.Click(MirrorControl::cmdConverse);
-        auto* entry = write.Box(MirrorControl::txtMirror);
-        QTest::keyClicks(entry, QStringLiteral("abc"));
+        write.Click(cmdConverse);
+        auto* entry = write.Box(txtMirror);
+        QTest::keyClicks(entry, u"abc"_s);
         QTest::keyClick(entry, Qt::Key_Home);
         QTest::keyClick(entry, Qt::Key_Backspace);
         QTest::keyClick(entry, Qt::Key_Left);
-        QTest::keyClicks(entry, QStringLiteral("X"));
+        QTest::keyClicks(entry, u"X"_s);
         QTest::keyClick(entry, Qt::Key_Tab);
-        QCOMPARE(entry->toPlainText(), Prefix + QStringLiteral("Xabc"));
-        QApplication::clipboard()->setText(QStringLiteral("pasted text"));
+        QCOMPARE(entry->toPlainText(), Prefix + u"Xabc"_s);
+        QApplication::clipboard()->setText(u"pasted text"_s);
         QTest::keyClick(entry, Qt::Key_V, Qt::ControlModifier);
         QTest::keyClick(entry, Qt::Key_A, Qt::ControlModifier);
-        QCOMPARE(entry->toPlainText(), Prefix + QStringLiteral("Xabc"));
+        QCOMPARE(entry->toPlainText(), Prefix + u"Xabc"_s);
         QCOMPARE(entry->contextMenuPolicy(), Qt::NoContextMenu);
         QVERIFY(!entry->acceptDrops());
         QTest::mouseClick(entry->viewport(), Qt::MiddleButton);
-        QCOMPARE(entry->toPlainText(), Prefix + QStringLiteral("Xabc"));
+        QCOMPARE(entry->toPlainText(), Prefix + u"Xabc"_s);
         // The control key itself is named in the program's box.
         auto boxes = write.Layer.Boxes.size();
         QTest::keyClick(entry, Qt::Key_Control);
@@ -192,7 +231,7 @@ private slots:
         QCOMPARE(write.Layer.Boxes.back().Title, std::string("Invalid Key"));
 
         QTest::keyClick(entry, Qt::Key_End);
-        QTest::keyClicks(entry, QStringLiteral(" I feel "));
+        QTest::keyClicks(entry, u" I feel "_s);
         const int count = write.Logic->State().EntryCount;
         boxes = write.Layer.Boxes.size();
         for (const char* typed : {"\U0001F600", "\u0151", "\u03B1"}) {
@@ -200,38 +239,37 @@ private slots:
             QApplication::sendEvent(entry, &key);
         }
         QInputMethodEvent composed;
-        composed.setCommitString(QStringLiteral("\u0436"));
+        composed.setCommitString(u"\u0436"_s);
         QApplication::sendEvent(entry, &composed);
         QCOMPARE(write.Layer.Boxes.size(), boxes + 4);
         QCOMPARE(write.Layer.Boxes.back().Title, std::string("Invalid Key"));
-        QCOMPARE(entry->toPlainText(), Prefix + QStringLiteral("Xabc I feel "));
+        QCOMPARE(entry->toPlainText(), Prefix + u"Xabc I feel "_s);
         QCOMPARE(write.Logic->State().EntryCount, count);
-        QTest::keyClicks(entry, QStringLiteral("about my new home today."));
+        QTest::keyClicks(entry, u"about my new home today."_s);
         QTest::keyClick(entry, Qt::Key_Return);
-        QVERIFY(!write.Box(MirrorControl::txtResponse)->toPlainText().contains("too short"));
+        QVERIFY(!write.Box(txtResponse)->toPlainText().contains("too short"));
     }
 
     void IdeasAreTypedIntoTheListAndSelectChoosesOne() {
         WriteWindow write;
-        write.Click(MirrorControl::cmdSuppose);
-        auto* entry = write.Box(MirrorControl::txtMirror);
-        QTest::keyClicks(entry, QStringLiteral("What could make the mornings easier for us?"));
+        write.Click(cmdSuppose);
+        auto* entry = write.Box(txtMirror);
+        QTest::keyClicks(entry, u"What could make the mornings easier for us?"_s);
         QTest::keyClick(entry, Qt::Key_Return);
-        auto* list = write.Box(MirrorControl::txtAnalyze);
+        auto* list = write.Box(txtAnalyze);
         QVERIFY(list->isVisible());
         QVERIFY(!entry->isEnabled());
         QCOMPARE(write.Window->focusWidget(), list);
-        QVERIFY(list->toPlainText().endsWith(QStringLiteral("\n\nEntry 1 >> ")));
-        auto* mark = static_cast<QLabel*>(write.Window->Widget(MirrorControl::lblRemS));
-        QCOMPARE(mark->text(), QStringLiteral("X"));
+        QVERIFY(list->toPlainText().endsWith(u"\n\nEntry 1 >> "_s));
+        auto* mark = static_cast<QLabel*>(write.Window->Widget(lblRemS));
+        QCOMPARE(mark->text(), u"X"_s);
 
         // The prompt is out of reach of the caret; the idea is not.
-        QTest::keyClicks(list, QStringLiteral("pack lunches the night before"));
+        QTest::keyClicks(list, u"pack lunches the night before"_s);
         QTest::keyClick(list, Qt::Key_Home);
         QTest::keyClick(list, Qt::Key_Backspace);
-        QTest::keyClicks(list, QStringLiteral("We "));
-        QVERIFY(list->toPlainText().endsWith(
-            QStringLiteral("Entry 1 >> We pack lunches the night before")));
+        QTest::keyClicks(list, u"We "_s);
+        QVERIFY(list->toPlainText().endsWith(u"Entry 1 >> We pack lunches the night before"_s));
         QVERIFY(!mark->isVisible());
         QTest::keyClick(list, Qt::Key_End);
         QTest::keyClick(list, Qt::Key_Return);
@@ -239,20 +277,20 @@ private slots:
             "\n\tEntry 1: \u201CWe pack lunches the night before.\u201D\n\nEntry 2 >> ")));
 
         // A click in the list erases the idea being typed, and nothing else.
-        QTest::keyClicks(list, QStringLiteral("walk"));
+        QTest::keyClicks(list, u"walk"_s);
         QTest::mouseClick(list->viewport(), Qt::LeftButton);
-        QVERIFY(list->toPlainText().endsWith(QStringLiteral("Entry 2 >> ")));
+        QVERIFY(list->toPlainText().endsWith(u"Entry 2 >> "_s));
 
-        QTest::keyClicks(list, QStringLiteral("leave ten minutes earlier"));
+        QTest::keyClicks(list, u"leave ten minutes earlier"_s);
         QTest::keyClick(list, Qt::Key_Return);
-        QCOMPARE(write.Caption(MirrorControl::cmdNew), QStringLiteral("Select"));
-        write.Click(MirrorControl::cmdNew);
+        QCOMPARE(write.Caption(cmdNew), u"Select"_s);
+        write.Click(cmdNew);
         QVERIFY(!list->isVisible());
-        QCOMPARE(write.Caption(MirrorControl::cmdNew), QStringLiteral("Finish"));
-        QVERIFY(static_cast<QPushButton*>(write.Window->Widget(MirrorControl::cmdConverse))
+        QCOMPARE(write.Caption(cmdNew), u"Finish"_s);
+        QVERIFY(static_cast<QPushButton*>(write.Window->Widget(cmdConverse))
                     ->property("pressedIn")
                     .toBool());
-        const QString outcome = write.Box(MirrorControl::txtResponse)->toPlainText();
+        const QString outcome = write.Box(txtResponse)->toPlainText();
         QVERIFY(outcome.startsWith(QLatin1Char('\t')) && outcome.size() > 20);
         QCOMPARE(write.Window->focusWidget(), entry);
     }
@@ -263,7 +301,7 @@ private slots:
         WriteWindow write;
         QApplication::setActiveWindow(write.Window.get());
         QVERIFY(QTest::qWaitForWindowActive(write.Window.get()));
-        auto* entry = write.Box(MirrorControl::txtMirror);
+        auto* entry = write.Box(txtMirror);
         const auto alt = [](Qt::Key key) {
             QTest::keyClick(QApplication::focusWidget(), key, Qt::AltModifier);
         };
@@ -274,7 +312,7 @@ private slots:
         QCOMPARE(QApplication::focusWidget(), entry);
         QTest::keyClick(entry, Qt::Key_Tab);
         QCOMPARE(QApplication::focusWidget(), entry);
-        QTest::keyClicks(entry, QStringLiteral("I keep"));
+        QTest::keyClicks(entry, u"I keep"_s);
         alt(Qt::Key_W);
         QTRY_COMPARE(entry->toPlainText(), Prefix);
         // Save has nothing to save yet: its letter does nothing, as a click would.
@@ -283,12 +321,12 @@ private slots:
         QCOMPARE(write.Library.Listing().LibraryCount, 0);
         QCOMPARE(entry->toPlainText(), Prefix);
 
-        QTest::keyClicks(entry, QStringLiteral("I keep the old letters in a box for a reason."));
+        QTest::keyClicks(entry, u"I keep the old letters in a box for a reason."_s);
         QTest::keyClick(entry, Qt::Key_Return);
-        if (write.Caption(MirrorControl::cmdRemove) == QStringLiteral("Keep")) {
+        if (write.Caption(cmdRemove) == u"Keep"_s) {
             alt(Qt::Key_E);
         }
-        QTRY_COMPARE(write.Caption(MirrorControl::cmdRemove), QStringLiteral("Remove"));
+        QTRY_COMPARE(write.Caption(cmdRemove), u"Remove"_s);
 
         // Each step: the key, and what the user sees once its command has run.
         struct Step {
@@ -297,9 +335,9 @@ private slots:
             QString Expected;
         };
         const std::vector<Step> steps = {
-            {Qt::Key_F, [&] { return write.Caption(MirrorControl::cmdNew); }, "New"},
-            {Qt::Key_O, [&] { return write.Caption(MirrorControl::cmdNew); }, "Finish"},
-            {Qt::Key_F, [&] { return write.Caption(MirrorControl::cmdRemove); }, "Continue"},
+            {Qt::Key_F, [&] { return write.Caption(cmdNew); }, "New"},
+            {Qt::Key_O, [&] { return write.Caption(cmdNew); }, "Finish"},
+            {Qt::Key_F, [&] { return write.Caption(cmdRemove); }, "Continue"},
             {Qt::Key_P, [&] { return count(write.Layer.Printed.size()); }, "1"},
             {Qt::Key_I, [&] { return count(write.Layer.EditorTexts.size()); }, "1"},
             {Qt::Key_S, [&] { return count(write.Library.Listing().LibraryCount); }, "1"},
@@ -312,7 +350,104 @@ private slots:
             QTRY_COMPARE(step.Seen(), step.Expected);
         }
         // Saving began a new Dialogue.
-        QTRY_COMPARE(write.Window->windowTitle(), QStringLiteral("Veyrant Sagrel -- New Dialogue"));
+        QTRY_COMPARE(write.Window->windowTitle(), u"Veyrant Sagrel -- New Dialogue"_s);
+    }
+
+    // The user's edits are what is saved, as UTF-8 with the platform's line ends. A failed save
+    // says so, leaves no file, and the text is still changed; closing then saves to the file the
+    // text already has, and no file dialog asks for a name again.
+    void SavesTheEditedTextAsUtf8OrSaysWhyNotAndClosingKeepsTheFile() {
+        testing::FakeWindowLayer windows;
+        testing::TempFolder folder;
+        SpellChecker spelling;
+        auto* editor = new ExportEditorWindow(
+            windows, folders, spelling, QString::fromUtf8("Veyrant Sagrel\n\u201cCaf\u00e9\u201d"),
+            u"Dialogue.txt"_s);
+        editor->show();
+        editor->Editor().appendPlainText(u"A line of my own."_s);
+        QVERIFY(editor->Editor().document()->isModified());
+        const auto path = folder / "Sunday.txt";
+        const std::string saved = "Veyrant Sagrel\n\xe2\x80\x9c"
+                                  "Caf\xc3\xa9\xe2\x80\x9d\nA line of my own.";
+        QVERIFY(editor->SaveTo(QString::fromStdString(path.string())));
+        QCOMPARE(ReadWholeFile(path), saved);
+        QVERIFY(!editor->Editor().document()->isModified());
+        QCOMPARE(FilesIn(folder.Path()), std::size_t{1});
+        QVERIFY(windows.Boxes.empty());
+
+        editor->Editor().appendPlainText(u"More."_s);
+        const auto missing = folder / "missing" / "Sunday.txt";
+        QVERIFY(!editor->SaveTo(QString::fromStdString(missing.string())));
+        QCOMPARE(windows.Boxes.at(0).Title + ": " + windows.Boxes[0].Text,
+                 "Save File Error: Error 53 encountered attempting to save " + missing.string() +
+                     ".");
+        QCOMPARE(FilesIn(folder.Path()), std::size_t{1});
+        QVERIFY(editor->Editor().document()->isModified());
+
+        bool askedForAName = false;
+        QTimer answer;
+        connect(&answer, &QTimer::timeout, [&] {
+            if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+                box->button(QMessageBox::Save)->click();
+            } else if (auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget())) {
+                askedForAName = true;
+                dialog->reject();
+            }
+        });
+        answer.start(20);
+        QVERIFY(editor->close());
+        QVERIFY(!askedForAName);
+        QCOMPARE(ReadWholeFile(path), saved + "\nMore.");
+    }
+
+    // A correction replaces the word in this text only; an added word is known in every window at
+    // once and after a restart, and its list is the user's alone. Each language has its own words.
+    void MarkedWordsOfferCorrectionsAndAddToDictionary() {
+        testing::FakeWindowLayer windows;
+        testing::TempFolder folder;
+        const auto words = folder / "Words.txt";
+        SpellChecker spelling;
+        OpenFor(spelling, "en_US.UTF-8", words);
+        ExportEditorWindow editor(windows, folders, spelling,
+                                  QStringLiteral("Veyrant Sagrel\nI wrte to the Sagrel about "
+                                                 "Tolmira's lettr, 12 times.\n"),
+                                  u"Dialogue.txt"_s);
+        ExportEditorWindow other(windows, folders, spelling, u"A lettr.\n"_s, u"Dialogue.txt"_s);
+        editor.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&editor));
+        QCOMPARE(MarkedWords(editor.Editor()), QStringList({"wrte", "lettr"}));
+
+        std::unique_ptr<QMenu> menu(editor.ContextMenu(PointOf(editor.Editor(), "wrte")));
+        const QStringList offered = Texts(*menu);
+        QVERIFY(offered.contains("write"));
+        QVERIFY(offered.indexOf("Add to Dictionary") <= 5);
+        menu->actions()[static_cast<int>(offered.indexOf("write"))]->trigger();
+        QVERIFY(editor.Editor().toPlainText().contains("I write to"));
+        QCOMPARE(MarkedWords(editor.Editor()), QStringList({"lettr"}));
+
+        menu.reset(editor.ContextMenu(PointOf(editor.Editor(), "lettr")));
+        menu->actions()[static_cast<int>(Texts(*menu).indexOf("Add to Dictionary"))]->trigger();
+        QCOMPARE(MarkedWords(editor.Editor()), QStringList());
+        QCOMPARE(MarkedWords(other.Editor()), QStringList());
+        QCOMPARE(other.Editor().toPlainText(), u"A lettr.\n"_s);
+        QCOMPARE(std::filesystem::status(words).permissions(),
+                 std::filesystem::perms::owner_read | std::filesystem::perms::owner_write);
+        SpellChecker restarted;
+        OpenFor(restarted, "en_US.UTF-8", words);
+        QVERIFY(restarted.Knows("lettr"));
+
+        menu.reset(editor.ContextMenu(PointOf(editor.Editor(), "Sagrel")));
+        QVERIFY(!Texts(*menu).contains("Add to Dictionary"));
+        QVERIFY(windows.Boxes.empty());
+
+        // The dictionary of the user's language judges its accented words.
+        SpellChecker german;
+        OpenFor(german, "de_DE.UTF-8", folder / "Wörter.txt");
+        ExportEditorWindow street(windows, folders, german,
+                                  QString::fromUtf8("Die Stra\u00dfe ist gem\u00fctlich, die "
+                                                    "Strase nicht.\n"),
+                                  u"Dialogue.txt"_s);
+        QCOMPARE(MarkedWords(street.Editor()), QStringList({"Strase"}));
     }
 };
 

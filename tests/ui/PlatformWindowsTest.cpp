@@ -26,6 +26,9 @@
 #include <memory>
 
 using namespace veyrant;
+using enum MirrorControl;
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -92,7 +95,7 @@ private slots:
             program.Windows.ShowWindow(id);
             QWidget* window = program.Windows.Window(id);
             QVERIFY(QTest::qWaitForWindowExposed(window));
-            QVERIFY2(CutOff(*window).isEmpty(), qPrintable(CutOff(*window).join(", ")));
+            QCOMPARE(CutOff(*window), QStringList());
             QWidget* first = window->focusWidget();
             QTest::keyClick(window, Qt::Key_Tab);
             QVERIFY(window->focusWidget() != first);
@@ -105,7 +108,7 @@ private slots:
         Utilities program;
         program.Windows.ShowWindow(WindowId::Utility);
         // The box runs modally; Enter on it, once it stands, closes it.
-        QStringList cut = {QStringLiteral("no box")};
+        QStringList cut = {u"no box"_s};
         QTimer knock;
         QObject::connect(&knock, &QTimer::timeout, [&] {
             if (QWidget* box = QApplication::activeModalWidget()) {
@@ -124,9 +127,8 @@ private slots:
         for (const int option : {0, 1, 2, 3}) {
             WriteWindow write(option);
             QVERIFY(QTest::qWaitForWindowExposed(write.Window.get()));
-            write.Click(MirrorControl::cmdConverse);
-            QVERIFY2(CutOff(*write.Window).isEmpty(),
-                     qPrintable(QString::number(option) + ": " + CutOff(*write.Window).join(", ")));
+            write.Click(cmdConverse);
+            QCOMPARE(CutOff(*write.Window), QStringList());
         }
     }
 
@@ -146,9 +148,9 @@ private slots:
             const auto largest = std::max_element(
                 sizes.begin(), sizes.end(), [](QSize a, QSize b) { return a.width() < b.width(); });
             QVERIFY2(tool->iconSize().width() * ratio <= largest->width(),
-                     qPrintable(QStringLiteral("%1 at %2").arg(tool->text()).arg(ratio)));
+                     qPrintable(u"%1 at %2"_s.arg(tool->text()).arg(ratio)));
         }
-        QVERIFY2(CutOff(*preview).isEmpty(), qPrintable(CutOff(*preview).join(", ")));
+        QCOMPARE(CutOff(*preview), QStringList());
     }
 
     // Last: the way out asks the application to quit, which ends any event loop after it.
@@ -164,7 +166,7 @@ private slots:
                  QString("Veyrant Sagrel 4.1 -- Written Dialogues of Self-Reflection"));
         // On Wayland the program would draw the backdrop's title bar itself; it has none.
         QVERIFY(program.Back && program.Back->isVisible());
-        if (QGuiApplication::platformName() == QStringLiteral("wayland")) {
+        if (QGuiApplication::platformName() == u"wayland"_s) {
             QCOMPARE(program.Back->frameGeometry(), program.Back->geometry());
         }
 
@@ -177,11 +179,10 @@ private slots:
             Qt::MouseButton Mouse;
             const char* Title;
         } libraries[] = {
-            {MirrorControl::cmdHelp, Qt::LeftButton, "Veyrant Information Library"},
-            {MirrorControl::cmdKnow, Qt::LeftButton, "Veyrant Knowledge Library"},
-            {MirrorControl::cmdKnow, Qt::RightButton, "Veyrant Advanced Knowledge Library"},
-            {MirrorControl::cmdRetrieve, Qt::LeftButton,
-             "Veyrant Dialogue Library -- No Dialogues Saved"},
+            {cmdHelp, Qt::LeftButton, "Veyrant Information Library"},
+            {cmdKnow, Qt::LeftButton, "Veyrant Knowledge Library"},
+            {cmdKnow, Qt::RightButton, "Veyrant Advanced Knowledge Library"},
+            {cmdRetrieve, Qt::LeftButton, "Veyrant Dialogue Library -- No Dialogues Saved"},
         };
         for (const auto& c : libraries) {
             QTest::mouseClick(write->Widget(c.Button), c.Mouse);
@@ -190,8 +191,7 @@ private slots:
             QVERIFY(read->isVisible());
             QVERIFY(program.Windows.IsWindowMinimised(WindowId::Mirror));
             QTest::keyClick(read.data(), Qt::Key_Down);
-            QVERIFY(read->windowTitle() != QString::fromLatin1(c.Title) ||
-                    c.Button == MirrorControl::cmdRetrieve);
+            QVERIFY(read->windowTitle() != QString::fromLatin1(c.Title) || c.Button == cmdRetrieve);
             if (write->isMinimized()) {
                 write->showNormal();
             }
@@ -203,15 +203,14 @@ private slots:
         }
         QVERIFY(std::filesystem::exists(program.App.Folder.Exe() / "Read.ini"));
 
-        QTest::mouseClick(write->Widget(MirrorControl::cmdConverse), Qt::LeftButton);
-        auto* entry = static_cast<QPlainTextEdit*>(program.Write->Widget(MirrorControl::txtMirror));
-        QTest::keyClicks(entry, QStringLiteral("What would I tell myself a year from now?"));
+        QTest::mouseClick(write->Widget(cmdConverse), Qt::LeftButton);
+        auto* entry = static_cast<QPlainTextEdit*>(program.Write->Widget(txtMirror));
+        QTest::keyClicks(entry, u"What would I tell myself a year from now?"_s);
         QTest::keyClick(entry, Qt::Key_Return);
         QVERIFY(entry->toPlainText().endsWith(QChar(0x201D)));
-        auto* response =
-            static_cast<QPlainTextEdit*>(program.Write->Widget(MirrorControl::txtResponse));
+        auto* response = static_cast<QPlainTextEdit*>(program.Write->Widget(txtResponse));
         QVERIFY(response->toPlainText().size() > 10);
-        QVERIFY2(CutOff(*program.Write).isEmpty(), qPrintable(CutOff(*program.Write).join(", ")));
+        QCOMPARE(CutOff(*program.Write), QStringList());
 
         // Closing the window stores the settings and ends the program.
         program.Write->close();
