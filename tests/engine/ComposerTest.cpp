@@ -51,45 +51,32 @@ protected:
 };
 
 // Row 0 of a component, its label, lies in the idle plane; the draw runs from row 1, so a label
-// row marked there never shows.
-TEST_F(Composing, AssembleSetsCaseAndSpacingByTheTwoListsAndNeverShowsTheLabelRow) {
+// row marked there never shows. A component outside the stocks is reported.
+TEST_F(Composing, AssembleSetsCaseAndSpacingByTheListsHidesTheLabelRowAndReportsAStrayComponent) {
     tables.Map.At(0, Hello, 0) = 1;
     const std::pair<std::vector<std::int16_t>, const char*> cases[] = {
-        // One component: a tab and the row, lead blank included.
-        {{Hello}, "\t Hello there"},
+        {{Hello}, "\t Hello there"}, // a tab and the row, lead blank included
         {{Hello, Big}, "\t Hello there big news"},
-        // Behind the comma, the first CaseKeeper, the sentence goes on in lower case.
-        {{Hello, Comma, Big}, "\t Hello there, big news"},
-        // Behind any other CaseKeeper the next row keeps its capital.
-        {{Hello, Period, Big}, "\t Hello there. Big news"},
+        {{Hello, Comma, Big}, "\t Hello there, big news"},  // the first CaseKeeper lowers
+        {{Hello, Period, Big}, "\t Hello there. Big news"}, // any other keeps the capital
         {{Hello, IAm, Big}, "\t Hello there I am Big news"},
         {{Hello, Comma, IAm}, "\t Hello there, I am"},
         {{IAm, Big}, "\t I am Big news"},
-        // Behind the dash the next row loses its blank.
-        {{Hello, Dash, Big},
-         "\t Hello there\x97"
-         "big news"},
-        // Held back by a CaseKeeper rule, the tight join waits for the next lowered row.
+        // Behind the dash the next row loses its blank, waiting past a CaseKeeper for a lowered
+        // row.
+        {{Hello, Dash, Big}, "\t Hello there\227big news"},
         {{Hello, Dash, Period, Big}, "\t Hello there\x97. Big news"},
         {{Hello, Dash, Period, Big, Third}, "\t Hello there\x97. Big newsthird"},
-        // A component may repeat.
         {{Hello, Hello}, "\t Hello there hello there"},
-        {{}, "\t"},
-    };
+        {{}, "\t"}};
     for (const auto& [components, text] : cases) {
         EXPECT_EQ(Assemble(components), text);
     }
     EXPECT_TRUE(windows.Boxes.empty());
-}
-
-// Tables that name no CaseKeeper have no comma rule: every row after the first is lowered.
-TEST_F(Composing, AssembleWorksWithoutCaseKeepers) {
+    // Tables that name no CaseKeeper have no comma rule: every row after the first is lowered.
     tables.CaseKeepers = {0};
     composer.MarkJoiners();
     EXPECT_EQ(Assemble({Hello, Comma, IAm, Big}), "\t Hello there, i am big news");
-}
-
-TEST_F(Composing, AssembleReportsAComponentOutsideTheStocks) {
     tables.ComponentBlock[Big] = 0;
     EXPECT_EQ(Assemble({Hello, Big}), "\t Hello there hello there");
     ASSERT_EQ(windows.Boxes.size(), 1u);

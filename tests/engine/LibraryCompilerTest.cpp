@@ -32,31 +32,26 @@ std::string Refusal(Reading reading) {
     }
 }
 
+// The body files are read one after another as if they were one, so a Section may go on in the
+// next file.
 TEST(LibraryCompiler, RowsTakeTheirTabsAndParagraphsTheirRecordForm) {
-    const LibrarySource library = Read(Bodies);
-    ASSERT_EQ(library.Rows.size(), 3u);
-    EXPECT_EQ(library.Rows[0].Title, "< Opening >");
-    EXPECT_EQ(library.Rows[1].Title, "\tFirst Topic ");
-    EXPECT_EQ(library.Rows[2].Title, "\t\tInner Topic");
-    EXPECT_EQ(library.Rows[0].Text, "\tWelcome.\r\n");
-    EXPECT_EQ(library.Rows[1].Text, "\tOne paragraph ends in a blank. \r\n\t\tA listed item\r\n");
-    EXPECT_EQ(library.Rows[2].Text, "\tIt\x92s short\x97"
-                                    "and curly.\r\n");
-    EXPECT_EQ(library.Rows[1].Place.Line, 5);
+    const auto split = Bodies.find("[2]");
+    const LibrarySource library = ReadLibrarySource(
+        "knowledge", {"catalogue.txt", Catalogue},
+        {{"1-opening.txt", Bodies.substr(0, split)}, {"2-b.txt", Bodies.substr(split)}}, 60);
+    std::vector<std::string> rows;
+    for (const auto& row : library.Rows) {
+        rows.push_back(row.Title + "|" + row.Text + "|" + row.Place.File + ":" +
+                       std::to_string(row.Place.Line));
+    }
+    EXPECT_EQ(rows, (std::vector<std::string>{
+                        "< Opening >|\tWelcome.\r\n|1-opening.txt:2",
+                        "\tFirst Topic |\tOne paragraph ends in a blank. \r\n\t\tA listed item\r\n"
+                        "|1-opening.txt:5",
+                        "\t\tInner Topic|\tIt\x92s short\x97" "and curly.\r\n|2-b.txt:1"}));
     EXPECT_EQ(library.RecordWidth, 60);
 }
 
-// The body files of a library are read one after another as if they were one.
-TEST(LibraryCompiler, ASectionMayContinueInTheNextFile) {
-    const LibrarySource library =
-        ReadLibrarySource("knowledge", {"catalogue.txt", Catalogue},
-                          {{"1-a.txt", "[0] < Opening >\nWelcome.\n[1] First Topic \nOne.\n"},
-                           {"2-b.txt", "[2] Inner Topic\nTwo.\n"}},
-                          60);
-    EXPECT_EQ(library.Rows[2].Place.File, "2-b.txt");
-}
-
-// Each refusal names its file and line.
 TEST(LibraryCompiler, RefusalsNameFileAndLine) {
     const auto misplaced = [](const char* line, const char* title, const char* row) {
         return std::string("1-opening.txt:") + line + ": the title \"" + title +
@@ -75,8 +70,7 @@ TEST(LibraryCompiler, RefusalsNameFileAndLine) {
         {Bodies + "[1] Extra\nD.\n", 60,
          "1-opening.txt:10: the title \"Extra\" is past the 3 rows of the catalogue"},
         {Replaced(Bodies, "[2] Inner Topic\nIt’s short—and curly.\n", ""), 60,
-         "catalogue.txt:3: the row \"Inner Topic\" has no body in "
-         "data/libraries/knowledge/"},
+         "catalogue.txt:3: the row \"Inner Topic\" has no body in data/libraries/knowledge/"},
         {Replaced(Bodies, "[2] Inner", "[3] Inner"), 60,
          "1-opening.txt:8: a title is marked [0], [1] or [2]"},
         {Replaced(Bodies, "Welcome.\n", ""), 60,
@@ -102,15 +96,12 @@ TEST(LibraryCompiler, WidthsNameEachLibraryOnce) {
     const auto widths = ReadLibraryWidths(
         {"widths.txt", "# records\ninformation 870\nknowledge 884\nadvanced 2842\n"});
     EXPECT_EQ(widths.at("knowledge"), 884);
-    const std::pair<const char*, const char*> faults[] = {
+    const std::string unnamed = "widths.txt:3: a width is written \"information 870\", naming "
+                                "information, knowledge or advanced";
+    const std::pair<const char*, std::string> faults[] = {
         {"information 870\nknowledge 884\n", "widths.txt:0: no width for advanced"},
-        {"information 870\nknowledge 884\nadvanced\n",
-         "widths.txt:3: a width is written \"information 870\", naming information, knowledge "
-         "or advanced"},
-        {"information 870\nknowledge 884\nadvance 2842\n",
-         "widths.txt:3: a width is written \"information 870\", naming information, knowledge "
-         "or advanced"},
-    };
+        {"information 870\nknowledge 884\nadvanced\n", unnamed},
+        {"information 870\nknowledge 884\nadvance 2842\n", unnamed}};
     for (const auto& [text, message] : faults) {
         EXPECT_EQ(Refusal([&] { ReadLibraryWidths({"widths.txt", text}); }), message);
     }
@@ -121,15 +112,16 @@ std::string Body(int length) {
     return "\t" + std::string(static_cast<std::size_t>(length - 3), 'x') + "\r\n";
 }
 
-// Two Sections: the first with a one-tab and a two-tab Topic, the second with one Topic.
+// Two Sections: the first with a one-tab and a two-tab Topic, the second with one Topic. A last
+// Topic of 62000 characters makes the merge of its Section too long for the Reader.
 LibrarySource Small(const std::string& secondSection = "< Second >", int longest = 100,
-                    int width = 110) {
+                    int width = 110, int last = 30) {
     return {"knowledge",
             {{"< First >", Body(50), {}},
              {"\tTopic", Body(longest), {}},
              {"\t\tInner", Body(20), {}},
              {secondSection, Body(60), {}},
-             {"\tLast", Body(30), {}}},
+             {"\tLast", Body(last), {}}},
             width};
 }
 
@@ -141,37 +133,27 @@ LibraryTarget With(int LibraryTarget::*field, int value) {
     return target;
 }
 
-// A Topic of 62000 characters makes the merge of its Section too long for the Reader.
-LibrarySource WithLongMerge(const std::string& section) {
-    LibrarySource library = Small(section);
-    library.Rows[4].Text = Body(62000);
-    return library;
-}
-
-// Titles with their tabs and texts sum up to the next Section.
 TEST(LibraryTally, DeparturesAreNamed) {
+    using T = LibraryTarget;
+    const std::string widths = "RecordWidth 110 in data/libraries/widths.txt, designed 62010 "
+                               "(longest body + 10)";
     const std::tuple<LibrarySource, LibraryTarget, std::vector<std::string>> cases[] = {
         {Small(), Target, {}},
-        {Small(), With(&LibraryTarget::Rows, 6), {"rows 5, designed 6"}},
-        {Small(), With(&LibraryTarget::Sections, 3), {"Sections 2, designed 3"}},
-        {Small(), With(&LibraryTarget::OneTabTopics, 1), {"one-tab Topics 2, designed 1"}},
-        {Small(), With(&LibraryTarget::TwoTabTopics, 0), {"two-tab Topics 1, designed 0"}},
+        {Small(), With(&T::Rows, 6), {"rows 5, designed 6"}},
+        {Small(), With(&T::Sections, 3), {"Sections 2, designed 3"}},
+        {Small(), With(&T::OneTabTopics, 1), {"one-tab Topics 2, designed 1"}},
+        {Small(), With(&T::TwoTabTopics, 0), {"two-tab Topics 1, designed 0"}},
         {Small("< Second >", 111, 121), Target, {"longest body 111, designed 100 within a tenth"}},
         {Small("< Second >", 110, 120), Target, {}},
         {Small("< Second >", 100, 120),
          Target,
          {"RecordWidth 120 in data/libraries/widths.txt, designed 110 (longest body + 10)"}},
-        {Small(),
-         With(&LibraryTarget::SectionBodyHigh, 55),
-         {"Section bodies 50-60, designed 40-55"}},
-        {WithLongMerge("< Second >"),
+        {Small(), With(&T::SectionBodyHigh, 55), {"Section bodies 50-60, designed 40-55"}},
+        {Small("< Second >", 100, 110, 62000),
          Target,
-         {"longest body 62000, designed 100 within a tenth",
-          "RecordWidth 110 in data/libraries/widths.txt, designed 62010 (longest body + 10)",
+         {"longest body 62000, designed 100 within a tenth", widths,
           "merge sum of < Second > 62005, more than 62000"}},
-        {WithLongMerge("< The Ambrel >"),
-         With(&LibraryTarget::Longest, 62000),
-         {"RecordWidth 110 in data/libraries/widths.txt, designed 62010 (longest body + 10)"}},
+        {Small("< The Ambrel >", 100, 110, 62000), With(&T::Longest, 62000), {widths}},
         {Small("< The Ambrel >"),
          Target,
          {"merge sum of < The Ambrel > 35, designed above 62000"}}};

@@ -5,6 +5,7 @@
 #include "core/WholeFile.h"
 #include "engine/KeptPlans.h"
 #include "engine/PlanFileReader.h"
+#include "support/Replaced.h"
 
 #include <gtest/gtest.h>
 #include <tuple>
@@ -45,10 +46,8 @@ TEST(KeptPlans, FaultsRaiseTheirNumber) {
         {"\"11, 12\"", "\"1,,2\"", 13},         {"\"11, 12\"", "\"1, \"", 13},
         {"\"11, 12\"", "\", 1\"", 13},          {"\"11, 12\"", "\"  \"", 13}};
     for (const auto& [from, to, number] : cases) {
-        std::string text = TwoBlockPlan;
-        text.replace(text.find(from), from.size(), to);
         try {
-            KeptPlans kept(text, tables);
+            KeptPlans kept(testing::Replaced(TwoBlockPlan, from, to), tables);
             ADD_FAILURE() << "no error for " << to;
         } catch (const ProgramError& error) {
             EXPECT_EQ(error.Number(), number) << to;
@@ -56,19 +55,16 @@ TEST(KeptPlans, FaultsRaiseTheirNumber) {
     }
 }
 
-// Blocks count in order, slot 6 fastest.
-TEST(GenMatrixSeq, CountsBlocksInOrderWithSlotSixFastest) {
+// Blocks count in order, slot 6 fastest, and the kept plans agree with counting for every target.
+TEST(GenMatrixSeq, CountsBlocksInOrderWithSlotSixFastestAsTheKeptPlansDo) {
     const MessagePlan plan = ReadOne(TwoBlockPlan);
     const std::pair<std::int32_t, const char*> cases[] = {
-        // An empty term in slots 1 to 5 adds neither text nor separator.
-        {1, "10, 20, 40, 40, 40"},
-        // An empty term in slot 6 leaves a trailing ", " that is cut.
-        {2, "10, 20, 40, 40"},
+        {1, "10, 20, 40, 40, 40"}, // an empty term in slots 1 to 5 adds neither text nor ", "
+        {2, "10, 20, 40, 40"},     // in slot 6 it leaves a trailing ", " that is cut
         {3, "10, 20, 30 31, 40, 40, 40"},
         {5, "11, 12, 20, 40, 40, 40"},
         {8, "11, 12, 20, 30 31, 40, 40"},
-        // The product of block 1 plus 1 is the first choice of each slot in block 2.
-        {9, "30 31, 10"},
+        {9, "30 31, 10"}, // block 2 starts at the product of block 1 plus 1, on first choices
         {10, "30 31"},
         {11, "30 31, 40"},
         {12, ""},
@@ -76,6 +72,17 @@ TEST(GenMatrixSeq, CountsBlocksInOrderWithSlotSixFastest) {
     for (const auto& [target, sequence] : cases) {
         EXPECT_EQ(GenMatrixSeq(plan, target), sequence) << target;
     }
+    EngineTables tables;
+    tables.MessageCount = 1;
+    KeptPlans kept(TwoBlockPlan, tables);
+    EXPECT_EQ(kept.TrueCombos("Message", 1), 11);
+    for (std::int32_t target = -1; target <= 13; ++target) {
+        std::vector<std::int16_t> sequence;
+        kept.AppendSequence("Message", 1, target, sequence);
+        EXPECT_EQ(sequence, ReadSequence(GenMatrixSeq(plan, target))) << target;
+    }
+    EXPECT_EQ(ReadSequence(" 12, 7 31\r\n4"), (std::vector<std::int16_t>{12, 7, 31, 4}));
+    EXPECT_TRUE(ReadSequence("   ").empty());
     // All slots empty give an empty text.
     const MessagePlan empty = ReadOne("1, 1, 1\r\n\"b\"\r\n\"s\", 1, 1\r\n\"s\", 1, 1\r\n"
                                       "\"s\", 1, 1\r\n\"s\", 1, 1\r\n\"s\", 1, 1\r\n\"s\", 1, 1\r\n"
@@ -83,14 +90,7 @@ TEST(GenMatrixSeq, CountsBlocksInOrderWithSlotSixFastest) {
     EXPECT_EQ(GenMatrixSeq(empty, 1), "");
 }
 
-TEST(ReadSequence, PartsNumbersAtCommasBlanksAndLineEnds) {
-    EXPECT_EQ(ReadSequence(" 12, 7 31\r\n4"), (std::vector<std::int16_t>{12, 7, 31, 4}));
-    EXPECT_TRUE(ReadSequence("").empty());
-    EXPECT_TRUE(ReadSequence("   ").empty());
-}
-
-// Four plans: messages 1 and 2, then sections 1 and 2, told apart by the text of their
-// first term.
+// Messages 1 and 2, then sections 1 and 2, told apart by the text of their first term.
 std::string FourPlanFile() {
     std::string text;
     for (int plan = 1; plan <= 4; ++plan) {
@@ -113,11 +113,9 @@ TEST(LoadPlan, ScansMessagesThenSectionsAsTheKeptPlansDo) {
     const std::tuple<const char*, std::int16_t, const char*> cases[] = {
         {"Message", 1, "100"},
         {"Message", 2, "200"},
-        // Section 1 stands right behind the last message.
-        {"Section", 1, "300"},
+        {"Section", 1, "300"}, // right behind the last message
         {"Section", 2, "400"},
-        // A scan that never meets its plan ends on the last.
-        {"Section", 3, "400"},
+        {"Section", 3, "400"}, // a scan that never meets its plan ends on the last
         {"Message", 0, "400"},
         {"message", 1, "400"}};
     for (const auto& [kind, number, sequenceText] : cases) {
@@ -128,20 +126,6 @@ TEST(LoadPlan, ScansMessagesThenSectionsAsTheKeptPlansDo) {
         std::vector<std::int16_t> sequence;
         KeptPlans(kept).AppendSequence(kind, number, 1, sequence);
         EXPECT_EQ(sequence, ReadSequence(sequenceText));
-    }
-}
-
-TEST(KeptPlans, AgreeWithCountingForEveryTarget) {
-    EngineTables tables;
-    tables.MessageCount = 1;
-    const std::string file = TwoBlockPlan;
-    KeptPlans kept(file, tables);
-    const MessagePlan plan = ReadOne(file);
-    EXPECT_EQ(kept.TrueCombos("Message", 1), 11);
-    for (std::int32_t target = -1; target <= 13; ++target) {
-        std::vector<std::int16_t> sequence;
-        kept.AppendSequence("Message", 1, target, sequence);
-        EXPECT_EQ(sequence, ReadSequence(GenMatrixSeq(plan, target))) << target;
     }
 }
 
