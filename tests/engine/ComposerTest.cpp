@@ -1,6 +1,3 @@
-// Replies are composed from message plans: each plan counts its combinations, and the composer
-// draws one and joins its rows.
-
 #include "engine/Composer.h"
 
 #include "EngineFixture.h"
@@ -35,8 +32,7 @@ MessagePlan ReadOne(const std::string& text) {
     return plan;
 }
 
-// The kept plans read each plan as the plain reader does, and refuse a term that would not part
-// cleanly.
+// The kept plans refuse a term that would not part cleanly.
 TEST(KeptPlans, FaultsRaiseTheirNumber) {
     EngineTables tables;
     tables.MessageCount = 1;
@@ -209,8 +205,7 @@ TEST_F(Composing, AssembleSetsCaseAndSpacingByTheListsHidesTheLabelRowAndReports
         {{Hello, IAm, Big}, "\t Hello there I am Big news"},
         {{Hello, Comma, IAm}, "\t Hello there, I am"},
         {{IAm, Big}, "\t I am Big news"},
-        // Behind the dash the next row loses its blank, waiting past a CaseKeeper for a lowered
-        // row.
+        // Behind the dash the next row loses its blank, even past a CaseKeeper.
         {{Hello, Dash, Big}, "\t Hello there\227big news"},
         {{Hello, Dash, Period, Big}, "\t Hello there\x97. Big news"},
         {{Hello, Dash, Period, Big, Third}, "\t Hello there\x97. Big newsthird"},

@@ -1,6 +1,3 @@
-// The content compiler turns the authored stocks, plans, Suggestions and libraries into the
-// program's files, and refuses a fault with its file and line.
-
 #include "ContentSources.h"
 #include "EngineData.h"
 #include "LibrarySource.h"
@@ -166,8 +163,7 @@ LibrarySource Read(const std::string& bodies, int width = 60) {
                              width);
 }
 
-// The body files are read one after another as if they were one, so a Section may go on in the
-// next file.
+// The body files are read as one, so a Section may go on in the next file.
 TEST(LibraryCompiler, RowsTakeTheirTabsAndParagraphsTheirRecordForm) {
     const auto split = Bodies.find("[2]");
     const LibrarySource library = ReadLibrarySource(

@@ -1,5 +1,3 @@
-// The engine loads its tables at the start and composes what the windows request.
-
 #include "EngineFixture.h"
 #include "core/Text.h"
 #include "engine/KeptPlans.h"
@@ -52,8 +50,7 @@ TEST_F(LoadSystem, ADamagedTableFileEndsTheStartWithItsBox) {
         {ShippedWith("40\r\n8, 0", "40\r\n-2, 0"), MemoryText},
         {SmallSystemFile(14).replace(0, 4, "1, -2"), MemoryText},
         {SmallSystemFile(14).replace(0, 4, "1, 1"), MemoryText},
-        // Counts that would size tables far beyond what the file holds are refused before
-        // anything is allocated for them.
+        // Counts far beyond what the file holds are refused before anything is allocated.
         {SmallSystemFile(14).replace(6, 4, "32767, 1"), MemoryText},
         {ShippedWith("\r\n4\r\n1\r\n14\r\n", "\r\n4\r\n1\r\n32767\r\n"), MemoryText},
         {SmallSystemFile(15), tooLarge + "15 exceeds MaxDataBlocks=14"},
@@ -112,8 +109,7 @@ TEST_F(LoadSystem, TheShippedTablesFitTheStocksAndThePlans) {
     }
 }
 
-// The first run lays down the shipped files; a file damaged in place is left for the program's
-// box, and a newer build replaces them all.
+// A file damaged in place is left for the program's box; a newer build replaces them all.
 TEST_F(LoadSystem, TheShippedFilesAreLaidDownOnceAndAgainForANewerBuild) {
     const auto onDisk = [&](std::string_view name) { return ReadWholeFile(Folder.Exe() / name); };
     WriteWholeFile(Folder.Exe() / "qdr41.sys", "damaged");

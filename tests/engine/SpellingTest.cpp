@@ -56,29 +56,23 @@ std::string Phrase(const std::string& file, const std::string& line) {
     return WithoutQuotedNames(line.starts_with("* ") ? line.substr(2) : line);
 }
 
-// The .txt files of a folder in name order, relative to the content folder, leaving out the
-// stocks' group order, which shows no phrase.
-std::vector<std::string> TextFiles(const fs::path& content, const fs::path& folder) {
-    std::vector<std::string> names;
-    for (const auto& entry : fs::directory_iterator(content / folder)) {
-        if (entry.path().extension() == ".txt" && entry.path().filename() != "order.txt") {
-            names.push_back(fs::relative(entry.path(), content).generic_string());
-        }
-    }
-    std::sort(names.begin(), names.end());
-    return names;
-}
-
-// The libraries' titles are read where their bodies stand.
+// The stocks without their group order, which shows no phrase, the Suggestions, and the libraries'
+// bodies, which hold their titles too; in name order.
 std::vector<PhraseLine> PhraseLines(const fs::path& content) {
-    std::vector<std::string> files = TextFiles(content, "stocks");
-    files.push_back("suggestions.txt");
-    for (const std::string_view folder : content::LibraryFolders) {
-        if (fs::is_directory(content / "libraries" / folder)) {
-            const auto library = TextFiles(content, fs::path("libraries") / folder);
-            files.insert(files.end(), library.begin(), library.end());
+    std::vector<std::string> files;
+    for (const auto& entry : fs::recursive_directory_iterator(content)) {
+        const std::string file = fs::relative(entry.path(), content).generic_string();
+        const bool body =
+            std::ranges::any_of(content::LibraryFolders, [&](std::string_view folder) {
+                return file.starts_with("libraries/" + std::string(folder) + "/");
+            });
+        if (file.ends_with(".txt") &&
+            (body || file == "suggestions.txt" ||
+             (file.starts_with("stocks/") && file != "stocks/order.txt"))) {
+            files.push_back(file);
         }
     }
+    std::sort(files.begin(), files.end());
     std::vector<PhraseLine> lines;
     for (const std::string& file : files) {
         const auto source = content::SourceLines(file, ReadWholeFile(content / file));
@@ -160,12 +154,12 @@ TEST(Spelling, NamesEachUnknownWordWithItsFileAndLine) {
     }
     const std::string library = "data/libraries/advanced/1-awakening.txt:";
     EXPECT_EQ(FindMisspellings(content.Path()),
-              (std::vector<std::string>{"data/stocks/01.txt:3: unknown word \"mornnig\"",
-                                        "data/suggestions.txt:1: unknown word \"Hiden\"",
-                                        "data/suggestions.txt:3: unknown word \"setle\"",
-                                        library + "3: unknown word \"Remembr\"",
+              (std::vector<std::string>{library + "3: unknown word \"Remembr\"",
                                         library + "4: unknown word \"listt\"",
-                                        library + "6: unknown word \"sudo\""}));
+                                        library + "6: unknown word \"sudo\"",
+                                        "data/stocks/01.txt:3: unknown word \"mornnig\"",
+                                        "data/suggestions.txt:1: unknown word \"Hiden\"",
+                                        "data/suggestions.txt:3: unknown word \"setle\""}));
 }
 
 TEST(Spelling, EveryWordOfTheContentIsInTheDictionary) {
