@@ -47,7 +47,6 @@ public:
     int Draws = 0;
 };
 
-// Records each change of the busy pointer.
 class BusyRecordingWindows : public FakeWindowLayer {
 public:
     void SetBusyPointer(bool busy) override { BusyChanges.push_back(busy); }

@@ -50,33 +50,26 @@ TEST(ClassifyEntry, GivesTheSentenceTypeAndLeavesThePreparedForm) {
 TEST(CheckEntry, SetsStatusAndType) {
     // Method, pairs so far, entry, its status and its type (77: left as it was).
     const std::tuple<int, std::int16_t, const char*, int, int> cases[] = {
-        // The first entry of a Dialogue must be longer and denser than later ones.
-        {1, 0, "Will I be happy?", -3, 77},
+        {1, 0, "Will I be happy?", -3, 77}, // a first entry must be longer and denser
         {1, 0, "Is it?", -2, 77},
         {1, 1, "Is it?", -2, 77},
         {1, 1, "Is it ok?", -3, 77},
         {1, 0, "Will tomorrow bring happiness?", 1000, 1},
         {1, 1, "Will tomorrow bring happiness?", 1000, 1},
-        // Runs of blanks are not folded: two blanks are two gaps.
-        {1, 1, "Is  it?", -3, 77},
+        {1, 1, "Is  it?", -3, 77}, // runs of blanks are not folded: two blanks are two gaps
         {1, 1, "Will tomorrow bring happiness?   ", 1000, 1},
         {1, 1, "Something here is wrong\"", -1, 77},
-        // No end mark: a positive type leaves the 0, a bad one replaces it.
-        {1, 1, "Will tomorrow bring happiness", 0, 1},
-        {1, 1, "Tomorrow brings happiness for everyone", -10, 0},
+        {1, 1, "Will tomorrow bring happiness", 0, 1}, // no end mark: a good type leaves the 0
+        {1, 1, "Tomorrow brings happiness for everyone", -10, 0}, // and a bad one replaces it
         {1, 1, "Tomorrow brings happiness for everyone.", 1000, 2},
-        // A statement never reaches the classifier, whatever word it opens with.
-        {1, 1, "Why does everything feel so heavy!", 1000, 2},
-        // A comment is only checked at its end.
-        {4, 0, "Hi.", 1000, 77},
+        {1, 1, "Why does everything feel so heavy!", 1000, 2}, // a statement is not classified
+        {4, 0, "Hi.", 1000, 77}, // a comment is only checked at its end
         {4, 0, "Hi", 0, 77},
         {4, 0, "Hi\"", -1, 77},
-        // Supposition wants a question.
-        {2, 1, "Tomorrow brings happiness for everyone.", 2, 77},
+        {2, 1, "Tomorrow brings happiness for everyone.", 2, 77}, // Supposition wants a question
         {2, 1, "What should I change about my work?", 1000, 20},
         {2, 1, "What should I change about my work", 2, 77},
-        // Inner marks become commas and start clauses.
-        {1, 1, "Why me? who knows?", -12, -2},
+        {1, 1, "Why me? who knows?", -12, -2}, // inner marks become commas and start clauses
         {1, 1, "If I go. will it rain?", 1000, 1},
         {1, 1, "Who knows; what matters now?", -12, -2},
         {1, 1, "I wondered who really knew it?", -13, -3},

@@ -1,6 +1,6 @@
 // Every word the program shows from its content, in the phrase stocks, the Suggestions and the
-// fixed libraries, is checked against the American English dictionary of hunspell, so a typing slip
-// in the content fails here with its word, file and line. The program's own words stand in
+// fixed libraries, is checked against hunspell's American English dictionary, so a typing slip
+// fails here with its word, file and line. The program's own words stand in
 // data/spelling-allowlist.txt.
 
 #include "ContentSources.h"
@@ -8,17 +8,11 @@
 #include "LibrarySource.h"
 #include "core/Cp1252.h"
 #include "core/Text.h"
-#include "core/WholeFile.h"
-#include "support/TempFolder.h"
 
 #include <algorithm>
 #include <cstdlib>
-#include <filesystem>
-#include <gtest/gtest.h>
+#include <regex>
 #include <set>
-#include <sstream>
-#include <string>
-#include <vector>
 
 namespace veyrant {
 namespace {
@@ -31,17 +25,6 @@ struct PhraseLine {
     std::string Text; // UTF-8
 };
 
-// The typographic single quotes become the plain one, which the dictionary's word breaking
-// understands both as an apostrophe and as a quotation mark.
-std::string PlainQuotes(std::string text) {
-    for (const std::string curly : {"\u2018", "\u2019"}) {
-        for (auto at = text.find(curly); at != std::string::npos; at = text.find(curly, at)) {
-            text.replace(at, curly.size(), "'");
-        }
-    }
-    return text;
-}
-
 // Paths, addresses, settings and keys ("~/.local", "support@...", "$XDG_DATA_HOME", "F1") are
 // names the manual quotes, not words: a token with a digit or a mark of a path is left out.
 std::string WithoutQuotedNames(const std::string& text) {
@@ -49,8 +32,7 @@ std::string WithoutQuotedNames(const std::string& text) {
     std::string kept;
     for (std::string token; tokens >> token;) {
         const auto inner = token.substr(0, token.find_last_not_of(".,;:!?)\x94\x92") + 1);
-        if (inner.find_first_of("0123456789/@~$_\\") == std::string::npos &&
-            inner.find('.') == std::string::npos) {
+        if (inner.find_first_of("0123456789/@~$_\\.") == std::string::npos) {
             kept += (kept.empty() ? "" : " ") + token;
         }
     }
@@ -61,10 +43,9 @@ std::string WithoutQuotedNames(const std::string& text) {
 // heading without its mark, a library's title without its level mark and item without its star.
 std::string Phrase(const std::string& file, const std::string& line) {
     if (file.starts_with("stocks/")) {
-        if (line.starts_with("[")) {
-            return {};
-        }
-        return line.starts_with("(") ? line.substr(line.find(')') + 1) : line;
+        return line.starts_with("[")   ? ""
+               : line.starts_with("(") ? line.substr(line.find(')') + 1)
+                                       : line;
     }
     if (!file.starts_with("libraries/")) {
         return line.starts_with("=") ? line.substr(1) : line;
@@ -75,30 +56,23 @@ std::string Phrase(const std::string& file, const std::string& line) {
     return WithoutQuotedNames(line.starts_with("* ") ? line.substr(2) : line);
 }
 
-// The .txt files of a folder in name order, relative to the content folder.
-std::vector<std::string> TextFiles(const fs::path& content, const fs::path& folder) {
-    std::vector<std::string> names;
-    for (const auto& entry : fs::directory_iterator(content / folder)) {
-        if (entry.path().extension() == ".txt") {
-            names.push_back(fs::relative(entry.path(), content).generic_string());
-        }
-    }
-    std::sort(names.begin(), names.end());
-    return names;
-}
-
-// The stocks folder holds the group order as well, which shows no phrase. The libraries' titles
-// are read where their bodies stand.
+// The stocks without their group order, which shows no phrase, the Suggestions, and the libraries'
+// bodies, which hold their titles too; in name order.
 std::vector<PhraseLine> PhraseLines(const fs::path& content) {
-    std::vector<std::string> files = TextFiles(content, "stocks");
-    std::erase(files, "stocks/order.txt");
-    files.push_back("suggestions.txt");
-    for (const std::string_view folder : content::LibraryFolders) {
-        if (fs::is_directory(content / "libraries" / folder)) {
-            const auto library = TextFiles(content, fs::path("libraries") / folder);
-            files.insert(files.end(), library.begin(), library.end());
+    std::vector<std::string> files;
+    for (const auto& entry : fs::recursive_directory_iterator(content)) {
+        const std::string file = fs::relative(entry.path(), content).generic_string();
+        const bool body =
+            std::ranges::any_of(content::LibraryFolders, [&](std::string_view folder) {
+                return file.starts_with("libraries/" + std::string(folder) + "/");
+            });
+        if (file.ends_with(".txt") &&
+            (body || file == "suggestions.txt" ||
+             (file.starts_with("stocks/") && file != "stocks/order.txt"))) {
+            files.push_back(file);
         }
     }
+    std::sort(files.begin(), files.end());
     std::vector<PhraseLine> lines;
     for (const std::string& file : files) {
         const auto source = content::SourceLines(file, ReadWholeFile(content / file));
@@ -111,25 +85,21 @@ std::vector<PhraseLine> PhraseLines(const fs::path& content) {
     return lines;
 }
 
-// The program's own words, alone or in their possessive, and in lower case as a package or a web
-// address writes them.
-std::set<std::string> Allowlist(const fs::path& content) {
-    std::set<std::string> words;
-    for (const std::string& word : testing::ListedLines(content / "spelling-allowlist.txt")) {
-        words.insert({word, word + "'s", Lower(word)});
-    }
-    return words;
-}
-
 // Runs hunspell in its pipe mode, one content line to one input line, and reads back the words
-// it does not know. Fails the calling test if hunspell cannot be run.
+// it does not know. The program's own words pass alone, in their possessive, and in lower case
+// as a package or a web address writes them.
 std::vector<std::string> FindMisspellings(const fs::path& content) {
     const auto lines = PhraseLines(content);
-    const auto allowed = Allowlist(content);
+    std::set<std::string> allowed;
+    for (const std::string& word : testing::ListedLines(content / "spelling-allowlist.txt")) {
+        allowed.insert({word, word + "'s", Lower(word)});
+    }
     testing::TempFolder scratch;
     std::string input;
     for (const auto& line : lines) {
-        input += "^" + PlainQuotes(line.Text) + "\n"; // "^": never read as a command
+        // The plain quote is read both as an apostrophe and as a quotation mark; "^": never read
+        // as a command.
+        input += "^" + std::regex_replace(line.Text, std::regex("‘|’"), "'") + "\n";
     }
     WriteWholeFile(scratch / "phrases.txt", input);
     // An empty personal dictionary, so that no word list of the machine's user slips in.
@@ -148,13 +118,10 @@ std::vector<std::string> FindMisspellings(const fs::path& content) {
     std::vector<std::string> found;
     std::size_t line = 0;
     while (std::getline(verdicts, verdict)) {
-        if (verdict.empty()) { // hunspell ends the verdicts on each input line with a blank one
-            ++line;
-            continue;
-        }
-        if ((verdict.front() == '&' || verdict.front() == '#') && line < lines.size()) {
-            const auto end = verdict.find(' ', 2);
-            const std::string word = verdict.substr(2, end == std::string::npos ? end : end - 2);
+        // hunspell ends the verdicts on each input line with a blank one.
+        line += verdict.empty() ? 1 : 0;
+        if (!verdict.empty() && (verdict[0] == '&' || verdict[0] == '#') && line < lines.size()) {
+            const std::string word = verdict.substr(2, verdict.find(' ', 2) - 2);
             if (!allowed.contains(word)) {
                 found.push_back("data/" + lines[line].File + ":" +
                                 std::to_string(lines[line].Line) + ": unknown word \"" + word +
@@ -170,29 +137,29 @@ TEST(Spelling, NamesEachUnknownWordWithItsFileAndLine) {
     testing::TempFolder content;
     fs::create_directories(content / "stocks");
     fs::create_directories(content / "libraries" / "advanced");
-    WriteWholeFile(content / "stocks" / "01.txt",
-                   "# The quiet mornnig is a comment.\n[Quiet-mornnig]\n(3) The quiet of the "
-                   "mornnig\nYour Sagrel’s gentle voice\n\n[—]\n—\n—can\n");
-    WriteWholeFile(content / "stocks" / "02.txt",
-                   "[Open]\nAn honest, open question\nYour parents’ wishes\n");
-    WriteWholeFile(content / "stocks" / "order.txt", "1: Quiet-mornnig Cond-lead\n");
-    WriteWholeFile(content / "suggestions.txt",
-                   "= Reveal What Is Hiden\nUse the Converse method to create new ideas.\n"
-                   "Click ‘Keep’ and let it setle.\n");
-    WriteWholeFile(content / "libraries" / "advanced" / "1-awakening.txt",
-                   "[0] < Awakening into Wonder >\nThe Ambrel shows itself.\n[1] Yearning to "
-                   "Remembr\n* A quiet listt\nPress F1, see ~/.local/share/veyrant-sagrel/exe or "
-                   "write to support@veyrant-sagrel.org.\nType sudo apt remove veyrant-sagrel.\n");
-    WriteWholeFile(content / "spelling-allowlist.txt",
-                   "# The program's own words.\nAmbrel\nSagrel\nVeyrant\n");
+    const std::pair<const char*, const char*> files[] = {
+        {"stocks/01.txt", "# The quiet mornnig is a comment.\n[Quiet-mornnig]\n(3) The quiet of "
+                          "the mornnig\nYour Sagrel’s gentle voice\n\n[—]\n—\n—can\n"},
+        {"stocks/02.txt", "[Open]\nAn honest, open question\nYour parents’ wishes\n"},
+        {"stocks/order.txt", "1: Quiet-mornnig Cond-lead\n"},
+        {"suggestions.txt", "= Reveal What Is Hiden\nUse the Converse method to create new "
+                            "ideas.\nClick ‘Keep’ and let it setle.\n"},
+        {"libraries/advanced/1-awakening.txt",
+         "[0] < Awakening into Wonder >\nThe Ambrel shows itself.\n[1] Yearning to Remembr\n* A "
+         "quiet listt\nPress F1, see ~/.local/share/veyrant-sagrel/exe or write to "
+         "support@veyrant-sagrel.org.\nType sudo apt remove veyrant-sagrel.\n"},
+        {"spelling-allowlist.txt", "# The program's own words.\nAmbrel\nSagrel\nVeyrant\n"}};
+    for (const auto& [name, text] : files) {
+        WriteWholeFile(content / name, text);
+    }
     const std::string library = "data/libraries/advanced/1-awakening.txt:";
     EXPECT_EQ(FindMisspellings(content.Path()),
-              (std::vector<std::string>{"data/stocks/01.txt:3: unknown word \"mornnig\"",
-                                        "data/suggestions.txt:1: unknown word \"Hiden\"",
-                                        "data/suggestions.txt:3: unknown word \"setle\"",
-                                        library + "3: unknown word \"Remembr\"",
+              (std::vector<std::string>{library + "3: unknown word \"Remembr\"",
                                         library + "4: unknown word \"listt\"",
-                                        library + "6: unknown word \"sudo\""}));
+                                        library + "6: unknown word \"sudo\"",
+                                        "data/stocks/01.txt:3: unknown word \"mornnig\"",
+                                        "data/suggestions.txt:1: unknown word \"Hiden\"",
+                                        "data/suggestions.txt:3: unknown word \"setle\""}));
 }
 
 TEST(Spelling, EveryWordOfTheContentIsInTheDictionary) {
