@@ -108,20 +108,6 @@ TEST_F(LoadedLibraries, ARowComposedIntoAKeptStringReadsAsTheShownText) {
     }
 }
 
-// Each row knows the last row of the Section it stands in; the last Section runs to the end.
-TEST(LibraryIndex, SectionsEndWhereTheNextBegins) {
-    FixedLibrary library;
-    library.Titles = {"< One >",   "\tA", "\t\tA1", "< Two >",
-                      "< Three >", "\tB", "\t\tB1", "\t\tB2"};
-    library.LastRow = 7;
-    BuildLibraryIndex(library);
-    EXPECT_EQ(library.LastSection, 2);
-    EXPECT_EQ(library.SectionRow, (std::vector<std::int16_t>{0, 3, 4}));
-    EXPECT_EQ(library.SectionEnd, (std::vector<std::int16_t>{2, 2, 2, 3, 7, 7, 7, 7}));
-    EXPECT_EQ(library.RowKind, (std::vector<std::int16_t>{2, 0, 0, 2, 2, 0, 0, 0}));
-    EXPECT_EQ(library.SectionTitle[1], "< Two >");
-}
-
 TEST_F(LoadedLibraries, AnEmptyLastTitleEndsTheStartExceptInTheAdvancedLibrary) {
     EXPECT_NO_THROW(CheckLibraryContent(Libraries));
     for (const auto id : {LibraryId::Information, LibraryId::Knowledge, LibraryId::Advanced}) {
