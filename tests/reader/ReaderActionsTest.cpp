@@ -233,7 +233,6 @@ TEST(ReaderActions, PrintAndFileHandTheDialogueOn) {
         EXPECT_TRUE(t.Windows.BusyWhilePrinting && !t.Windows.Busy);
         EXPECT_EQ(t.Line(RC::cmdPrint), "\"Print\"");
         EXPECT_EQ(t.BoxTitles(), boxes);
-
         t.Read().Click(RC::cmdFile);
         ASSERT_EQ(t.Windows.EditorTexts.size(), 1u);
         EXPECT_EQ(t.Windows.EditorTexts[0].Text,
@@ -258,7 +257,6 @@ TEST_F(ReaderFixture, DeleteTakesTheDialogueOutOfTheLibrary) {
     Open(1);
     Read().Click(RC::cmdNext);
     const std::string shown = Title();
-
     for (const auto answer : {MessageAnswer::No, MessageAnswer::Cancel}) {
         Windows.Answers = {answer};
         Read().Click(RC::cmdDelete);
@@ -307,7 +305,6 @@ TEST_F(ReaderFixture, AFailedDeleteKeepsThePair) {
               "Information Library and review the Topic, 'Repairing the Dialogue Library'.");
     EXPECT_EQ(Files(Folder), before);
     EXPECT_EQ(Title(), shown);
-
     // With its dialogue file gone the pair is half deleted: the list no longer offers it.
     std::filesystem::remove(Folder.Dlg() / "76112109.300");
     Windows.Answers = {MessageAnswer::Yes};

@@ -36,12 +36,10 @@ TEST_F(ReaderFixture, LibraryButtonsOpenTheReaderAndRestoringClosesIt) {
         EXPECT_TRUE(App.Reading.ReaderOpen == ReaderOpenState::Open && pressed(c.Button) &&
                     Windows.IsWindowMinimised(WindowId::Mirror) &&
                     Windows.IsWindowVisible(WindowId::Read) && !Windows.Busy);
-
         // The same library is not opened twice.
         const auto events = Windows.WindowEvents.size();
         Press(*this, c.Button, c.Mouse);
         EXPECT_EQ(Windows.WindowEvents.size(), events);
-
         // The user brings the Write window back.
         Windows.RestoreWindow(WindowId::Mirror);
         App.Write->WindowStateChanged(false);
@@ -50,7 +48,6 @@ TEST_F(ReaderFixture, LibraryButtonsOpenTheReaderAndRestoringClosesIt) {
                     App.Write->State().ReadLibrary == LibraryId::None);
     }
     EXPECT_TRUE(std::filesystem::exists(Folder.Exe() / "Read.ini"));
-
     // Closing the Reader's own window brings the Write window back from minimised.
     Press(*this, MC::cmdKnow);
     App.Links.CloseLibrary();
@@ -68,7 +65,6 @@ TEST_F(ReaderFixture, BackdropFollowsTheWriteWindow) {
     EXPECT_TRUE(Windows.IsWindowVisible(WindowId::Back));
     Windows.RestoreWindow(WindowId::Mirror);
     App.Write->WindowStateChanged(false);
-
     App.Write->WindowStateChanged(true);
     EXPECT_FALSE(Windows.IsWindowVisible(WindowId::Back));
     App.Write->WindowStateChanged(false);
@@ -121,7 +117,6 @@ TEST(BackgroundHelp, TellsHowToRestoreAHiddenBackdropOnEitherWindow) {
             tick();
         }
         EXPECT_EQ(note(), instruction);
-
         for (const auto button : {MouseButton::Left, MouseButton::Right, MouseButton::Middle}) {
             t.App.Back.MouseDown();
             onReader ? t.Read().MouseDown(RC::Window, button)

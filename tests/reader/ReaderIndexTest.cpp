@@ -67,7 +67,6 @@ TEST_F(ReaderFixture, IndexButtonTogglesTheLists) {
     Key(KeyCode::Escape);
     EXPECT_EQ(Title() + " | " + Lines({RC::cmdSelect, RC::List1}),
               "Veyrant Knowledge Library | " + index1);
-
     // The first row of the Information Library names its place among 185 rows and its
     // Section's fourteen.
     App.Links.CloseLibrary();
@@ -171,7 +170,6 @@ TEST_F(ReaderFixture, HoverHelpStandsSevenTicks) {
     Read().TimerFired(TimerId::ReadHover);
     EXPECT_EQ(Line(RC::txtNote).substr(0, 20), "\"Select a Section to");
     EXPECT_EQ(Windows.Timers.count(TimerId::ReadHover), 0u);
-
     Read().MouseMove(RC::txtNote);
     EXPECT_EQ(Line(RC::txtNote), "\"Function key alternates for mouse clicks.\" ink=HelpInk");
     Read().TimerFired(TimerId::ReadHover);

@@ -132,7 +132,6 @@ TEST_F(ReaderSearch, AllDialoguesLandOnTheThird) {
               heron + " | \"Search not active\" disabled ink=IndexText | \"< Index >\"");
     Read().Click(RC::cmdSearch);
     EXPECT_EQ(Title(), "Veyrant Dialogue Library -- Search Text");
-
     // Past the last hit the walk reads the earliest; Print and File still take the one on show.
     Go("calm");
     Read().Click(RC::cmdSearch);
@@ -142,7 +141,6 @@ TEST_F(ReaderSearch, AllDialoguesLandOnTheThird) {
     ASSERT_EQ(Windows.Printed.size(), 1u);
     EXPECT_EQ(Windows.Printed[0].Inspiration, "\tA calm lake.");
     EXPECT_NE(Windows.EditorTexts.at(0).Text.find("calm lake"), std::string::npos);
-
     // Locked, the walk opens the sealed files and the page text is the same.
     TurnLockOn(App.Folder, "lantern", {crypto_pwhash_OPSLIMIT_MIN, crypto_pwhash_MEMLIMIT_MIN});
     App.Links.CloseLibrary();
@@ -196,7 +194,6 @@ TEST_F(ReaderSearch, CancelKeepsWhatWasFound) {
     Key(KeyCode::Escape);
     EXPECT_EQ(Title() + " | " + Line(RC::cmdSearch), "Veyrant Information Library | \"Search\"");
     App.Links.CloseLibrary();
-
     Open(3);
     Search("row 3");
     Read().Click(RC::cmdSelect);
@@ -204,11 +201,9 @@ TEST_F(ReaderSearch, CancelKeepsWhatWasFound) {
               "Veyrant Knowledge Library -- 4/4/7 -- B | low \"B |  | \\tText of row 3. | \" "
               "back=ReadingText | 7 rows, selected -1, top 0, split back=IndexText");
     EXPECT_FALSE(Selected(""));
-
     Search("zebra");
     Key(KeyCode::Escape);
     EXPECT_EQ(Title() + " | " + Line(RC::cmdSearch), "Veyrant Knowledge Library | \"Search\"");
-
     // The Dialogue list comes back when a search of all Dialogues found nothing.
     App.Links.CloseLibrary();
     SaveThree();
@@ -256,7 +251,6 @@ TEST_F(ReaderSearch, UnreadableDialogueDoesNotStopTheWalk) {
     ASSERT_EQ(Windows.Boxes.size(), 1u);
     EXPECT_EQ(Windows.Boxes[0].Text.substr(0, 60),
               "Error 53 attempting to retrieve a file from the Dialogue Lib");
-
     Read().Click(RC::txtSearch);
     Go("heron");
     EXPECT_EQ(Title().substr(0, 26), "Veyrant Dialogue -- 1/3 --");

@@ -50,7 +50,6 @@ TEST(SpellChecker, MarksFinishedWordsTheDictionaryDoesNotKnow) {
     SpellChecker idle;
     idle.Open(nullptr, folder / "Words.txt");
     EXPECT_EQ(Marked(idle, "the cta sat", NoCaret), std::vector<std::string>{});
-
     // An added word is known at once and after a restart.
     int looks = 0;
     checker.Watch([&] { return ++looks < 2; });

@@ -65,7 +65,6 @@ TEST_F(DialogueLibraryTest, ListingHoldsDateOrderAndLabels) {
               "Earliest, Nov 3/Prior, Nov 20/Latest, Nov 22/Tuesday, 9:05 am, November 3, "
               "2026/Friday, 11:45 pm, November 20, 2026/26-11-22");
     EXPECT_EQ(std::pair(listing.LibraryListOrder[1], listing.LibraryListOrder[3]), std::pair(3, 1));
-
     // One Dialogue alone has a short label of the date only.
     UserSettings.MaxLibraryFiles = 1;
     ASSERT_TRUE(Library.ScanLibrary());
@@ -120,7 +119,6 @@ TEST_F(DialogueLibraryTest, StrayNamesInTheInspirationFolderCountAsDialogues) {
     EXPECT_EQ(Library.Listing().LibraryCount, 2);
     EXPECT_EQ(Library.Listing().LibraryFiles[1] + " " + Library.Listing().LibraryLabels[1],
               "76112012.30x Earliest, Nov 20");
-
     // One whose fields make no date counts too, as the oldest, and the scan says it cannot
     // read it; the program goes on.
     WriteWholeFile(Folder.Isp() / "notes.txt", "\tnotes");
@@ -135,25 +133,21 @@ TEST_F(DialogueLibraryTest, SavingTakesTheDateOfTheWorkBuffersAndWritesBothFiles
     const std::string inspiration = "\tEvery door you open \x93leads\x94 somewhere.";
     const std::string dialogue = "\r\n\r\n\t\x93Why now?\x94\r\n\tBecause the hour has come.";
     KeepInspirationAt(inspiration, {2026, 11, 21, 18, 7, 42});
-
     ASSERT_TRUE(Library.AddToLibrary(inspiration, dialogue));
     EXPECT_EQ(SavedPair("76112118.070"), inspiration + "|" + dialogue);
     EXPECT_EQ(Library.Listing().LibraryCount, 1);
-
     // A second save in the same minute takes the next file tag; the first pair stays.
     SetFileDate(Folder.Exe() / "savei.tmp", {2026, 11, 21, 18, 7, 5});
     EXPECT_EQ(Library.AddToLibrary(inspiration, dialogue + " More."), "76112118.071");
     EXPECT_EQ(Library.Listing().LibraryCount, 2);
     EXPECT_EQ(ReadWholeFile(Folder.Dlg() / "76112118.070"), dialogue);
     EXPECT_EQ(ReadWholeFile(Folder.Dlg() / "76112118.071"), dialogue + " More.");
-
     // An inspiration without its tab is kept as it stands.
     SetFileDate(Folder.Exe() / "savei.tmp", {2026, 11, 21, 18, 8, 0});
     ASSERT_TRUE(Library.AddToLibrary("no tab here", dialogue));
     EXPECT_EQ(ReadWholeFile(Folder.Isp() / "76112118.080"), "no tab here");
     EXPECT_EQ(Library.Listing().LibraryCount, 3);
     EXPECT_TRUE(Windows.Boxes.empty());
-
     // With all ten tags of a minute taken the save is refused, and the box says why.
     for (int tag = 1; tag < FileTags; ++tag) {
         ASSERT_TRUE(Library.AddToLibrary(inspiration, dialogue));
@@ -177,10 +171,8 @@ TEST_F(DialogueLibraryTest, ASaveTakesThePresentMinuteOrAYearTheLibraryCannotRea
 TEST_F(DialogueLibraryTest, AFailedSaveLeavesTheOldPairAndSaysWhy) {
     KeepInspirationAt("\told", {2026, 11, 21, 18, 7, 0});
     ASSERT_TRUE(Library.AddToLibrary("\told", "old dialogue"));
-
     const bool added = WithDiskNearlyFull(
         [&] { return Library.AddToLibrary("\tnew", std::string(100000, 'x')).has_value(); });
-
     EXPECT_FALSE(added);
     EXPECT_EQ(SavedPair("76112118.070"), "\told|old dialogue");
     EXPECT_EQ(Names(Folder.Isp()), Names(Folder.Dlg()));
@@ -189,7 +181,6 @@ TEST_F(DialogueLibraryTest, AFailedSaveLeavesTheOldPairAndSaysWhy) {
     EXPECT_TRUE(Windows.Boxes[0].Text.starts_with(
         "Error 61 attempting to save your Dialogue in the Dialogue Library. The disk is "
         "full.\r\n\r\nYour Dialogue is not lost."));
-
     // A file where a folder of the Library should be: the save fails and the scan says so.
     std::filesystem::remove_all(Folder.Dlg());
     WriteWholeFile(Folder.Dlg(), "not a folder");

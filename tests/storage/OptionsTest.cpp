@@ -11,7 +11,6 @@ protected:
     int ReaderUnloads = 0;
     veyrant::Options Window{Library, UserSettings, Windows, [this] { ++Exits; },
                             [this] { ++ReaderUnloads; }};
-
     bool Shows(std::initializer_list<std::string> lines) const {
         const auto dump = Window.Dump();
         return std::all_of(lines.begin(), lines.end(),
@@ -80,7 +79,6 @@ TEST_F(OptionsTest, LimitsThatWouldDeleteAskFirst) {
     EXPECT_EQ(Window.Dump().substr(0, 31), "txtSetSave \"30\"\ntxtSetDays \"21\"");
     EXPECT_EQ(UserSettings.MaxLibraryFiles + UserSettings.MaxLibraryDays, 51);
     EXPECT_EQ(UserSettings.GuestMode, 1);
-
     // The days alone are enough to ask; Yes ends the program and the next start deletes.
     Windows.Answers = {MessageAnswer::Yes};
     Window.txtSetDays_Change("7");
@@ -100,7 +98,6 @@ TEST_F(OptionsTest, CleanDeletesEveryDialogueAfterAskingOnce) {
     ASSERT_EQ(Windows.Boxes.size(), 1u);
     EXPECT_EQ(Windows.Boxes[0].Text.substr(0, 72),
               "This will delete all the Dialogues from the Library, a total of 2 files.");
-
     Windows.Answers = {MessageAnswer::Yes};
     Window.cmdClean_Click();
     EXPECT_TRUE(Names(Folder.Isp()).empty() && Names(Folder.Dlg()).empty());

@@ -52,7 +52,6 @@ TEST_F(WorkBuffersTest, GuestModeMissingAndDeletedBuffersGiveNoPriorDialogue) {
     EXPECT_EQ(ReadWholeFile(Folder.Exe() / "savem.tmp"), Kept.DialogueText);
     UserSettings.GuestMode = 0;
     EXPECT_EQ(Buffers.ReadWorkBuffers().value().PriorAge, 4);
-
     // Any missing buffer means no Prior Dialogue; the others stay until they are written over.
     for (const char* missing : {"savei.tmp", "savem.tmp", "saves.tmp", "savep.tmp"}) {
         SCOPED_TRACE(missing);
@@ -67,7 +66,6 @@ TEST_F(WorkBuffersTest, GuestModeMissingAndDeletedBuffersGiveNoPriorDialogue) {
     std::filesystem::remove(Folder.Exe() / "savem.tmp");
     Buffers.DeleteWorkBuffers();
     EXPECT_EQ(Names(Folder.Exe()), std::vector<std::string>{"saves.tmp"});
-
     // A delete the disk refuses leaves the set whole, without a word.
     ASSERT_TRUE(Buffers.WriteWorkBuffers(Kept));
     {
@@ -172,7 +170,6 @@ TEST_F(WorkBuffersTest, AFailedWriteLeavesTheOldSetWhole) {
     ASSERT_EQ(Windows.Boxes.size(), 1u);
     EXPECT_EQ(Windows.Boxes[0].Text.substr(0, 80),
               "Error 61 attempting to keep your Dialogue in the work buffers. The disk is full.");
-
     // A file where the program folder should be.
     std::filesystem::remove_all(Folder.Exe());
     WriteWholeFile(Folder.Exe(), "not a folder");
