@@ -89,12 +89,11 @@ TEST(Cp1252, EveryByteRoundTripsAndCharactersWithoutACodeAreRefused) {
     EXPECT_EQ(Cp1252ToUtf8("\x93\x80"), "\u201C\u20AC");
     EXPECT_FALSE(Utf16ToCp1252(u"\u0416").has_value());     // Cyrillic
     EXPECT_FALSE(Utf16ToCp1252(u"\U0001F600").has_value()); // emoji, a surrogate pair
-    struct Case {
+    const struct {
         std::string Utf8;
         bool Ok;
         std::size_t BadOffset;
-    };
-    const Case cases[] = {
+    } cases[] = {
         {"plain", true, 0},     {"em \u2014 dash", true, 0}, {"caf\u00E9", true, 0},
         {"ab\u4E2D", false, 2}, {"x\xC3", false, 1}, // cut short
         {"x\xC3(", false, 1},                        // bad continuation
