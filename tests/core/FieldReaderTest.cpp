@@ -28,12 +28,11 @@ TEST(FieldReader, NumbersReadAlikeInAnySpacingOrSeparator) {
 }
 
 TEST(FieldReader, FailuresCarryTheirNumbers) {
-    struct Case {
+    const struct {
         std::string Text;
         bool Wide;
         int Error;
-    };
-    const Case cases[] = {
+    } cases[] = {
         {"", false, 62},         {" \r\n ", false, 62},   {"32768", false, 6},
         {"-32769", false, 6},    {"2147483648", true, 6}, {"12x", false, 13},
         {"\"text\"", false, 13}, {"-", false, 13},        {"1.5", false, 13},
@@ -58,18 +57,16 @@ TEST(FieldReader, StringsQuotedOrBareAndTheLimitsOfEachWidth) {
     FieldReader reader(
         "\"Parity\", \"a, b\",\"\"\r\n  Liberation Serif  \r\nx,7\r\n\"Tail\" junk,8,"
         "32767,-32768,,2147483647,-2147483648");
-    EXPECT_EQ(reader.ReadString(), "Parity");
-    EXPECT_EQ(reader.ReadString(), "a, b");
-    EXPECT_EQ(reader.ReadString(), "");
-    EXPECT_EQ(reader.ReadString(), "Liberation Serif");
+    for (const char* expected : {"Parity", "a, b", "", "Liberation Serif"}) {
+        EXPECT_EQ(reader.ReadString(), expected);
+    }
     EXPECT_EQ(reader.Line(), 3);
     EXPECT_EQ(reader.ReadAny(), "x");
     EXPECT_EQ(reader.ReadInt16(), 7);
     EXPECT_EQ(reader.ReadString(), "Tail");
-    EXPECT_EQ(reader.ReadInt16(), 8);
-    EXPECT_EQ(reader.ReadInt16(), 32767);
-    EXPECT_EQ(reader.ReadInt16(), -32768);
-    EXPECT_EQ(reader.ReadInt16(), 0);
+    for (const int expected : {8, 32767, -32768, 0}) {
+        EXPECT_EQ(reader.ReadInt16(), expected);
+    }
     EXPECT_EQ(reader.ReadInt32(), 2147483647);
     EXPECT_EQ(reader.ReadInt32(), INT32_MIN);
     EXPECT_TRUE(reader.AtEnd());

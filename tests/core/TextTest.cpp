@@ -1,29 +1,20 @@
 #include "core/Text.h"
 
+#include "core/Cp1252.h"
+
 #include <gtest/gtest.h>
 
 namespace veyrant {
 namespace {
 
 TEST(Text, PositionsCountFromOneAndNeverFail) {
-    const std::pair<std::string, std::string> cases[] = {
-        {Mid("\t\x93Hello", 3), "Hello"},
-        {Mid("abcdef", 2, 3), "bcd"},
-        {Mid("abc", 5), ""},
-        {Mid("abc", 0, 2), "ab"},
-        {Left("abc", 5), "abc"},
-        {Left("abc", 0), ""},
-        {Right("abcdef", 2), "ef"},
-        {Right("ab", 9), "ab"},
-        {Trim("  two  words "), "two  words"},
-        {Trim("\tkept "), "\tkept"},
-        {LTrim("  a "), "a "},
-        {RTrim(" a  "), " a"},
-        {Trim("    "), ""},
-    };
-    for (const auto& [got, expected] : cases) {
-        EXPECT_EQ(got, expected);
-    }
+    EXPECT_EQ(Mid("\t\x93Hello", 3) + "|" + Mid("abcdef", 2, 3) + "|" + Mid("abc", 5) + "|" +
+                  Mid("abc", 0, 2) + "|" + Left("abc", 5) + "|" + Left("abc", 0) + "|" +
+                  Right("abcdef", 2) + "|" + Right("ab", 9),
+              "Hello|bcd||ab|abc||ef|ab");
+    EXPECT_EQ(Trim("  two  words ") + "|" + Trim("\tkept ") + "|" + LTrim("  a ") + "|" +
+                  RTrim(" a  ") + "|" + Trim("    "),
+              "two  words|\tkept|a | a|");
 }
 
 // The search's matching skips the lower-case copies; it must find exactly what comparing two
@@ -46,7 +37,6 @@ TEST(Text, FindNoCaseAgreesWithComparingLowerCasedCopies) {
     EXPECT_EQ(FindNoCase("abc", "abcd"), 0);
     EXPECT_EQ(FindNoCase("abc", "", 4), 4);
     EXPECT_EQ(FindNoCase("abc", "a", 5), 0);
-
     // Every byte against every byte, so each has exactly the partners Lower gives it.
     for (int a = 0; a < 256; ++a) {
         for (int b = 0; b < 256; ++b) {
@@ -85,6 +75,36 @@ TEST(Text, CaseOfWindows1252Letters) {
     EXPECT_EQ(entry, "\t\x93What now?");
     LowerAt(entry, 99); // out of range: unchanged
     EXPECT_EQ(entry, "\t\x93What now?");
+}
+
+// Every byte round-trips; quotation marks and dashes map to their Unicode characters; characters
+// without a code are refused at their offset.
+TEST(Cp1252, EveryByteRoundTripsAndCharactersWithoutACodeAreRefused) {
+    std::string all;
+    for (int b = 0; b < 256; ++b) {
+        all += static_cast<char>(b);
+    }
+    EXPECT_EQ(Utf16ToCp1252(Cp1252ToUtf16(all)), all);
+    EXPECT_EQ(Cp1252ToUtf16("\x93Hi\x94 \x97"), u"\u201CHi\u201D \u2014");
+    EXPECT_EQ(Cp1252ToUtf8("\x93\x80"), "\u201C\u20AC");
+    EXPECT_FALSE(Utf16ToCp1252(u"\u0416").has_value());     // Cyrillic
+    EXPECT_FALSE(Utf16ToCp1252(u"\U0001F600").has_value()); // emoji, a surrogate pair
+    const struct {
+        std::string Utf8;
+        bool Ok;
+        std::size_t BadOffset;
+    } cases[] = {
+        {"plain", true, 0},     {"em \u2014 dash", true, 0}, {"caf\u00E9", true, 0},
+        {"ab\u4E2D", false, 2}, {"x\xC3", false, 1}, // cut short
+        {"x\xC3(", false, 1},                        // bad continuation
+        {"\u0081", false, 0},                        // C1 stand-in is not authored text
+    };
+    for (const auto& c : cases) {
+        const auto result = Utf8ToCp1252(c.Utf8);
+        EXPECT_EQ(result.Ok, c.Ok) << c.Utf8;
+        EXPECT_EQ(result.BadOffset, c.Ok ? result.BadOffset : c.BadOffset) << c.Utf8;
+    }
+    EXPECT_EQ(Utf8ToCp1252("em \u2014").Text, "em \x97");
 }
 
 } // namespace

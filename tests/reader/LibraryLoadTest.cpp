@@ -48,26 +48,24 @@ TEST_F(LoadedLibraries, EachOpensWithASectionAndHoldsItsTextsInRecordForm) {
 
 // The rows tell what is so of this program on a Linux desktop, and where to mend the Library.
 TEST_F(LoadedLibraries, RowsTellWhatHoldsOnLinux) {
+    using enum LibraryId;
     const struct {
         LibraryId Library;
-        const char* Title;
-        const char* Says;
+        std::string Title, Says;
     } cases[] = {
-        {LibraryId::Information, "\t\tRepairing the Dialogue Library",
-         "Dialogue Library Corrupted"},
-        {LibraryId::Information, "\t\tCommand Buttons", "Three buttons"},
-        {LibraryId::Information, "\t\tCommand Buttons",
-         "while a Suppose or a Comment is under way"},
-        {LibraryId::Information, "\tDialogue Commands",
+        {Information, "\t\tRepairing the Dialogue Library", "Dialogue Library Corrupted"},
+        {Information, "\t\tCommand Buttons", "Three buttons"},
+        {Information, "\t\tCommand Buttons", "while a Suppose or a Comment is under way"},
+        {Information, "\tDialogue Commands",
          "and \x91"
          "Continue\x92 have none"},
-        {LibraryId::Information, "\tDialogue Commands", "Alt+P"},
-        {LibraryId::Information, "\t\tEntry Requirements and Limits", "up to 121 pairs"},
-        {LibraryId::Information, "\tLegal Notices", "/usr/share/doc/veyrant-sagrel/copyright"},
-        {LibraryId::Information, "\t\tLicense", "/usr/share/common-licenses/GPL-3"},
-        {LibraryId::Information, "\t\tOpening the Veyrant Libraries", "on Wayland clicking it"},
-        {LibraryId::Information, "\tRead Window", "on Wayland clicking it"},
-        {LibraryId::Advanced, "< The Ambrel >", "forty-seven Topics"},
+        {Information, "\tDialogue Commands", "Alt+P"},
+        {Information, "\t\tEntry Requirements and Limits", "up to 121 pairs"},
+        {Information, "\tLegal Notices", "/usr/share/doc/veyrant-sagrel/copyright"},
+        {Information, "\t\tLicense", "/usr/share/common-licenses/GPL-3"},
+        {Information, "\t\tOpening the Veyrant Libraries", "on Wayland clicking it"},
+        {Information, "\tRead Window", "on Wayland clicking it"},
+        {Advanced, "< The Ambrel >", "forty-seven Topics"},
     };
     for (const auto& c : cases) {
         const auto& titles = Libraries[c.Library].Titles;
@@ -106,20 +104,6 @@ TEST_F(LoadedLibraries, ARowComposedIntoAKeptStringReadsAsTheShownText) {
         ComposeRowText(odd, row, kept);
         EXPECT_EQ(kept, composed[row]);
     }
-}
-
-// Each row knows the last row of the Section it stands in; the last Section runs to the end.
-TEST(LibraryIndex, SectionsEndWhereTheNextBegins) {
-    FixedLibrary library;
-    library.Titles = {"< One >",   "\tA", "\t\tA1", "< Two >",
-                      "< Three >", "\tB", "\t\tB1", "\t\tB2"};
-    library.LastRow = 7;
-    BuildLibraryIndex(library);
-    EXPECT_EQ(library.LastSection, 2);
-    EXPECT_EQ(library.SectionRow, (std::vector<std::int16_t>{0, 3, 4}));
-    EXPECT_EQ(library.SectionEnd, (std::vector<std::int16_t>{2, 2, 2, 3, 7, 7, 7, 7}));
-    EXPECT_EQ(library.RowKind, (std::vector<std::int16_t>{2, 0, 0, 2, 2, 0, 0, 0}));
-    EXPECT_EQ(library.SectionTitle[1], "< Two >");
 }
 
 TEST_F(LoadedLibraries, AnEmptyLastTitleEndsTheStartExceptInTheAdvancedLibrary) {

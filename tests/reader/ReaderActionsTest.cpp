@@ -60,12 +60,9 @@ void Steps(ReaderFixture& t, const std::string& steps) {
 // of that library shows the marked row in Index-2 in the library's saved mode, once.
 TEST(ReaderActions, MarkExitReopensAtTheMark) {
     const struct {
-        const char* Visit;
-        int ReadIniLine; // the line of Read.ini holding the mark
-        const char* Mark;
-        const char* Reopen;
-        std::string Title;
-        std::string Shown; // List1 | txtSpin | cmdNext
+        std::string Visit;
+        int ReadIniLine;                        // the line of Read.ini holding the mark
+        std::string Mark, Reopen, Title, Shown; // Shown: List1 | txtSpin | cmdNext
     } cases[] = {
         // The Knowledge Library expanded: its Topic fills the window.
         {"expand 3/1 mark", 2, " 1  1 ", "3", "Veyrant Knowledge Library -- 2/4/7 -- A",
@@ -95,27 +92,26 @@ TEST(ReaderActions, MarkExitReopensAtTheMark) {
         const std::string unmarked = " 0 -1 \r\n 0 -1 \r\n 0 -1 \r\n 0 -1 \r\n";
         WriteWholeFile(t.Folder.Exe() / "Read.ini", unmarked);
         Steps(t, c.Visit);
-        EXPECT_EQ(t.App.Reading.ReaderOpen, ReaderOpenState::Closed);
-        EXPECT_FALSE(t.Windows.IsWindowVisible(WindowId::Read));
         // No hover help outlives the window, to blank the instruction of the next opening.
-        EXPECT_EQ(t.Windows.Timers.count(TimerId::ReadHover), 0u);
+        EXPECT_TRUE(t.App.Reading.ReaderOpen == ReaderOpenState::Closed &&
+                    !t.Windows.IsWindowVisible(WindowId::Read) &&
+                    t.Windows.Timers.count(TimerId::ReadHover) == 0);
         std::string marked = unmarked;
         marked.replace(static_cast<std::size_t>(c.ReadIniLine) * 8, 6, c.Mark);
         EXPECT_EQ(t.ReadIni(), marked);
-        if (std::string(c.Visit) == "3days 1:2 mark") {
+        if (c.Visit == "3days 1:2 mark") {
             for (const auto& name : {"76111909.300", "76112009.300"}) {
                 std::filesystem::remove(t.Folder.Isp() / name);
                 std::filesystem::remove(t.Folder.Dlg() / name);
             }
         }
-        const std::string reopen = c.Reopen;
-        reopen == "help" ? Steps(t, reopen) : t.Open(reopen[0] - '0');
-        EXPECT_EQ(t.Title(), c.Title);
-        EXPECT_EQ(t.Lines({RC::List1, RC::txtSpin, RC::cmdNext}), c.Shown);
+        c.Reopen == "help" ? Steps(t, c.Reopen) : t.Open(c.Reopen[0] - '0');
+        EXPECT_EQ(t.Title() + " | " + t.Lines({RC::List1, RC::txtSpin, RC::cmdNext}),
+                  c.Title + " | " + c.Shown);
         // Read.ini's lines are Information, Dialogue, Knowledge, Advanced; Help here reopens
         // the marked Advanced Knowledge Library.
         t.App.Links.CloseLibrary();
-        const auto line = std::string("2134").find(reopen == "help" ? '4' : reopen[0]);
+        const auto line = std::string("2134").find(c.Reopen == "help" ? '4' : c.Reopen[0]);
         EXPECT_EQ(t.ReadIni().substr(line * 8, 3), " 0 ");
     }
 }
@@ -125,13 +121,9 @@ TEST(ReaderActions, MarkExitReopensAtTheMark) {
 // expanded without the saved mode saying so: Window splits it, and the split is what is saved.
 TEST(ReaderActions, MergeShowsTheSectionsTopicsExpanded) {
     const struct {
-        int Library;
-        int Section;
+        int Library, Section;
         std::int16_t Mode;
-        std::string Title;
-        std::string Starts;
-        std::string Ends;
-        std::string Split;
+        std::string Title, Starts, Ends, Split;
     } cases[] = {
         {3, 0, 1, "Veyrant Knowledge Library -- Merged Essay -- < First >",
          "A\r\n\r\n\tText of row 1.\r\n\r\nA1\r\n\r\n\tText of row 2.\r\n\r\n",
@@ -153,20 +145,17 @@ TEST(ReaderActions, MergeShowsTheSectionsTopicsExpanded) {
         t.Read().Click(RC::cmdPrint);
         EXPECT_EQ(t.Title(), c.Title);
         const std::string& text = t.Read().Controls()[RC::txtSpin].Text;
-        EXPECT_TRUE(text.starts_with(c.Starts)) << text;
-        EXPECT_TRUE(text.ends_with(c.Ends)) << text;
+        EXPECT_TRUE(text.starts_with(c.Starts) && text.ends_with(c.Ends)) << text;
         EXPECT_EQ(t.Line(RC::txtSpin).substr(0, 5), "high ");
         EXPECT_EQ(t.Lines({RC::List1, RC::cmdPrint, RC::cmdExitM, RC::cmdSelect, RC::txtNote}),
                   "(hidden) | \"Merge\" disabled | \"Mark Exit\" | \"< Index >\" | \"Click "
                   "'Window' or the text to split the window and show the index. Click 'Index' "
                   "to clear the window and reset the list.\"");
         EXPECT_EQ(t.App.UserSettings.WindowMode[library], c.Mode);
-        EXPECT_TRUE(t.Windows.Boxes.empty());
-        EXPECT_FALSE(t.Windows.Busy);
-        EXPECT_GE(t.Windows.Yields, 2);
+        EXPECT_TRUE(t.Windows.Boxes.empty() && !t.Windows.Busy && t.Windows.Yields >= 2);
         t.Read().Click(RC::cmdWindow);
-        EXPECT_EQ(t.Line(RC::List1), c.Split + ", split back=IndexText");
-        EXPECT_EQ(t.Line(RC::txtSpin).substr(0, 5), "low \"");
+        EXPECT_EQ(t.Line(RC::List1) + " " + t.Line(RC::txtSpin).substr(0, 5),
+                  c.Split + ", split back=IndexText low \"");
         EXPECT_EQ(t.App.UserSettings.WindowMode[library], 0);
     }
 }
@@ -193,10 +182,9 @@ TEST_F(ReaderFixture, OnlyTheAmbrelAndOverflowingEssaysAreRefused) {
         if (refused) {
             EXPECT_EQ(Windows.Boxes[0].Title + ": " + Windows.Boxes[0].Text,
                       "Cannot Merge: This Essay is too long to be merged.");
-            EXPECT_EQ(Read().Controls()[RC::txtSpin].Text, sectionText);
-            EXPECT_EQ(Title(), sectionTitle);
-            EXPECT_EQ(Lines({RC::cmdPrint}), "\"Merge\" disabled");
-            EXPECT_EQ(Line(RC::txtSpin).substr(0, 4), "low ");
+            EXPECT_EQ(Read().Controls()[RC::txtSpin].Text + Title(), sectionText + sectionTitle);
+            EXPECT_EQ(Line(RC::cmdPrint) + Line(RC::txtSpin).substr(0, 4),
+                      "\"Merge\" disabledlow ");
             EXPECT_FALSE(Windows.Busy);
         } else {
             EXPECT_EQ(Line(RC::txtSpin).substr(0, 5), "high ");
@@ -227,31 +215,24 @@ TEST_F(ReaderFixture, OnlyTheAmbrelAndOverflowingEssaysAreRefused) {
 TEST(ReaderActions, PrintAndFileHandTheDialogueOn) {
     const DateTime saved{2026, 11, 20, 9, 30, 0};
     const std::string body = "\t\x93Hello.\x94\r\n\tA reply.";
-    const struct {
-        PrintOutcome Answer;
-        std::vector<std::string> Boxes;
-    } cases[] = {
-        {PrintOutcome::Printed, {}},
-        {PrintOutcome::Cancelled, {}},
-        {PrintOutcome::Failed, {"Print Error"}},
-    };
-    for (const auto& c : cases) {
+    for (const auto& [answer, boxes] :
+         {std::pair<PrintOutcome, std::vector<std::string>>{PrintOutcome::Printed, {}},
+          {PrintOutcome::Cancelled, {}},
+          {PrintOutcome::Failed, {"Print Error"}}}) {
         ReaderFixture t;
         t.SaveDialogue(saved, "\r\n\tMy inspiration.");
         t.Open(1);
         t.Read().Click(RC::cmdNext);
-        t.Windows.PrintAnswer = c.Answer;
+        t.Windows.PrintAnswer = answer;
         t.Read().Click(RC::cmdPrint);
         ASSERT_EQ(t.Windows.Printed.size(), 1u);
         const PrintRequest& printed = t.Windows.Printed[0];
         EXPECT_EQ(printed.Inspiration + "|" + printed.Dialogue + "|" + printed.Title,
                   "\r\n\tMy inspiration.|" + body + "|Veyrant Dialogue");
         EXPECT_EQ(FormatDate(printed.ShownDate, "yyyy-mm-dd hh:nn"), "2026-11-20 09:30");
-        EXPECT_TRUE(t.Windows.BusyWhilePrinting);
-        EXPECT_FALSE(t.Windows.Busy);
+        EXPECT_TRUE(t.Windows.BusyWhilePrinting && !t.Windows.Busy);
         EXPECT_EQ(t.Line(RC::cmdPrint), "\"Print\"");
-        EXPECT_EQ(t.BoxTitles(), c.Boxes);
-
+        EXPECT_EQ(t.BoxTitles(), boxes);
         t.Read().Click(RC::cmdFile);
         ASSERT_EQ(t.Windows.EditorTexts.size(), 1u);
         EXPECT_EQ(t.Windows.EditorTexts[0].Text,
@@ -276,12 +257,10 @@ TEST_F(ReaderFixture, DeleteTakesTheDialogueOutOfTheLibrary) {
     Open(1);
     Read().Click(RC::cmdNext);
     const std::string shown = Title();
-
     for (const auto answer : {MessageAnswer::No, MessageAnswer::Cancel}) {
         Windows.Answers = {answer};
         Read().Click(RC::cmdDelete);
-        EXPECT_EQ(Title(), shown);
-        EXPECT_EQ(Files(Folder).size(), 2u);
+        EXPECT_TRUE(Title() == shown && Files(Folder).size() == 2) << Title();
     }
     Windows.Answers = {MessageAnswer::Yes};
     Read().Click(RC::cmdDelete);
@@ -289,14 +268,12 @@ TEST_F(ReaderFixture, DeleteTakesTheDialogueOutOfTheLibrary) {
     const MessageBoxRequest& box = Windows.Boxes[2];
     EXPECT_EQ(box.Title + ": " + box.Text,
               "Delete Dialogue: Are you certain you want to delete this Dialogue?");
-    EXPECT_EQ(box.Icon, MessageIcon::Stop);
-    EXPECT_EQ(box.Buttons, MessageButtons::YesNoCancel);
-    EXPECT_EQ(box.DefaultButton, 2);
+    EXPECT_TRUE(box.Icon == MessageIcon::Stop && box.Buttons == MessageButtons::YesNoCancel &&
+                box.DefaultButton == 2);
     EXPECT_TRUE(Files(Folder).empty());
-    EXPECT_EQ(Title(), "Veyrant Dialogue Library -- No Dialogues Saved");
-    EXPECT_EQ(Lines({RC::List1, RC::cmdNext, RC::cmdDelete}),
-              "0 rows, selected -1, top 0, split back=ListEmpty | \"Latest\" disabled | "
-              "\"Delete\" disabled");
+    EXPECT_EQ(Title() + " | " + Lines({RC::List1, RC::cmdNext, RC::cmdDelete}),
+              "Veyrant Dialogue Library -- No Dialogues Saved | 0 rows, selected -1, top 0, split "
+              "back=ListEmpty | \"Latest\" disabled | \"Delete\" disabled");
     EXPECT_NE(status().find("There are currently no Dialogues saved in the Library."),
               std::string::npos);
 }
@@ -324,9 +301,7 @@ TEST_F(ReaderFixture, AFailedDeleteKeepsThePair) {
               "Error 70 attempting to delete the file from the Dialogue Library. Because the "
               "Library has become corrupted, it is necessary for you to repair it. Open the "
               "Information Library and review the Topic, 'Repairing the Dialogue Library'.");
-    EXPECT_EQ(Files(Folder), before);
-    EXPECT_EQ(Title(), shown);
-
+    EXPECT_TRUE(Files(Folder) == before && Title() == shown) << Title();
     // With its dialogue file gone the pair is half deleted: the list no longer offers it.
     std::filesystem::remove(Folder.Dlg() / "76112109.300");
     Windows.Answers = {MessageAnswer::Yes};

@@ -40,7 +40,6 @@ TEST_F(ReaderFixture, ListsLatestFirstAndStepsIntoDialogues) {
         Read().Controls().List.Rows,
         (std::vector<std::string>{"26-11-20 -- A calm lake.", "26-11-12 -- < format error >"}));
     EXPECT_EQ(Lines({RC::cmdNext, RC::cmdSearch}), "\"Latest\" | \"Search\"");
-
     Read().Click(RC::cmdNext);
     EXPECT_EQ(Title(),
               "Veyrant Dialogue -- 2/2 -- Friday, 3:30 pm, November 20, 2026 -- 2/21 Days Old/Max");
@@ -49,7 +48,6 @@ TEST_F(ReaderFixture, ListsLatestFirstAndStepsIntoDialogues) {
               "lake.\r\n\r\nDialogue\r\n\r\n\t\x93Hello.\x94\r\n\tA reply.");
     EXPECT_EQ(Lines({RC::cmdNext, RC::cmdPrior}), "\"Earlier >>\" | \"<< Later\" disabled");
     EXPECT_EQ(App.ReaderSettings.MarkRows[LibraryId::Dialogue], 0);
-
     Key(KeyCode::PageDown);
     EXPECT_EQ(Title(),
               "Veyrant Dialogue -- 1/2 -- Thursday, 9:05 am, November 12, 2026 -- 10/21 Days "

@@ -27,7 +27,6 @@ class ReaderFixture : public ::testing::Test {
 public:
     ReaderFixture();
     void TestBody() override {}
-
     // Opens a library as the Write window does: 1 Dialogue, 2 Information, 3 Knowledge,
     // 4 Advanced Knowledge.
     void Open(int library);
@@ -43,7 +42,6 @@ public:
     std::string ReadIni() { return ReadWholeFile(Folder.Exe() / "Read.ini"); }
     // The titles of the message boxes shown so far.
     std::vector<std::string> BoxTitles() const;
-
     TempFolder Temp;
     AppFolder Folder{Temp / "veyrant-sagrel"};
     FakeClock Clock;

@@ -33,33 +33,26 @@ TEST_F(ReaderFixture, LibraryButtonsOpenTheReaderAndRestoringClosesIt) {
         Press(*this, c.Button, c.Mouse);
         EXPECT_EQ(Title(), c.Title);
         EXPECT_EQ(App.Write->State().ReadLibrary, c.ReadLibrary);
-        EXPECT_EQ(App.Reading.ReaderOpen, ReaderOpenState::Open);
-        EXPECT_TRUE(Windows.IsWindowMinimised(WindowId::Mirror));
-        EXPECT_TRUE(Windows.IsWindowVisible(WindowId::Read));
-        EXPECT_TRUE(pressed(c.Button));
-        EXPECT_FALSE(Windows.Busy);
-
+        EXPECT_TRUE(App.Reading.ReaderOpen == ReaderOpenState::Open && pressed(c.Button) &&
+                    Windows.IsWindowMinimised(WindowId::Mirror) &&
+                    Windows.IsWindowVisible(WindowId::Read) && !Windows.Busy);
         // The same library is not opened twice.
         const auto events = Windows.WindowEvents.size();
         Press(*this, c.Button, c.Mouse);
         EXPECT_EQ(Windows.WindowEvents.size(), events);
-
         // The user brings the Write window back.
         Windows.RestoreWindow(WindowId::Mirror);
         App.Write->WindowStateChanged(false);
-        EXPECT_EQ(App.Reading.ReaderOpen, ReaderOpenState::Closed);
-        EXPECT_FALSE(Windows.IsWindowVisible(WindowId::Read));
-        EXPECT_EQ(App.Write->State().ReadLibrary, LibraryId::None);
-        EXPECT_FALSE(pressed(c.Button));
+        EXPECT_TRUE(App.Reading.ReaderOpen == ReaderOpenState::Closed && !pressed(c.Button) &&
+                    !Windows.IsWindowVisible(WindowId::Read) &&
+                    App.Write->State().ReadLibrary == LibraryId::None);
     }
     EXPECT_TRUE(std::filesystem::exists(Folder.Exe() / "Read.ini"));
-
     // Closing the Reader's own window brings the Write window back from minimised.
     Press(*this, MC::cmdKnow);
     App.Links.CloseLibrary();
-    EXPECT_FALSE(Windows.IsWindowMinimised(WindowId::Mirror));
-    EXPECT_FALSE(pressed(MC::cmdKnow));
-    EXPECT_EQ(App.Write->State().ReadLibrary, LibraryId::None);
+    EXPECT_FALSE(Windows.IsWindowMinimised(WindowId::Mirror) || pressed(MC::cmdKnow) ||
+                 App.Write->State().ReadLibrary != LibraryId::None);
 }
 
 // The backdrop goes when the user minimises the Write window, not when the Reader's opening
@@ -72,12 +65,11 @@ TEST_F(ReaderFixture, BackdropFollowsTheWriteWindow) {
     EXPECT_TRUE(Windows.IsWindowVisible(WindowId::Back));
     Windows.RestoreWindow(WindowId::Mirror);
     App.Write->WindowStateChanged(false);
-
     App.Write->WindowStateChanged(true);
     EXPECT_FALSE(Windows.IsWindowVisible(WindowId::Back));
     App.Write->WindowStateChanged(false);
-    EXPECT_TRUE(Windows.IsWindowVisible(WindowId::Back));
-    EXPECT_EQ(Windows.WindowEvents.back(), "show Mirror");
+    EXPECT_TRUE(Windows.IsWindowVisible(WindowId::Back) &&
+                Windows.WindowEvents.back() == "show Mirror");
 }
 
 // The pointer on the bare background of the Write or the Read window: with the backdrop hidden
@@ -111,7 +103,6 @@ TEST(BackgroundHelp, TellsHowToRestoreAHiddenBackdropOnEitherWindow) {
         EXPECT_FALSE(t.App.Back.HintShowing());
         tick();
         EXPECT_EQ(note(), instruction);
-
         t.App.Back.MouseDown();
         ASSERT_FALSE(t.Windows.IsWindowVisible(WindowId::Back));
         move();
@@ -126,7 +117,6 @@ TEST(BackgroundHelp, TellsHowToRestoreAHiddenBackdropOnEitherWindow) {
             tick();
         }
         EXPECT_EQ(note(), instruction);
-
         for (const auto button : {MouseButton::Left, MouseButton::Right, MouseButton::Middle}) {
             t.App.Back.MouseDown();
             onReader ? t.Read().MouseDown(RC::Window, button)

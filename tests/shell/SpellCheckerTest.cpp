@@ -26,12 +26,11 @@ std::vector<std::string> Marked(const SpellChecker& checker, std::string_view te
 
 // Finished words the dictionary does not know are marked; an added word is known.
 TEST(SpellChecker, MarksFinishedWordsTheDictionaryDoesNotKnow) {
-    struct Case {
+    const struct {
         std::string_view Text;
         std::size_t Caret;
         std::vector<std::string> Marked;
-    };
-    const Case cases[] = {
+    } cases[] = {
         {"the cta sat", NoCaret, {"cta"}},
         {"the cta", 7, {}},            // still being typed
         {"the cta sta", 5, {"sta"}},   // the caret is back in it
@@ -44,13 +43,12 @@ TEST(SpellChecker, MarksFinishedWordsTheDictionaryDoesNotKnow) {
     TempFolder folder;
     SpellChecker checker;
     checker.Open(FewWords(), folder / "Words.txt");
-    for (const Case& c : cases) {
+    for (const auto& c : cases) {
         EXPECT_EQ(Marked(checker, c.Text, c.Caret), c.Marked) << c.Text;
     }
     SpellChecker idle;
     idle.Open(nullptr, folder / "Words.txt");
     EXPECT_EQ(Marked(idle, "the cta sat", NoCaret), std::vector<std::string>{});
-
     // An added word is known at once and after a restart.
     int looks = 0;
     checker.Watch([&] { return ++looks < 2; });
@@ -67,18 +65,17 @@ TEST(SpellChecker, MarksFinishedWordsTheDictionaryDoesNotKnow) {
 }
 
 TEST(DictionaryChoice, TheUsersLanguageComesFirstAndAmericanEnglishLast) {
-    struct Case {
+    const struct {
         std::string_view All, Messages, Lang;
         std::vector<std::string> Names;
-    };
-    const Case cases[] = {
+    } cases[] = {
         {"", "", "de_DE.UTF-8", {"de_DE", "de", "en_US"}},
         {"", "fr_CA.UTF-8@euro", "de_DE.UTF-8", {"fr_CA", "fr", "en_US"}},
         {"C", "fr_CA", "de_DE", {"en_US"}},
         {"", "", "en_US.UTF-8", {"en_US", "en"}},
         {"", "", "", {"en_US"}},
     };
-    for (const Case& c : cases) {
+    for (const auto& c : cases) {
         EXPECT_EQ(DictionaryNames(c.All, c.Messages, c.Lang), c.Names) << c.Lang;
     }
     TempFolder folder;

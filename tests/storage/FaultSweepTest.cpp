@@ -23,7 +23,6 @@ const DialogueBuffers Running{"\tThe lamp waits for the evening.",
 // The storage of one run, in memory where the system allows.
 struct StorageRun : LibraryStorage {
     StorageRun() : LibraryStorage(MemoryFolder()) {}
-
     std::optional<std::string> Disagreement() const {
         int onDisk = 0;
         std::error_code error;
@@ -44,7 +43,6 @@ struct StorageRun : LibraryStorage {
         }
         return std::nullopt;
     }
-
     std::optional<std::string> Restart(const FolderImage& before, const FolderImage& after) {
         FinishInterruptedChanges(Folder);
         DialogueLibrary library(Folder, UserSettings, Clock, Windows);
@@ -73,13 +71,28 @@ struct StorageRun : LibraryStorage {
         }
         return std::nullopt;
     }
-
     bool BuffersKept = false;
 };
 
 void KeepBuffers(StorageRun& run) {
     std::filesystem::create_directories(run.Folder.Exe());
     ASSERT_TRUE(run.Buffers.WriteWorkBuffers(Kept));
+}
+
+void WriteRunning(StorageRun& run) {
+    run.BuffersKept = run.Buffers.WriteWorkBuffers(Running);
+}
+
+void SaveRunning(StorageRun& run) {
+    run.Library.AddToLibrary(Running.InspirationText, Running.DialogueText);
+}
+
+// The user's answers to each question, and the Library listed anew as the Reader does after.
+void DeleteFirst(StorageRun& run, std::deque<MessageAnswer> answers) {
+    run.Windows.Answers = std::move(answers);
+    if (run.Library.DeleteDialogue(run.Library.Listing().LibraryFiles[1])) {
+        run.Library.ScanLibrary();
+    }
 }
 
 void WithLibrary(StorageRun& run) {
@@ -93,10 +106,8 @@ TEST(FaultSweep, EveryStoragePathLeavesOldOrNewAndSaysWhatFailed) {
         PathIn<StorageRun>(
             "work buffers, first written (Finish, close, right-click)",
             [](StorageRun& run) { std::filesystem::create_directories(run.Folder.Root); },
-            [](StorageRun& run) { run.BuffersKept = run.Buffers.WriteWorkBuffers(Running); }),
-        PathIn<StorageRun>(
-            "work buffers, written over a kept Dialogue", KeepBuffers,
-            [](StorageRun& run) { run.BuffersKept = run.Buffers.WriteWorkBuffers(Running); }),
+            WriteRunning),
+        PathIn<StorageRun>("work buffers, written over a kept Dialogue", KeepBuffers, WriteRunning),
         PathIn<StorageRun>(
             "work buffers, deleted by New", KeepBuffers,
             [](StorageRun& run) { run.Buffers.DeleteWorkBuffers(); }, true),
@@ -107,26 +118,16 @@ TEST(FaultSweep, EveryStoragePathLeavesOldOrNewAndSaysWhatFailed) {
                 KeepBuffers(run);
                 run.UserSettings.MaxLibraryFiles = 2;
             },
-            [](StorageRun& run) {
-                run.Library.AddToLibrary(Running.InspirationText, Running.DialogueText);
-            }),
+            SaveRunning),
         PathIn<StorageRun>(
             "save to the Library twice in one minute",
             [](StorageRun& run) {
                 KeepBuffers(run);
                 run.Library.AddToLibrary(Kept.InspirationText, Kept.DialogueText);
             },
-            [](StorageRun& run) {
-                run.Library.AddToLibrary(Running.InspirationText, Running.DialogueText);
-            }),
+            SaveRunning),
         PathIn<StorageRun>("delete from the Reader", WithLibrary,
-                           [](StorageRun& run) {
-                               run.Windows.Answers = {MessageAnswer::Yes};
-                               if (run.Library.DeleteDialogue(
-                                       run.Library.Listing().LibraryFiles[1])) {
-                                   run.Library.ScanLibrary();
-                               }
-                           }),
+                           [](StorageRun& run) { DeleteFirst(run, {MessageAnswer::Yes}); }),
         PathIn<StorageRun>(
             "delete from the Reader, the trash refusing: deleted for good after Yes",
             [](StorageRun& run) {
@@ -134,10 +135,7 @@ TEST(FaultSweep, EveryStoragePathLeavesOldOrNewAndSaysWhatFailed) {
                 WriteWholeFile(run.Folder.Trash(), "a file where the trash should be");
             },
             [](StorageRun& run) {
-                run.Windows.Answers = {MessageAnswer::Yes, MessageAnswer::Yes};
-                if (run.Library.DeleteDialogue(run.Library.Listing().LibraryFiles[1])) {
-                    run.Library.ScanLibrary();
-                }
+                DeleteFirst(run, {MessageAnswer::Yes, MessageAnswer::Yes});
             }),
         PathIn<StorageRun>(
             "retention at start",
@@ -163,23 +161,17 @@ TEST(FaultSweep, EveryStoragePathLeavesOldOrNewAndSaysWhatFailed) {
 // every run.
 struct LockRun : StorageRun {
     static constexpr std::string_view Passphrase = "lantern";
-
     // Every file the lock rewrites, by its place, with the text it must hold whatever happens.
-    std::map<std::string, std::string> Texts;
-
+    FolderImage Texts;
     void Keep() {
         WithLibrary(*this);
         KeepBuffers(*this);
-        for (const auto& [file, bytes] : ImageOf(Folder.Root)) {
-            Texts[file] = bytes;
-        }
+        Texts = ImageOf(Folder.Root);
     }
-
     void Switch(bool locking) {
         SwitchLock(Folder, Windows, locking, Passphrase,
                    {crypto_pwhash_OPSLIMIT_MIN, crypto_pwhash_MEMLIMIT_MIN});
     }
-
     FolderImage Image() const {
         AppFolder open{Folder.Root};
         const bool locked = LibraryIsLocked(open) && OpenLibrary(open, Passphrase);
@@ -194,14 +186,12 @@ struct LockRun : StorageRun {
         }
         return image;
     }
-
     std::optional<std::string> Disagreement() const {
         if ((Folder.Key != nullptr) != LibraryIsLocked(Folder)) {
             return std::string("the key in memory and the key file disagree");
         }
         return std::nullopt;
     }
-
     std::optional<std::string> Restart(const FolderImage&, const FolderImage&) {
         FinishInterruptedChanges(Folder);
         AppFolder open{Folder.Root};

@@ -6,84 +6,68 @@
 
 #include "LibraryFixture.h"
 
+#include <set>
+
 namespace veyrant::testing {
 namespace {
 
-using Files = std::map<std::string, std::string>;
+// Files as "place=bytes", the place relative to the application folder.
+using Files = std::set<std::string>;
 
 TEST(FileTransaction, TheNextStartFinishesOrClearsWhatACrashLeft) {
-    struct Case {
+    const struct {
         const char* Name;
-        Files Left;     // relative to the application folder
-        Files Expected; // everything the folder then holds
-    };
-    const Case cases[] = {
+        Files Left, Expected; // Expected: everything the folder then holds
+    } cases[] = {
         {"a write of ours cut short in each folder; the user's own hidden files stay",
-         {{"exe/.savei.tmp.veyrant-staged.Ab12Cd", "\thalf"},
-          {"dlg/.76112010.000.veyrant-staged.x9Y8z7", "half"},
-          {"isp/.76112010.000.veyrant-staged.Qq1Ww2", "\thalf"},
-          {"..change.veyrant-staged.Zz9Yy8", "R\tisp/.a.Qq1Ww2\tisp/a\n"},
-          {"exe/savei.tmp", "\told"},
-          {"dlg/.76112321.030.backup", "mine"},
-          {"exe/.Tolmira.ini.backup", "mine"},
-          {".notes.backup", "mine"}},
-         {{"exe/savei.tmp", "\told"},
-          {"dlg/.76112321.030.backup", "mine"},
-          {"exe/.Tolmira.ini.backup", "mine"},
-          {".notes.backup", "mine"}}},
+         {"exe/.savei.tmp.veyrant-staged.Ab12Cd=\thalf",
+          "dlg/.76112010.000.veyrant-staged.x9Y8z7=half",
+          "isp/.76112010.000.veyrant-staged.Qq1Ww2=\thalf",
+          "..change.veyrant-staged.Zz9Yy8=R\tisp/.a.Qq1Ww2\tisp/a\n", "exe/savei.tmp=\told",
+          "dlg/.76112321.030.backup=mine", "exe/.Tolmira.ini.backup=mine", ".notes.backup=mine"},
+         {"exe/savei.tmp=\told", "dlg/.76112321.030.backup=mine", "exe/.Tolmira.ini.backup=mine",
+          ".notes.backup=mine"}},
+        // The Dialogue's rename was done before the crash.
         {"a change whose note is down: the renames and deletes are done",
-         {{".change", "R\tisp/.76112010.000.Qq1Ww2\tisp/76112010.000\n"
-                      "R\tdlg/.76112010.000.x9Y8z7\tdlg/76112010.000\n"
-                      "D\tisp/76101010.000\nD\tdlg/76101010.000\n"},
-          {"isp/.76112010.000.Qq1Ww2", "\tnew"},
-          {"dlg/76112010.000", "new dialogue"}, // its rename was done before the crash
-          {"isp/76101010.000", "\told"},
-          {"dlg/76101010.000", "old dialogue"}},
-         {{"isp/76112010.000", "\tnew"}, {"dlg/76112010.000", "new dialogue"}}},
+         {".change=R\tisp/.76112010.000.Qq1Ww2\tisp/76112010.000\n"
+          "R\tdlg/.76112010.000.x9Y8z7\tdlg/76112010.000\n"
+          "D\tisp/76101010.000\nD\tdlg/76101010.000\n",
+          "isp/.76112010.000.Qq1Ww2=\tnew", "dlg/76112010.000=new dialogue",
+          "isp/76101010.000=\told", "dlg/76101010.000=old dialogue"},
+         {"isp/76112010.000=\tnew", "dlg/76112010.000=new dialogue"}},
         {"an earlier version's buffers, all four staged: the renames are finished",
-         {{"exe/savei.tmp", "\tnew"},
-          {"exe/savem.tmp", "new dialogue"},
-          {"exe/saves.tmp.new", "new suggestion"},
-          {"exe/savep.tmp.new", " 2 \r\n"},
-          {"exe/saves.tmp", "old suggestion"},
-          {"exe/savep.tmp", " 1 \r\n"}},
-         {{"exe/savei.tmp", "\tnew"},
-          {"exe/savem.tmp", "new dialogue"},
-          {"exe/saves.tmp", "new suggestion"},
-          {"exe/savep.tmp", " 2 \r\n"}}},
+         {"exe/savei.tmp=\tnew", "exe/savem.tmp=new dialogue", "exe/saves.tmp.new=new suggestion",
+          "exe/savep.tmp.new= 2 \r\n", "exe/saves.tmp=old suggestion", "exe/savep.tmp= 1 \r\n"},
+         {"exe/savei.tmp=\tnew", "exe/savem.tmp=new dialogue", "exe/saves.tmp=new suggestion",
+          "exe/savep.tmp= 2 \r\n"}},
         {"an earlier version's buffers, cut short while staging: the old set stays",
-         {{"exe/savei.tmp.new", "\tnew"},
-          {"exe/savem.tmp.new", "new dial"},
-          {"exe/savei.tmp", "\told"},
-          {"exe/savem.tmp", "old dialogue"},
-          {"exe/saves.tmp", "old suggestion"},
-          {"exe/savep.tmp", " 1 \r\n"}},
-         {{"exe/savei.tmp", "\told"},
-          {"exe/savem.tmp", "old dialogue"},
-          {"exe/saves.tmp", "old suggestion"},
-          {"exe/savep.tmp", " 1 \r\n"}}},
+         {"exe/savei.tmp.new=\tnew", "exe/savem.tmp.new=new dial", "exe/savei.tmp=\told",
+          "exe/savem.tmp=old dialogue", "exe/saves.tmp=old suggestion", "exe/savep.tmp= 1 \r\n"},
+         {"exe/savei.tmp=\told", "exe/savem.tmp=old dialogue", "exe/saves.tmp=old suggestion",
+          "exe/savep.tmp= 1 \r\n"}},
         {"an earlier version's save, its Dialogue written: the pair is completed",
-         {{"isp/.76112010.000.new", "\tnew"}, {"dlg/76112010.000", "new dialogue"}},
-         {{"isp/76112010.000", "\tnew"}, {"dlg/76112010.000", "new dialogue"}}},
+         {"isp/.76112010.000.new=\tnew", "dlg/76112010.000=new dialogue"},
+         {"isp/76112010.000=\tnew", "dlg/76112010.000=new dialogue"}},
         {"an earlier version's save without its Dialogue: nothing is saved",
-         {{"isp/.76112010.000.new", "\tnew"}},
+         {"isp/.76112010.000.new=\tnew"},
          {}},
     };
-    for (const Case& c : cases) {
+    for (const auto& c : cases) {
         SCOPED_TRACE(c.Name);
         TempFolder temp;
         for (const auto& folder : {"exe", "dlg", "isp"}) {
             std::filesystem::create_directories(temp / folder);
         }
-        for (const auto& [file, bytes] : c.Left) {
-            WriteWholeFile(temp / file, bytes);
+        for (const std::string& file : c.Left) {
+            const auto equals = file.find('=');
+            WriteWholeFile(temp / file.substr(0, equals), file.substr(equals + 1));
         }
         FinishInterruptedChanges(AppFolder{temp.Path()});
         Files found;
         for (const auto& entry : std::filesystem::recursive_directory_iterator(temp.Path())) {
             if (entry.is_regular_file()) {
-                found[entry.path().lexically_relative(temp.Path()).string()] =
-                    ReadWholeFile(entry.path());
+                found.insert(entry.path().lexically_relative(temp.Path()).string() + "=" +
+                             ReadWholeFile(entry.path()));
             }
         }
         EXPECT_EQ(found, c.Expected);

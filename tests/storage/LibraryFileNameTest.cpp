@@ -11,15 +11,14 @@ namespace {
 // or before 1960: the name grows or shrinks by one character and every field read from it
 // shifts, so it makes no date. A name put in by hand reads whatever stands at the places.
 TEST(LibraryFileName, NamesFollowTheDateAndReadBack) {
-    struct Case {
+    const struct {
         DateTime When; // 0: made by hand, or no date
         std::string Name;
         const char* FileDateText;
         int Tag;
         double Key;
         bool Dated = true;
-    };
-    const Case cases[] = {
+    } cases[] = {
         {{2005, 7, 19, 14, 30, 59}, "55071914.300", "07/19/2005 14:30", 0, 55071914.30},
         {{2026, 1, 2, 3, 4, 0}, "76010203.040", "01/02/2026 03:04", 0, 76010203.04},
         {{2049, 12, 31, 23, 59, 0}, "99123123.590", "12/31/2049 23:59", 0, 99123123.59},

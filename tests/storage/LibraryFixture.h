@@ -33,7 +33,6 @@ inline const DialogueBuffers Kept{"\tA quiet river carves the stone.",
 // November 2026.
 struct LibraryStorage {
     explicit LibraryStorage(const std::filesystem::path& base) : Temp(base) {}
-
     TempFolder Temp;
     AppFolder Folder{Temp.Path()};
     Settings UserSettings;
@@ -41,15 +40,17 @@ struct LibraryStorage {
     FakeWindowLayer Windows;
     DialogueLibrary Library{Folder, UserSettings, Clock, Windows};
     WorkBuffers Buffers{Folder, UserSettings, Clock, Windows};
-
     // Puts a saved Dialogue into the Library as a save at that date would.
     std::string SaveAt(const DateTime& when, const std::string& dialogue = "\r\n\r\n\t\x93Hi\x94") {
         return PutDialogue(Folder, when, "\tInspiration of " + MakeFileName(when), dialogue);
     }
-
+    void SaveDays(std::initializer_list<double> ages) {
+        for (const double age : ages) {
+            SaveAt(DaysAgo(age));
+        }
+    }
     // A date the given number of days (and hours) before the clock's.
     DateTime DaysAgo(double days) const { return FromDayNumber(DayNumber(Clock.Date) - days); }
-
     std::vector<std::string> Names(const std::filesystem::path& folder) const {
         std::vector<std::string> names;
         for (const auto& entry : std::filesystem::directory_iterator(folder)) {
@@ -58,10 +59,26 @@ struct LibraryStorage {
         std::sort(names.begin(), names.end());
         return names;
     }
-
     // Dates a file through the fake clock, the one clock every test reads.
     void SetFileDate(const std::filesystem::path& path, const DateTime& when) {
         Clock.FileDates[path] = when;
+    }
+    // The inspiration buffer as the Write window keeps it, which dates the next save.
+    void KeepInspirationAt(const std::string& inspiration, const DateTime& when) {
+        std::filesystem::create_directories(Folder.Exe());
+        WriteWholeFile(Folder.Exe() / "savei.tmp", inspiration);
+        SetFileDate(Folder.Exe() / "savei.tmp", when);
+    }
+    // Both files of a saved pair, as "inspiration|dialogue".
+    std::string SavedPair(const std::string& name) const {
+        return ReadWholeFile(Folder.Isp() / name) + "|" + ReadWholeFile(Folder.Dlg() / name);
+    }
+    std::vector<std::string> BoxTitles() const {
+        std::vector<std::string> titles;
+        for (const auto& box : Windows.Boxes) {
+            titles.push_back(box.Title);
+        }
+        return titles;
     }
 };
 

@@ -14,12 +14,8 @@ auto Fields(const DialogueBuffers& b) {
 // The four files hold the Dialogue exactly and read back; the Prior Dialogue's age comes from
 // the date of the inspiration buffer.
 TEST_F(WorkBuffersTest, TheFourFilesHoldTheDialogueAndItsDate) {
-    struct Case {
-        DateTime Written;
-        int Age;
-    };
     // The clock stands at noon on 22 November 2026; halves go to the even day.
-    const Case cases[] = {
+    const std::pair<DateTime, int> cases[] = {
         {{2026, 11, 22, 11, 59, 0}, 0},
         {{2026, 11, 21, 0, 0, 0}, 2},
         {{2026, 11, 21, 0, 0, 1}, 1},
@@ -36,12 +32,12 @@ TEST_F(WorkBuffersTest, TheFourFilesHoldTheDialogueAndItsDate) {
     }
     EXPECT_EQ(files, "savei.tmp:" + Kept.InspirationText + "|savem.tmp:" + Kept.DialogueText +
                          "|savep.tmp: 1 \r\n|saves.tmp:" + Kept.SuggestionText + "|");
-    for (const auto& c : cases) {
-        SetFileDate(Folder.Exe() / "savei.tmp", c.Written);
+    for (const auto& [written, age] : cases) {
+        SetFileDate(Folder.Exe() / "savei.tmp", written);
         const auto prior = Buffers.ReadWorkBuffers();
         ASSERT_TRUE(prior.has_value());
-        EXPECT_EQ(prior->PriorAge, c.Age) << c.Written.Day << " " << c.Written.Hour;
-        EXPECT_EQ(prior->BufferDate, c.Written);
+        EXPECT_EQ(prior->PriorAge, age) << written.Day << " " << written.Hour;
+        EXPECT_EQ(prior->BufferDate, written);
         EXPECT_EQ(Fields(prior->Buffers), Fields(Kept));
     }
 }
@@ -49,16 +45,13 @@ TEST_F(WorkBuffersTest, TheFourFilesHoldTheDialogueAndItsDate) {
 TEST_F(WorkBuffersTest, GuestModeMissingAndDeletedBuffersGiveNoPriorDialogue) {
     ASSERT_TRUE(Buffers.WriteWorkBuffers(Kept));
     SetFileDate(Folder.Exe() / "savei.tmp", DaysAgo(4));
-
     UserSettings.GuestMode = 1;
     EXPECT_FALSE(Buffers.ReadWorkBuffers().has_value());
     ASSERT_TRUE(Buffers.WriteWorkBuffers({"\tguest", "\r\n\r\n\tguest", "guest", 1}));
     Buffers.DeleteWorkBuffers();
     EXPECT_EQ(ReadWholeFile(Folder.Exe() / "savem.tmp"), Kept.DialogueText);
-
     UserSettings.GuestMode = 0;
     EXPECT_EQ(Buffers.ReadWorkBuffers().value().PriorAge, 4);
-
     // Any missing buffer means no Prior Dialogue; the others stay until they are written over.
     for (const char* missing : {"savei.tmp", "savem.tmp", "saves.tmp", "savep.tmp"}) {
         SCOPED_TRACE(missing);
@@ -73,7 +66,6 @@ TEST_F(WorkBuffersTest, GuestModeMissingAndDeletedBuffersGiveNoPriorDialogue) {
     std::filesystem::remove(Folder.Exe() / "savem.tmp");
     Buffers.DeleteWorkBuffers();
     EXPECT_EQ(Names(Folder.Exe()), std::vector<std::string>{"saves.tmp"});
-
     // A delete the disk refuses leaves the set whole, without a word.
     ASSERT_TRUE(Buffers.WriteWorkBuffers(Kept));
     {
@@ -81,8 +73,7 @@ TEST_F(WorkBuffersTest, GuestModeMissingAndDeletedBuffersGiveNoPriorDialogue) {
         faults.FailEvery(FileCall::Sync, EIO);
         Buffers.DeleteWorkBuffers();
     }
-    EXPECT_TRUE(Buffers.ReadWorkBuffers().has_value());
-    EXPECT_TRUE(Windows.Boxes.empty());
+    EXPECT_TRUE(Buffers.ReadWorkBuffers().has_value() && Windows.Boxes.empty());
 }
 
 // One bad byte in savep.tmp does not lose the Prior Dialogue: the count is taken again from
@@ -110,8 +101,8 @@ TEST_F(WorkBuffersTest, ADamagedPairCountIsCountedAgainFromTheDialogue) {
         WriteWholeFile(Folder.Exe() / "savep.tmp", countFile);
         const auto prior = Buffers.ReadWorkBuffers();
         ASSERT_TRUE(prior.has_value());
-        EXPECT_EQ(prior->Buffers.PairCount, pairCount);
-        EXPECT_EQ(prior->Buffers.DialogueText, threeRuns);
+        EXPECT_EQ(prior->Buffers.DialogueText + std::to_string(prior->Buffers.PairCount),
+                  threeRuns + std::to_string(pairCount));
     }
 }
 
@@ -128,12 +119,11 @@ TEST_F(WorkBuffersTest, BuffersBeyondWhatTheProgramWritesAreDamaged) {
     while (manyShortLines.size() <= 121 * 8192) {
         manyShortLines += "\r\n\r\n\t\x93Why?\x94\r\n\tBecause.";
     }
-    struct Case {
+    const struct {
         const char* Name;
         DialogueBuffers Buffers;
         bool Read;
-    };
-    const Case cases[] = {
+    } cases[] = {
         {"longest", {"\t" + std::string(8000, 'i'), longest, std::string(8000, 's'), 121}, true},
         {"one long line", {"\ti", "\r\n\r\n\t" + std::string(20000, 'x'), "s", 1}, false},
         {"too many lines", {"\ti", manyShortLines, "s", 121}, false},
@@ -169,21 +159,17 @@ TEST_F(WorkBuffersTest, BuffersBeyondWhatTheProgramWritesAreDamaged) {
 TEST_F(WorkBuffersTest, AFailedWriteLeavesTheOldSetWhole) {
     ASSERT_TRUE(Buffers.WriteWorkBuffers(Kept));
     SetFileDate(Folder.Exe() / "savei.tmp", DaysAgo(1));
-
     const bool written = WithDiskNearlyFull([&] {
         return Buffers.WriteWorkBuffers({"\tnew", std::string(100000, 'x'), "new suggestion", 9});
     });
-
     EXPECT_FALSE(written);
     const auto prior = Buffers.ReadWorkBuffers();
     ASSERT_TRUE(prior.has_value());
     EXPECT_EQ(Fields(prior->Buffers), Fields(Kept));
-    EXPECT_EQ(prior->PriorAge, 1);
-    EXPECT_EQ(Names(Folder.Exe()).size(), 4u);
+    EXPECT_TRUE(prior->PriorAge == 1 && Names(Folder.Exe()).size() == 4);
     ASSERT_EQ(Windows.Boxes.size(), 1u);
     EXPECT_EQ(Windows.Boxes[0].Text.substr(0, 80),
               "Error 61 attempting to keep your Dialogue in the work buffers. The disk is full.");
-
     // A file where the program folder should be.
     std::filesystem::remove_all(Folder.Exe());
     WriteWholeFile(Folder.Exe(), "not a folder");
