@@ -6,6 +6,8 @@
 namespace veyrant::testing {
 namespace {
 
+using MirrorCycle = MirrorTest;
+
 const std::string Prefix{Tab, OpenQuote};
 const std::string Question = "why do I keep putting off the letter to my brother?";
 const std::string Notice =
@@ -13,132 +15,114 @@ const std::string Notice =
 const std::string YesNoRefusal = ">> Questions asking for a yes-no-type answer are not valid for "
                                  "Supposition. Press 'Enter' to start again.";
 
-TEST(MirrorCycle, NewDialogueOffersTheMethodsAndTheInspiration) {
-    MirrorDriver driver;
-    driver.mirror->StartWindow();
-    EXPECT_EQ(driver.Text(txtResponse), "Inspiration\r\n\tInspiration number 1.");
-    EXPECT_EQ(driver.Text(txtSaved).substr(0, 39), "Suggestion 1\r\n\r\nDialogue Library Status");
-    EXPECT_EQ(driver.Text(txtNote), "Reflect upon the Inspiration and Suggestion to compose your "
-                                    "thoughts before you begin. Click either text to change it.");
-    EXPECT_FALSE(driver.Box(cmdNew).Visible || driver.Box(cmdRemove).Visible);
-    EXPECT_FALSE(driver.Box(txtMirror).Enabled);
-    EXPECT_EQ(driver.mirror->Controls().Title,
+TEST_F(MirrorCycle, NewDialogueOffersTheMethodsAndTheInspiration) {
+    mirror->StartWindow();
+    EXPECT_EQ(Text(txtResponse), "Inspiration\r\n\tInspiration number 1.");
+    EXPECT_EQ(Text(txtSaved).substr(0, 39), "Suggestion 1\r\n\r\nDialogue Library Status");
+    EXPECT_EQ(Text(txtNote), "Reflect upon the Inspiration and Suggestion to compose your "
+                             "thoughts before you begin. Click either text to change it.");
+    EXPECT_FALSE(Box(cmdNew).Visible || Box(cmdRemove).Visible || Box(txtMirror).Enabled);
+    EXPECT_EQ(mirror->Controls().Title,
               "Veyrant Sagrel 4.1 -- Written Dialogues of Self-Reflection");
 }
 
 // The entry is accepted, "Processing" shows before the reply is composed, the pair is kept, and
 // the next Enter begins a fresh entry below the response.
-TEST(MirrorCycle, ConverseEntryIsAcceptedAnsweredAndKept) {
-    MirrorDriver driver;
-    driver.StartConverse();
-    EXPECT_EQ(driver.mirror->Controls().Title,
+TEST_F(MirrorCycle, ConverseEntryIsAcceptedAnsweredAndKept) {
+    StartConverse();
+    EXPECT_EQ(mirror->Controls().Title,
               "Veyrant Sagrel -- Conversation -- Sunday, 12:00 pm, November 22, 2026");
     std::vector<std::string> painted;
-    driver.mirror->SetPainter([&] { painted.push_back(driver.Text(txtResponse)); });
-
-    driver.Engine.Judgements.push_back({1, 50});
-    driver.Converse(Question);
+    mirror->SetPainter([&] { painted.push_back(Text(txtResponse)); });
+    Engine.Judgements.push_back({1, 50});
+    Converse(Question);
     ASSERT_FALSE(painted.empty());
     EXPECT_EQ(painted.front(), "Processing . . .");
-    EXPECT_GE(driver.Layer.Yields, 2);
-    EXPECT_EQ(driver.Text(txtMirror), Quoted(Question));
-    EXPECT_EQ(driver.Box(txtResponse).Background, Colour::ColourAdded);
-    EXPECT_EQ(driver.State().DialogueText,
-              "\r\n\r\n" + Quoted(Question) + "\r\n\tAnswer 1 to type 50.");
-    EXPECT_EQ(driver.State().PairCount + driver.State().CycleCount, 2);
-    EXPECT_TRUE(driver.Box(cmdRemove).Enabled && driver.Box(cmdDisplay).Enabled);
-    EXPECT_EQ(driver.Text(txtNote), "Text was added into the Dialogue. Click 'Remove' to erase it, "
-                                    "before continuing. Press 'Enter' to continue.");
+    EXPECT_GE(Layer.Yields, 2);
+    EXPECT_EQ(Text(txtMirror), Quoted(Question));
+    EXPECT_EQ(Box(txtResponse).Background, Colour::ColourAdded);
+    EXPECT_EQ(State().DialogueText, "\r\n\r\n" + Quoted(Question) + "\r\n\tAnswer 1 to type 50.");
+    EXPECT_EQ(State().PairCount + State().CycleCount, 2);
+    EXPECT_TRUE(Box(cmdRemove).Enabled && Box(cmdDisplay).Enabled);
+    EXPECT_EQ(Text(txtNote), "Text was added into the Dialogue. Click 'Remove' to erase it, "
+                             "before continuing. Press 'Enter' to continue.");
     // The entry stands above the response once answered, and below it for the next one.
-    EXPECT_LT(driver.Box(txtMirror).Top, driver.Box(txtResponse).Top);
-    EXPECT_EQ(driver.Engine.CheckedEntries.front(), Prefix + Question);
-
-    driver.Enter();
-    EXPECT_EQ(driver.Text(txtMirror), Prefix);
-    EXPECT_EQ(driver.Text(txtResponse), driver.State().InspirationView);
-    EXPECT_EQ(driver.Text(txtNote),
+    EXPECT_LT(Box(txtMirror).Top, Box(txtResponse).Top);
+    EXPECT_EQ(Engine.CheckedEntries.front(), Prefix + Question);
+    Enter();
+    EXPECT_EQ(Text(txtMirror), Prefix);
+    EXPECT_EQ(Text(txtResponse), State().InspirationView);
+    EXPECT_EQ(Text(txtNote),
               "Type your question or statement. Then press 'Enter' for the Sagrel response.");
-    EXPECT_EQ(driver.Shown("cmdRemove"), "cmdRemove: \"Edit\" disabled");
-    EXPECT_GT(driver.Box(txtMirror).Top, driver.Box(txtResponse).Top);
+    EXPECT_EQ(Shown("cmdRemove"), "cmdRemove: \"Edit\" disabled");
+    EXPECT_GT(Box(txtMirror).Top, Box(txtResponse).Top);
 }
 
-TEST(MirrorCycle, ClosingTheWindowKeepsARunningDialogueForNextTime) {
-    MirrorDriver driver;
-    driver.StartConverse();
-    driver.mirror->Unload();
-    EXPECT_FALSE(driver.Buffers.ReadWorkBuffers().has_value()); // nothing kept yet
-    driver.Converse(Question);
-    driver.mirror->Unload();
-    const auto prior = driver.Buffers.ReadWorkBuffers();
-    ASSERT_TRUE(prior.has_value());
-    EXPECT_EQ(prior->Buffers.DialogueText, driver.State().DialogueText);
-    EXPECT_EQ(prior->Buffers.PairCount, 1);
-    EXPECT_FALSE(driver.Box(txtMirror).Enabled);
+TEST_F(MirrorCycle, ClosingTheWindowKeepsARunningDialogueForNextTime) {
+    StartConverse();
+    mirror->Unload();
+    EXPECT_EQ(Kept(), "none"); // nothing kept yet
+    Converse(Question);
+    mirror->Unload();
+    EXPECT_EQ(Kept(), "1:" + State().DialogueText);
+    EXPECT_FALSE(Box(txtMirror).Enabled);
 }
 
-TEST(MirrorCycle, RemarkStaysOutUntilKeptAndKeepRemoveRestoreTheTextExactly) {
-    MirrorDriver driver;
-    driver.StartConverse();
-    driver.Engine.Rolls.push_back(0);
-    driver.Converse(Question);
+TEST_F(MirrorCycle, RemarkStaysOutUntilKeptAndKeepRemoveRestoreTheTextExactly) {
+    StartConverse();
+    Engine.Rolls.push_back(0);
+    Converse(Question);
     // The first pair left out leaves Cancel and no Display.
-    EXPECT_EQ(driver.Text(cmdRemove) + driver.Text(cmdNew), "KeepCancel");
-    EXPECT_FALSE(driver.Box(cmdDisplay).Enabled);
-    EXPECT_EQ(driver.Text(txtSaved), "Dialogue");
-
-    driver.Click(cmdRemove);
-    const std::string kept = driver.State().DialogueText;
+    EXPECT_EQ(Text(cmdRemove) + Text(cmdNew) + "|" + Text(txtSaved), "KeepCancel|Dialogue");
+    EXPECT_FALSE(Box(cmdDisplay).Enabled);
+    Click(cmdRemove);
+    const std::string kept = State().DialogueText;
     EXPECT_EQ(kept, "\r\n\r\n" + Quoted(Question) + "\r\n\tRemark 1 on type 2.");
-    EXPECT_EQ(driver.Text(cmdRemove) + driver.Text(cmdNew), "RemoveFinish");
-    EXPECT_TRUE(driver.Box(cmdDisplay).Enabled);
-    EXPECT_EQ(driver.Text(txtNote), "Text was kept in the Dialogue. Click 'Remove' to erase it, "
-                                    "before continuing. Press 'Enter' to continue.");
-
-    driver.Click(cmdRemove);
-    EXPECT_EQ(driver.State().DialogueText, "");
-    EXPECT_EQ(driver.Text(txtSaved), "Dialogue");
-    EXPECT_EQ(driver.Text(txtNote), "Text was removed from the Dialogue. Click 'Keep' to retain "
-                                    "it, before continuing. Press 'Enter' to continue.");
-    driver.Click(cmdRemove);
-    EXPECT_EQ(driver.State().DialogueText, kept);
+    EXPECT_EQ(Text(cmdRemove) + Text(cmdNew), "RemoveFinish");
+    EXPECT_TRUE(Box(cmdDisplay).Enabled);
+    EXPECT_EQ(Text(txtNote), "Text was kept in the Dialogue. Click 'Remove' to erase it, "
+                             "before continuing. Press 'Enter' to continue.");
+    Click(cmdRemove);
+    EXPECT_EQ(State().DialogueText + "|" + Text(txtSaved), "|Dialogue");
+    EXPECT_EQ(Text(txtNote), "Text was removed from the Dialogue. Click 'Keep' to retain "
+                             "it, before continuing. Press 'Enter' to continue.");
+    Click(cmdRemove);
+    EXPECT_EQ(State().DialogueText, kept);
 }
 
 // Removing a pair takes it out of the Dialogue, not out of the count that brings the notice,
 // and the notice comes only once the goal is reached and stays out of the Dialogue.
-TEST(MirrorCycle, NoticeComesOnceTheGoalIsReachedEvenWithThePairsRemoved) {
-    MirrorDriver driver;
-    driver.Draws.Draws = {0.05f}; // CycleGoal 3
-    driver.StartConverse();
+TEST_F(MirrorCycle, NoticeComesOnceTheGoalIsReachedEvenWithThePairsRemoved) {
+    Draws.Draws = {0.05f}; // CycleGoal 3
+    StartConverse();
     for (int cycle = 0; cycle < 3; ++cycle) {
-        driver.Converse(Question);
-        driver.Click(cmdRemove);
+        Converse(Question);
+        Click(cmdRemove);
         if (cycle < 2) {
-            driver.Enter();
+            Enter();
         }
     }
-    EXPECT_EQ(driver.Engine.RollPercents, (std::vector<int>{25, 25, 25}));
-    EXPECT_EQ(driver.State().PairCount, 0);
-
-    driver.Engine.Rolls.push_back(0);
-    driver.Enter();
-    EXPECT_EQ(driver.Engine.RollPercents.back(), 20);
-    EXPECT_EQ(driver.Text(txtResponse), Notice);
-    EXPECT_EQ(driver.Box(txtResponse).Background, Colour::ColourNotice);
-    EXPECT_EQ(driver.Text(txtNote), "Review the message regarding the conversation. Press "
-                                    "'Enter', then continue typing. Or click 'Finish'.");
-    EXPECT_TRUE(driver.State().AwaitingEnter);
-    EXPECT_EQ(driver.State().DialogueText, "");
-
+    EXPECT_EQ(Engine.RollPercents, (std::vector<int>{25, 25, 25}));
+    EXPECT_EQ(State().PairCount, 0);
+    Engine.Rolls.push_back(0);
+    Enter();
+    EXPECT_EQ(Engine.RollPercents.back(), 20);
+    EXPECT_EQ(Text(txtResponse), Notice);
+    EXPECT_EQ(Box(txtResponse).Background, Colour::ColourNotice);
+    EXPECT_EQ(Text(txtNote), "Review the message regarding the conversation. Press "
+                             "'Enter', then continue typing. Or click 'Finish'.");
+    EXPECT_TRUE(State().AwaitingEnter);
+    EXPECT_EQ(State().DialogueText, "");
     // The next Enter draws again and, on a 1, simply begins the entry.
-    driver.Enter();
-    EXPECT_EQ(driver.Engine.RollPercents.back(), 20);
-    EXPECT_FALSE(driver.State().AwaitingEnter);
-    EXPECT_EQ(driver.Box(txtResponse).Background, Colour::ColourReady);
+    Enter();
+    EXPECT_EQ(Engine.RollPercents.back(), 20);
+    EXPECT_FALSE(State().AwaitingEnter);
+    EXPECT_EQ(Box(txtResponse).Background, Colour::ColourReady);
 }
 
 // Each refusal shows its message and instruction; the entry keeps its text and the caret
 // leaves it only when the entry must begin again.
-TEST(MirrorCycle, ARejectionShowsItsMessageAndInstruction) {
+TEST(MirrorCycleTable, ARejectionShowsItsMessageAndInstruction) {
     const std::string startAgain = "Press 'Enter' to start again.";
     const struct {
         int Status, Method;
@@ -187,41 +171,39 @@ TEST(MirrorCycle, ARejectionShowsItsMessageAndInstruction) {
     }
 }
 
-TEST(MirrorCycle, TooShortIsJudgedBeforeTheParser) {
-    MirrorDriver driver;
-    driver.StartConverse();
-    driver.Converse("Why me?");
-    EXPECT_EQ(driver.Text(txtResponse),
+TEST_F(MirrorCycle, TooShortIsJudgedBeforeTheParser) {
+    StartConverse();
+    Converse("Why me?");
+    EXPECT_EQ(Text(txtResponse),
               ">> Your entry is too short. Add more detail to clarify its meaning until the "
               "display status to the right no longer shows 'X'. Or click 'Rewrite' or the text "
               "to begin again.");
-    EXPECT_EQ(driver.Text(txtNote), "Lengthen your entry, or click 'Rewrite' to begin again. "
-                                    "Press 'Enter' when 'X' no longer shows.");
-    EXPECT_TRUE(driver.Box(lblRem).Visible && driver.Box(cmdClear).Enabled);
-    EXPECT_TRUE(driver.Engine.CheckedEntries.empty());
+    EXPECT_EQ(Text(txtNote), "Lengthen your entry, or click 'Rewrite' to begin again. "
+                             "Press 'Enter' when 'X' no longer shows.");
+    EXPECT_TRUE(Box(lblRem).Visible && Box(cmdClear).Enabled);
+    EXPECT_TRUE(Engine.CheckedEntries.empty());
     // Typing on clears the message at once and the entry goes on.
-    driver.Type(" Why is it always me who has to call first?");
-    EXPECT_EQ(driver.Box(txtResponse).Background, Colour::ColourReady);
-    driver.Enter();
-    EXPECT_EQ(driver.State().PairCount, 1);
+    Type(" Why is it always me who has to call first?");
+    EXPECT_EQ(Box(txtResponse).Background, Colour::ColourReady);
+    Enter();
+    EXPECT_EQ(State().PairCount, 1);
 }
 
-TEST(MirrorCycle, CommentGoesInAtOnceAndHandsOverToConverse) {
-    MirrorDriver driver;
-    driver.mirror->StartWindow();
-    driver.Click(cmdNotate);
-    EXPECT_EQ(driver.mirror->Controls().Title.substr(0, 28), "Veyrant Sagrel -- Notation -");
-    EXPECT_EQ(driver.Text(txtResponse).substr(0, 32), "Direction for Beginning Notation");
+TEST_F(MirrorCycle, CommentGoesInAtOnceAndHandsOverToConverse) {
+    mirror->StartWindow();
+    Click(cmdNotate);
+    EXPECT_EQ(mirror->Controls().Title.substr(0, 28), "Veyrant Sagrel -- Notation -");
+    EXPECT_EQ(Text(txtResponse).substr(0, 32), "Direction for Beginning Notation");
     const std::string comment = "tonight I want to look at why work feels heavy.";
-    driver.Converse(comment);
-    EXPECT_EQ(driver.State().DialogueText, "\r\n\r\n" + Quoted(comment));
-    EXPECT_EQ(driver.Text(txtResponse), "Comment\r\n" + Quoted(comment));
-    EXPECT_TRUE(driver.Box(cmdConverse).PressedIn && !driver.Box(cmdNotate).PressedIn);
-    EXPECT_EQ(driver.Text(cmdNew), "Finish");
-    EXPECT_EQ(driver.State().CycleCount, 0);
-    driver.Enter();
-    EXPECT_EQ(driver.Text(txtMirror), Prefix);
-    EXPECT_EQ(driver.mirror->Controls().Title.substr(0, 32), "Veyrant Sagrel -- Conversation -");
+    Converse(comment);
+    EXPECT_EQ(State().DialogueText, "\r\n\r\n" + Quoted(comment));
+    EXPECT_EQ(Text(txtResponse), "Comment\r\n" + Quoted(comment));
+    EXPECT_TRUE(Box(cmdConverse).PressedIn && !Box(cmdNotate).PressedIn);
+    EXPECT_EQ(Text(cmdNew), "Finish");
+    EXPECT_EQ(State().CycleCount, 0);
+    Enter();
+    EXPECT_EQ(Text(txtMirror), Prefix);
+    EXPECT_EQ(mirror->Controls().Title.substr(0, 32), "Veyrant Sagrel -- Conversation -");
 }
 
 // The window over the program's own parser and composer with the starter content.

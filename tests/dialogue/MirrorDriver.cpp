@@ -1,6 +1,5 @@
 #include "dialogue/MirrorDriver.h"
 
-#include "core/KeyCodes.h"
 #include "core/Text.h"
 #include "engine/EngineFiles.h"
 
@@ -26,60 +25,51 @@ void ScriptedEngine::RecordKey(float time, int characterCode) {
 
 ReplyKind ScriptedEngine::RollAnswer(int percent) {
     RollPercents.push_back(percent);
-    if (Rolls.empty()) {
-        return ReplyKind::Answer;
+    const int flag = Rolls.empty() ? 1 : Rolls.front();
+    if (!Rolls.empty()) {
+        Rolls.pop_front();
     }
-    const int flag = Rolls.front();
-    Rolls.pop_front();
     return static_cast<ReplyKind>(flag);
 }
 
 // As the program's engine does, a type with no message composes nothing and the last text comes
 // back again.
 std::string ScriptedEngine::RequestAnswer(SentenceType sentenceType) {
-    const int entryType = static_cast<int>(sentenceType);
-    if (entryType <= 0 || entryType == 9) {
-        return Last;
+    const int type = static_cast<int>(sentenceType);
+    if (type > 0 && type != 9) {
+        Last = "\t Answer " + std::to_string(++Compositions) + " to type " + std::to_string(type) +
+               ".  ";
     }
-    ++Compositions;
-    Last = "\t Answer " + std::to_string(Compositions) + " to type " + std::to_string(entryType) +
-           ".  ";
     return Last;
 }
 
 std::string ScriptedEngine::RequestRemark(SentenceType sentenceType) {
-    const int entryType = static_cast<int>(sentenceType);
-    if (entryType <= 0) {
-        return Last;
+    const int type = static_cast<int>(sentenceType);
+    if (type > 0) {
+        Last = "\t Remark " + std::to_string(++Compositions) + " on type " + std::to_string(type) +
+               ".";
     }
-    ++Compositions;
-    Last =
-        "\t Remark " + std::to_string(Compositions) + " on type " + std::to_string(entryType) + ".";
     return Last;
 }
 
 // A chosen idea's verdict continues the sentence that names the idea; a refusal stands alone.
 std::string ScriptedEngine::RequestIdeaVerdict(ReplyKind answerFlag) {
-    ++Compositions;
-    Last = answerFlag == ReplyKind::Answer ? "is verdict " + std::to_string(Compositions) + "."
-                                           : "\t Refusal " + std::to_string(Compositions) + ".";
+    const std::string number = std::to_string(++Compositions);
+    Last = answerFlag == ReplyKind::Answer ? "is verdict " + number + "."
+                                           : "\t Refusal " + number + ".";
     return Last;
 }
 
 std::string ScriptedEngine::RequestInspiration() {
-    ++Inspirations;
-    return "\tInspiration number " + std::to_string(Inspirations) + ".";
+    return "\tInspiration number " + std::to_string(++Inspirations) + ".";
 }
 
 std::string ScriptedEngine::PickGuidance() {
-    ++Guidances;
-    return "Suggestion " + std::to_string(Guidances);
+    return "Suggestion " + std::to_string(++Guidances);
 }
 
 std::string Quoted(const std::string& entry) {
-    std::string text{Tab, OpenQuote};
-    text += entry;
-    text += CloseQuote;
+    std::string text = std::string{Tab, OpenQuote} + entry + CloseQuote;
     UpperAt(text, 3);
     return text;
 }
@@ -117,19 +107,14 @@ MirrorDriver::MirrorDriver(int displayOption, Replies replies)
 void MirrorDriver::LeavePriorDialogue(int pairCount) {
     std::string dialogue;
     for (int item = 1; item <= pairCount; ++item) {
-        dialogue += "\r\n\r\n\t\x93"
-                    "Entry " +
-                    std::to_string(item) + ".\x94\r\n\tResponse.";
+        dialogue += "\r\n\r\n\t\x93" + ("Entry " + std::to_string(item)) + ".\x94\r\n\tResponse.";
     }
     Buffers.WriteWorkBuffers({"\tAn old inspiration.", dialogue, "An old suggestion.", pairCount});
 }
 
 void MirrorDriver::Key(int keyCode, int keyAscii) {
     const bool passedDown = mirror->KeyDown(keyCode) != 0;
-    int passed = keyAscii;
-    if (keyAscii != 0) {
-        passed = mirror->KeyPress(keyAscii);
-    }
+    const int passed = keyAscii != 0 ? mirror->KeyPress(keyAscii) : 0;
     if (!passedDown || passed == 0) {
         return;
     }
@@ -137,14 +122,10 @@ void MirrorDriver::Key(int keyCode, int keyAscii) {
     const auto focus = mirror->Controls().Focus;
     std::string text = Box(focus).Text;
     long caret = Box(focus).Caret;
-    if (passed == KeyCode::Backspace) {
-        if (caret > 0) {
-            text.erase(static_cast<std::size_t>(caret - 1), 1);
-            --caret;
-        }
-    } else if (passed != KeyCode::Enter) {
-        text.insert(static_cast<std::size_t>(caret), 1, static_cast<char>(passed));
-        ++caret;
+    if (passed == KeyCode::Backspace && caret > 0) {
+        text.erase(static_cast<std::size_t>(--caret), 1);
+    } else if (passed != KeyCode::Backspace && passed != KeyCode::Enter) {
+        text.insert(static_cast<std::size_t>(caret++), 1, static_cast<char>(passed));
     }
     mirror->TextEdited(focus, text, caret);
 }
@@ -154,26 +135,10 @@ void MirrorDriver::Type(const std::string& text) {
         const auto code = static_cast<unsigned char>(c);
         // Punctuation has its own key codes, which must not read as the arrows and Delete that
         // share their character numbers.
-        int keyCode = 0xBE;
-        if (code >= 'a' && code <= 'z') {
-            keyCode = code - 32;
-        } else if ((code >= 'A' && code <= 'Z') || (code >= '0' && code <= '9') || code == ' ') {
-            keyCode = code;
-        }
-        Key(keyCode, code);
+        const bool ownCode =
+            (code >= 'A' && code <= 'Z') || (code >= '0' && code <= '9') || code == ' ';
+        Key(code >= 'a' && code <= 'z' ? code - 32 : ownCode ? code : 0xBE, code);
     }
-}
-
-void MirrorDriver::Enter() {
-    Key(KeyCode::Enter, KeyCode::Enter);
-}
-
-void MirrorDriver::Backspace() {
-    Key(KeyCode::Backspace, KeyCode::Backspace);
-}
-
-void MirrorDriver::Press(int keyCode) {
-    Key(keyCode, 0);
 }
 
 std::string MirrorDriver::Help(MirrorControl control) {
@@ -185,10 +150,9 @@ std::string MirrorDriver::Help(MirrorControl control) {
 std::string MirrorDriver::Shown(const std::string& control) const {
     const std::string dump = mirror->Dump();
     const auto start = dump.find("\n" + control + ": ");
-    if (start == std::string::npos) {
-        return {};
-    }
-    return dump.substr(start + 1, dump.find('\n', start + 1) - start - 1);
+    return start == std::string::npos
+               ? std::string{}
+               : dump.substr(start + 1, dump.find('\n', start + 1) - start - 1);
 }
 
 std::string MirrorDriver::Titles() const {
@@ -199,14 +163,16 @@ std::string MirrorDriver::Titles() const {
     return titles;
 }
 
+std::string MirrorDriver::Kept() const {
+    const auto buffers = Buffers.ReadWorkBuffers();
+    return buffers
+               ? std::to_string(buffers->Buffers.PairCount) + ":" + buffers->Buffers.DialogueText
+               : "none";
+}
+
 void MirrorDriver::StartConverse() {
     mirror->StartWindow();
     mirror->Click(MirrorControl::cmdConverse);
-}
-
-void MirrorDriver::Converse(const std::string& entry) {
-    Type(entry);
-    Enter();
 }
 
 } // namespace veyrant::testing

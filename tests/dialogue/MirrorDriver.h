@@ -4,6 +4,7 @@
 // and a key neither stage dropped applied to the box, as the text widget would apply it.
 
 #include "app/Application.h"
+#include "core/KeyCodes.h"
 #include "core/Random.h"
 #include "dialogue/DialogueEngine.h"
 #include "dialogue/EngineDialogue.h"
@@ -16,20 +17,20 @@
 #include "support/TempFolder.h"
 
 #include <deque>
+#include <gtest/gtest.h>
 #include <memory>
 #include <string>
 #include <vector>
 
 namespace veyrant::testing {
 
-// The Write window's controls by their own names, in every test of its logic.
 using enum MirrorControl;
 
-// Judges entries and composes replies from a script, so a test chooses the outcome.
+// Judges entries and composes numbered replies from a script, so a test chooses the outcome.
 class ScriptedEngine : public DialogueEngine {
 public:
-    EntryJudgement CheckEntry(const std::string& entryText, WriteMethod activeMethod, int pairCount,
-                              SentenceType entryType) override;
+    EntryJudgement CheckEntry(const std::string& entryText, WriteMethod, int,
+                              SentenceType) override;
     void RecordKey(float time, int characterCode) override;
     void StretchSeeds(float) override {}
     ReplyKind RollAnswer(int percent) override;
@@ -41,19 +42,15 @@ public:
     std::string PickGuidance() override;
 
     struct Judgement {
-        int Status; // the entry's verdict and sentence type by their numbers
-        int Type;
+        int Status, Type; // the verdict and sentence type by their numbers
     };
     std::deque<Judgement> Judgements; // Enter by Enter; a statement when empty
     std::deque<int> Rolls;            // answer flags; 1 when empty
-    std::vector<int> RollPercents;
+    std::vector<int> RollPercents, KeyCodes;
     std::vector<std::string> CheckedEntries;
-    std::vector<int> KeyCodes;
     std::vector<float> KeyTimes;
-    int Compositions = 0;
+    int Compositions = 0, Inspirations = 0, Guidances = 0;
     std::string Last;
-    int Inspirations = 0;
-    int Guidances = 0;
 };
 
 // Draws from a script while it lasts, then as the program's own generator does.
@@ -76,15 +73,15 @@ public:
     // Types each character of text (Windows-1252) into the focused box.
     void Type(const std::string& text);
     void Key(int keyCode, int keyAscii = 0);
-    void Enter();
-    void Backspace();
+    void Enter() { Key(KeyCode::Enter, KeyCode::Enter); }
+    void Backspace() { Key(KeyCode::Backspace, KeyCode::Backspace); }
     // A key with no character, such as an arrow or a function key.
-    void Press(int keyCode);
-    // Starts the window and begins a Converse entry.
+    void Press(int keyCode) { Key(keyCode, 0); }
     void StartConverse();
-    // Types and enters one accepted entry.
-    void Converse(const std::string& entry);
-
+    void Converse(const std::string& entry) {
+        Type(entry);
+        Enter();
+    }
     void Click(MirrorControl control) { mirror->Click(control); }
     // Rests the mouse on a control, lets the hover timer tick once and reads the instruction.
     std::string Help(MirrorControl control);
@@ -95,6 +92,8 @@ public:
     std::string Shown(const std::string& control) const;
     // The titles of the boxes shown so far, each followed by ";".
     std::string Titles() const;
+    // The work buffers as the next start reopens them: pair count, ":", Dialogue; "none" if none.
+    std::string Kept() const;
 
     // Leaves work buffers that reopen as a Prior Dialogue of that many items.
     void LeavePriorDialogue(int pairCount);
@@ -111,5 +110,8 @@ public:
     std::unique_ptr<EngineDialogue> Composer;
     std::unique_ptr<Mirror> mirror;
 };
+
+// A test of the Write window with one driver of its own.
+class MirrorTest : public ::testing::Test, public MirrorDriver {};
 
 } // namespace veyrant::testing

@@ -12,9 +12,13 @@
 namespace veyrant::testing {
 namespace {
 
+using MirrorFinish = MirrorTest;
+using MirrorTranscript = MirrorTest;
+
 const std::string Statement = "I want to understand why Sundays feel so heavy.";
 const std::string Question = "what would make Sunday evenings lighter?";
 const std::string Entry = "What am I still carrying from last winter?";
+const std::string OnePair = Quoted(Statement) + "\r\n\tAnswer 1 to type 2.";
 
 // Reopens a Prior Dialogue of that many items and continues it in Converse.
 void ContinuePrior(MirrorDriver& driver, int pairCount) {
@@ -30,65 +34,59 @@ void FinishOnePair(MirrorDriver& driver) {
     driver.Click(cmdNew); // Finish
 }
 
-TEST(MirrorFinish, FinishThenContinueThenFinishAgain) {
-    MirrorDriver driver;
+TEST_F(MirrorFinish, FinishThenContinueThenFinishAgain) {
     // One answered statement and one Suppose pair, its first idea chosen.
-    driver.Draws.Draws = {0.9f, 0.7f, 0.2f};
-    driver.StartConverse();
-    driver.Converse(Statement);
-    driver.Click(cmdSuppose);
-    driver.Engine.Judgements.push_back({1, 20});
-    driver.Converse(Question);
-    driver.Converse("plan something small for the evening.");
-    driver.Converse("lay out Monday on Saturday.");
-    driver.Click(cmdNew); // Select
-    const std::string twoPairs =
-        "\r\n\r\n" + Quoted(Statement) + "\r\n\tAnswer 1 to type 2.\r\n\r\n" + Quoted(Question) +
-        "\r\n\tYour idea \x93Plan something small for the evening.\x94 is verdict 2.";
-    ASSERT_EQ(driver.State().DialogueText, twoPairs);
+    Draws.Draws = {0.9f, 0.7f, 0.2f};
+    StartConverse();
+    Converse(Statement);
+    Click(cmdSuppose);
+    Engine.Judgements.push_back({1, 20});
+    for (const char* entry : {Question.c_str(), "plan something small for the evening.",
+                              "lay out Monday on Saturday."}) {
+        Converse(entry);
+    }
+    Click(cmdNew); // Select
+    const std::string twoPairs = "\r\n\r\n" + OnePair + "\r\n\r\n" + Quoted(Question) +
+                                 "\r\n\tYour idea \x93Plan something small for the evening.\x94 "
+                                 "is verdict 2.";
+    ASSERT_EQ(State().DialogueText, twoPairs);
 
-    driver.Click(cmdNew); // Finish
-    EXPECT_EQ(driver.mirror->Controls().Title,
+    Click(cmdNew); // Finish
+    EXPECT_EQ(mirror->Controls().Title,
               "Veyrant Sagrel -- Dialogue, 1 Page -- Sunday, 12:00 pm, November 22, 2026");
-    EXPECT_EQ(driver.Text(txtNote), "To keep your Dialogue, click 'Save', or close the program. "
-                                    "Click 'New' to delete the Dialogue and begin another.");
-    EXPECT_EQ(driver.Text(txtSaved),
+    EXPECT_EQ(Text(txtNote), "To keep your Dialogue, click 'Save', or close the program. "
+                             "Click 'New' to delete the Dialogue and begin another.");
+    EXPECT_EQ(Text(txtSaved),
               "Inspiration\r\n\r\n\tInspiration number 1.\r\n\r\nDialogue" + twoPairs);
     for (auto method : {cmdConverse, cmdSuppose, cmdNotate}) {
-        EXPECT_FALSE(driver.Box(method).Enabled || driver.Box(method).PressedIn);
+        EXPECT_FALSE(Box(method).Enabled || Box(method).PressedIn);
     }
-    EXPECT_TRUE(driver.Box(cmdSave).Enabled && driver.Box(cmdPrint).Enabled);
+    EXPECT_TRUE(Box(cmdSave).Enabled && Box(cmdPrint).Enabled);
     // A finished Dialogue takes no keys and answers a method button with a help box.
-    const auto keys = driver.Engine.KeyCodes.size();
-    driver.Type("more");
-    EXPECT_EQ(driver.Engine.KeyCodes.size(), keys);
-    driver.Click(cmdConverse);
-    EXPECT_EQ(driver.Titles(), "Veyrant Sagrel Help;");
-    auto buffers = driver.Buffers.ReadWorkBuffers();
-    ASSERT_TRUE(buffers.has_value());
-    EXPECT_EQ(buffers->Buffers.DialogueText, twoPairs);
-    EXPECT_EQ(buffers->Buffers.PairCount, 2);
+    const auto keys = Engine.KeyCodes.size();
+    Type("more");
+    EXPECT_EQ(Engine.KeyCodes.size(), keys);
+    Click(cmdConverse);
+    EXPECT_EQ(Titles(), "Veyrant Sagrel Help;");
+    EXPECT_EQ(Kept(), "2:" + twoPairs);
 
-    driver.Click(cmdRemove); // Continue
-    EXPECT_TRUE(driver.Box(cmdConverse).PressedIn);
-    EXPECT_EQ(driver.Text(cmdNew) + driver.Text(cmdDisplay), "FinishDisplay");
-    EXPECT_FALSE(driver.Box(cmdSave).Enabled || driver.Box(cmdPrint).Enabled);
-    EXPECT_EQ(driver.Text(txtSaved), "Dialogue" + twoPairs);
-    EXPECT_EQ(driver.State().CycleCount, 2);
+    Click(cmdRemove); // Continue
+    EXPECT_TRUE(Box(cmdConverse).PressedIn);
+    EXPECT_EQ(Text(cmdNew) + Text(cmdDisplay), "FinishDisplay");
+    EXPECT_FALSE(Box(cmdSave).Enabled || Box(cmdPrint).Enabled);
+    EXPECT_EQ(Text(txtSaved), "Dialogue" + twoPairs);
+    EXPECT_EQ(State().CycleCount, 2);
 
-    driver.Converse("Sunday is the day I stop being busy.");
-    driver.Click(cmdNew); // Finish again
-    buffers = driver.Buffers.ReadWorkBuffers();
-    ASSERT_TRUE(buffers.has_value());
-    EXPECT_EQ(buffers->Buffers.PairCount, 3);
-    EXPECT_EQ(buffers->Buffers.DialogueText, twoPairs + "\r\n\r\n" +
-                                                 Quoted("Sunday is the day I stop being busy.") +
-                                                 "\r\n\tAnswer 3 to type 2.");
-    EXPECT_EQ(driver.Text(cmdRemove) + driver.Text(cmdNew), "ContinueNew");
+    Converse("Sunday is the day I stop being busy.");
+    Click(cmdNew); // Finish again
+    EXPECT_EQ(Kept(), "3:" + twoPairs + "\r\n\r\n" +
+                          Quoted("Sunday is the day I stop being busy.") +
+                          "\r\n\tAnswer 3 to type 2.");
+    EXPECT_EQ(Text(cmdRemove) + Text(cmdNew), "ContinueNew");
 }
 
 // New asks only for an unsaved Dialogue, and resets on No.
-TEST(MirrorFinish, NewAsksOnlyForAnUnsavedDialogueAndResetsOnNo) {
+TEST(MirrorFinishNew, NewAsksOnlyForAnUnsavedDialogueAndResetsOnNo) {
     const struct {
         const char* Name;
         bool Guest, SavedFirst;
@@ -107,9 +105,7 @@ TEST(MirrorFinish, NewAsksOnlyForAnUnsavedDialogueAndResetsOnNo) {
         EXPECT_EQ(driver.Box(cmdSave).Enabled, !c.Guest);
         driver.Layer.Answers.push_back(c.Answer);
         driver.Click(c.SavedFirst ? cmdSave : cmdNew);
-        if (c.SavedFirst) {
-            EXPECT_EQ(driver.Library.Listing().LibraryCount, 1);
-        }
+        EXPECT_EQ(driver.Library.Listing().LibraryCount, c.SavedFirst ? 1 : 0);
         EXPECT_EQ(driver.Titles(), c.Asked ? "Save Finished Dialogue;" : "");
         if (c.Asked) {
             EXPECT_EQ(driver.Layer.Boxes[0].Buttons, MessageButtons::YesNoCancel);
@@ -120,9 +116,8 @@ TEST(MirrorFinish, NewAsksOnlyForAnUnsavedDialogueAndResetsOnNo) {
                       "'New'.\r\n\r\nDo you wish to add your Dialogue to the Library before "
                       "beginning another?");
         }
-        EXPECT_EQ(driver.Buffers.ReadWorkBuffers().has_value(), !c.Reset);
+        EXPECT_EQ(driver.Kept(), c.Reset ? "none" : "1:\r\n\r\n" + OnePair);
         if (!c.Reset) {
-            EXPECT_EQ(driver.State().PairCount, 1);
             EXPECT_EQ(driver.Text(cmdNew), "New");
             continue;
         }
@@ -139,27 +134,23 @@ TEST(MirrorFinish, NewAsksOnlyForAnUnsavedDialogueAndResetsOnNo) {
 }
 
 // A Prior Dialogue reopens with its age and the date it was written.
-TEST(MirrorFinish, APriorDialogueReopensWithItsAge) {
+TEST(MirrorFinishPrior, APriorDialogueReopensWithItsAge) {
     const struct {
         DateTime Written;
         std::string Title;
     } cases[] = {
-        {{2026, 11, 22, 8, 30, 0},
-         "Veyrant Sagrel -- Dialogue, 1 Page, 0 Days -- Sunday, 8:30 am, November 22, 2026"},
-        {{2026, 11, 21, 21, 5, 0},
-         "Veyrant Sagrel -- Dialogue, 1 Page, 1 Day -- Saturday, 9:05 pm, November 21, 2026"},
-        {{2026, 11, 17, 9, 5, 0},
-         "Veyrant Sagrel -- Dialogue, 1 Page, 5 Days Old -- Tuesday, 9:05 am, November 17, 2026"},
+        {{2026, 11, 22, 8, 30, 0}, "1 Page, 0 Days -- Sunday, 8:30 am, November 22, 2026"},
+        {{2026, 11, 21, 21, 5, 0}, "1 Page, 1 Day -- Saturday, 9:05 pm, November 21, 2026"},
+        {{2026, 11, 17, 9, 5, 0}, "1 Page, 5 Days Old -- Tuesday, 9:05 am, November 17, 2026"},
         // Buffers dated after now, as when the clock was set back.
-        {{2026, 11, 25, 19, 0, 0},
-         "Veyrant Sagrel -- Dialogue, 1 Page, 0 Days -- Wednesday, 7:00 pm, November 25, 2026"}};
+        {{2026, 11, 25, 19, 0, 0}, "1 Page, 0 Days -- Wednesday, 7:00 pm, November 25, 2026"}};
     for (const auto& c : cases) {
         SCOPED_TRACE(c.Title);
         MirrorDriver driver;
         driver.LeavePriorDialogue(3);
         driver.Clock.FileDates[driver.App.Folder.Exe() / "savei.tmp"] = c.Written;
         driver.mirror->StartWindow();
-        EXPECT_EQ(driver.mirror->Controls().Title, c.Title);
+        EXPECT_EQ(driver.mirror->Controls().Title, "Veyrant Sagrel -- Dialogue, " + c.Title);
         EXPECT_EQ(driver.Text(cmdRemove) + driver.Text(cmdNew) + driver.Text(cmdDisplay),
                   "ContinueNewFile");
         EXPECT_EQ(driver.Text(txtSaved).substr(0, 35), "Inspiration\r\n\r\n\tAn old inspiration.");
@@ -168,8 +159,7 @@ TEST(MirrorFinish, APriorDialogueReopensWithItsAge) {
         EXPECT_EQ(driver.State().PairCount, 3);
         EXPECT_FALSE(driver.Box(cmdConverse).Enabled || driver.Box(cmdClear).Enabled);
         EXPECT_EQ(driver.Engine.Inspirations, 0); // the Dialogue keeps its own
-
-        driver.Click(cmdRemove); // Continue
+        driver.Click(cmdRemove);                  // Continue
         EXPECT_EQ(driver.Text(txtResponse), "Inspiration\r\n\tAn old inspiration.");
     }
 }
@@ -177,7 +167,7 @@ TEST(MirrorFinish, APriorDialogueReopensWithItsAge) {
 // The Library's limits can take a Dialogue the moment it is saved: an old Prior Dialogue, or one
 // older than every Dialogue of a full Library. The user hears of it, and the Dialogue stays on
 // the screen and in the buffers instead of vanishing with the New that a save clicks.
-TEST(MirrorFinish, ADialogueTheLimitsTakeAtOnceStaysOnTheScreen) {
+TEST(MirrorFinishLimits, ADialogueTheLimitsTakeAtOnceStaysOnTheScreen) {
     const struct {
         std::int16_t MaxFiles;
         DateTime Written;
@@ -198,7 +188,6 @@ TEST(MirrorFinish, ADialogueTheLimitsTakeAtOnceStaysOnTheScreen) {
         driver.Clock.FileDates[driver.App.Folder.Exe() / "savei.tmp"] = c.Written;
         driver.mirror->StartWindow();
         const std::string dialogue = driver.State().DialogueText;
-
         driver.Click(cmdSave);
         EXPECT_EQ(driver.Titles(), "Dialogue Not Kept in the Library;");
         EXPECT_EQ(driver.Layer.Boxes[0].Text.rfind("The Library keeps up to " +
@@ -208,53 +197,48 @@ TEST(MirrorFinish, ADialogueTheLimitsTakeAtOnceStaysOnTheScreen) {
                   0u);
         EXPECT_FALSE(driver.Library.Holds(MakeFileName(c.Written)));
         EXPECT_TRUE(driver.Library.Holds(MakeFileName(later)));
-        const auto buffers = driver.Buffers.ReadWorkBuffers();
-        ASSERT_TRUE(buffers.has_value());
-        EXPECT_EQ(buffers->Buffers.DialogueText, dialogue);
+        EXPECT_EQ(driver.Kept(), "2:" + dialogue);
         EXPECT_EQ(driver.State().DialogueText, dialogue);
-        EXPECT_TRUE(driver.Box(cmdSave).Enabled);
-        EXPECT_FALSE(driver.Layer.Busy);
+        EXPECT_TRUE(driver.Box(cmdSave).Enabled && !driver.Layer.Busy);
     }
 }
 
 // Buffers that outlive the Dialogue they held reopen when an empty Dialogue is cancelled, and
 // a list of ideas open at that moment must not stay over them.
-TEST(MirrorFinish, ACancelledListInAnEmptyDialogueClosesBeforeOldBuffersReopen) {
-    MirrorDriver driver;
-    driver.mirror->StartWindow();
-    driver.LeavePriorDialogue(1);
-    driver.Click(cmdSuppose);
-    driver.Engine.Judgements.push_back({1, 20});
-    driver.Converse(Question);
-    ASSERT_TRUE(driver.Box(txtAnalyze).Visible);
-    driver.Click(cmdNew); // Cancel
-    EXPECT_EQ(driver.Text(cmdRemove), "Continue");
-    EXPECT_EQ(driver.State().PairCount, 1);
-    EXPECT_FALSE(driver.Box(txtAnalyze).Visible || driver.Box(lblRemS).Visible);
-    EXPECT_EQ(driver.mirror->Controls().Focus, txtMirror);
+TEST_F(MirrorFinish, ACancelledListInAnEmptyDialogueClosesBeforeOldBuffersReopen) {
+    mirror->StartWindow();
+    LeavePriorDialogue(1);
+    Click(cmdSuppose);
+    Engine.Judgements.push_back({1, 20});
+    Converse(Question);
+    ASSERT_TRUE(Box(txtAnalyze).Visible);
+    Click(cmdNew); // Cancel
+    EXPECT_EQ(Text(cmdRemove), "Continue");
+    EXPECT_EQ(State().PairCount, 1);
+    EXPECT_FALSE(Box(txtAnalyze).Visible || Box(lblRemS).Visible);
+    EXPECT_EQ(mirror->Controls().Focus, txtMirror);
 }
 
 // Finish writes the buffers once; when they could not take the Dialogue, the way out tries
 // again instead of leaving it behind.
-TEST(MirrorFinish, AFinishedDialogueTheBuffersRefusedIsKeptOnTheWayOut) {
-    MirrorDriver driver;
-    driver.StartConverse();
-    driver.Converse(Statement);
+TEST_F(MirrorFinish, AFinishedDialogueTheBuffersRefusedIsKeptOnTheWayOut) {
+    StartConverse();
+    Converse(Statement);
     {
         FileFaults faults;
         faults.FailEvery(FileCall::Write, ENOSPC);
-        driver.Click(cmdNew); // Finish
+        Click(cmdNew); // Finish
     }
-    EXPECT_EQ(driver.Titles(), "Error 61 Keeping the Dialogue;");
-    EXPECT_EQ(driver.Text(cmdNew), "New");
-    const auto kept = driver.App.Folder.Exe() / "savem.tmp";
+    EXPECT_EQ(Titles(), "Error 61 Keeping the Dialogue;");
+    EXPECT_EQ(Text(cmdNew), "New");
+    const auto kept = App.Folder.Exe() / "savem.tmp";
     EXPECT_FALSE(std::filesystem::exists(kept));
-    EXPECT_TRUE(driver.mirror->Unload());
-    EXPECT_EQ(ReadWholeFile(kept), driver.State().DialogueText);
+    EXPECT_TRUE(mirror->Unload());
+    EXPECT_EQ(ReadWholeFile(kept), State().DialogueText);
 }
 
 // Print sends the Finished Dialogue without its leading blank line; only a failure says so.
-TEST(MirrorFinish, PrintSendsTheDialogueAndOnlyAFailureShowsABox) {
+TEST(MirrorFinishPrint, PrintSendsTheDialogueAndOnlyAFailureShowsABox) {
     for (const auto outcome :
          {PrintOutcome::Printed, PrintOutcome::Cancelled, PrintOutcome::Failed}) {
         MirrorDriver driver;
@@ -264,41 +248,37 @@ TEST(MirrorFinish, PrintSendsTheDialogueAndOnlyAFailureShowsABox) {
         driver.Click(cmdPrint);
         ASSERT_EQ(driver.Layer.Printed.size(), 1u);
         const auto& printed = driver.Layer.Printed[0];
-        EXPECT_EQ(printed.Inspiration, "\tInspiration number 1.");
-        EXPECT_EQ(printed.Dialogue, Quoted(Statement) + "\r\n\tAnswer 1 to type 2.");
-        EXPECT_EQ(printed.Title, "Veyrant Dialogue");
+        EXPECT_EQ(printed.Inspiration + "|" + printed.Dialogue + "|" + printed.Title,
+                  "\tInspiration number 1.|" + OnePair + "|Veyrant Dialogue");
         EXPECT_EQ(printed.ShownDate, driver.Clock.Date);
         EXPECT_TRUE(driver.Layer.BusyWhilePrinting && !driver.Layer.Busy);
         EXPECT_TRUE(driver.Box(cmdPrint).Enabled);
-        if (outcome != PrintOutcome::Failed) {
-            EXPECT_TRUE(driver.Layer.Boxes.empty());
-            continue;
+        EXPECT_EQ(driver.Titles(), outcome == PrintOutcome::Failed ? "Print Error;" : "");
+        if (outcome == PrintOutcome::Failed) {
+            EXPECT_EQ(driver.Layer.Boxes[0].Text,
+                      "The system has detected a printing error.\r\n\r\nIf your printer normally "
+                      "functions properly with a word processer, you may have assigned 'Print' to "
+                      "a non-printing device (such as a Fax/Modem, Print-to-File, etc.). Check "
+                      "the printer setup.");
         }
-        EXPECT_EQ(driver.Titles(), "Print Error;");
-        EXPECT_EQ(driver.Layer.Boxes[0].Text,
-                  "The system has detected a printing error.\r\n\r\nIf your printer normally "
-                  "functions properly with a word processer, you may have assigned 'Print' to a "
-                  "non-printing device (such as a Fax/Modem, Print-to-File, etc.). Check the "
-                  "printer setup.");
     }
 }
 
-TEST(MirrorFinish, FileOpensTheFullViewInTheEditor) {
-    MirrorDriver driver;
-    FinishOnePair(driver);
-    driver.Clock.Date = {2026, 11, 23, 8, 15, 0};
-    driver.Click(cmdDisplay); // File
-    ASSERT_EQ(driver.Layer.EditorTexts.size(), 1u);
+TEST_F(MirrorFinish, FileOpensTheFullViewInTheEditor) {
+    FinishOnePair(*this);
+    Clock.Date = {2026, 11, 23, 8, 15, 0};
+    Click(cmdDisplay); // File
+    ASSERT_EQ(Layer.EditorTexts.size(), 1u);
     // The layout around the body is the export's own.
-    EXPECT_EQ(driver.Layer.EditorTexts[0].Text,
-              ExportText(driver.Clock.Date, "Inspiration\r\n\r\n\tInspiration number 1.\r\n\r\n"
-                                            "Dialogue\r\n\r\n" +
-                                                Quoted(Statement) + "\r\n\tAnswer 1 to type 2."));
-    EXPECT_EQ(driver.Layer.EditorTexts[0].ProposedFileName, "Dialogue 2026-11-23 8.15 AM.txt");
-    EXPECT_EQ(driver.Text(cmdDisplay), "File"); // the window stays as it was
+    EXPECT_EQ(Layer.EditorTexts[0].Text,
+              ExportText(Clock.Date, "Inspiration\r\n\r\n\tInspiration number 1.\r\n\r\n"
+                                     "Dialogue\r\n\r\n" +
+                                         OnePair));
+    EXPECT_EQ(Layer.EditorTexts[0].ProposedFileName, "Dialogue 2026-11-23 8.15 AM.txt");
+    EXPECT_EQ(Text(cmdDisplay), "File"); // the window stays as it was
 }
 
-TEST(MirrorTranscript, DisplayTellsTheLengthAndWriteRestoresTheState) {
+TEST(MirrorTranscriptLength, DisplayTellsTheLengthAndWriteRestoresTheState) {
     const std::pair<int, std::string> cases[] = {{1, "less than 1 page"},
                                                  {4, "less than 1 page"},
                                                  {5, "about 1 page"},
@@ -325,76 +305,68 @@ TEST(MirrorTranscript, DisplayTellsTheLengthAndWriteRestoresTheState) {
     }
 }
 
-TEST(MirrorTranscript, PagesOfTheTitle) {
-    EXPECT_EQ(PagesTitle(4), "Dialogue, 1 Page");
-    EXPECT_EQ(PagesTitle(5), "Dialogue, 1 Page");
-    EXPECT_EQ(PagesTitle(6), "Dialogue, 2 Pages");
-    EXPECT_EQ(PagesTitle(13), "Dialogue, 2 Pages");
+TEST(MirrorTranscriptLength, PagesOfTheTitle) {
+    EXPECT_EQ(PagesTitle(4) + PagesTitle(5), "Dialogue, 1 PageDialogue, 1 Page");
+    EXPECT_EQ(PagesTitle(6) + PagesTitle(13), "Dialogue, 2 PagesDialogue, 2 Pages");
     EXPECT_EQ(PagesTitle(22), "Dialogue, 4 Pages");
 }
 
 // The advice comes once, at the 61st pair; from 100 every fifth Enter warns, refused entries
 // counted; at 121 every entry is refused.
-TEST(MirrorTranscript, AdviceOnceThenWarningsThenTheLimit) {
-    MirrorDriver driver;
-    ContinuePrior(driver, 60);
-    driver.Converse(Entry);
-    EXPECT_TRUE(driver.Layer.Boxes.empty());
-    driver.Enter();
-    driver.Converse(Entry);
-    EXPECT_EQ(driver.Titles(), "Veyrant Sagrel Help -- Recommendation Regarding Conversation;");
-    EXPECT_EQ(driver.Layer.Boxes[0].Icon, MessageIcon::Information);
+TEST_F(MirrorTranscript, AdviceOnceThenWarningsThenTheLimit) {
+    ContinuePrior(*this, 60);
+    Converse(Entry);
+    EXPECT_TRUE(Layer.Boxes.empty());
+    Enter();
+    Converse(Entry);
+    EXPECT_EQ(Titles(), "Veyrant Sagrel Help -- Recommendation Regarding Conversation;");
+    EXPECT_EQ(Layer.Boxes[0].Icon, MessageIcon::Information);
     for (int pair = 62; pair < 100; ++pair) {
-        driver.Enter();
-        driver.Converse(Entry);
+        Enter();
+        Converse(Entry);
     }
-    EXPECT_EQ(driver.Layer.Boxes.size(), 1u);
+    EXPECT_EQ(Layer.Boxes.size(), 1u);
     for (int enter = 1; enter <= 5; ++enter) {
-        driver.Enter();
-        driver.Engine.Judgements.push_back({-2, 2});
-        driver.Converse(Entry);
-        EXPECT_EQ(driver.Layer.Boxes.size(), enter < 5 ? 1u : 2u) << "Enter " << enter;
+        Enter();
+        Engine.Judgements.push_back({-2, 2});
+        Converse(Entry);
+        EXPECT_EQ(Layer.Boxes.size(), enter < 5 ? 1u : 2u) << "Enter " << enter;
     }
-    EXPECT_EQ(driver.Layer.Boxes[1].Title, "Veyrant Sagrel Help -- Nearing the Dialogue Limit");
-    EXPECT_EQ(driver.Layer.Boxes[1].Text,
-              "The length of your Dialogue is nearing the system limit. You have approximately 20 "
-              "cycles of interaction available.");
-    EXPECT_EQ(driver.Layer.Boxes[1].Icon, MessageIcon::Warning);
+    EXPECT_EQ(Layer.Boxes[1].Title, "Veyrant Sagrel Help -- Nearing the Dialogue Limit");
+    EXPECT_EQ(Layer.Boxes[1].Text, "The length of your Dialogue is nearing the system limit. You "
+                                   "have approximately 20 cycles of interaction available.");
+    EXPECT_EQ(Layer.Boxes[1].Icon, MessageIcon::Warning);
 }
 
 // A response left out does not bring the limit nearer; at 121 every entry is refused.
-TEST(MirrorTranscript, AtOneHundredTwentyOneEveryEntryIsRefused) {
-    MirrorDriver driver;
-    ContinuePrior(driver, 120);
-    driver.Engine.Rolls.push_back(0);
-    driver.Converse(Entry);
-    ASSERT_EQ(driver.Text(cmdRemove), "Keep");
-    driver.Enter();
-    driver.Converse(Entry);
-    EXPECT_EQ(driver.Text(cmdRemove), "Remove");
-    driver.Enter();
-    driver.Converse(Entry);
-    EXPECT_EQ(driver.Text(txtResponse),
+TEST_F(MirrorTranscript, AtOneHundredTwentyOneEveryEntryIsRefused) {
+    ContinuePrior(*this, 120);
+    Engine.Rolls.push_back(0);
+    Converse(Entry);
+    ASSERT_EQ(Text(cmdRemove), "Keep");
+    Enter();
+    Converse(Entry);
+    EXPECT_EQ(Text(cmdRemove), "Remove");
+    Enter();
+    Converse(Entry);
+    EXPECT_EQ(Text(txtResponse),
               ">> ! Your Dialogue has reached the system limit, and no more text can be added. "
               "Click 'Finish' to end the Dialogue. Then you may print it if you prefer.");
-    EXPECT_EQ(driver.State().PairCount, 121);
-    EXPECT_EQ(driver.Text(cmdNew), "Finish");
-    EXPECT_EQ(driver.Text(txtNote), "Press 'Enter' to start again.");
-
-    driver.Enter();
-    driver.Click(cmdNotate);
-    driver.Converse("A last comment on all of it.");
-    EXPECT_EQ(driver.State().PairCount, 121);
-    EXPECT_EQ(driver.Text(txtNote), "Press 'Enter' to begin this entry again.");
+    EXPECT_EQ(State().PairCount, 121);
+    EXPECT_EQ(Text(cmdNew) + "|" + Text(txtNote), "Finish|Press 'Enter' to start again.");
+    Enter();
+    Click(cmdNotate);
+    Converse("A last comment on all of it.");
+    EXPECT_EQ(State().PairCount, 121);
+    EXPECT_EQ(Text(txtNote), "Press 'Enter' to begin this entry again.");
 }
 
-TEST(MirrorTranscript, ClickOnTheNewDialoguePanelDrawsAnotherSuggestion) {
-    MirrorDriver driver;
-    driver.mirror->StartWindow();
-    driver.Click(txtSaved);
-    EXPECT_EQ(driver.Text(txtSaved).substr(0, 12), "Suggestion 2");
-    driver.Click(txtResponse);
-    EXPECT_EQ(driver.Text(txtResponse), "Inspiration\r\n\tInspiration number 2.");
+TEST_F(MirrorTranscript, ClickOnTheNewDialoguePanelDrawsAnotherSuggestion) {
+    mirror->StartWindow();
+    Click(txtSaved);
+    EXPECT_EQ(Text(txtSaved).substr(0, 12), "Suggestion 2");
+    Click(txtResponse);
+    EXPECT_EQ(Text(txtResponse), "Inspiration\r\n\tInspiration number 2.");
 }
 
 } // namespace

@@ -5,93 +5,87 @@
 namespace veyrant::testing {
 namespace {
 
+using MirrorHelp = MirrorTest;
+
 const std::string CancelHelp = "Cancel your interaction and return to New Dialogue.";
 
-TEST(MirrorHelp, HelpShowsAfterATickAndEndsByItselfAfterSeven) {
-    MirrorDriver driver;
-    driver.StartConverse();
-    const std::string instruction = driver.Text(txtNote);
-    driver.mirror->MouseMove(cmdClear); // a disabled button has no help
-    EXPECT_EQ(driver.Layer.Timers.count(TimerId::MirrorHover), 0u);
-    driver.mirror->MouseMove(cmdNew);
-    EXPECT_EQ(driver.Layer.Timers.at(TimerId::MirrorHover), 1250);
-    EXPECT_EQ(driver.Box(cmdNew).Ink, Colour::HoverInk);
-    EXPECT_TRUE(driver.Box(cmdNew).Underlined);
-    EXPECT_EQ(driver.Text(txtNote), instruction);
+TEST_F(MirrorHelp, HelpShowsAfterATickAndEndsByItselfAfterSeven) {
+    StartConverse();
+    const std::string instruction = Text(txtNote);
+    mirror->MouseMove(cmdClear); // a disabled button has no help
+    EXPECT_EQ(Layer.Timers.count(TimerId::MirrorHover), 0u);
+    mirror->MouseMove(cmdNew);
+    EXPECT_EQ(Layer.Timers.at(TimerId::MirrorHover), 1250);
+    EXPECT_EQ(Box(cmdNew).Ink, Colour::HoverInk);
+    EXPECT_TRUE(Box(cmdNew).Underlined);
+    EXPECT_EQ(Text(txtNote), instruction);
     for (int tick = 1; tick <= 7; ++tick) {
-        driver.mirror->TimerFired(TimerId::MirrorHover);
-        EXPECT_EQ(driver.Text(txtNote), CancelHelp);
-        EXPECT_EQ(driver.Box(txtNote).Ink, Colour::HelpInk);
+        mirror->TimerFired(TimerId::MirrorHover);
+        EXPECT_EQ(Text(txtNote), CancelHelp);
+        EXPECT_EQ(Box(txtNote).Ink, Colour::HelpInk);
     }
-    driver.mirror->TimerFired(TimerId::MirrorHover);
-    EXPECT_EQ(driver.Text(txtNote), instruction);
-    EXPECT_EQ(driver.Layer.Timers.count(TimerId::MirrorHover), 0u);
+    mirror->TimerFired(TimerId::MirrorHover);
+    EXPECT_EQ(Text(txtNote), instruction);
+    EXPECT_EQ(Layer.Timers.count(TimerId::MirrorHover), 0u);
     // The button stays marked until the mouse goes elsewhere.
-    EXPECT_EQ(driver.Box(cmdNew).Ink, Colour::HoverInk);
-    driver.mirror->MouseMove(txtSaved);
-    EXPECT_EQ(driver.Box(cmdNew).Ink, Colour::Black);
+    EXPECT_EQ(Box(cmdNew).Ink, Colour::HoverInk);
+    mirror->MouseMove(txtSaved);
+    EXPECT_EQ(Box(cmdNew).Ink, Colour::Black);
     // Moving to the entry box brings the instruction back at once.
-    driver.Help(cmdNew);
-    driver.mirror->MouseMove(txtMirror);
-    EXPECT_EQ(driver.Text(txtNote), instruction);
-    EXPECT_EQ(driver.Box(cmdNew).Ink, Colour::Black);
+    Help(cmdNew);
+    mirror->MouseMove(txtMirror);
+    EXPECT_EQ(Text(txtNote), instruction);
+    EXPECT_EQ(Box(cmdNew).Ink, Colour::Black);
 }
 
-TEST(MirrorHelp, ButtonHelpFollowsTheState) {
-    MirrorDriver driver;
-    driver.mirror->StartWindow();
-    EXPECT_EQ(driver.Help(cmdNotate), "Open your Dialogue with a comment. Write a short paragraph "
-                                      "without creating an Sagrel response.");
-    EXPECT_EQ(driver.Help(cmdRetrieve), "Open the Dialogue Library. You have no saved Dialogues. "
-                                        "Right-click for Library Options.");
-
-    driver.Click(cmdConverse);
-    EXPECT_EQ(driver.Help(cmdConverse),
-              "Click 'Cancel' to exit Converse and reset to New Dialogue.");
-    EXPECT_EQ(driver.Help(cmdNotate), "Add a comment into your Dialogue. Write a short paragraph "
-                                      "without creating an Sagrel response.");
-
-    driver.Converse("Where did the joy of drawing go?");
-    EXPECT_EQ(driver.Help(cmdConverse),
+TEST_F(MirrorHelp, ButtonHelpFollowsTheState) {
+    mirror->StartWindow();
+    EXPECT_EQ(Help(cmdNotate), "Open your Dialogue with a comment. Write a short paragraph "
+                               "without creating an Sagrel response.");
+    EXPECT_EQ(Help(cmdRetrieve), "Open the Dialogue Library. You have no saved Dialogues. "
+                                 "Right-click for Library Options.");
+    Click(cmdConverse);
+    EXPECT_EQ(Help(cmdConverse), "Click 'Cancel' to exit Converse and reset to New Dialogue.");
+    EXPECT_EQ(Help(cmdNotate), "Add a comment into your Dialogue. Write a short paragraph "
+                               "without creating an Sagrel response.");
+    Converse("Where did the joy of drawing go?");
+    EXPECT_EQ(Help(cmdConverse),
               "Click 'Finish' to close your Dialogue for saving, printing, or filing. You may "
               "reopen it by clicking 'Continue'.");
-    EXPECT_EQ(driver.Help(cmdRemove), "Remove the current entry-response pair from the Dialogue.");
-    driver.Click(cmdRemove);
-    EXPECT_EQ(driver.Help(cmdRemove), "Keep the current entry-response pair in the Dialogue.");
-
-    driver.Click(cmdRemove);
-    driver.Click(cmdNew); // Finish
-    EXPECT_EQ(driver.Help(cmdNew), "Erase the Dialogue to begin another. To save it first, click "
-                                   "'Save', or close the program without clicking 'New'.");
-    EXPECT_EQ(driver.Help(cmdDisplay),
+    EXPECT_EQ(Help(cmdRemove), "Remove the current entry-response pair from the Dialogue.");
+    Click(cmdRemove);
+    EXPECT_EQ(Help(cmdRemove), "Keep the current entry-response pair in the Dialogue.");
+    Click(cmdRemove);
+    Click(cmdNew); // Finish
+    EXPECT_EQ(Help(cmdNew), "Erase the Dialogue to begin another. To save it first, click "
+                            "'Save', or close the program without clicking 'New'.");
+    EXPECT_EQ(Help(cmdDisplay),
               "Save the displayed Dialogue as a text file in the program's text editor.");
 }
 
-TEST(MirrorHelp, TheResponseBoxTogglesAndExplainsItself) {
-    MirrorDriver driver;
-    driver.StartConverse();
-    driver.Converse("Why do I wait for permission?");
-    driver.Enter();
-    const std::string inspiration = driver.State().InspirationView;
-    EXPECT_EQ(driver.Text(txtResponse), inspiration);
-    EXPECT_EQ(driver.Help(txtResponse),
+TEST_F(MirrorHelp, TheResponseBoxTogglesAndExplainsItself) {
+    StartConverse();
+    Converse("Why do I wait for permission?");
+    Enter();
+    const std::string inspiration = State().InspirationView;
+    EXPECT_EQ(Text(txtResponse), inspiration);
+    EXPECT_EQ(Help(txtResponse),
               "Click the text to toggle between the Direction, Inspiration, and Suggestion.");
-    driver.Click(txtResponse);
-    EXPECT_EQ(driver.Text(txtResponse), "Suggestion 1");
-    driver.Click(txtResponse);
-    EXPECT_EQ(driver.Text(txtResponse).substr(0, 26), "Direction for Conversation");
-    driver.Click(txtResponse);
-    EXPECT_EQ(driver.Text(txtResponse), inspiration);
-
+    Click(txtResponse);
+    EXPECT_EQ(Text(txtResponse), "Suggestion 1");
+    Click(txtResponse);
+    EXPECT_EQ(Text(txtResponse).substr(0, 26), "Direction for Conversation");
+    Click(txtResponse);
+    EXPECT_EQ(Text(txtResponse), inspiration);
     // A result or a message on show stays where it is.
-    driver.Converse("Why do I wait for permission again?");
-    const std::string result = driver.Text(txtResponse);
-    driver.Click(txtResponse);
-    EXPECT_EQ(driver.Text(txtResponse), result);
+    Converse("Why do I wait for permission again?");
+    const std::string result = Text(txtResponse);
+    Click(txtResponse);
+    EXPECT_EQ(Text(txtResponse), result);
 }
 
 // The help shows 1.25 seconds after the mouse arrives, however it moves on the control.
-TEST(MirrorHelp, TheCountStartsWhenTheMouseArrives) {
+TEST(MirrorHelpTable, TheCountStartsWhenTheMouseArrives) {
     const std::pair<MirrorControl, std::string> cases[] = {
         {txtResponse,
          "Click the text to toggle between the Direction, Inspiration, and Suggestion."},
@@ -119,7 +113,7 @@ TEST(MirrorHelp, TheCountStartsWhenTheMouseArrives) {
     }
 }
 
-TEST(MirrorHelp, TheLibraryButtonCountsTheSavedDialogues) {
+TEST(MirrorHelpTable, TheLibraryButtonCountsTheSavedDialogues) {
     for (const int saved : {1, 3}) {
         MirrorDriver driver;
         for (int dialogue = 0; dialogue < saved; ++dialogue) {
@@ -134,15 +128,14 @@ TEST(MirrorHelp, TheLibraryButtonCountsTheSavedDialogues) {
     }
 }
 
-TEST(MirrorHelp, AClickEndsTheHelpSoItsEffectShows) {
-    MirrorDriver driver;
-    driver.StartConverse();
-    driver.Type("I want to understand my own anger better.");
-    driver.Help(cmdClear);
-    driver.Click(cmdClear);
-    EXPECT_EQ(driver.Text(txtNote), "Type your entry again. Then press 'Enter' to continue.");
-    EXPECT_EQ(driver.Box(cmdClear).Ink, Colour::Black);
-    EXPECT_EQ(driver.Layer.Timers.count(TimerId::MirrorHover), 0u);
+TEST_F(MirrorHelp, AClickEndsTheHelpSoItsEffectShows) {
+    StartConverse();
+    Type("I want to understand my own anger better.");
+    Help(cmdClear);
+    Click(cmdClear);
+    EXPECT_EQ(Text(txtNote), "Type your entry again. Then press 'Enter' to continue.");
+    EXPECT_EQ(Box(cmdClear).Ink, Colour::Black);
+    EXPECT_EQ(Layer.Timers.count(TimerId::MirrorHover), 0u);
 }
 
 } // namespace

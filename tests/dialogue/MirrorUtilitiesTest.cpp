@@ -13,6 +13,8 @@
 namespace veyrant::testing {
 namespace {
 
+using MirrorGuest = MirrorTest;
+
 const std::string Entry = "Why do I wait so long before I decide anything?";
 
 // Closes the window, or right-clicks for a window that puts it out of the way; true when the
@@ -145,19 +147,17 @@ TEST(MirrorUtilities, ADialogueTheBuffersCannotTakeCanBeSavedElsewhereOnTheWayOu
 }
 
 // A guest leaves Guest Mode through the Utilities window, since the Library button is disabled.
-TEST(MirrorUtilities, GuestModeReachesTheUtilitiesThroughHelpOnly) {
-    MirrorDriver driver;
-    driver.App.UserSettings.GuestMode = 1;
-    Mirror guest(driver.App.WriteWorld(), driver.Engine, driver.Buffers, driver.Library);
+TEST_F(MirrorGuest, GuestModeReachesTheUtilitiesThroughHelpOnly) {
+    App.UserSettings.GuestMode = 1;
+    Mirror guest(App.WriteWorld(), Engine, Buffers, Library);
     guest.StartWindow();
-    EXPECT_FALSE(guest.Controls()[cmdRetrieve].Enabled);
-    EXPECT_TRUE(guest.Controls()[cmdKnow].Enabled);
+    EXPECT_TRUE(!guest.Controls()[cmdRetrieve].Enabled && guest.Controls()[cmdKnow].Enabled);
     guest.MouseDown(cmdRetrieve, MouseButton::Right);
-    EXPECT_EQ(driver.Layer.Visible.count(WindowId::Options), 0u);
-    EXPECT_EQ(driver.App.ClosingState, ClosingStates::Running);
+    EXPECT_EQ(Layer.Visible.count(WindowId::Options), 0u);
+    EXPECT_EQ(App.ClosingState, ClosingStates::Running);
     guest.MouseDown(cmdHelp, MouseButton::Right);
-    EXPECT_EQ(driver.Layer.Visible.count(WindowId::Utility), 1u);
-    EXPECT_EQ(driver.App.ClosingState, ClosingStates::UtilitiesUp);
+    EXPECT_EQ(Layer.Visible.count(WindowId::Utility), 1u);
+    EXPECT_EQ(App.ClosingState, ClosingStates::UtilitiesUp);
 }
 
 } // namespace

@@ -11,13 +11,8 @@ namespace {
 TEST(ExportText, HeadingTextAndClosingLines) {
     const DateTime morning{2026, 11, 22, 9, 5, 0};
     EXPECT_EQ(ExportText(morning, "Inspiration\r\n\r\n\tBe still.\r\n\r\nDialogue"),
-              "Veyrant Sagrel\r\n"
-              "Sunday, 9:05 AM, November 22, 2026\r\n"
-              "\r\n"
-              "\r\n"
-              "Inspiration\r\n\r\n\tBe still.\r\n\r\nDialogue\r\n"
-              "\r\n"
-              "\r\n"
+              "Veyrant Sagrel\r\nSunday, 9:05 AM, November 22, 2026\r\n\r\n\r\n"
+              "Inspiration\r\n\r\n\tBe still.\r\n\r\nDialogue\r\n\r\n\r\n"
               "Psychological Self-Reflection with the Veyrant Sagrel Dovrin\r\n"
               "\"The Power of Your Inspiration is in the Worth that You Give It\"\r\n"
               "Veyrant Technology, veyrant-sagrel.org\r\n");
@@ -26,8 +21,8 @@ TEST(ExportText, HeadingTextAndClosingLines) {
 
 TEST(ExportText, SaveFailureNamesNumberAndFile) {
     const auto box = SaveFileErrorBox(70, "/home/ana/Dialogue.txt");
-    EXPECT_EQ(box.Title, "Save File Error");
-    EXPECT_EQ(box.Text, "Error 70 encountered attempting to save /home/ana/Dialogue.txt.");
+    EXPECT_EQ(box.Title + "|" + box.Text,
+              "Save File Error|Error 70 encountered attempting to save /home/ana/Dialogue.txt.");
     EXPECT_EQ(box.Icon, MessageIcon::Warning);
 }
 

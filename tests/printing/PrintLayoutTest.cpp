@@ -25,9 +25,7 @@ PrintRequest Dialogue(int inspirationLines, int dialogueLines) {
 // However short the Dialogue, empty lines fill the first page so its foot stands in one place.
 TEST(PrintLayout, PageCountCountsLinesAndHeads) {
     struct Case {
-        int Inspiration;
-        int Dialogue;
-        int Pages;
+        int Inspiration, Dialogue, Pages;
     };
     for (const auto& c : {Case{3, 0, 1}, Case{3, 1, 1}, Case{3, 24, 1}, Case{3, 25, 2},
                           Case{3, 56, 2}, Case{3, 57, 3}, Case{0, 0, 1}}) {
@@ -46,7 +44,6 @@ TEST(PrintLayout, PageCountCountsLinesAndHeads) {
 TEST(PrintLayout, FirstPageHeadAndFoot) {
     FakePageDevice device;
     LayOutDialogue(device, Dialogue(2, 3));
-
     const auto* title = device.Find("Veyrant Dialogue");
     ASSERT_NE(title, nullptr);
     EXPECT_EQ(title->Line, 2);
