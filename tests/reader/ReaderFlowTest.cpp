@@ -55,23 +55,6 @@ TEST_F(ReaderFixture, LibraryButtonsOpenTheReaderAndRestoringClosesIt) {
                  App.Write->State().ReadLibrary != LibraryId::None);
 }
 
-// The backdrop goes when the user minimises the Write window, not when the Reader's opening
-// does, and comes back with the Write window.
-TEST_F(ReaderFixture, BackdropFollowsTheWriteWindow) {
-    Windows.ShowWindow(WindowId::Back);
-    App.Back.Load();
-    Press(*this, MC::cmdHelp);
-    App.Write->WindowStateChanged(true);
-    EXPECT_TRUE(Windows.IsWindowVisible(WindowId::Back));
-    Windows.RestoreWindow(WindowId::Mirror);
-    App.Write->WindowStateChanged(false);
-    App.Write->WindowStateChanged(true);
-    EXPECT_FALSE(Windows.IsWindowVisible(WindowId::Back));
-    App.Write->WindowStateChanged(false);
-    EXPECT_TRUE(Windows.IsWindowVisible(WindowId::Back) &&
-                Windows.WindowEvents.back() == "show Mirror");
-}
-
 // The pointer on the bare background of the Write or the Read window: with the backdrop hidden
 // each window's note tells how to bring it back, for seven ticks; with the backdrop up it says
 // nothing of it and silences the backdrop's own hint. Any button there restores the backdrop.

@@ -101,33 +101,6 @@ TEST_F(ReaderFixture, WindowModeTogglesOnlyWithinASection) {
     EXPECT_EQ(Read().KeyPress('a', RC::txtCursor) + Read().KeyPress('a', RC::txtSpin), 0);
 }
 
-// Marks of other libraries survive the close; a marked library opens at its mark in Index-2 and
-// the mark serves once; a mark in the Advanced Knowledge Library wins over the library asked for.
-TEST_F(ReaderFixture, MarksReopenOnceAndOthersSurvive) {
-    const struct {
-        std::string Before;
-        int Library;
-        std::string Title, After;
-    } visits[] = {
-        {" 0  7 \r\n 0  3 \r\n 1  5 \r\n 0  0 \r\n", 2, "Veyrant Information Library",
-         " 0 -1 \r\n 0 -1 \r\n 1  5 \r\n 0  0 \r\n"},
-        {" 0 -1 \r\n 0 -1 \r\n 1  3 \r\n 0  0 \r\n", 3, "Veyrant Knowledge Library -- 4/4/7 -- B",
-         " 0 -1 \r\n 0 -1 \r\n 0 -1 \r\n 0  0 \r\n"},
-        {" 0 -1 \r\n 0 -1 \r\n 0 -1 \r\n 1  2 \r\n", 3, "Veyrant Knowledge Library",
-         " 0 -1 \r\n 0 -1 \r\n 0 -1 \r\n 1  2 \r\n"},
-        {"", 2, "Veyrant Advanced Knowledge Library -- 3/3/3 -- Y", " 0  2 \r\n"},
-    };
-    for (const auto& visit : visits) {
-        if (!visit.Before.empty()) {
-            WriteWholeFile(Folder.Exe() / "Read.ini", visit.Before);
-        }
-        Open(visit.Library);
-        EXPECT_EQ(Title(), visit.Title);
-        App.Links.CloseLibrary();
-        EXPECT_TRUE(ReadIni().ends_with(visit.After)) << visit.Title << "\n" << ReadIni();
-    }
-}
-
 // Each right-click in the text box moves the font one step on, back to the list; the release
 // that follows is no window toggle.
 TEST_F(ReaderFixture, RightClickCyclesTheFontSteps) {
