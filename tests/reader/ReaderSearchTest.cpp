@@ -1,5 +1,6 @@
-// The Read window's search as the user drives it: type into the search box, click Go or press
-// Enter, step with Next, click the box to start over, Cancel or Esc to leave.
+// The Read window's search as the user drives it: type into the search box,
+// click Go or press Enter, step with Next, click the box to start over, Cancel
+// or Esc to leave.
 
 #include "ReaderFixture.h"
 #include "core/KeyCodes.h"
@@ -19,7 +20,8 @@ protected:
         Read().SearchTextChanged(text);
         Read().Click(RC::cmdSearch);
     }
-    // Enter typed in the search box: the window lets it by, the box's key press takes it.
+    // Enter typed in the search box: the window lets it by, the box's key press
+    // takes it.
     void EnterInBox() {
         if (Read().KeyDown(KeyCode::Enter) != 0) {
             EXPECT_EQ(Read().KeyPress(KeyCode::Enter, RC::txtSearch), 0);
@@ -35,7 +37,8 @@ protected:
     }
 };
 
-// "aa" stands twice in "Aaa"; Next after the last hit ends the walk with the count shown.
+// "aa" stands twice in "Aaa"; Next after the last hit ends the walk with the
+// count shown.
 TEST_F(ReaderSearch, OverlappingHitsCountAndTheWalkEnds) {
     App.Libraries[LibraryId::Advanced] = LibraryOf({"< Aaa >", "\tX"});
     Open(4);
@@ -45,17 +48,20 @@ TEST_F(ReaderSearch, OverlappingHitsCountAndTheWalkEnds) {
     EXPECT_TRUE(Selected("3+2 \"aa\"") && Read().State().HitCount == 2) << Read().Dump();
     EnterInBox();
     EXPECT_EQ(Lines({RC::txtSearch, RC::txtNote}),
-              "\"Search complete\" | \"The search is complete with 2 instances found, the last "
+              "\"Search complete\" | \"The search is complete with 2 instances "
+              "found, the last "
               "displayed. Click 'Cancel' to exit search mode.\"");
-    // The last hit stays on view and selected; Enter at the end does nothing more.
+    // The last hit stays on view and selected; Enter at the end does nothing
+    // more.
     EXPECT_TRUE(Selected("3+2 \"aa\""));
     EnterInBox();
     EXPECT_EQ(Line(RC::cmdSelect), "\"Cancel\"");
 }
 
-// A search of all Dialogues runs latest to earliest and opens the Dialogue it finds; Cancel
-// leaves it on view, and the next search again walks them all. A Dialogue whose dlg/ file is
-// gone is reported as the walk reads it, and its Inspiration is still searched.
+// A search of all Dialogues runs latest to earliest and opens the Dialogue it
+// finds; Cancel leaves it on view, and the next search again walks them all. A
+// Dialogue whose dlg/ file is gone is reported as the walk reads it, and its
+// Inspiration is still searched.
 TEST_F(ReaderSearch, AllDialoguesLandOnTheThird) {
     SaveThree();
     Open(1);
@@ -63,7 +69,8 @@ TEST_F(ReaderSearch, AllDialoguesLandOnTheThird) {
     EXPECT_EQ(Title(), "Veyrant Dialogue Library -- Search Text");
     EXPECT_EQ(Lines({RC::txtSpin, RC::txtNote, RC::cmdSearch}),
               "low \"Search Dialogues | \\tWhen you start a search with only the Ind\" "
-              "back=IndexText | \"Search all Dialogues. Enter the text, then click 'Go' or press "
+              "back=IndexText | \"Search all Dialogues. Enter the text, then click "
+              "'Go' or press "
               "'Enter'. Click 'Cancel' to exit the search.\" | \"Enter >>\"");
     Go("HERON");
     const std::string heron = "Veyrant Dialogue -- 1/3 -- Thursday, 9:05 am, November 12, 2026 "
@@ -74,8 +81,9 @@ TEST_F(ReaderSearch, AllDialoguesLandOnTheThird) {
     Read().Click(RC::cmdSearch);
     EXPECT_EQ(Line(RC::txtSearch), "\"Search complete\"");
     Key(KeyCode::Escape);
-    EXPECT_EQ(Title() + " | " + Lines({RC::txtSearch, RC::cmdSelect}),
-              heron + " | \"Search not active\" disabled ink=IndexText | \"< Index >\"");
+    EXPECT_EQ(Title() + " | " + Lines({RC::txtSearch, RC::cmdSelect, RC::cmdPrint}),
+              heron + " | \"Search not active\" disabled ink=IndexText | \"< Index >\" | "
+                      "\"Print\"");
     Read().Click(RC::cmdSearch);
     EXPECT_EQ(Title(), "Veyrant Dialogue Library -- Search Text");
     std::filesystem::remove(Folder.Dlg() / MakeFileName({2026, 11, 15, 10, 0, 0}));
@@ -109,9 +117,9 @@ TEST_F(ReaderSearch, OpenDialogueAloneIsSearched) {
     EXPECT_EQ(Title() + " | " + Line(RC::cmdSelect), title + " | \"< Index >\"");
 }
 
-// Cancel keeps a found Topic on view; with nothing found it returns to the list. With no
-// Dialogue saved the search cannot start; elsewhere Enter in the box is always taken, and Esc
-// leaves the search from any of its states.
+// Cancel keeps a found Topic on view; with nothing found it returns to the
+// list. With no Dialogue saved the search cannot start; elsewhere Enter in the
+// box is always taken, and Esc leaves the search from any of its states.
 TEST_F(ReaderSearch, CancelKeepsWhatWasFound) {
     Open(1);
     EXPECT_EQ(Line(RC::cmdSearch), "\"Search\" disabled");
@@ -129,7 +137,8 @@ TEST_F(ReaderSearch, CancelKeepsWhatWasFound) {
     Search("row 3");
     Read().Click(RC::cmdSelect);
     EXPECT_EQ(Title() + " | " + Lines({RC::txtSpin, RC::List1}),
-              "Veyrant Knowledge Library -- 4/4/7 -- B | low \"B |  | \\tText of row 3. | \" "
+              "Veyrant Knowledge Library -- 4/4/7 -- B | low \"B |  | \\tText of row "
+              "3. | \" "
               "back=ReadingText | 7 rows, selected -1, top 0, split back=IndexText");
     EXPECT_FALSE(Selected(""));
     Search("zebra");
@@ -148,8 +157,8 @@ TEST_F(ReaderSearch, CancelKeepsWhatWasFound) {
     EXPECT_EQ(Title().substr(0, 31), "Veyrant Dialogue Library -- 3/3");
 }
 
-// A click on the search box: with text waiting it empties the box; during a search or after
-// it, it starts a new search on the full list.
+// A click on the search box: with text waiting it empties the box; during a
+// search or after it, it starts a new search on the full list.
 TEST_F(ReaderSearch, ClickOnTheBoxStartsOver) {
     for (const auto& [before, caption] :
          {std::pair<std::string, std::string>{"typed", "\"< Go >\""},
@@ -174,8 +183,8 @@ TEST_F(ReaderSearch, ClickOnTheBoxStartsOver) {
     }
 }
 
-// The hover help of cmdSearch follows the library outside search and the caption inside it; File
-// and Print tell where the text goes on this system.
+// The hover help of cmdSearch follows the library outside search and the
+// caption inside it; File and Print tell where the text goes on this system.
 TEST_F(ReaderSearch, HoverTextsFollowTheState) {
     SaveThree();
     const auto hover = [&](RC button = RC::cmdSearch) {
@@ -190,8 +199,10 @@ TEST_F(ReaderSearch, HoverTextsFollowTheState) {
     EXPECT_EQ(hover(), "Search for words or phrases within only the displayed Dialogue. Click "
                        "'Index' to search all Dialogues, latest to earliest.");
     EXPECT_EQ(hover(RC::cmdFile) + " " + hover(RC::cmdPrint),
-              "Write the displayed Dialogue into the program's text editor. Then you may save it "
-              "as a text file. Print the displayed Dialogue. The pages are laid out for 'Letter' "
+              "Write the displayed Dialogue into the program's text editor. Then "
+              "you may save it "
+              "as a text file. Print the displayed Dialogue. The pages are laid "
+              "out for 'Letter' "
               "paper.");
     App.Links.CloseLibrary();
     for (const auto& [library, name] :
@@ -204,10 +215,12 @@ TEST_F(ReaderSearch, HoverTextsFollowTheState) {
     }
     Open(3);
     Read().Click(RC::cmdSearch);
-    EXPECT_EQ(hover(), "Ready to enter the search text. Then click 'Go' or press 'Enter' to start "
+    EXPECT_EQ(hover(), "Ready to enter the search text. Then click 'Go' or press "
+                       "'Enter' to start "
                        "the search. Or click 'Cancel' to exit search mode.");
     Read().SearchTextChanged("row");
-    EXPECT_EQ(hover(), "Begin the search. You may also press 'Enter'. Or click the search text to "
+    EXPECT_EQ(hover(), "Begin the search. You may also press 'Enter'. Or click "
+                       "the search text to "
                        "erase it and begin again.");
     Read().Click(RC::cmdSearch);
     EXPECT_EQ(hover(), "Find the next instance. You may also press 'Enter'. Or click the search "
