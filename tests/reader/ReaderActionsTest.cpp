@@ -210,35 +210,28 @@ TEST_F(ReaderFixture, OnlyTheAmbrelAndOverflowingEssaysAreRefused) {
 }
 
 // Print and File hand the open Dialogue on, with its own date; a failed print says so.
-TEST(ReaderActions, PrintAndFileHandTheDialogueOn) {
+TEST_F(ReaderFixture, PrintAndFileHandTheDialogueOn) {
     const DateTime saved{2026, 11, 20, 9, 30, 0};
     const std::string body = "\t\x93Hello.\x94\r\n\tA reply.";
-    for (const auto& [answer, boxes] :
-         {std::pair<PrintOutcome, std::vector<std::string>>{PrintOutcome::Printed, {}},
-          {PrintOutcome::Cancelled, {}},
-          {PrintOutcome::Failed, {"Print Error"}}}) {
-        ReaderFixture t;
-        t.SaveDialogue(saved, "\r\n\tMy inspiration.");
-        t.Open(1);
-        t.Read().Click(RC::cmdNext);
-        t.Windows.PrintAnswer = answer;
-        t.Read().Click(RC::cmdPrint);
-        ASSERT_EQ(t.Windows.Printed.size(), 1u);
-        const PrintRequest& printed = t.Windows.Printed[0];
-        EXPECT_EQ(printed.Inspiration + "|" + printed.Dialogue + "|" + printed.Title,
-                  "\r\n\tMy inspiration.|" + body + "|Veyrant Dialogue");
-        EXPECT_EQ(FormatDate(printed.ShownDate, "yyyy-mm-dd hh:nn"), "2026-11-20 09:30");
-        EXPECT_TRUE(t.Windows.BusyWhilePrinting && !t.Windows.Busy);
-        EXPECT_EQ(t.Line(RC::cmdPrint), "\"Print\"");
-        EXPECT_EQ(t.BoxTitles(), boxes);
-        t.Read().Click(RC::cmdFile);
-        ASSERT_EQ(t.Windows.EditorTexts.size(), 1u);
-        EXPECT_EQ(t.Windows.EditorTexts[0].Text,
-                  ExportText(saved, "Inspiration\r\n\r\n\r\n\tMy inspiration.\r\n\r\nDialogue"
-                                    "\r\n\r\n" +
-                                        body));
-        EXPECT_EQ(t.Windows.EditorTexts[0].ProposedFileName, ExportFileName(saved));
-    }
+    SaveDialogue(saved, "\r\n\tMy inspiration.");
+    Open(1);
+    Read().Click(RC::cmdNext);
+    Windows.PrintAnswer = PrintOutcome::Failed;
+    Read().Click(RC::cmdPrint);
+    ASSERT_EQ(Windows.Printed.size(), 1u);
+    const PrintRequest& printed = Windows.Printed[0];
+    EXPECT_EQ(printed.Inspiration + "|" + printed.Dialogue + "|" + printed.Title,
+              "\r\n\tMy inspiration.|" + body + "|Veyrant Dialogue");
+    EXPECT_EQ(FormatDate(printed.ShownDate, "yyyy-mm-dd hh:nn"), "2026-11-20 09:30");
+    EXPECT_TRUE(Windows.BusyWhilePrinting && !Windows.Busy);
+    EXPECT_EQ(Line(RC::cmdPrint), "\"Print\"");
+    EXPECT_EQ(BoxTitles(), std::vector<std::string>{"Print Error"});
+    Read().Click(RC::cmdFile);
+    ASSERT_EQ(Windows.EditorTexts.size(), 1u);
+    EXPECT_EQ(Windows.EditorTexts[0].Text,
+              ExportText(saved, "Inspiration\r\n\r\n\r\n\tMy inspiration.\r\n\r\nDialogue\r\n\r\n" +
+                                    body));
+    EXPECT_EQ(Windows.EditorTexts[0].ProposedFileName, ExportFileName(saved));
 }
 
 // Delete asks first; Yes takes the pair off the disk, lists the Library anew and brings the
