@@ -93,8 +93,9 @@ TEST_F(DialogueLibraryTest, AFailedSaveOrScanSaysWhy) {
     EXPECT_EQ(Windows.Boxes.back().Title, "Error 76 Dialogue Library File Names");
 }
 
-// Retention and a delete move the pairs to the trash, each file with its .trashinfo; where the
-// trash cannot take them, nothing goes for good without a Yes.
+// Retention and a delete move the pairs to the trash, each file with its .trashinfo, but
+// retention never takes the last Dialogue; where the trash cannot take them, nothing goes for
+// good without a Yes.
 TEST_F(DialogueLibraryTest, DeletedDialoguesGoToTheTrash) {
     const auto old = SaveAt(DaysAgo(30));
     const auto kept = SaveAt(DaysAgo(1));
@@ -104,6 +105,11 @@ TEST_F(DialogueLibraryTest, DeletedDialoguesGoToTheTrash) {
     EXPECT_EQ(ReadWholeFile(Folder.Trash() / "info" / (old + ".2.trashinfo")),
               "[Trash Info]\nPath=" + PercentEncoded((Folder.Dlg() / old).string()) +
                   "\nDeletionDate=2026-11-22T12:00:00\n");
+    // The last Dialogue stays, whatever the limits.
+    UserSettings.MaxLibraryFiles = 0;
+    UserSettings.MaxLibraryDays = 0;
+    ASSERT_TRUE(Library.ScanLibrary());
+    EXPECT_EQ(Names(Folder.Dlg()), std::vector<std::string>{kept});
     std::filesystem::remove_all(Folder.Trash());
     WriteWholeFile(Folder.Trash(), "a file where the trash should be");
     Windows.Answers = {MessageAnswer::Yes, MessageAnswer::No, MessageAnswer::Yes,
