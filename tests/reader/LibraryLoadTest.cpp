@@ -24,28 +24,6 @@ protected:
     std::vector<const FixedLibrary*> All;
 };
 
-// Each opens with a Section and its last Section runs to the end; every row has a text in
-// record form, a tab first and a line end last, inside its library's width.
-TEST_F(LoadedLibraries, EachOpensWithASectionAndHoldsItsTextsInRecordForm) {
-    const int rows[] = {185, 175, 61};
-    const int sections[] = {6, 7, 3};
-    for (std::size_t k = 0; k < All.size(); ++k) {
-        const FixedLibrary& library = *All[k];
-        SCOPED_TRACE(library.Titles[0]);
-        EXPECT_EQ(library.LastRow + 1, rows[k]);
-        EXPECT_EQ(library.LastSection + 1, sections[k]);
-        EXPECT_EQ(library.RowKind[0], RowKinds::Section);
-        EXPECT_EQ(library.SectionEnd.back(), library.LastRow);
-        ASSERT_EQ(library.Texts.size(), library.Titles.size());
-        for (const std::string& text : library.Texts) {
-            ASSERT_GE(text.size(), 3u);
-            EXPECT_EQ(text.front(), '\t');
-            EXPECT_TRUE(text.ends_with("\r\n"));
-            EXPECT_LE(static_cast<int>(text.size()), library.RecordWidth - 10);
-        }
-    }
-}
-
 // The rows tell what is so of this program on a Linux desktop, and where to mend the Library.
 TEST_F(LoadedLibraries, RowsTellWhatHoldsOnLinux) {
     using enum LibraryId;

@@ -6,28 +6,6 @@ namespace {
 
 using RC = ReaderControl;
 
-TEST_F(ReaderFixture, EmptyLibraryOffersNothingToStepOrSearch) {
-    Open(1);
-    const std::string shown =
-        "\"Latest\" disabled | \"< Index >\" disabled | 0 rows, selected -1, top 0, split "
-        "back=ListEmpty | low \"Dialogue Library | \\tThere are currently no Dialogues saved in\" "
-        "back=IndexText | \"There are no Dialogues saved in the Library.\"";
-    const auto lines = [&] {
-        return Lines({RC::cmdNext, RC::cmdSelect, RC::List1, RC::txtSpin, RC::txtNote});
-    };
-    EXPECT_EQ(Title(), "Veyrant Dialogue Library -- No Dialogues Saved");
-    EXPECT_EQ(lines(), shown);
-    Key(KeyCode::PageDown);
-    Key(KeyCode::Enter);
-    // A click that reaches a disabled button, as a screen reader's action might, does nothing.
-    for (auto button : {RC::cmdNext, RC::cmdPrint, RC::cmdFile, RC::cmdDelete, RC::cmdSearch}) {
-        Read().Click(button);
-    }
-    EXPECT_EQ(Title(), "Veyrant Dialogue Library -- No Dialogues Saved");
-    EXPECT_EQ(lines(), shown);
-    EXPECT_TRUE(Windows.Boxes.empty());
-}
-
 // The list runs latest first; a damaged inspiration lists as a format error; Latest opens the
 // newest Dialogue with its age, and stepping goes on to the earlier one.
 TEST_F(ReaderFixture, ListsLatestFirstAndStepsIntoDialogues) {

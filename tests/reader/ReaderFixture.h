@@ -39,7 +39,6 @@ public:
     void Key(int keyCode);
     // Saves a Dialogue at that date as the Write window would.
     void SaveDialogue(const DateTime& when, const std::string& inspiration);
-    std::string ReadIni() { return ReadWholeFile(Folder.Exe() / "Read.ini"); }
     // The titles of the message boxes shown so far.
     std::vector<std::string> BoxTitles() const;
     TempFolder Temp;

@@ -13,9 +13,7 @@
 #include "support/TempFolder.h"
 
 #include <algorithm>
-#include <chrono>
 #include <csignal>
-#include <ctime>
 #include <filesystem>
 #include <gtest/gtest.h>
 #include <string>
