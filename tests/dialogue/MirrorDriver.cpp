@@ -18,8 +18,7 @@ EntryJudgement ScriptedEngine::CheckEntry(const std::string& entryText, WriteMet
     return {static_cast<EntryVerdict>(judgement.Status), static_cast<SentenceType>(judgement.Type)};
 }
 
-void ScriptedEngine::RecordKey(float time, int characterCode) {
-    KeyTimes.push_back(time);
+void ScriptedEngine::RecordKey(float, int characterCode) {
     KeyCodes.push_back(characterCode);
 }
 

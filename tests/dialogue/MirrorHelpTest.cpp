@@ -128,15 +128,5 @@ TEST(MirrorHelpTable, TheLibraryButtonCountsTheSavedDialogues) {
     }
 }
 
-TEST_F(MirrorHelp, AClickEndsTheHelpSoItsEffectShows) {
-    StartConverse();
-    Type("I want to understand my own anger better.");
-    Help(cmdClear);
-    Click(cmdClear);
-    EXPECT_EQ(Text(txtNote), "Type your entry again. Then press 'Enter' to continue.");
-    EXPECT_EQ(Box(cmdClear).Ink, Colour::Black);
-    EXPECT_EQ(Layer.Timers.count(TimerId::MirrorHover), 0u);
-}
-
 } // namespace
 } // namespace veyrant::testing
