@@ -7,6 +7,7 @@
 
 #include <filesystem>
 #include <gtest/gtest.h>
+#include <tuple>
 
 namespace veyrant::testing {
 namespace {
@@ -240,13 +241,14 @@ TEST(MirrorFinishPrint, PrintSendsTheDialogueAndOnlyAFailureShowsABox) {
     }
 }
 
+// The full view and the window's title tell the length of the Dialogue.
 TEST(MirrorTranscriptLength, DisplayTellsTheLengthAndWriteRestoresTheState) {
-    const std::pair<int, std::string> cases[] = {{1, "less than 1 page"},
-                                                 {4, "less than 1 page"},
-                                                 {5, "about 1 page"},
-                                                 {6, "about 2 pages"},
-                                                 {14, "about 3 pages"}};
-    for (const auto& [pairCount, length] : cases) {
+    const std::tuple<int, std::string, std::string> cases[] = {{1, "less than 1 page", "1 Page"},
+                                                               {4, "less than 1 page", "1 Page"},
+                                                               {5, "about 1 page", "1 Page"},
+                                                               {6, "about 2 pages", "2 Pages"},
+                                                               {14, "about 3 pages", "3 Pages"}};
+    for (const auto& [pairCount, length, pages] : cases) {
         SCOPED_TRACE(pairCount);
         MirrorDriver driver;
         ContinuePrior(driver, pairCount);
@@ -254,6 +256,7 @@ TEST(MirrorTranscriptLength, DisplayTellsTheLengthAndWriteRestoresTheState) {
         const std::string before = driver.mirror->Dump();
         driver.Click(cmdDisplay);
         EXPECT_EQ(driver.Text(cmdDisplay), "Write");
+        EXPECT_EQ(PagesTitle(pairCount), "Dialogue, " + pages);
         EXPECT_EQ(driver.Text(txtNote), "Your Dialogue is " + length +
                                             " long. Click 'Write' or the Dialogue text to restore "
                                             "the display to the interactive mode.");
@@ -265,12 +268,6 @@ TEST(MirrorTranscriptLength, DisplayTellsTheLengthAndWriteRestoresTheState) {
         driver.Click(txtSaved);
         EXPECT_EQ(driver.mirror->Dump(), before);
     }
-}
-
-TEST(MirrorTranscriptLength, PagesOfTheTitle) {
-    EXPECT_EQ(PagesTitle(4) + PagesTitle(5), "Dialogue, 1 PageDialogue, 1 Page");
-    EXPECT_EQ(PagesTitle(6) + PagesTitle(13), "Dialogue, 2 PagesDialogue, 2 Pages");
-    EXPECT_EQ(PagesTitle(22), "Dialogue, 4 Pages");
 }
 
 // The advice comes once, at the 61st pair; from 100 every fifth Enter warns, refused entries
