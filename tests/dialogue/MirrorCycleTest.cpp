@@ -10,6 +10,8 @@ using MirrorCycle = MirrorTest;
 
 const std::string Prefix{Tab, OpenQuote};
 const std::string Question = "why do I keep putting off the letter to my brother?";
+const std::string YesNoRefusal = ">> Questions asking for a yes-no-type answer are not valid for "
+                                 "Supposition. Press 'Enter' to start again.";
 const std::string Notice =
     ">> Regarding the conversation. To continue, press 'Enter'.\r\n\tThe talk has turned inward.";
 // A new Dialogue offers the methods and the Inspiration; a Converse entry shows "Processing"
@@ -30,11 +32,19 @@ TEST_F(MirrorCycle, ConverseEntryIsAcceptedAnsweredAndKept) {
     Converse(Question);
     ASSERT_FALSE(painted.empty());
     EXPECT_EQ(painted.front(), "Processing . . .");
+    EXPECT_GE(Layer.Yields, 2);
+    EXPECT_EQ(Engine.CheckedEntries.front(), Prefix + Question);
+    EXPECT_EQ(Box(txtResponse).Background, Colour::ColourAdded);
     EXPECT_EQ(State().DialogueText, "\r\n\r\n" + Quoted(Question) + "\r\n\tAnswer 1 to type 50.");
     EXPECT_EQ(Text(txtNote), "Text was added into the Dialogue. Click 'Remove' to erase it, "
                              "before continuing. Press 'Enter' to continue.");
+    EXPECT_TRUE(Box(cmdRemove).Enabled && Box(cmdDisplay).Enabled);
+    // The entry stands above the response once answered, and below it for the next one.
+    EXPECT_LT(Box(txtMirror).Top, Box(txtResponse).Top);
     Enter();
     EXPECT_EQ(Text(txtMirror), Prefix);
+    EXPECT_GT(Box(txtMirror).Top, Box(txtResponse).Top);
+    EXPECT_EQ(Shown("cmdRemove"), "cmdRemove: \"Edit\" disabled");
     EXPECT_EQ(Text(txtNote),
               "Type your question or statement. Then press 'Enter' for the Sagrel response.");
 }
@@ -53,13 +63,18 @@ TEST_F(MirrorCycle, RemarkStaysOutUntilKeptAndKeepRemoveRestoreTheTextExactly) {
     StartConverse();
     Engine.Rolls.push_back(0);
     Converse(Question);
+    // The first pair left out leaves Cancel and no Display.
     EXPECT_EQ(Text(cmdRemove) + Text(cmdNew) + "|" + Text(txtSaved), "KeepCancel|Dialogue");
+    EXPECT_FALSE(Box(cmdDisplay).Enabled);
     Click(cmdRemove);
     const std::string kept = State().DialogueText;
     EXPECT_EQ(kept, "\r\n\r\n" + Quoted(Question) + "\r\n\tRemark 1 on type 2.");
+    EXPECT_EQ(Text(cmdRemove) + Text(cmdNew), "RemoveFinish");
+    EXPECT_TRUE(Box(cmdDisplay).Enabled);
     EXPECT_EQ(Text(txtNote), "Text was kept in the Dialogue. Click 'Remove' to erase it, "
                              "before continuing. Press 'Enter' to continue.");
     Click(cmdRemove);
+    EXPECT_EQ(State().DialogueText + "|" + Text(txtSaved), "|Dialogue");
     EXPECT_EQ(Text(txtNote), "Text was removed from the Dialogue. Click 'Keep' to retain "
                              "it, before continuing. Press 'Enter' to continue.");
     Click(cmdRemove);
@@ -161,7 +176,13 @@ TEST_F(MirrorCycle, TooShortIsJudgedBeforeTheParser) {
               "to begin again.");
     EXPECT_EQ(Text(txtNote), "Lengthen your entry, or click 'Rewrite' to begin again. "
                              "Press 'Enter' when 'X' no longer shows.");
+    EXPECT_TRUE(Box(lblRem).Visible && Box(cmdClear).Enabled);
     EXPECT_TRUE(Engine.CheckedEntries.empty());
+    // Typing on clears the message at once and the entry goes on.
+    Type(" Why is it always me who has to call first?");
+    EXPECT_EQ(Box(txtResponse).Background, Colour::ColourReady);
+    Enter();
+    EXPECT_EQ(State().PairCount, 1);
 }
 
 TEST_F(MirrorCycle, CommentGoesInAtOnceAndHandsOverToConverse) {
@@ -220,6 +241,29 @@ TEST(MirrorComposed, ADialogueOfSeveralCyclesWithTheRealEngine) {
     driver.Type("?");
     driver.Enter();
     EXPECT_FALSE(driver.State().EntryFailed);
+}
+
+// An entry that the parser refuses before it reads the sentence keeps the type of the entry
+// before: after a yes-or-no question in Suppose, every such refusal is the yes-or-no one.
+TEST(MirrorComposed, AfterAYesNoQuestionAnEarlyRefusalStaysTheYesNoOne) {
+    for (const char* early : {"Tomorrow will bring happiness for all.", "Tomorrow, maybe, perhaps?",
+                              "Is it not so, is it?", "Will tomorrow bring happiness",
+                              "Will tomorrow bring happiness\""}) {
+        SCOPED_TRACE(early);
+        MirrorDriver driver(1, MirrorDriver::Replies::Composed);
+        driver.mirror->StartWindow();
+        driver.Click(cmdSuppose);
+        driver.Converse("Will tomorrow bring happiness for all?");
+        ASSERT_EQ(driver.Text(txtResponse), YesNoRefusal);
+        driver.Enter();
+        driver.Converse(early);
+        EXPECT_EQ(driver.Text(txtResponse), YesNoRefusal);
+        EXPECT_TRUE(driver.State().AwaitingEnter);
+        // A question the parser reads replaces the type and is accepted.
+        driver.Enter();
+        driver.Converse("What would bring happiness to us all?");
+        EXPECT_EQ(driver.State().CycleCount, 1) << driver.Text(txtResponse);
+    }
 }
 
 } // namespace

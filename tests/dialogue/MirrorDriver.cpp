@@ -18,7 +18,8 @@ EntryJudgement ScriptedEngine::CheckEntry(const std::string& entryText, WriteMet
     return {static_cast<EntryVerdict>(judgement.Status), static_cast<SentenceType>(judgement.Type)};
 }
 
-void ScriptedEngine::RecordKey(float, int characterCode) {
+void ScriptedEngine::RecordKey(float time, int characterCode) {
+    KeyTimes.push_back(time);
     KeyCodes.push_back(characterCode);
 }
 

@@ -48,6 +48,7 @@ public:
     std::deque<int> Rolls;            // answer flags; 1 when empty
     std::vector<int> RollPercents, KeyCodes;
     std::vector<std::string> CheckedEntries;
+    std::vector<float> KeyTimes;
     int Compositions = 0, Inspirations = 0, Guidances = 0;
     std::string Last;
 };

@@ -2,6 +2,7 @@
 #include "core/WholeFile.h"
 #include "dialogue/MirrorDriver.h"
 #include "dialogue/Transcript.h"
+#include "printing/ExportText.h"
 #include "storage/LibraryFileName.h"
 #include "support/FileFaults.h"
 
@@ -203,6 +204,21 @@ TEST(MirrorFinishLimits, ADialogueTheLimitsTakeAtOnceStaysOnTheScreen) {
     }
 }
 
+// Buffers that outlive the Dialogue they held reopen when an empty Dialogue is cancelled, and
+// a list of ideas open at that moment must not stay over them.
+TEST_F(MirrorFinish, ACancelledListInAnEmptyDialogueClosesBeforeOldBuffersReopen) {
+    mirror->StartWindow();
+    LeavePriorDialogue(1);
+    Click(cmdSuppose);
+    Engine.Judgements.push_back({1, 20});
+    Converse(Question);
+    ASSERT_TRUE(Box(txtAnalyze).Visible);
+    Click(cmdNew); // Cancel
+    EXPECT_EQ(Text(cmdRemove) + std::to_string(State().PairCount), "Continue1");
+    EXPECT_FALSE(Box(txtAnalyze).Visible || Box(lblRemS).Visible);
+    EXPECT_EQ(mirror->Controls().Focus, txtMirror);
+}
+
 // Finish writes the buffers once; when they could not take the Dialogue, the way out tries
 // again instead of leaving it behind.
 TEST_F(MirrorFinish, AFinishedDialogueTheBuffersRefusedIsKeptOnTheWayOut) {
@@ -226,10 +242,16 @@ TEST(MirrorFinishPrint, PrintSendsTheDialogueAndOnlyAFailureShowsABox) {
     for (const auto outcome : {PrintOutcome::Printed, PrintOutcome::Failed}) {
         MirrorDriver driver;
         FinishOnePair(driver);
+        driver.Clock.Date = {2026, 11, 23, 8, 15, 0};
         driver.Layer.PrintAnswer = outcome;
         driver.Click(cmdPrint);
         ASSERT_EQ(driver.Layer.Printed.size(), 1u);
-        EXPECT_EQ(driver.Layer.Printed[0].Dialogue, OnePair);
+        const auto& printed = driver.Layer.Printed[0];
+        EXPECT_EQ(printed.Inspiration + "|" + printed.Dialogue + "|" + printed.Title,
+                  "\tInspiration number 1.|" + OnePair + "|Veyrant Dialogue");
+        EXPECT_EQ(printed.ShownDate, driver.Clock.Date);
+        EXPECT_TRUE(driver.Layer.BusyWhilePrinting && !driver.Layer.Busy);
+        EXPECT_TRUE(driver.Box(cmdPrint).Enabled);
         EXPECT_EQ(driver.Titles(), outcome == PrintOutcome::Failed ? "Print Error;" : "");
         if (outcome == PrintOutcome::Failed) {
             EXPECT_EQ(driver.Layer.Boxes[0].Text,
@@ -242,6 +264,20 @@ TEST(MirrorFinishPrint, PrintSendsTheDialogueAndOnlyAFailureShowsABox) {
 }
 
 // The full view and the window's title tell the length of the Dialogue.
+TEST_F(MirrorFinish, FileOpensTheFullViewInTheEditor) {
+    FinishOnePair(*this);
+    Clock.Date = {2026, 11, 23, 8, 15, 0};
+    Click(cmdDisplay); // File
+    ASSERT_EQ(Layer.EditorTexts.size(), 1u);
+    // The layout around the body is the export's own.
+    EXPECT_EQ(Layer.EditorTexts[0].Text,
+              ExportText(Clock.Date, "Inspiration\r\n\r\n\tInspiration number 1.\r\n\r\n"
+                                     "Dialogue\r\n\r\n" +
+                                         OnePair));
+    EXPECT_EQ(Layer.EditorTexts[0].ProposedFileName, "Dialogue 2026-11-23 8.15 AM.txt");
+    EXPECT_EQ(Text(cmdDisplay), "File"); // the window stays as it was
+}
+
 TEST(MirrorTranscriptLength, DisplayTellsTheLengthAndWriteRestoresTheState) {
     const std::tuple<int, std::string, std::string> cases[] = {{1, "less than 1 page", "1 Page"},
                                                                {4, "less than 1 page", "1 Page"},

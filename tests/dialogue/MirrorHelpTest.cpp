@@ -36,6 +36,13 @@ TEST_F(MirrorHelp, HelpShowsAfterATickAndEndsByItselfAfterSeven) {
     mirror->MouseMove(txtMirror);
     EXPECT_EQ(Text(txtNote), instruction);
     EXPECT_EQ(Box(cmdNew).Ink, Colour::Black);
+    // A click ends the help, so its effect shows.
+    Type("I want to understand my own anger better.");
+    Help(cmdClear);
+    Click(cmdClear);
+    EXPECT_EQ(Text(txtNote), "Type your entry again. Then press 'Enter' to continue.");
+    EXPECT_TRUE(Box(cmdClear).Ink == Colour::Black &&
+                Layer.Timers.count(TimerId::MirrorHover) == 0);
 }
 
 TEST_F(MirrorHelp, ButtonHelpFollowsTheState) {

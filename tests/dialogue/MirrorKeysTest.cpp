@@ -125,6 +125,17 @@ TEST_F(MirrorKeys, RewriteAndAClickEraseTheEntryUntilItIsAnswered) {
     EXPECT_EQ(Text(txtMirror), Prefix);
 }
 
+TEST_F(MirrorKeys, TheKeyRecordTakesTimeAndCodeOfEveryKeyButEnterAndBackspace) {
+    StartConverse();
+    Clock.Seconds = 100.5f;
+    Type("Hi");
+    Backspace();
+    Clock.Seconds = 101.25f;
+    Converse("\xe9");
+    EXPECT_EQ(Engine.KeyCodes, (std::vector<int>{'H', 'i', 0xe9}));
+    EXPECT_EQ(Engine.KeyTimes, (std::vector<float>{100.5f, 100.5f, 101.25f}));
+}
+
 // Focus returns to the entry box, a mouse release leaves nothing selected, and a right press
 // toggles the Write font.
 TEST_F(MirrorKeys, TheEntryBoxKeepsFocusNoSelectionAndTogglesItsFont) {

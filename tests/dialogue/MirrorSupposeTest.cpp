@@ -89,8 +89,25 @@ TEST_F(MirrorSuppose, TheQuestionOpensAListAndSelectPutsTheHeaviestIdeaInTheDial
     EXPECT_EQ(mirror->Controls().Focus, txtMirror);
 }
 
+TEST(MirrorSupposeTable, TheHeaviestIdeaIsChosenAndTheLaterOfEqualOnes) {
+    const std::pair<std::deque<float>, std::string> cases[] = {
+        {{0.99f, 0.1f}, "Idea number 1"},
+        {{0.5f, 0.5f}, "Idea number 2"},
+        {{0.9f, 0.1f, 0.9f, 0.3f}, "Idea number 3"},
+        {{0.1f, 0.2f, 0.3f, 0.4f}, "Idea number 4"}};
+    for (const auto& [draws, chosen] : cases) {
+        MirrorDriver driver;
+        OpenList(driver, draws);
+        for (std::size_t idea = 1; idea <= draws.size(); ++idea) {
+            driver.Converse("idea number " + std::to_string(idea));
+        }
+        driver.Click(cmdNew);
+        EXPECT_EQ(driver.Text(txtResponse), "\tYour idea \x93" + chosen + ".\x94 is verdict 1.");
+    }
+}
+
 // A refused Select leaves the outcome out until kept; each list weighs its own ideas, so what an
-// earlier, longer list left behind is never chosen, and of equal weights the later idea wins.
+// earlier, longer list left behind is never chosen.
 TEST_F(MirrorSuppose, SelectRefusedByTheDrawLeavesTheOutcomeOutUntilKept) {
     OpenList(*this, {0.2f, 0.3f, 0.9f});
     for (int idea = 1; idea <= 3; ++idea) {
@@ -106,13 +123,13 @@ TEST_F(MirrorSuppose, SelectRefusedByTheDrawLeavesTheOutcomeOutUntilKept) {
     Click(cmdRemove);
     EXPECT_EQ(State().DialogueText, "\r\n\r\n" + Quoted(Question) + "\r\n\tRefusal 1.");
     EXPECT_EQ(State().PairCount, 1);
-    Draws.Draws = {0.5f, 0.5f};
+    Draws.Draws = {0.5f, 0.1f};
     AskQuestion(*this);
     Converse("another idea");
     Converse("a last idea");
     Click(cmdNew);
     EXPECT_EQ(Text(txtResponse), "\tYour idea \x93"
-                                 "A last idea.\x94 is verdict 2.");
+                                 "Another idea.\x94 is verdict 2.");
 }
 
 TEST_F(MirrorSuppose, AQuestionDeclinedByTheDrawEndsInConverseWithKeep) {

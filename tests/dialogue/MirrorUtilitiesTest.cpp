@@ -42,6 +42,8 @@ TEST(MirrorUtilities, ADialogueTheBuffersCannotTakeCanBeSavedElsewhereOnTheWayOu
          "Error 61 Keeping the Dialogue;Dialogue Saved;"},
         {"Utilities, saved", cmdHelp, MessageAnswer::Yes, true, 0,
          "Error 61 Keeping the Dialogue;Dialogue Saved;"},
+        {"Library Options, saved", cmdRetrieve, MessageAnswer::Yes, true, 0,
+         "Error 61 Keeping the Dialogue;Dialogue Saved;"},
         {"close, save cancelled", std::nullopt, MessageAnswer::Yes, false, 0,
          "Error 61 Keeping the Dialogue;"},
         {"close, declined", std::nullopt, MessageAnswer::No, true, 0,
@@ -94,7 +96,8 @@ TEST(MirrorUtilities, ADialogueTheBuffersCannotTakeCanBeSavedElsewhereOnTheWayOu
         }
         if (c.RightClick) { // the window asked for, with this one out of the way
             EXPECT_EQ(driver.Layer.Visible.count(WindowId::Mirror), 0u);
-            EXPECT_EQ(driver.Layer.WindowEvents.back(), "show Utility");
+            EXPECT_EQ(driver.Layer.WindowEvents.back(),
+                      *c.RightClick == cmdHelp ? "show Utility" : "show Options");
         }
         EXPECT_EQ(driver.Layer.ProposedSaveNames[0], "Dialogue 2026-11-22 12.00 PM.txt");
         EXPECT_EQ(driver.Layer.Boxes.back().Text,
