@@ -14,6 +14,7 @@ const std::string YesNoRefusal = ">> Questions asking for a yes-no-type answer a
                                  "Supposition. Press 'Enter' to start again.";
 const std::string Notice =
     ">> Regarding the conversation. To continue, press 'Enter'.\r\n\tThe talk has turned inward.";
+
 // A new Dialogue offers the methods and the Inspiration; a Converse entry shows "Processing"
 // before the reply is composed, the pair is kept, and the next Enter begins a fresh entry.
 TEST_F(MirrorCycle, ConverseEntryIsAcceptedAnsweredAndKept) {
@@ -23,6 +24,8 @@ TEST_F(MirrorCycle, ConverseEntryIsAcceptedAnsweredAndKept) {
                              "thoughts before you begin. Click either text to change it.");
     EXPECT_EQ(mirror->Controls().Title,
               "Veyrant Sagrel 4.1 -- Written Dialogues of Self-Reflection");
+    EXPECT_EQ(Text(txtSaved).substr(0, 39), "Suggestion 1\r\n\r\nDialogue Library Status");
+    EXPECT_FALSE(Box(cmdNew).Visible || Box(cmdRemove).Visible || Box(txtMirror).Enabled);
     Click(cmdConverse);
     EXPECT_EQ(mirror->Controls().Title,
               "Veyrant Sagrel -- Conversation -- Sunday, 12:00 pm, November 22, 2026");
@@ -34,7 +37,9 @@ TEST_F(MirrorCycle, ConverseEntryIsAcceptedAnsweredAndKept) {
     EXPECT_EQ(painted.front(), "Processing . . .");
     EXPECT_GE(Layer.Yields, 2);
     EXPECT_EQ(Engine.CheckedEntries.front(), Prefix + Question);
+    EXPECT_EQ(Text(txtMirror), Quoted(Question));
     EXPECT_EQ(Box(txtResponse).Background, Colour::ColourAdded);
+    EXPECT_EQ(State().PairCount + State().CycleCount, 2);
     EXPECT_EQ(State().DialogueText, "\r\n\r\n" + Quoted(Question) + "\r\n\tAnswer 1 to type 50.");
     EXPECT_EQ(Text(txtNote), "Text was added into the Dialogue. Click 'Remove' to erase it, "
                              "before continuing. Press 'Enter' to continue.");
