@@ -2,7 +2,6 @@
 #include "core/Text.h"
 #include "dialogue/MirrorDriver.h"
 
-#include <cmath>
 #include <gtest/gtest.h>
 
 namespace veyrant::testing {
@@ -158,35 +157,6 @@ TEST_F(MirrorKeys, TheEntryBoxKeepsFocusNoSelectionAndTogglesItsFont) {
     App.ClosingState = ClosingStates::Exiting;
     mirror->FocusGained(txtSaved);
     EXPECT_EQ(mirror->Controls().Focus, txtSaved);
-}
-
-TEST(MirrorLayoutScale, ArrangementsMoveTheBoxesByTheScaledTable) {
-    for (const auto& [option, factor] : {std::pair{0, 0.9}, {1, 1.0}, {2, 1.21}, {3, 1.45}}) {
-        MirrorDriver driver(option);
-        // The boxes' tops, and the full view's height for txtAnalyze, against twips scaled.
-        const auto tops = [&driver](std::vector<MirrorControl> controls) {
-            std::vector<int> tops;
-            for (const auto control : controls) {
-                tops.push_back(control == txtAnalyze ? driver.Box(txtSaved).Height
-                                                     : driver.Box(control).Top);
-            }
-            return tops;
-        };
-        const auto scaled = [factor](std::vector<int> twips) {
-            for (auto& value : twips) {
-                value = static_cast<int>(std::lround(value * factor));
-            }
-            return twips;
-        };
-        driver.mirror->StartWindow();
-        EXPECT_EQ(tops({txtResponse, txtSaved}), scaled({960, 2760}));
-        driver.Click(cmdConverse);
-        EXPECT_EQ(tops({txtMirror}), scaled({2280}));
-        driver.Converse(Entry);
-        EXPECT_EQ(tops({txtMirror, txtResponse, lblRem}), scaled({960, 1680, 1440}));
-        driver.Click(cmdDisplay);
-        EXPECT_EQ(tops({txtSaved, txtAnalyze}), scaled({960, 4215}));
-    }
 }
 
 // Esc clicks Cancel or Finish, whichever the window offers, and nothing when nothing runs.

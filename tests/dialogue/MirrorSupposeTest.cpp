@@ -146,22 +146,6 @@ TEST_F(MirrorSuppose, AQuestionDeclinedByTheDrawEndsInConverseWithKeep) {
     EXPECT_EQ(State().DialogueText, "\r\n\r\n" + Quoted(Question) + "\r\n\tRemark 1 on type 9.");
 }
 
-// A question the parser reads as yes-or-no is refused, and the question begins again.
-TEST_F(MirrorSuppose, AYesNoQuestionIsRefusedAndTheQuestionBeginsAgain) {
-    mirror->StartWindow();
-    Click(cmdSuppose);
-    Engine.Judgements = {{1, 1}, {1, 60}};
-    Converse("should we all get up a little earlier?");
-    EXPECT_EQ(Text(txtResponse).substr(0, 30), ">> Questions asking for a yes-");
-    EXPECT_EQ(State().CycleCount, 0);
-    Enter();
-    EXPECT_EQ(Text(txtNote),
-              "Type your question. Click 'Rewrite' to erase the text. Press 'Enter' to continue.");
-    Converse("how could the mornings run more smoothly?");
-    EXPECT_TRUE(Box(txtAnalyze).Visible);
-    EXPECT_EQ(State().CycleCount, 1);
-}
-
 // An idea is capped and loses one closing mark; a too short one stays to be lengthened.
 TEST(MirrorSupposeTable, AnIdeaIsFiledCappedWithOneClosingMark) {
     const std::pair<std::string, std::string> cases[] = {{"walk to school.", "Walk to school."},

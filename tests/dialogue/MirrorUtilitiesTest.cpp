@@ -27,48 +27,6 @@ bool Leave(MirrorDriver& driver, std::optional<MirrorControl> rightClick) {
     return driver.App.ClosingState == ClosingStates::UtilitiesUp;
 }
 
-// Closing the window or opening a right-click window ends the program; when the running
-// Dialogue cannot be kept first, the program stays with it on the screen, says why, and the next
-// try keeps it.
-TEST(MirrorUtilities, ADialogueTheBuffersCannotTakeKeepsTheWindowOpen) {
-    const struct {
-        int Error;
-        const char* Title;
-        std::optional<MirrorControl> RightClick; // none: the window is closed
-    } cases[] = {{ENOSPC, "Error 61 Keeping the Dialogue;", std::nullopt},
-                 {EROFS, "Error 70 Keeping the Dialogue;", std::nullopt},
-                 {EIO, "Error 75 Keeping the Dialogue;", cmdRetrieve},
-                 {ENOSPC, "Error 61 Keeping the Dialogue;", cmdHelp}};
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.Title);
-        MirrorDriver driver;
-        driver.StartConverse();
-        driver.Converse(Entry);
-        const std::string dialogue = driver.State().DialogueText;
-        {
-            FileFaults faults;
-            faults.FailEvery(FileCall::Write, c.Error);
-            EXPECT_FALSE(Leave(driver, c.RightClick));
-        }
-        EXPECT_EQ(driver.App.ClosingState, ClosingStates::Running);
-        EXPECT_TRUE(driver.Box(txtMirror).Enabled);
-        EXPECT_EQ(driver.State().DialogueText, dialogue);
-        EXPECT_EQ(driver.Titles(), c.Title);
-        EXPECT_NE(driver.Layer.Boxes[0].Text.find("Your Dialogue is not lost: it stays on the "
-                                                  "screen, and the program stays open."),
-                  std::string::npos);
-        EXPECT_FALSE(std::filesystem::exists(driver.App.Folder.Exe() / "savem.tmp"));
-        EXPECT_TRUE(Leave(driver, c.RightClick));
-        EXPECT_EQ(ReadWholeFile(driver.App.Folder.Exe() / "savem.tmp"), dialogue);
-        if (c.RightClick) { // the window asked for, with this one out of the way
-            EXPECT_FALSE(driver.Box(txtMirror).Enabled);
-            EXPECT_EQ(driver.Layer.Visible.count(WindowId::Mirror), 0u);
-            EXPECT_EQ(driver.Layer.WindowEvents.back(),
-                      *c.RightClick == cmdHelp ? "show Utility" : "show Options");
-        }
-    }
-}
-
 // When the work buffers cannot take the Dialogue on the way out, the box offers to save it as a
 // text file elsewhere; the program goes on only once the Dialogue is safe in that file.
 TEST(MirrorUtilities, ADialogueTheBuffersCannotTakeCanBeSavedElsewhereOnTheWayOut) {
@@ -83,6 +41,8 @@ TEST(MirrorUtilities, ADialogueTheBuffersCannotTakeCanBeSavedElsewhereOnTheWayOu
         {"close, saved", std::nullopt, MessageAnswer::Yes, true, 0,
          "Error 61 Keeping the Dialogue;Dialogue Saved;"},
         {"Utilities, saved", cmdHelp, MessageAnswer::Yes, true, 0,
+         "Error 61 Keeping the Dialogue;Dialogue Saved;"},
+        {"Library Options, saved", cmdRetrieve, MessageAnswer::Yes, true, 0,
          "Error 61 Keeping the Dialogue;Dialogue Saved;"},
         {"close, save cancelled", std::nullopt, MessageAnswer::Yes, false, 0,
          "Error 61 Keeping the Dialogue;"},
@@ -133,6 +93,11 @@ TEST(MirrorUtilities, ADialogueTheBuffersCannotTakeCanBeSavedElsewhereOnTheWayOu
             EXPECT_EQ(driver.App.ClosingState, ClosingStates::Running);
             EXPECT_TRUE(std::filesystem::is_empty(elsewhere.Path()));
             continue;
+        }
+        if (c.RightClick) { // the window asked for, with this one out of the way
+            EXPECT_EQ(driver.Layer.Visible.count(WindowId::Mirror), 0u);
+            EXPECT_EQ(driver.Layer.WindowEvents.back(),
+                      *c.RightClick == cmdHelp ? "show Utility" : "show Options");
         }
         EXPECT_EQ(driver.Layer.ProposedSaveNames[0], "Dialogue 2026-11-22 12.00 PM.txt");
         EXPECT_EQ(driver.Layer.Boxes.back().Text,

@@ -228,49 +228,5 @@ TEST_F(Composing, AssembleSetsCaseAndSpacingByTheListsHidesTheLabelRowAndReports
     EXPECT_EQ(windows.Boxes[0].Buttons, MessageButtons::OkCancel);
 }
 
-// Message 1 takes section 1 twice; section 1 takes component 0 once, twice or three times.
-const std::string RepeatingPlans =
-    "1, 2, 1\r\n\"m\"\r\n\"s\", 1, 1\r\n\"s\", 1, 2\r\n\"s\", 1, 2\r\n"
-    "\"s\", 1, 2\r\n\"s\", 1, 2\r\n\"s\", 1, 2\r\n0\r\n1, 1, \"1, 1\"\r\n2, 1, \"\"\r\n"
-    "2, 4, 1\r\n\"x\"\r\n\"s\", 3, 1, 2, 3\r\n\"s\", 1, 4\r\n\"s\", 1, 4\r\n"
-    "\"s\", 1, 4\r\n\"s\", 1, 4\r\n\"s\", 1, 4\r\n0\r\n"
-    "1, 1, \"0\"\r\n2, 1, \"0, 0\"\r\n3, 1, \"0,0 0\"\r\n4, 1, \"\"\r\n";
-
-TEST_F(Composing, BuildMessageDrawsEachSectionAndEachRowWithASeedOfItsOwn) {
-    tables.MessageCount = 1;
-    tables.SectionCount = 1;
-    tables.MaxSections = 2;
-    tables.MaxComponents = 6;
-    tables.MessageCombos = {0, 1};
-    tables.SectionCombos = {0, 3};
-    tables.ComponentRows = {100};
-    tables.ComponentBlock = {1};
-    KeptPlans plans(RepeatingPlans, tables);
-    std::vector<float> pool(2 + 6 + 15 + 1);
-    for (std::size_t i = 1; i < pool.size(); ++i) {
-        pool[i] = 1000.25f * static_cast<float>(i);
-    }
-    composer.BuildMessage(1, pool, plans);
-    // The message draws with the first seed, the sections with the next, one spare among them.
-    EXPECT_EQ(composer.MessageSeed, pool[1]);
-    EXPECT_EQ(composer.SectionSeeds, (std::vector<float>{0, pool[2], pool[3], pool[4], 0, 0}));
-    ASSERT_EQ(composer.RowSeeds.size(), pool.size());
-    EXPECT_EQ(composer.RowSeeds[19], pool[23]); // MaxComponents + 13 filled
-    EXPECT_EQ(composer.RowSeeds[20], 0.0f);
-    Random expected;
-    const auto draw = [&expected](float seed, int scale) {
-        expected.Seed(seed);
-        return expected.Scaled(scale);
-    };
-    const int length = draw(pool[2], 3) + draw(pool[3], 3);
-    ASSERT_EQ(composer.CompositionLength, length);
-    for (int i = 1; i <= length; ++i) {
-        EXPECT_EQ(composer.CompositionComponents[static_cast<std::size_t>(i)], 0);
-        EXPECT_EQ(composer.CompositionRows[static_cast<std::size_t>(i)],
-                  draw(pool[static_cast<std::size_t>(2 + 2 + i)], 100))
-            << "row " << i;
-    }
-}
-
 } // namespace
 } // namespace veyrant

@@ -26,7 +26,7 @@ inline std::vector<std::string> ListedLines(const std::filesystem::path& file) {
     return lines;
 }
 
-// Draws what the test lists, then falls back to the real series; counts the draws.
+// Draws what the test lists, then falls back to the real series.
 class ScriptedRandom : public Random {
 public:
     void Seed(float seed) override {
@@ -34,7 +34,6 @@ public:
         Random::Seed(seed);
     }
     float Draw() override {
-        ++Draws;
         if (Script.empty()) {
             return Random::Draw();
         }
@@ -44,7 +43,6 @@ public:
     }
     std::deque<float> Script;
     std::vector<float> Seeds;
-    int Draws = 0;
 };
 
 class BusyRecordingWindows : public FakeWindowLayer {

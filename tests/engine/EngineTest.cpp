@@ -199,35 +199,6 @@ TEST_F(Requests, RollAnswerGivesARemarkForDrawsUpToThePercent) {
     }
 }
 
-TEST_F(Requests, SeedSeriesRoundsTheScalesHalvesToEvenAndStretchSeedsFillsThePool) {
-    TheClock.Seconds = 40000.0f;
-    TheRandom.Script = {0.5f, 0.125f, 0.25f, 0.375f, 0.0f, 0.625f, 0.75f, 0.875f};
-    TheEngine.SeedSeries();
-    EXPECT_EQ(TheEngine.SeriesSeed, 40000.0f);
-    EXPECT_FLOAT_EQ(TheEngine.SeriesBase[0], 40000.0f * 0.5f + 4000.0f);
-    EXPECT_FLOAT_EQ(TheEngine.SeriesBase[2], 4000.0f);
-    const std::vector<int> halves = {14, 38, 64, 88}; // from 13.5, 38.5, 63.5 and 88.5
-    EXPECT_EQ(halves,
-              std::vector<int>(TheEngine.SeriesScale.begin(), TheEngine.SeriesScale.begin() + 4));
-    const int size = TheEngine.Tables().MaxSections + TheEngine.Tables().MaxComponents + 15;
-    TheRandom.Draws = 0;
-    TheRandom.Script = {0.0f};
-    TheRandom.Script.insert(TheRandom.Script.end(), 40, 0.5f);
-    TheEngine.StretchSeeds();
-    ASSERT_EQ(TheEngine.SeedPool.size(), static_cast<std::size_t>(size) + 1);
-    // One multiplier per run of fifteen; the last run is left incomplete.
-    EXPECT_EQ(TheRandom.Draws, (size + 14) / 15);
-    const auto seed = [&](int i, float multiplier) {
-        return static_cast<float>(TheEngine.SeriesScale[static_cast<std::size_t>(i)]) *
-               (TheEngine.SeriesBase[static_cast<std::size_t>(i)] / 100.0f) * multiplier;
-    };
-    EXPECT_FLOAT_EQ(TheEngine.SeedPool[1], seed(1, 0.4239f));
-    EXPECT_FLOAT_EQ(TheEngine.SeedPool[15], seed(15, 0.4239f));
-    EXPECT_FLOAT_EQ(TheEngine.SeedPool[16], seed(1, 0.6739f));
-    EXPECT_FLOAT_EQ(TheEngine.SeedPool[static_cast<std::size_t>(size)],
-                    seed((size - 1) % 15 + 1, 0.6739f));
-}
-
 TEST_F(Requests, PickGuidanceDrawsOverTheSuggestionsThatStand) {
     const auto suggestions = SuggestionTexts();
     ASSERT_GT(suggestions.size(), 10u);

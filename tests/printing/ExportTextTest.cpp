@@ -8,7 +8,7 @@
 namespace veyrant::testing {
 namespace {
 
-TEST(ExportText, HeadingTextAndClosingLines) {
+TEST(ExportText, HeadingTextClosingLinesAndTheFailureBox) {
     const DateTime morning{2026, 11, 22, 9, 5, 0};
     EXPECT_EQ(ExportText(morning, "Inspiration\r\n\r\n\tBe still.\r\n\r\nDialogue"),
               "Veyrant Sagrel\r\nSunday, 9:05 AM, November 22, 2026\r\n\r\n\r\n"
@@ -17,9 +17,6 @@ TEST(ExportText, HeadingTextAndClosingLines) {
               "\"The Power of Your Inspiration is in the Worth that You Give It\"\r\n"
               "Veyrant Technology, veyrant-sagrel.org\r\n");
     EXPECT_EQ(ExportFileName({2026, 11, 22, 21, 40, 0}), "Dialogue 2026-11-22 9.40 PM.txt");
-}
-
-TEST(ExportText, SaveFailureNamesNumberAndFile) {
     const auto box = SaveFileErrorBox(70, "/home/ana/Dialogue.txt");
     EXPECT_EQ(box.Title + "|" + box.Text,
               "Save File Error|Error 70 encountered attempting to save /home/ana/Dialogue.txt.");

@@ -4,6 +4,7 @@
 #include "printing/FakePageDevice.h"
 
 #include <gtest/gtest.h>
+#include <tuple>
 
 namespace veyrant::testing {
 namespace {
@@ -41,76 +42,58 @@ TEST(PrintLayout, PageCountCountsLinesAndHeads) {
     }
 }
 
-TEST(PrintLayout, FirstPageHeadAndFoot) {
-    FakePageDevice device;
-    LayOutDialogue(device, Dialogue(2, 3));
-    const auto* title = device.Find("Veyrant Dialogue");
-    ASSERT_NE(title, nullptr);
-    EXPECT_EQ(title->Line, 2);
-    EXPECT_EQ(title->Font.Points, 18);
-    EXPECT_TRUE(title->Font.Bold);
-    EXPECT_DOUBLE_EQ(title->X, (8.5 - 16 * 18.0 / 112) / 2);
-
-    // The rule: 22 blanks, then as many underscores as fit the page less two such indents.
-    const auto rule = std::string(22, ' ') + std::string(38, '_');
-    const auto* headRule = device.Find(rule);
-    ASSERT_NE(headRule, nullptr);
-    EXPECT_EQ(headRule->Line, 3);
-
-    const auto* time = device.Find(std::string(22, ' ') + "Sunday, 9:40 PM");
-    const auto* date = device.Find("November 22, 2026");
-    ASSERT_NE(time, nullptr);
-    ASSERT_NE(date, nullptr);
-    EXPECT_TRUE(time->Font.Italic && date->Font.Italic);
-    EXPECT_EQ(date->Line, 4);
-    // The date ends where the rule ends.
-    const double character = 15.0 / 112;
-    EXPECT_NEAR(date->X + 17 * character, 22 * character + 38 * character / 2, 1e-9);
-
-    const auto page = device.OnPage(1);
-    ASSERT_GE(page.size(), 4u);
-    const auto foot = std::vector<FakePageDevice::Drawn>(page.end() - 4, page.end());
-    EXPECT_EQ(foot[0].Text, rule);
-    EXPECT_EQ(foot[1].Text, "Psychological Self-Reflection with the Veyrant Sagrel Dovrin");
-    EXPECT_EQ(foot[1].Font.Points, 12);
-    EXPECT_EQ(foot[2].Text, OpenQuote +
-                                std::string("The Power of your Inspiration Is in the Worth that "
-                                            "You Give It") +
-                                CloseQuote);
-    EXPECT_TRUE(foot[2].Font.Italic);
-    EXPECT_EQ(foot[3].Text, "Veyrant Technology, veyrant-sagrel.org");
-}
-
-TEST(PrintLayout, LaterPagesCarryOnThirtyTwoLinesEach) {
+// The first page carries the title, the rule and the date above and the foot below; the later
+// pages a page number and thirty-two lines each, every page ending on the rule in one place.
+TEST(PrintLayout, HeadsAndFeetOfTheFirstAndTheLaterPages) {
     FakePageDevice device;
     // 3 + 24 lines on the first page, 32 on the second, 1 on the third.
     LayOutDialogue(device, Dialogue(3, 57));
-    ASSERT_EQ(device.Pages, 3);
+    const auto* title = device.Find("Veyrant Dialogue");
+    ASSERT_NE(title, nullptr);
+    EXPECT_EQ(std::tuple(title->Line, title->Font.Points, title->Font.Bold),
+              std::tuple(2, 18, true));
+    EXPECT_DOUBLE_EQ(title->X, (8.5 - 16 * 18.0 / 112) / 2);
+    // The rule: 22 blanks, then as many underscores as fit the page less two such indents.
+    const auto rule = std::string(22, ' ') + std::string(38, '_');
+    EXPECT_EQ(device.Find(rule)->Line, 3);
+    const auto* time = device.Find(std::string(22, ' ') + "Sunday, 9:40 PM");
+    const auto* date = device.Find("November 22, 2026");
+    ASSERT_TRUE(time != nullptr && date != nullptr);
+    EXPECT_TRUE(time->Font.Italic && date->Font.Italic && date->Line == 4);
+    // The date ends where the rule ends.
+    const double character = 15.0 / 112;
+    EXPECT_NEAR(date->X + 17 * character, 22 * character + 38 * character / 2, 1e-9);
+    const auto page = device.OnPage(1);
+    ASSERT_GE(page.size(), 4u);
+    std::vector<std::string> foot;
+    for (auto drawn = page.end() - 4; drawn != page.end(); ++drawn) {
+        foot.push_back(drawn->Text);
+    }
+    EXPECT_EQ(foot, (std::vector<std::string>{
+                        rule, "Psychological Self-Reflection with the Veyrant Sagrel Dovrin",
+                        OpenQuote +
+                            std::string("The Power of your Inspiration Is in the Worth that "
+                                        "You Give It") +
+                            CloseQuote,
+                        "Veyrant Technology, veyrant-sagrel.org"}));
+    EXPECT_TRUE(page[page.size() - 3].Font.Points == 12 && page[page.size() - 2].Font.Italic);
 
     EXPECT_EQ(device.Find("Entry 24")->Page, 1);
-    for (const int page : {2, 3}) {
-        const auto* heading = device.Find("Page " + std::to_string(page));
+    for (const int later : {2, 3}) {
+        const auto* heading = device.Find("Page " + std::to_string(later));
         ASSERT_NE(heading, nullptr);
-        EXPECT_EQ(heading->Page, page);
-        EXPECT_FALSE(heading->Font.Bold);
-        EXPECT_EQ(heading->Line, 2);
+        EXPECT_EQ(std::tuple(heading->Page, heading->Font.Bold, heading->Line),
+                  std::tuple(later, false, 2));
+        const auto drawn = device.OnPage(later);
+        EXPECT_EQ(drawn.back().Text, rule);
+        EXPECT_EQ(drawn.back().Line, 6 + 32 + 2) << later;
     }
-    const auto* first = device.Find("Entry 25");
-    EXPECT_EQ(first->Page, 2);
     // Head of five lines and an empty line above the body.
-    EXPECT_EQ(first->Line, 6);
-    EXPECT_DOUBLE_EQ(first->X, 1.25);
+    const auto* first = device.Find("Entry 25");
+    EXPECT_EQ(std::tuple(first->Page, first->Line, first->X), std::tuple(2, 6, 1.25));
     EXPECT_EQ(device.Find("Entry 56")->Line, 6 + 31);
     const auto* last = device.Find("Entry 57");
-    EXPECT_EQ(last->Page, 3);
-    EXPECT_EQ(last->Line, 6);
-    // Every later page ends with its rule in the same place, the last one filled with empty
-    // lines.
-    for (const int page : {2, 3}) {
-        const auto drawn = device.OnPage(page);
-        EXPECT_EQ(drawn.back().Text, std::string(22, ' ') + std::string(38, '_'));
-        EXPECT_EQ(drawn.back().Line, 6 + 32 + 2) << page;
-    }
+    EXPECT_EQ(std::tuple(last->Page, last->Line), std::tuple(3, 6));
 }
 
 } // namespace
