@@ -336,19 +336,6 @@ private slots:
         QCOMPARE(box->standardButtons(), QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
         QCOMPARE(static_cast<QAbstractButton*>(box->defaultButton()), box->button(QMessageBox::No));
         QCOMPARE(box->escapeButton(), box->button(QMessageBox::Cancel));
-        const std::pair<MessageIcon, QMessageBox::Icon> icons[] = {
-            {MessageIcon::Stop, QMessageBox::Critical},
-            {MessageIcon::Warning, QMessageBox::Warning},
-            {MessageIcon::Information, QMessageBox::Information},
-            {MessageIcon::None, QMessageBox::NoIcon},
-        };
-        for (const auto& [icon, shown] : icons) {
-            const auto single = BuildMessageBox({"t", "x", icon, MessageButtons::Ok, 1});
-            QCOMPARE(single->icon(), shown);
-            QCOMPARE(single->standardButtons(), QMessageBox::StandardButtons(QMessageBox::Ok));
-            QCOMPARE(static_cast<QAbstractButton*>(single->defaultButton()),
-                     single->button(QMessageBox::Ok));
-        }
     }
 
     void onlyRealFacesCountAndTheScreenIsMeasuredInTwips() {
