@@ -174,9 +174,6 @@ struct ReadWindow {
     void Key(Qt::Key key) { QTest::keyClick(Window.get(), key); }
     QString Title() const { return Window->windowTitle(); }
     QString Selected() const { return Spin()->textCursor().selectedText(); }
-    QString Caption(ReaderControl control) const {
-        return static_cast<QPushButton*>(Window->Widget(control))->text();
-    }
     QListWidget* List() const { return static_cast<QListWidget*>(Window->Widget(List1)); }
     QPlainTextEdit* Spin() const { return static_cast<QPlainTextEdit*>(Window->Widget(txtSpin)); }
     QLineEdit* SearchBox() const { return static_cast<QLineEdit*>(Window->Widget(txtSearch)); }
@@ -187,7 +184,6 @@ struct ReadWindow {
         QVERIFY(SearchBox()->isEnabled());
         QVERIFY(SearchBox()->hasFocus());
         QTest::keyClicks(SearchBox(), text);
-        QCOMPARE(Caption(cmdSearch), u"< Go >"_s);
         QTest::keyClick(SearchBox(), Qt::Key_Return);
     }
     // The hit is the text selected in the text box, and it stands within the box's view.
@@ -435,7 +431,6 @@ private slots:
 
         // A click on the box starts a new search.
         QTest::mouseClick(read.SearchBox(), Qt::LeftButton);
-        QCOMPARE(read.Caption(cmdSearch), u"Enter >>"_s);
         QCOMPARE(read.SearchBox()->text(), QString());
         QTest::keyClicks(read.SearchBox(), u"xylophone zebra"_s);
         QTest::keyClick(read.SearchBox(), Qt::Key_Enter);
