@@ -43,6 +43,7 @@ TEST(Utility, EachButtonHidesTheWindowAndLeadsOnOrEnds) {
         const bool about = press == &Utility::cmdAbout_Click;
         ASSERT_EQ(layer.Boxes.size(), about ? 1u : 0u);
         if (about) {
+            EXPECT_EQ(layer.Boxes[0].Title, "About the Veyrant Sagrel Program");
             EXPECT_EQ(layer.Boxes[0].Icon, MessageIcon::Information);
             EXPECT_EQ(
                 layer.Boxes[0].Text,

@@ -31,6 +31,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGuiApplication>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMessageBox>
@@ -214,6 +215,8 @@ private slots:
     void displaySizeStoresTheChoiceAndCancelPutsItBack() {
         DisplaySize program(1);
         QVERIFY(program.Choice("Option1")->isChecked() && program.Choice("Option1")->hasFocus());
+        QCOMPARE(program.Choice("Option4")->text(),
+                 QString("90% for 12\" display, 640x480 (not recomnd)"));
         // The arrow key moves the tick and stores it at once.
         QTest::keyClick(program.Choice("Option1"), Qt::Key_Down);
         QCOMPARE(program.UserSettings.DisplayOption, 2);
@@ -232,6 +235,8 @@ private slots:
 
     void optionsTakeDigitsOnlyAndOkClampsThem() {
         LibraryOptions program;
+        QCOMPARE(program.Find<QLabel>("lblSetSave")->text(),
+                 QString("Set maximum saved &files between 1 and 99 files"));
         QVERIFY(program.Find<QPushButton>("cmdCancel")->hasFocus());
         // Alt+F reaches the files box by its label; typing keeps the focus there.
         QTest::keyClick(&program.Window, Qt::Key_F, Qt::AltModifier);
@@ -269,6 +274,8 @@ private slots:
         QTest::keyClicks(program.Find<QLineEdit>("txtSetSave"), "0");
         QTest::keyClick(&program.Window, Qt::Key_Escape);
         QCOMPARE(program.UserSettings.GuestMode, 0);
+        QCOMPARE(program.UserSettings.MaxLibraryFiles, 0);
+        QCOMPARE(program.Exits, 1);
 
         LibraryOptions clean;
         QTest::mouseClick(clean.Find<QPushButton>("cmdClean"), Qt::LeftButton);
@@ -311,6 +318,9 @@ private slots:
         MirrorWindow& write = *program.Window;
         BannerWindow banner(program.Layer);
         banner.show();
+        // The banner stands frameless above the middle of the screen.
+        QCOMPARE(banner.geometry(), QRect((1920 - 512) / 2, int((1080 - 302) / 2.3), 512, 302));
+        QVERIFY(banner.windowFlags().testFlag(Qt::FramelessWindowHint));
         UtilityWindow utilities(program.Utilities, 1.0);
         utilities.show();
         ResizeWindow displaySize(program.DisplaySize, 1.0);
@@ -346,6 +356,9 @@ private slots:
         // the underlined letter shows it.
         QCOMPARE(Spoken(write.Widget(MirrorControl::txtMirror), QAccessible::Description),
                  QString("Type a question or a statement, then press 'Enter'."));
+        QCOMPARE(Spoken(write.Widget(MirrorControl::cmdHelp), QAccessible::Description),
+                 QString("Open the Information Library for instructions and information on the "
+                         "program. Right-click to open the Utilities window."));
         QCOMPARE(QAccessible::queryAccessibleInterface(write.Widget(MirrorControl::cmdHelp))
                      ->actionInterface()
                      ->keyBindingsForAction(QAccessibleActionInterface::pressAction()),
@@ -355,6 +368,10 @@ private slots:
         QCOMPARE(Unnamed(write), QStringList());
         QCOMPARE(Spoken(write.Widget(MirrorControl::cmdConverse), QAccessible::Description),
                  QString("Click 'Cancel' to exit Converse and reset to New Dialogue."));
+        // The instruction line's description follows its words.
+        QCOMPARE(Spoken(write.Widget(MirrorControl::txtNote), QAccessible::Description),
+                 QString("Type your question or statement. Click 'Rewrite' to erase the text. "
+                         "Press 'Enter' for the Sagrel response."));
 
         // Tab walks the dialogs' commands in reading order.
         struct Case {
@@ -460,11 +477,18 @@ private slots:
         QCOMPARE(read.List()->currentRow(), 2);
     }
 
-    // Merge fills the window with the Section's Topics; no step takes the keys there, and they
-    // scroll the long essay.
-    void mergedEssayScrollsByKeys() {
+    // The Read window's grey as painted; merge fills the window with the Section's Topics, no
+    // step takes the keys there, and they scroll the long essay.
+    void readWindowIsGreyAndTheMergedEssayScrollsByKeys() {
         ReadWindow read;
         read.Open(3);
+        // The window, its instruction line and its buttons wear the Read window's grey.
+        const QImage shot = read.Window->grab().toImage();
+        for (const auto control : {ReaderControl::Window, txtNote, cmdExitM}) {
+            const QWidget* widget = read.Window->Widget(control);
+            const QPoint inside = widget->mapTo(read.Window.get(), QPoint(3, widget->height() / 2));
+            QCOMPARE(shot.pixelColor(inside), QColor(190, 190, 196));
+        }
         read.Key(Qt::Key_Down);
         read.Click(cmdPrint);
         QVERIFY(!read.List()->isVisible());
