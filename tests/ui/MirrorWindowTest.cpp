@@ -6,6 +6,7 @@
 #include "WriteWindowFixture.h"
 #include "core/WholeFile.h"
 #include "dialogue/Mirror.h"
+#include "shell/MirrorLayout.h"
 #include "ui/ExportEditorWindow.h"
 
 #include <QApplication>
@@ -20,6 +21,7 @@
 #include <QTextLayout>
 #include <QTimer>
 #include <QtTest>
+#include <cmath>
 #include <memory>
 
 using namespace veyrant;
@@ -98,6 +100,13 @@ private slots:
     // full view of the Dialogue over the boxes and back.
     void TypedEntryIsAnsweredOnScreenAndShownWhole() {
         WriteWindow write;
+        // The window's size less its frame, and the boxes' fonts, follow the display size.
+        const MirrorLayout design = MirrorDesign();
+        const double factor = write.App.Scale.ScaleFactor / 15;
+        QCOMPARE(write.Window->size(), QSize(std::lround((design.WindowWidth - 90) * factor),
+                                             std::lround((design.WindowHeight - 405) * factor)));
+        QCOMPARE(write.Box(txtSaved)->font().pointSizeF(), write.App.Scale.TextSize[1]);
+        QVERIFY(write.Box(txtSaved)->font().bold());
         write.Click(cmdConverse);
         auto* entry = write.Box(txtMirror);
         auto* mark = write.Window->Widget(lblRem);
