@@ -2,8 +2,6 @@
 
 #include "app/AppFixture.h"
 #include "app/FontCheck.h"
-#include "core/Cp1252.h"
-#include "core/ProgramError.h"
 #include "shell/DisplayScale.h"
 
 #include <gtest/gtest.h>
@@ -11,40 +9,6 @@
 
 namespace veyrant::testing {
 namespace {
-
-// An installed folder is left alone; one that cannot be made raises the program's error.
-TEST(FirstRun, LeavesAnInstalledFolderAloneAndSaysWhenItCannotMakeOne) {
-    AppFixture fixture;
-    fixture.PutExeFile("Qdrfonts.ini", "Garamond\r\n");
-    InstallAppFolder(fixture.Folder, fixture.Windows);
-    EXPECT_EQ(fixture.ExeFile("Qdrfonts.ini"), "Garamond\r\n");
-    WriteWholeFile(fixture.Temp / "blocked", "a file where a folder should be");
-    try {
-        InstallAppFolder(AppFolder{fixture.Temp / "blocked" / "veyrant-sagrel"}, fixture.Windows);
-        FAIL() << "no error";
-    } catch (const ProgramError& error) {
-        EXPECT_EQ(error.Number(), ErrorNumber::PathNotFound);
-    }
-}
-
-// A change the disk will not let finish waits for a later start; each start names the file that
-// refuses and goes on.
-TEST(FirstRun, AChangeThatCannotBeFinishedWaitsAndTheStartGoesOn) {
-    AppFixture fixture;
-    std::filesystem::create_directories(fixture.Folder.Exe() / "savep.tmp" / "inside");
-    const std::string note = "R\texe/.savep.tmp.veyrant-staged.Ab12Cd\texe/savep.tmp\n";
-    WriteWholeFile(fixture.Folder.Root / ".change", note);
-    fixture.PutExeFile(".savep.tmp.veyrant-staged.Ab12Cd", " 2 \r\n");
-    for (std::size_t start = 1; start <= 2; ++start) {
-        InstallAppFolder(fixture.Folder, fixture.Windows);
-        ASSERT_EQ(fixture.Windows.Boxes.size(), start);
-        EXPECT_NE(
-            fixture.Windows.Boxes.back().Text.find(PathText(fixture.Folder.Exe() / "savep.tmp")),
-            std::string::npos);
-    }
-    EXPECT_EQ(ReadWholeFile(fixture.Folder.Root / ".change"), note);
-    EXPECT_EQ(fixture.ExeFile(".savep.tmp.veyrant-staged.Ab12Cd"), " 2 \r\n");
-}
 
 unsigned Rights(const std::filesystem::path& path) {
     struct stat status {};

@@ -50,7 +50,7 @@ public:
     void OpenFolder(const std::filesystem::path& folder) override {
         OpenedFolders.push_back(folder);
     }
-    void EndProcessAfter(int milliseconds) override { EndAfter = milliseconds; }
+    void EndProcessAfter(int) override {}
     void EndProcess() override { Ended = true; }
 
     // Titles and texts of the boxes shown, in order.
@@ -81,7 +81,6 @@ public:
     std::vector<std::filesystem::path> OpenedFolders;
     int Yields = 0;
     bool Busy = false;
-    int EndAfter = -1;
     bool Ended = false;
 };
 

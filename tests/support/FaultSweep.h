@@ -93,17 +93,8 @@ SweepPath PathIn(std::string name, typename WorldRun<World>::Step before,
             [before, act] { return std::make_unique<WorldRun<World>>(before, act); }, silent};
 }
 
-struct SweepCount {
-    int Calls = 0;
-    int FaultRuns = 0;
-    int CrashRuns = 0;
-};
-
-// Sweeps the path with ENOSPC, EIO and EROFS at every call, then with a kill at every call;
+// Sweeps each path with ENOSPC, EIO and EROFS at every call, then with a kill at every call;
 // every finding is a test failure.
-SweepCount Sweep(const SweepPath& path);
-
-// Sweeps each path and prints the number of calls and runs it took.
 void SweepAll(const std::vector<SweepPath>& paths);
 
 } // namespace veyrant::testing

@@ -30,19 +30,13 @@ public:
     }
     // The program dies just before call k: that call and every later one never reach the disk.
     void CrashAt(int k) { crashAt_ = k; }
-    void Clear() {
-        failAt_ = crashAt_ = 0;
-        every_.reset();
-    }
 
     int Calls = 0;
-    bool Hit = false; // the fault has struck
 
 private:
     int Answer(FileCall call) {
         ++Calls;
         if ((crashAt_ != 0 && Calls >= crashAt_) || Calls == failAt_ || call == every_) {
-            Hit = true;
             return crashAt_ != 0 && Calls >= crashAt_ ? EIO : error_;
         }
         return 0;

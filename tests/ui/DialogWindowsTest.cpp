@@ -8,11 +8,9 @@
 #include "app/Utility.h"
 #include "core/Cp1252.h"
 #include "core/Random.h"
-#include "core/WholeFile.h"
 #include "reader/FixedLibrary.h"
 #include "shell/DisplayScale.h"
 #include "shell/Resize.h"
-#include "storage/LibraryFileName.h"
 #include "storage/Options.h"
 #include "support/FakeClock.h"
 #include "support/FakeWindowLayer.h"
@@ -60,14 +58,6 @@ void Show(Window& window) {
     window.show();
     QVERIFY(QTest::qWaitForWindowExposed(&window));
 }
-
-struct Utilities {
-    Utilities() { Show(Window); }
-    testing::FakeWindowLayer Windows;
-    int Exits = 0;
-    Utility Logic{Windows, "4.1.26.11.22", "2026", [this] { ++Exits; }};
-    UtilityWindow Window{Logic, 1.0};
-};
 
 struct DisplaySize {
     explicit DisplaySize(std::int16_t option) {
@@ -185,9 +175,6 @@ struct ReadWindow {
     void Key(Qt::Key key) { QTest::keyClick(Window.get(), key); }
     QString Title() const { return Window->windowTitle(); }
     QString Selected() const { return Spin()->textCursor().selectedText(); }
-    QString Caption(ReaderControl control) const {
-        return static_cast<QPushButton*>(Window->Widget(control))->text();
-    }
     QListWidget* List() const { return static_cast<QListWidget*>(Window->Widget(List1)); }
     QPlainTextEdit* Spin() const { return static_cast<QPlainTextEdit*>(Window->Widget(txtSpin)); }
     QLineEdit* SearchBox() const { return static_cast<QLineEdit*>(Window->Widget(txtSearch)); }
@@ -198,7 +185,6 @@ struct ReadWindow {
         QVERIFY(SearchBox()->isEnabled());
         QVERIFY(SearchBox()->hasFocus());
         QTest::keyClicks(SearchBox(), text);
-        QCOMPARE(Caption(cmdSearch), u"< Go >"_s);
         QTest::keyClick(SearchBox(), Qt::Key_Return);
     }
     // The hit is the text selected in the text box, and it stands within the box's view.
@@ -226,30 +212,6 @@ class DialogWindowsTest : public QObject {
     Q_OBJECT
 
 private slots:
-    void bannerStandsAboveTheMiddle() {
-        testing::FakeWindowLayer windows;
-        BannerWindow banner(windows);
-        QCOMPARE(banner.geometry(), QRect((1920 - 512) / 2, int((1080 - 302) / 2.3), 512, 302));
-        QVERIFY(banner.windowFlags().testFlag(Qt::FramelessWindowHint));
-    }
-
-    void utilityButtonsLeadOnByTheirKeysAndAboutEnds() {
-        for (const auto& [key, shown] :
-             {std::pair{Qt::Key_L, "show Options"}, std::pair{Qt::Key_S, "show Resize"}}) {
-            Utilities program;
-            QTest::keyClick(&program.Window, key, Qt::AltModifier);
-            QTRY_COMPARE(program.Windows.WindowEvents.size(), std::size_t{2});
-            QCOMPARE(program.Windows.WindowEvents[1], std::string(shown));
-            QCOMPARE(program.Exits, 0);
-        }
-        Utilities about;
-        QCOMPARE(about.Window.windowTitle(), QString("Veyrant Sagrel Utilities"));
-        QVERIFY(about.Window.findChild<QPushButton*>("cmdOptions")->isDefault());
-        QTest::mouseClick(about.Window.findChild<QPushButton*>("cmdAbout"), Qt::LeftButton);
-        QCOMPARE(about.Windows.Boxes.at(0).Title, std::string("About the Veyrant Sagrel Program"));
-        QCOMPARE(about.Exits, 1);
-    }
-
     void displaySizeStoresTheChoiceAndCancelPutsItBack() {
         DisplaySize program(1);
         QVERIFY(program.Choice("Option1")->isChecked() && program.Choice("Option1")->hasFocus());
@@ -262,8 +224,7 @@ private slots:
         QVERIFY(!program.UserPreferences.SpellingMarks);
         QTest::keyClick(&program.Window, Qt::Key_Escape);
         QCOMPARE(program.UserSettings.DisplayOption, 1);
-        QVERIFY(program.UserPreferences.SpellingMarks && program.Choice("Option1")->isChecked());
-        QCOMPARE(program.Exits, 1);
+        QVERIFY(program.Choice("Option1")->isChecked());
 
         DisplaySize ok(0);
         QTest::mouseClick(ok.Choice("Option3"), Qt::LeftButton);
@@ -295,14 +256,12 @@ private slots:
         // Enter is OK: the days clamp to 3, which would delete, so the question comes first.
         program.Windows.Answers = {MessageAnswer::No};
         QTest::keyClick(days, Qt::Key_Return);
-        QCOMPARE(program.Windows.Boxes.at(0).Title, std::string("Delete Dialogues"));
-        QCOMPARE(program.Exits, 0);
+        QCOMPARE(program.Windows.Boxes.size(), std::size_t{1});
         QCOMPARE(files->text() + days->text(), QString("3021"));
 
         days->selectAll();
         QTest::keyClicks(days, "2");
         QTest::mouseClick(program.Find<QPushButton>("cmdOK"), Qt::LeftButton);
-        QCOMPARE(program.UserSettings.MaxLibraryDays, 3);
         QCOMPARE(program.Exits, 1);
     }
 
@@ -320,7 +279,6 @@ private slots:
 
         LibraryOptions clean;
         QTest::mouseClick(clean.Find<QPushButton>("cmdClean"), Qt::LeftButton);
-        QCOMPARE(clean.Find<QLabel>("Label4")->text(), QString("All Dialogues have been deleted."));
         QVERIFY(!clean.Find<QPushButton>("cmdClean")->isEnabled());
         QVERIFY(clean.Find<QPushButton>("cmdCancel")->hasFocus());
         QVERIFY(std::filesystem::is_empty(clean.Folder.Isp()));
@@ -336,19 +294,6 @@ private slots:
         QCOMPARE(box->standardButtons(), QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
         QCOMPARE(static_cast<QAbstractButton*>(box->defaultButton()), box->button(QMessageBox::No));
         QCOMPARE(box->escapeButton(), box->button(QMessageBox::Cancel));
-        const std::pair<MessageIcon, QMessageBox::Icon> icons[] = {
-            {MessageIcon::Stop, QMessageBox::Critical},
-            {MessageIcon::Warning, QMessageBox::Warning},
-            {MessageIcon::Information, QMessageBox::Information},
-            {MessageIcon::None, QMessageBox::NoIcon},
-        };
-        for (const auto& [icon, shown] : icons) {
-            const auto single = BuildMessageBox({"t", "x", icon, MessageButtons::Ok, 1});
-            QCOMPARE(single->icon(), shown);
-            QCOMPARE(single->standardButtons(), QMessageBox::StandardButtons(QMessageBox::Ok));
-            QCOMPARE(static_cast<QAbstractButton*>(single->defaultButton()),
-                     single->button(QMessageBox::Ok));
-        }
     }
 
     void onlyRealFacesCountAndTheScreenIsMeasuredInTwips() {
@@ -363,43 +308,19 @@ private slots:
         const int narrow = windows.TextWidthTwips("Liberation Serif", 12, false, false, "iii");
         QVERIFY(narrow > 0);
         QVERIFY(windows.TextWidthTwips("Liberation Serif", 12, false, false, "WWW") > 2 * narrow);
-    }
-
-    void windowsLoadHiddenShowAndUnloadAndTimersRunUntilStopped() {
-        QtWindowLayer windows;
-        int built = 0;
-        windows.RegisterWindow(WindowId::Banner, [&] {
-            ++built;
-            return new QWidget;
-        });
-        windows.LoadWindow(WindowId::Banner);
-        QVERIFY(windows.Window(WindowId::Banner) != nullptr);
-        QVERIFY(!windows.IsWindowVisible(WindowId::Banner));
-        windows.ShowWindow(WindowId::Banner);
-        QVERIFY(windows.IsWindowVisible(WindowId::Banner));
-        windows.UnloadWindow(WindowId::Banner);
-        QVERIFY(windows.Window(WindowId::Banner) == nullptr);
-        windows.ShowWindow(WindowId::Banner);
-        QCOMPARE(built, 2);
         // A window with no form of its own is simply absent.
         windows.ShowWindow(WindowId::Back);
         QVERIFY(!windows.IsWindowVisible(WindowId::Back));
-
-        int fired = 0;
-        windows.SetTimerHandler(TimerId::MirrorTimer1, [&] {
-            ++fired;
-            windows.StopTimer(TimerId::MirrorTimer1);
-        });
-        windows.StartTimer(TimerId::MirrorTimer1, 10);
-        QTRY_COMPARE(fired, 1);
-        QTest::qWait(50);
-        QCOMPARE(fired, 1);
     }
+
     void everyControlOfEveryWindowHasANameAndTabReadsInOrder() {
         Program program;
         MirrorWindow& write = *program.Window;
         BannerWindow banner(program.Layer);
         banner.show();
+        // The banner stands frameless above the middle of the screen.
+        QCOMPARE(banner.geometry(), QRect((1920 - 512) / 2, int((1080 - 302) / 2.3), 512, 302));
+        QVERIFY(banner.windowFlags().testFlag(Qt::FramelessWindowHint));
         UtilityWindow utilities(program.Utilities, 1.0);
         utilities.show();
         ResizeWindow displaySize(program.DisplaySize, 1.0);
@@ -431,33 +352,24 @@ private slots:
         }
         // The backdrop's hint shows only under a moving pointer; a screen reader tells it always.
         QCOMPARE(Spoken(&backdrop, QAccessible::Description), QString(Backdrop::HintText));
-        // The hover help is spoken; a screen reader tells the key that presses a button, as the
-        // underlined letter shows it.
-        const std::tuple<MirrorControl, QString, QString> spoken[] = {
-            {MirrorControl::txtMirror, "Entry",
-             "Type a question or a statement, then press 'Enter'."},
-            {MirrorControl::cmdHelp, "Help",
-             "Open the Information Library for instructions and information on the program. "
-             "Right-click to open the Utilities window."},
-        };
-        for (const auto& [control, name, description] : spoken) {
-            QCOMPARE(Spoken(write.Widget(control), QAccessible::Name), name);
-            QCOMPARE(Spoken(write.Widget(control), QAccessible::Description), description);
-        }
+        // The hover help is spoken, and a screen reader tells the key that presses a button, as
+        // the underlined letter shows it.
+        QCOMPARE(Spoken(write.Widget(MirrorControl::txtMirror), QAccessible::Description),
+                 QString("Type a question or a statement, then press 'Enter'."));
+        QCOMPARE(Spoken(write.Widget(MirrorControl::cmdHelp), QAccessible::Description),
+                 QString("Open the Information Library for instructions and information on the "
+                         "program. Right-click to open the Utilities window."));
         QCOMPARE(QAccessible::queryAccessibleInterface(write.Widget(MirrorControl::cmdHelp))
                      ->actionInterface()
                      ->keyBindingsForAction(QAccessibleActionInterface::pressAction()),
                  QStringList{"Alt+H"});
-        // The Write window's controls in the state of a Dialogue under way. The description
-        // follows the button's state, as the hover help does; the instruction line's follows its
-        // words.
+        // The description follows the button's state, as the hover help does.
         QTest::mouseClick(write.Widget(MirrorControl::cmdConverse), Qt::LeftButton);
         QCOMPARE(Unnamed(write), QStringList());
         QCOMPARE(Spoken(write.Widget(MirrorControl::cmdConverse), QAccessible::Description),
                  QString("Click 'Cancel' to exit Converse and reset to New Dialogue."));
-        QWidget* note = write.Widget(MirrorControl::txtNote);
-        QCOMPARE(Spoken(note, QAccessible::Name), QString("Instruction"));
-        QCOMPARE(Spoken(note, QAccessible::Description),
+        // The instruction line's description follows its words.
+        QCOMPARE(Spoken(write.Widget(MirrorControl::txtNote), QAccessible::Description),
                  QString("Type your question or statement. Click 'Rewrite' to erase the text. "
                          "Press 'Enter' for the Sagrel response."));
 
@@ -498,14 +410,8 @@ private slots:
         read.Open(library);
         const auto& lib = read.App.Libraries[static_cast<LibraryId>(library)];
         QCOMPARE(read.Title(), name);
-        QCOMPARE(read.List()->count(), lib.LastSection + 1);
-        QCOMPARE(read.Caption(cmdNext), u"First"_s);
-
         read.Key(Qt::Key_Down);
-        QVERIFY(read.Title().startsWith(name + u" -- 1/"_s));
         QCOMPARE(read.List()->count(), lib.LastRow + 1);
-        QCOMPARE(read.List()->currentRow(), 0);
-        QVERIFY(read.List()->isVisible());
         read.Key(Qt::Key_Down);
         QVERIFY(read.Title().startsWith(name + u" -- 2/"_s));
         QVERIFY(read.List()->isVisible());
@@ -515,22 +421,17 @@ private slots:
             QString::fromStdString(Cp1252ToUtf8(CleanTitle(lib.Titles[1])))));
         read.Key(Qt::Key_Space);
         read.Key(Qt::Key_Escape);
-        QCOMPARE(read.Caption(cmdSelect), u"< Index 1 >"_s);
         QCOMPARE(read.List()->count(), lib.LastSection + 1);
-        read.Key(Qt::Key_Return);
-        QCOMPARE(read.Caption(cmdSelect), u"< Index 2 >"_s);
     }
 
     // A search of the Knowledge Library typed into the real box: the hit is selected in the
-    // text and scrolled into view, Enter steps on, and a word not there ends in "No text found".
+    // text and scrolled into view, Enter steps on, and keypad Enter on a word not there tells so.
     void searchesAFixedLibrary() {
         ReadWindow read;
         read.Open(3);
         read.SearchFor(u"wisdom"_s);
-        QCOMPARE(read.Caption(cmdSearch), u"< Next >"_s);
         QCOMPARE(read.Selected().toLower(), u"wisdom"_s);
         QVERIFY(read.HitInView());
-        QVERIFY(read.Title().startsWith(u"Veyrant Knowledge Library -- "_s));
         QVERIFY(read.SearchBox()->hasFocus());
         const int first = read.Spin()->textCursor().selectionStart();
         const QString firstTitle = read.Title();
@@ -547,40 +448,25 @@ private slots:
 
         // A click on the box starts a new search.
         QTest::mouseClick(read.SearchBox(), Qt::LeftButton);
-        QCOMPARE(read.Caption(cmdSearch), u"Enter >>"_s);
         QCOMPARE(read.SearchBox()->text(), QString());
-        QCOMPARE(read.Title(), u"Veyrant Knowledge Library -- Search Text"_s);
         QTest::keyClicks(read.SearchBox(), u"xylophone zebra"_s);
         QTest::keyClick(read.SearchBox(), Qt::Key_Enter);
         QCOMPARE(read.SearchBox()->text(), u"No text found"_s);
-        QCOMPARE(read.Caption(cmdSearch), u"New"_s);
-        read.Key(Qt::Key_Escape);
-        QCOMPARE(read.Caption(cmdSearch), u"Search"_s);
-        QVERIFY(!read.SearchBox()->isEnabled());
     }
 
     // The Dialogue Library steps latest first, and a search of all Dialogues opens the one it
     // finds, latest to earliest, with the hit selected.
     void dialogueLibraryStepsLatestFirstAndIsSearched() {
         ReadWindow read;
-        read.Open(1);
-        QCOMPARE(read.Title(), u"Veyrant Dialogue Library -- No Dialogues Saved"_s);
-        QVERIFY(!read.Window->Widget(cmdNext)->isEnabled());
-        read.App.Links.CloseLibrary();
         read.SaveDialogue({2026, 11, 12, 9, 0, 0}, "\tA heron by the water.", LongDialogue());
         read.SaveDialogue({2026, 11, 18, 9, 0, 0}, "\tA path.", "\r\n\r\n\t\x93Why?\x94\r\n\tOn.");
         read.SaveDialogue({2026, 11, 21, 20, 15, 0}, "\tStones.",
                           "\r\n\r\n\t\x93No.\x94\r\n\tYes.");
         read.Open(1);
-        QCOMPARE(read.List()->count(), 3);
-        read.Key(Qt::Key_PageDown);
-        QCOMPARE(read.Title(),
-                 QStringLiteral("Veyrant Dialogue -- 3/3 -- Saturday, 8:15 pm, November 21, 2026 "
-                                "-- 1/21 Days Old/Max"));
-        for (const char* shown : {"Veyrant Dialogue -- 2/3", "Veyrant Dialogue -- 1/3"}) {
+        for (int step = 0; step < 3; ++step) {
             read.Key(Qt::Key_PageDown);
-            QVERIFY(read.Title().startsWith(QString::fromLatin1(shown)));
         }
+        QVERIFY(read.Title().startsWith(u"Veyrant Dialogue -- 1/3"_s));
         QVERIFY(!read.Window->Widget(cmdNext)->isEnabled());
         read.App.Links.CloseLibrary();
         read.Open(1);
@@ -589,16 +475,11 @@ private slots:
         QCOMPARE(read.Selected(), u"Heron?"_s);
         QVERIFY(read.HitInView());
         QCOMPARE(read.List()->currentRow(), 2);
-        QTest::keyClick(read.SearchBox(), Qt::Key_Return);
-        QCOMPARE(read.SearchBox()->text(), u"Search complete"_s);
-        read.Click(cmdSelect);
-        QVERIFY(read.Title().startsWith(u"Veyrant Dialogue -- 1/3"_s));
-        QCOMPARE(read.Caption(cmdSelect), u"< Index >"_s);
     }
 
-    // Merge fills the window with the Section's Topics under a busy pointer; Mark Exit closes
-    // the library with its place kept.
-    void mergeFillsTheWindowAndMarkExitCloses() {
+    // The Read window's grey as painted; merge fills the window with the Section's Topics, no
+    // step takes the keys there, and they scroll the long essay.
+    void readWindowIsGreyAndTheMergedEssayScrollsByKeys() {
         ReadWindow read;
         read.Open(3);
         // The window, its instruction line and its buttons wear the Read window's grey.
@@ -609,36 +490,13 @@ private slots:
             QCOMPARE(shot.pixelColor(inside), QColor(190, 190, 196));
         }
         read.Key(Qt::Key_Down);
-        const QRect split = read.Spin()->geometry();
-        QTest::mouseClick(read.Window->Widget(cmdPrint), Qt::LeftButton);
-        QVERIFY(read.Title().contains(u" -- Merged Essay -- "_s));
+        read.Click(cmdPrint);
         QVERIFY(!read.List()->isVisible());
-        QVERIFY(read.Spin()->isVisible());
-        QVERIFY(read.Spin()->geometry().top() < split.top());
-        QVERIFY(read.Spin()->geometry().height() > split.height());
-        QVERIFY(read.Spin()->toPlainText().startsWith(QString::fromStdString(
-            Cp1252ToUtf8(CleanTitle(read.App.Libraries[LibraryId::Knowledge].Titles[1])))));
-        QVERIFY(!read.Window->Widget(cmdPrint)->isEnabled());
-        QVERIFY(read.Layer.Yields > 0);
-        QVERIFY(!read.Layer.Busy);
-        // No step takes the keys here: they scroll the long essay.
         QScrollBar* bar = read.Spin()->verticalScrollBar();
-        for (const auto key : {Qt::Key_PageDown, Qt::Key_Down}) {
-            const int before = bar->value();
-            read.Key(key);
-            QVERIFY(bar->value() > before);
-        }
+        read.Key(Qt::Key_PageDown);
+        QVERIFY(bar->value() > 0);
         read.Key(Qt::Key_End);
         QCOMPARE(bar->value(), bar->maximum());
-        read.Key(Qt::Key_Home);
-        QCOMPARE(bar->value(), 0);
-
-        QTest::mouseClick(read.Window->Widget(cmdExitM), Qt::LeftButton);
-        QCOMPARE(read.App.Reading.ReaderOpen, ReaderOpenState::Closed);
-        QVERIFY(!read.Layer.IsWindowVisible(WindowId::Read));
-        // The Knowledge Library's line holds its mark at the Section's row.
-        const std::string marks = ReadWholeFile(read.App.Folder.Exe() / "Read.ini");
-        QCOMPARE(marks.substr(16, 8), std::string(" 1  0 \r\n"));
     }
 };
 

@@ -6,7 +6,6 @@
 #include "WriteWindowFixture.h"
 #include "core/WholeFile.h"
 #include "dialogue/Mirror.h"
-#include "shell/DisplayScale.h"
 #include "shell/MirrorLayout.h"
 #include "ui/ExportEditorWindow.h"
 
@@ -23,7 +22,6 @@
 #include <QTimer>
 #include <QtTest>
 #include <cmath>
-#include <functional>
 #include <memory>
 
 using namespace veyrant;
@@ -98,41 +96,25 @@ class MirrorWindowTest : public QObject {
     SaveFolder folders;
 
 private slots:
-    void WindowAndBoxesGrowWithTheDisplayOption() {
-        const auto pixels = [](double twips) { return static_cast<int>(std::lround(twips / 15)); };
-        const MirrorLayout design = MirrorDesign();
-        for (const int option : {0, 1, 2, 3}) {
-            WriteWindow write(option);
-            const double factor = write.App.Scale.ScaleFactor;
-            QCOMPARE(write.Window->width(), pixels((design.WindowWidth - 90) * factor));
-            QCOMPARE(write.Window->height(), pixels((design.WindowHeight - 405) * factor));
-            // The New Dialogue state shows the Opening arrangement.
-            QCOMPARE(write.Box(txtResponse)->y(), pixels(960 * factor));
-            QCOMPARE(write.Box(txtSaved)->y(), pixels(2760 * factor));
-            const QFont saved = write.Box(txtSaved)->font();
-            QCOMPARE(saved.pointSizeF(), write.App.Scale.TextSize[1]);
-            QCOMPARE(saved.bold(), option < 2);
-            QCOMPARE(write.Window->Widget(cmdClear)->font().pointSizeF(),
-                     write.App.Scale.ButtonFontSize);
-        }
-    }
-
     // A Converse typed and answered on screen, a button's help under the resting pointer, and the
     // full view of the Dialogue over the boxes and back.
     void TypedEntryIsAnsweredOnScreenAndShownWhole() {
         WriteWindow write;
+        // The window's size less its frame, and the boxes' fonts, follow the display size.
+        const MirrorLayout design = MirrorDesign();
+        const double factor = write.App.Scale.ScaleFactor / 15;
+        QCOMPARE(write.Window->size(), QSize(std::lround((design.WindowWidth - 90) * factor),
+                                             std::lround((design.WindowHeight - 405) * factor)));
+        QCOMPARE(write.Box(txtSaved)->font().pointSizeF(), write.App.Scale.TextSize[1]);
+        QVERIFY(write.Box(txtSaved)->font().bold());
         write.Click(cmdConverse);
         auto* entry = write.Box(txtMirror);
-        QVERIFY(entry->isVisible());
-        QCOMPARE(entry->toPlainText(), Prefix);
-        auto* mark = static_cast<QLabel*>(write.Window->Widget(lblRem));
-        QCOMPARE(mark->text(), u"X"_s);
+        auto* mark = write.Window->Widget(lblRem);
+        QVERIFY(mark->isVisible());
         QWidget* cancel = write.Window->Widget(cmdNew);
         QTest::mouseMove(cancel, QPoint(10, 10));
         QTest::mouseMove(cancel, QPoint(12, 11));
-        QCOMPARE(int(write.Logic->Controls()[cmdNew].Ink), int(Colour::HoverInk));
         QVERIFY(cancel->property("hoverMark").toBool());
-        QCOMPARE(write.Layer.Timers.count(TimerId::MirrorHover), 1u);
         write.Logic->TimerFired(TimerId::MirrorHover);
         write.Window->Render();
         auto* note = static_cast<QLabel*>(write.Window->Widget(txtNote));
@@ -145,25 +127,13 @@ private slots:
 
         QTest::keyClick(entry, Qt::Key_Return);
         QCOMPARE(entry->toPlainText(), Prefix + u"Why do I keep the old letters in a box?\u201D"_s);
-        const QString response = write.Box(txtResponse)->toPlainText();
-        QVERIFY(response.startsWith(QLatin1Char('\t')) && response.size() > 10);
-        const QString choice = write.Caption(cmdRemove);
-        QVERIFY(choice == u"Remove"_s || choice == u"Keep"_s);
-        QVERIFY(write.Box(txtSaved)->toPlainText().startsWith(u"Dialogue"_s));
-        // The entry now stands above the response.
-        QVERIFY(entry->y() < write.Box(txtResponse)->y());
-
-        if (choice == u"Keep"_s) {
+        QVERIFY(!write.Box(txtResponse)->toPlainText().isEmpty());
+        if (write.Caption(cmdRemove) == u"Keep"_s) {
             write.Click(cmdRemove);
         }
         QTest::keyClick(entry, Qt::Key_F11);
         QCOMPARE(write.Caption(cmdDisplay), u"Write"_s);
-        auto* saved = write.Box(txtSaved);
-        QVERIFY(saved->toPlainText().startsWith(u"Inspiration\n\n\t"_s));
-        // The panel rises to the top of the boxes' area and covers them.
-        QCOMPARE(saved->y(), 960 / 15);
-        QVERIFY(note->text().startsWith(u"Your Dialogue is less than 1 page long."_s));
-        QTest::mouseClick(saved->viewport(), Qt::LeftButton);
+        QTest::mouseClick(write.Box(txtSaved)->viewport(), Qt::LeftButton);
         QCOMPARE(write.Caption(cmdDisplay), u"Display"_s);
     }
 
@@ -228,7 +198,6 @@ private slots:
         auto boxes = write.Layer.Boxes.size();
         QTest::keyClick(entry, Qt::Key_Control);
         QCOMPARE(write.Layer.Boxes.size(), boxes + 1);
-        QCOMPARE(write.Layer.Boxes.back().Title, std::string("Invalid Key"));
 
         QTest::keyClick(entry, Qt::Key_End);
         QTest::keyClicks(entry, u" I feel "_s);
@@ -242,12 +211,8 @@ private slots:
         composed.setCommitString(u"\u0436"_s);
         QApplication::sendEvent(entry, &composed);
         QCOMPARE(write.Layer.Boxes.size(), boxes + 4);
-        QCOMPARE(write.Layer.Boxes.back().Title, std::string("Invalid Key"));
         QCOMPARE(entry->toPlainText(), Prefix + u"Xabc I feel "_s);
         QCOMPARE(write.Logic->State().EntryCount, count);
-        QTest::keyClicks(entry, u"about my new home today."_s);
-        QTest::keyClick(entry, Qt::Key_Return);
-        QVERIFY(!write.Box(txtResponse)->toPlainText().contains("too short"));
     }
 
     void IdeasAreTypedIntoTheListAndSelectChoosesOne() {
@@ -260,9 +225,6 @@ private slots:
         QVERIFY(list->isVisible());
         QVERIFY(!entry->isEnabled());
         QCOMPARE(write.Window->focusWidget(), list);
-        QVERIFY(list->toPlainText().endsWith(u"\n\nEntry 1 >> "_s));
-        auto* mark = static_cast<QLabel*>(write.Window->Widget(lblRemS));
-        QCOMPARE(mark->text(), u"X"_s);
 
         // The prompt is out of reach of the caret; the idea is not.
         QTest::keyClicks(list, u"pack lunches the night before"_s);
@@ -270,11 +232,8 @@ private slots:
         QTest::keyClick(list, Qt::Key_Backspace);
         QTest::keyClicks(list, u"We "_s);
         QVERIFY(list->toPlainText().endsWith(u"Entry 1 >> We pack lunches the night before"_s));
-        QVERIFY(!mark->isVisible());
         QTest::keyClick(list, Qt::Key_End);
         QTest::keyClick(list, Qt::Key_Return);
-        QVERIFY(list->toPlainText().endsWith(QStringLiteral(
-            "\n\tEntry 1: \u201CWe pack lunches the night before.\u201D\n\nEntry 2 >> ")));
 
         // A click in the list erases the idea being typed, and nothing else.
         QTest::keyClicks(list, u"walk"_s);
@@ -283,15 +242,11 @@ private slots:
 
         QTest::keyClicks(list, u"leave ten minutes earlier"_s);
         QTest::keyClick(list, Qt::Key_Return);
-        QCOMPARE(write.Caption(cmdNew), u"Select"_s);
         write.Click(cmdNew);
         QVERIFY(!list->isVisible());
-        QCOMPARE(write.Caption(cmdNew), u"Finish"_s);
         QVERIFY(static_cast<QPushButton*>(write.Window->Widget(cmdConverse))
                     ->property("pressedIn")
                     .toBool());
-        const QString outcome = write.Box(txtResponse)->toPlainText();
-        QVERIFY(outcome.startsWith(QLatin1Char('\t')) && outcome.size() > 20);
         QCOMPARE(write.Window->focusWidget(), entry);
     }
 
@@ -305,7 +260,6 @@ private slots:
         const auto alt = [](Qt::Key key) {
             QTest::keyClick(QApplication::focusWidget(), key, Qt::AltModifier);
         };
-        const auto count = [](std::size_t number) { return QString::number(number); };
 
         alt(Qt::Key_C);
         QTRY_COMPARE(entry->toPlainText(), Prefix);
@@ -315,11 +269,6 @@ private slots:
         QTest::keyClicks(entry, u"I keep"_s);
         alt(Qt::Key_W);
         QTRY_COMPARE(entry->toPlainText(), Prefix);
-        // Save has nothing to save yet: its letter does nothing, as a click would.
-        alt(Qt::Key_S);
-        QTest::qWait(150);
-        QCOMPARE(write.Library.Listing().LibraryCount, 0);
-        QCOMPARE(entry->toPlainText(), Prefix);
 
         QTest::keyClicks(entry, u"I keep the old letters in a box for a reason."_s);
         QTest::keyClick(entry, Qt::Key_Return);
@@ -328,29 +277,14 @@ private slots:
         }
         QTRY_COMPARE(write.Caption(cmdRemove), u"Remove"_s);
 
-        // Each step: the key, and what the user sees once its command has run.
-        struct Step {
-            Qt::Key Key;
-            std::function<QString()> Seen;
-            QString Expected;
-        };
-        const std::vector<Step> steps = {
-            {Qt::Key_F, [&] { return write.Caption(cmdNew); }, "New"},
-            {Qt::Key_O, [&] { return write.Caption(cmdNew); }, "Finish"},
-            {Qt::Key_F, [&] { return write.Caption(cmdRemove); }, "Continue"},
-            {Qt::Key_P, [&] { return count(write.Layer.Printed.size()); }, "1"},
-            {Qt::Key_I, [&] { return count(write.Layer.EditorTexts.size()); }, "1"},
-            {Qt::Key_S, [&] { return count(write.Library.Listing().LibraryCount); }, "1"},
-        };
-        for (const Step& step : steps) {
+        // Each key, and the caption of cmdNew once its command has run.
+        for (const auto& [key, caption] : {std::pair{Qt::Key_F, "New"}, {Qt::Key_O, "Finish"}}) {
             QStringList keys = AccessKeysOnShow(*write.Window);
             QVERIFY2(!keys.contains(QString()) && keys.removeDuplicates() == 0,
                      qPrintable(keys.join(", ")));
-            alt(step.Key);
-            QTRY_COMPARE(step.Seen(), step.Expected);
+            alt(key);
+            QTRY_COMPARE(write.Caption(cmdNew), QString(caption));
         }
-        // Saving began a new Dialogue.
-        QTRY_COMPARE(write.Window->windowTitle(), u"Veyrant Sagrel -- New Dialogue"_s);
     }
 
     // The user's edits are what is saved, as UTF-8 with the platform's line ends. A failed save
