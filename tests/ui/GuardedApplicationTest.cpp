@@ -14,7 +14,9 @@
 #include "ui/SingleCopy.h"
 
 #include <QEvent>
+#include <QSysInfo>
 #include <QTest>
+#include <fstream>
 #include <functional>
 #include <new>
 #include <stdexcept>
@@ -100,6 +102,14 @@ private slots:
         QTRY_COMPARE(called, 1);
         second.join();
         QVERIFY(reached);
+    }
+
+    // A lock whose copy is no longer running is taken over.
+    void ALockACrashedCopyLeftIsTakenOver() {
+        testing::TempFolder temp;
+        std::ofstream(temp / ".lock") << "2147483646\nveyrant-sagrel\n"
+                                      << QSysInfo::machineHostName().toStdString() << "\n";
+        QVERIFY(SingleCopy(temp.Path()).First());
     }
 
 private:
