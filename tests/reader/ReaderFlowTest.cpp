@@ -56,10 +56,15 @@ TEST_F(ReaderFixture, LibraryButtonsOpenTheReaderAndRestoringClosesIt) {
     App.Links.CloseLibrary();
     EXPECT_FALSE(Windows.IsWindowMinimised(WindowId::Mirror) || pressed(MC::cmdKnow) ||
                  App.Write->State().ReadLibrary != LibraryId::None);
-    // The backdrop goes when the user minimises the Write window, and comes back with it.
+    // The backdrop goes when the user minimises the Write window, and comes back with it; while
+    // a library is open it stays behind the Read window.
     App.Write->WindowStateChanged(true);
     EXPECT_FALSE(Windows.IsWindowVisible(WindowId::Back));
     App.Write->WindowStateChanged(false);
+    EXPECT_TRUE(Windows.IsWindowVisible(WindowId::Back) &&
+                Windows.WindowEvents.back() == "show Mirror");
+    Press(*this, MC::cmdHelp);
+    App.Write->WindowStateChanged(true);
     EXPECT_TRUE(Windows.IsWindowVisible(WindowId::Back));
 }
 

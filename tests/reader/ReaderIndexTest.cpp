@@ -52,12 +52,15 @@ TEST_F(ReaderFixture, SectionsShowSplitAndTopicsInTheSavedMode) {
 TEST_F(ReaderFixture, IndexButtonTogglesTheLists) {
     App.UserSettings.WindowMode[LibraryId::Knowledge] = 1;
     Open(3);
-    Read().Click(RC::cmdSelect);
+    Key(KeyCode::Enter);
     // Index-2 with nothing open fills the window with the list in the expanded mode.
     EXPECT_EQ(Lines({RC::cmdSelect, RC::List1, RC::txtSpin, RC::txtNote}),
               "\"< Index 2 >\" | 7 rows, selected -1, top 0, expanded back=ListInUse | (hidden) | "
               "\"Select a Topic. Or click 'Index 2' to collapse the list, then select a Section. "
               "Click 'Window' to show or remove the instructions.\"");
+    Read().MouseMove(RC::cmdSelect);
+    Read().TimerFired(TimerId::ReadHover);
+    EXPECT_EQ(Line(RC::txtNote), "\"Collapse the list to show only the Sections.\" ink=HelpInk");
     const std::string index1 = "\"< Index 1 >\" | 3 rows, selected -1, top 0, split back=ListInUse";
     Read().Click(RC::cmdSelect);
     EXPECT_EQ(Lines({RC::cmdSelect, RC::List1}), index1);

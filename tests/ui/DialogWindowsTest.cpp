@@ -294,6 +294,13 @@ private slots:
         QCOMPARE(box->standardButtons(), QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
         QCOMPARE(static_cast<QAbstractButton*>(box->defaultButton()), box->button(QMessageBox::No));
         QCOMPARE(box->escapeButton(), box->button(QMessageBox::Cancel));
+        for (const auto& [icon, shown] :
+             {std::pair{MessageIcon::Stop, QMessageBox::Critical},
+              std::pair{MessageIcon::Warning, QMessageBox::Warning},
+              std::pair{MessageIcon::Information, QMessageBox::Information},
+              std::pair{MessageIcon::None, QMessageBox::NoIcon}}) {
+            QCOMPARE(BuildMessageBox({"t", "x", icon, MessageButtons::Ok, 1})->icon(), shown);
+        }
     }
 
     void onlyRealFacesCountAndTheScreenIsMeasuredInTwips() {
@@ -422,6 +429,8 @@ private slots:
         read.Key(Qt::Key_Space);
         read.Key(Qt::Key_Escape);
         QCOMPARE(read.List()->count(), lib.LastSection + 1);
+        read.Key(Qt::Key_Return);
+        QCOMPARE(read.List()->count(), lib.LastRow + 1);
     }
 
     // A search of the Knowledge Library typed into the real box: the hit is selected in the
@@ -452,6 +461,8 @@ private slots:
         QTest::keyClicks(read.SearchBox(), u"xylophone zebra"_s);
         QTest::keyClick(read.SearchBox(), Qt::Key_Enter);
         QCOMPARE(read.SearchBox()->text(), u"No text found"_s);
+        read.Key(Qt::Key_Escape);
+        QVERIFY(!read.SearchBox()->isEnabled());
     }
 
     // The Dialogue Library steps latest first, and a search of all Dialogues opens the one it
