@@ -66,6 +66,11 @@ TEST_F(ReaderFixture, LibraryButtonsOpenTheReaderAndRestoringClosesIt) {
     Press(*this, MC::cmdHelp);
     App.Write->WindowStateChanged(true);
     EXPECT_TRUE(Windows.IsWindowVisible(WindowId::Back));
+    // A backdrop the user clicked away stays away when the Write window comes back.
+    App.Back.MouseDown();
+    Windows.RestoreWindow(WindowId::Mirror);
+    App.Write->WindowStateChanged(false);
+    EXPECT_FALSE(Windows.IsWindowVisible(WindowId::Back));
 }
 
 // The pointer on the bare background of the Write or the Read window: with the backdrop hidden

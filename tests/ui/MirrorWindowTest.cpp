@@ -22,6 +22,7 @@
 #include <QTimer>
 #include <QtTest>
 #include <cmath>
+#include <functional>
 #include <memory>
 
 using namespace veyrant;
@@ -277,14 +278,30 @@ private slots:
         }
         QTRY_COMPARE(write.Caption(cmdRemove), u"Remove"_s);
 
-        // Each key, and the caption of cmdNew once its command has run.
-        for (const auto& [key, caption] : {std::pair{Qt::Key_F, "New"}, {Qt::Key_O, "Finish"}}) {
+        // Each step: the key, and what the user sees once its command has run.
+        const auto count = [](std::size_t number) { return QString::number(number); };
+        struct Step {
+            Qt::Key Key;
+            std::function<QString()> Seen;
+            QString Expected;
+        };
+        const std::vector<Step> steps = {
+            {Qt::Key_F, [&] { return write.Caption(cmdNew); }, "New"},
+            {Qt::Key_O, [&] { return write.Caption(cmdNew); }, "Finish"},
+            {Qt::Key_F, [&] { return write.Caption(cmdRemove); }, "Continue"},
+            {Qt::Key_P, [&] { return count(write.Layer.Printed.size()); }, "1"},
+            {Qt::Key_I, [&] { return count(write.Layer.EditorTexts.size()); }, "1"},
+            {Qt::Key_S, [&] { return count(write.Library.Listing().LibraryCount); }, "1"},
+        };
+        for (const Step& step : steps) {
             QStringList keys = AccessKeysOnShow(*write.Window);
             QVERIFY2(!keys.contains(QString()) && keys.removeDuplicates() == 0,
                      qPrintable(keys.join(", ")));
-            alt(key);
-            QTRY_COMPARE(write.Caption(cmdNew), QString(caption));
+            alt(step.Key);
+            QTRY_COMPARE(step.Seen(), step.Expected);
         }
+        // Saving began a new Dialogue.
+        QTRY_COMPARE(write.Window->windowTitle(), u"Veyrant Sagrel -- New Dialogue"_s);
     }
 
     // The user's edits are what is saved, as UTF-8 with the platform's line ends. A failed save
