@@ -13,9 +13,9 @@
 #include "support/TempFolder.h"
 #include "ui/SingleCopy.h"
 
-#include <QEvent>
 #include <QSysInfo>
 #include <QTest>
+#include <QTimer>
 #include <fstream>
 #include <functional>
 #include <new>
@@ -25,23 +25,6 @@
 #include <vector>
 
 namespace veyrant {
-
-namespace {
-
-// A window object whose handler fails as the test says.
-class FailingHandler : public QObject {
-public:
-    explicit FailingHandler(std::function<void()> fail) : fail_(std::move(fail)) {}
-    bool event(QEvent*) override {
-        fail_();
-        return true;
-    }
-
-private:
-    std::function<void()> fail_;
-};
-
-} // namespace
 
 class GuardedApplicationTest : public QObject {
     Q_OBJECT
@@ -64,9 +47,8 @@ private slots:
         };
         for (const auto& [fail, number] : cases) {
             reported_.clear();
-            FailingHandler handler(fail);
-            QEvent event(QEvent::User);
-            QCoreApplication::sendEvent(&handler, &event);
+            QTimer::singleShot(0, fail);
+            QCoreApplication::processEvents();
             QCOMPARE(reported_, std::vector<int>{number});
         }
     }

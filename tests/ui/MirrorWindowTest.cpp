@@ -3,9 +3,8 @@
 
 #include "ui/MirrorWindow.h"
 
-#include "WriteWindowFixture.h"
+#include "ProgramFixtures.h"
 #include "core/WholeFile.h"
-#include "dialogue/Mirror.h"
 #include "shell/MirrorLayout.h"
 #include "ui/ExportEditorWindow.h"
 
@@ -15,15 +14,12 @@
 #include <QLabel>
 #include <QMenu>
 #include <QMessageBox>
-#include <QPlainTextEdit>
-#include <QPushButton>
 #include <QTextBlock>
 #include <QTextLayout>
 #include <QTimer>
 #include <QtTest>
 #include <cmath>
 #include <functional>
-#include <memory>
 
 using namespace veyrant;
 using enum MirrorControl;
@@ -64,16 +60,17 @@ void OpenFor(SpellChecker& spelling, const char* language, const std::filesystem
     spelling.Open(OpenInstalledDictionary(SystemDictionaryFolder), words);
 }
 
-QPoint PointOf(QPlainTextEdit& editor, const QString& word) {
-    QTextCursor at(editor.document());
-    at.setPosition(static_cast<int>(editor.toPlainText().indexOf(word)) + 1);
-    return editor.cursorRect(at).center();
-}
-
-QStringList Texts(const QMenu& menu) {
+// The items of the menu that a right click on the word opens; the one named is chosen.
+QStringList MenuOn(ExportEditorWindow& editor, const QString& word, const QString& choose = {}) {
+    QTextCursor at(editor.Editor().document());
+    at.setPosition(static_cast<int>(editor.Editor().toPlainText().indexOf(word)) + 1);
+    const std::unique_ptr<QMenu> menu(editor.ContextMenu(editor.Editor().cursorRect(at).center()));
     QStringList texts;
-    for (const QAction* action : menu.actions()) {
+    for (QAction* action : menu->actions()) {
         texts << action->text();
+        if (action->text() == choose) {
+            action->trigger();
+        }
     }
     return texts;
 }
@@ -368,16 +365,13 @@ private slots:
         QVERIFY(QTest::qWaitForWindowExposed(&editor));
         QCOMPARE(MarkedWords(editor.Editor()), QStringList({"wrte", "lettr"}));
 
-        std::unique_ptr<QMenu> menu(editor.ContextMenu(PointOf(editor.Editor(), "wrte")));
-        const QStringList offered = Texts(*menu);
+        const QStringList offered = MenuOn(editor, "wrte", "write");
         QVERIFY(offered.contains("write"));
         QVERIFY(offered.indexOf("Add to Dictionary") <= 5);
-        menu->actions()[static_cast<int>(offered.indexOf("write"))]->trigger();
         QVERIFY(editor.Editor().toPlainText().contains("I write to"));
         QCOMPARE(MarkedWords(editor.Editor()), QStringList({"lettr"}));
 
-        menu.reset(editor.ContextMenu(PointOf(editor.Editor(), "lettr")));
-        menu->actions()[static_cast<int>(Texts(*menu).indexOf("Add to Dictionary"))]->trigger();
+        MenuOn(editor, "lettr", "Add to Dictionary");
         QCOMPARE(MarkedWords(editor.Editor()), QStringList());
         QCOMPARE(MarkedWords(other.Editor()), QStringList());
         QCOMPARE(other.Editor().toPlainText(), u"A lettr.\n"_s);
@@ -387,8 +381,7 @@ private slots:
         OpenFor(restarted, "en_US.UTF-8", words);
         QVERIFY(restarted.Knows("lettr"));
 
-        menu.reset(editor.ContextMenu(PointOf(editor.Editor(), "Sagrel")));
-        QVERIFY(!Texts(*menu).contains("Add to Dictionary"));
+        QVERIFY(!MenuOn(editor, "Sagrel").contains("Add to Dictionary"));
         QVERIFY(windows.Boxes.empty());
 
         // The dictionary of the user's language judges its accented words.

@@ -2,28 +2,21 @@
 // X11 under Xvfb and on Wayland under a headless Weston, and at device scales 1, 1.25 and 2. Each
 // window opens, takes keys, closes, and shows its captions whole.
 
-#include "StartedProgram.h"
-#include "WriteWindowFixture.h"
-#include "app/Utility.h"
-#include "shell/Resize.h"
-#include "storage/Options.h"
+#include "ProgramFixtures.h"
 #include "ui/OptionsWindow.h"
 #include "ui/PrintFlow.h"
-#include "ui/QtWindowLayer.h"
 #include "ui/ResizeWindow.h"
 #include "ui/UtilityWindow.h"
 
 #include <QAbstractButton>
 #include <QApplication>
 #include <QLabel>
-#include <QMessageBox>
 #include <QPrintPreviewDialog>
 #include <QPrinter>
 #include <QTimer>
 #include <QToolButton>
 #include <QtTest>
 #include <algorithm>
-#include <memory>
 
 using namespace veyrant;
 using enum MirrorControl;
@@ -33,26 +26,15 @@ using namespace Qt::StringLiterals;
 namespace {
 
 // The dialogs of the Utilities, loaded and shown through the real window layer.
-struct Utilities {
-    Utilities() {
-        Windows.RegisterWindow(WindowId::Utility, [this] { return new UtilityWindow(Logic, 1.0); });
+struct UtilitiesOnScreen : UtilityDialogs<QtWindowLayer> {
+    UtilitiesOnScreen() {
+        Windows.RegisterWindow(WindowId::Utility,
+                               [this] { return new UtilityWindow(Utilities, 1.0); });
         Windows.RegisterWindow(WindowId::Resize,
                                [this] { return new ResizeWindow(DisplaySize, 1.0); });
         Windows.RegisterWindow(WindowId::Options,
                                [this] { return new OptionsWindow(LibraryOptions); });
     }
-
-    testing::TempFolder Temp;
-    AppFolder Folder{Temp.Path()};
-    QtWindowLayer Windows;
-    testing::FakeClock Clock;
-    Settings UserSettings;
-    Preferences UserPreferences;
-    DialogueLibrary Library{Folder, UserSettings, Clock, Windows};
-    int Exits = 0;
-    Utility Logic{Windows, "4.1.26.11.22", "2026", [this] { ++Exits; }};
-    Resize DisplaySize{UserSettings, UserPreferences, Windows, [this] { ++Exits; }};
-    Options LibraryOptions{Library, UserSettings, Windows, [this] { ++Exits; }, [] {}};
 };
 
 // The buttons and labels of a window that show their text cut off.
@@ -91,7 +73,7 @@ private slots:
     void theUtilityDialogsOpenTakeKeysAndClose() {
         // Escape leaves each of them, which ends the program.
         for (const WindowId id : {WindowId::Utility, WindowId::Resize, WindowId::Options}) {
-            Utilities program;
+            UtilitiesOnScreen program;
             program.Windows.ShowWindow(id);
             QWidget* window = program.Windows.Window(id);
             QVERIFY(QTest::qWaitForWindowExposed(window));
@@ -105,7 +87,7 @@ private slots:
     }
 
     void theAboutBoxAnswersEnter() {
-        Utilities program;
+        UtilitiesOnScreen program;
         program.Windows.ShowWindow(WindowId::Utility);
         // The box runs modally; Enter on it, once it stands, closes it.
         QStringList cut = {u"no box"_s};
@@ -118,7 +100,7 @@ private slots:
             }
         });
         knock.start(50);
-        program.Logic.cmdAbout_Click();
+        program.Utilities.cmdAbout_Click();
         QVERIFY2(cut.isEmpty(), qPrintable(cut.join(", ")));
         QCOMPARE(program.Exits, 1);
     }
