@@ -1,28 +1,21 @@
 // The windows besides the Write window as the user meets them: the Read window stepping through
 // each library by keys, the banner, Utilities, Display Size and Library Options, and the window
-// layer under them. Every window as a screen reader and a keyboard user meet it: each control
-// says what it is, and Tab walks the dialogs' commands in reading order.
+// layer under them. The Write window as a screen reader meets it, and Tab walks the dialogs'
+// commands in reading order.
 
 #include "ProgramFixtures.h"
-#include "app/Utility.h"
 #include "core/Cp1252.h"
 #include "reader/FixedLibrary.h"
 #include "support/SavedDialogue.h"
-#include "ui/ExportEditorWindow.h"
 #include "ui/OptionsWindow.h"
-#include "ui/PrintFlow.h"
 #include "ui/ResizeWindow.h"
 #include "ui/UtilityWindow.h"
 
-#include <QAccessible>
 #include <QCheckBox>
-#include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMessageBox>
-#include <QPrintPreviewDialog>
-#include <QPrinter>
 #include <QRadioButton>
 #include <QScreen>
 #include <QScrollBar>
@@ -67,32 +60,6 @@ struct OptionsDialog : UtilityDialogs<testing::FakeWindowLayer> {
     OptionsWindow Window{LibraryOptions};
 };
 
-QString Spoken(QWidget* widget, QAccessible::Text text) {
-    QAccessibleInterface* face = QAccessible::queryAccessibleInterface(widget);
-    return face == nullptr ? QString() : face->text(text);
-}
-
-bool IsControl(const QWidget* widget) {
-    return qobject_cast<const QAbstractButton*>(widget) != nullptr ||
-           qobject_cast<const QPlainTextEdit*>(widget) != nullptr ||
-           qobject_cast<const QLineEdit*>(widget) != nullptr ||
-           qobject_cast<const QComboBox*>(widget) != nullptr;
-}
-
-// The controls of a window that a screen reader would give no name.
-QStringList Unnamed(QWidget& window) {
-    QStringList unnamed;
-    if (Spoken(&window, QAccessible::Name).isEmpty()) {
-        unnamed << window.objectName();
-    }
-    for (QWidget* widget : window.findChildren<QWidget*>()) {
-        if (IsControl(widget) && Spoken(widget, QAccessible::Name).trimmed().isEmpty()) {
-            unnamed << u"%1 (%2)"_s.arg(widget->objectName(), widget->metaObject()->className());
-        }
-    }
-    return unnamed;
-}
-
 // The controls that the Tab key visits from the one in focus, by name, once round.
 QStringList TabOrder() {
     QStringList order;
@@ -116,8 +83,9 @@ std::string LongDialogue() {
     return text + "\r\n\r\n\t\223And the Heron?\224";
 }
 
-struct ReadWindow {
-    ReadWindow() : App(AppFolder{Temp / "app"}, Temp / "program", Clock, Draws, Layer) {
+// The Read window over the libraries as the program loads them.
+struct ReadWindow : FreshApplication {
+    ReadWindow() {
         std::filesystem::create_directories(App.Folder.Exe());
         SetDisplayScale(1, App.Scale);
         LoadLibraries(App.Libraries);
@@ -161,11 +129,6 @@ struct ReadWindow {
         testing::PutDialogue(App.Folder, when, inspiration, dialogue, &Clock);
     }
 
-    testing::TempFolder Temp;
-    testing::FakeWindowLayer Layer;
-    testing::FakeClock Clock;
-    Random Draws;
-    Application App;
     std::unique_ptr<ReaderWindow> Window;
 };
 
@@ -283,7 +246,7 @@ private slots:
         QVERIFY(!windows.IsWindowVisible(WindowId::Back));
     }
 
-    void everyControlOfEveryWindowHasANameAndTabReadsInOrder() {
+    void theWriteWindowIsSpokenAndTabReadsTheDialogsInOrder() {
         WriteWindow program;
         MirrorWindow& write = *program.Window;
         UtilityDialogs<testing::FakeWindowLayer> dialogs;
@@ -298,31 +261,6 @@ private slots:
         displaySize.show();
         OptionsWindow options(dialogs.LibraryOptions);
         options.show();
-        SaveFolder folders;
-        ExportEditorWindow exported(program.Layer, folders, program.App.Spelling,
-                                    u"Dialogue text"_s, u"Dialogue.txt"_s);
-        const auto about = BuildMessageBox(
-            {"About the Veyrant Sagrel Program", AboutText("4.1.26.11.22", "2026")});
-        QPrinter printer;
-        const auto preview = BuildPrintPreview(printer, &write);
-        program.App.Back.Load();
-        BackWindow backdrop(program.App.Back);
-
-        // The Read window over the Dialogue Library, which needs no fixed library loaded.
-        program.App.Links.BeginOpening();
-        program.App.Links.OpenLibrary(LibraryId::Dialogue);
-        ReaderWindow reader(program.App, *program.App.Read);
-        reader.show();
-        reader.Render();
-
-        const std::vector<QWidget*> windows = {&write,        &banner,   &utilities,  &displaySize,
-                                               &options,      &exported, about.get(), &reader,
-                                               preview.get(), &backdrop};
-        for (QWidget* window : windows) {
-            QCOMPARE(Unnamed(*window), QStringList());
-        }
-        // The backdrop's hint shows only under a moving pointer; a screen reader tells it always.
-        QCOMPARE(Spoken(&backdrop, QAccessible::Description), QString(Backdrop::HintText));
         // The hover help is spoken, and a screen reader tells the key that presses a button, as
         // the underlined letter shows it.
         QCOMPARE(Spoken(write.Widget(MirrorControl::txtMirror), QAccessible::Description),
@@ -411,10 +349,30 @@ private slots:
         QCOMPARE(bar->value(), bar->maximum());
     }
 
-    // A search of the Knowledge Library typed into the real box: the hit is selected in the
-    // text and scrolled into view, Enter steps on, and keypad Enter on a word not there tells so.
-    void searchesAFixedLibrary() {
+    // The Dialogue Library steps latest first, and a search of all Dialogues opens the one it
+    // finds, latest to earliest, with the hit selected. A search of the Knowledge Library: the hit
+    // is selected in the text and scrolled into view, Enter steps on, and keypad Enter on a word
+    // not there tells so.
+    void searchesSelectTheHitInView() {
         ReadWindow read;
+        read.SaveDialogue({2026, 11, 12, 9, 0, 0}, "\tA heron by the water.", LongDialogue());
+        read.SaveDialogue({2026, 11, 18, 9, 0, 0}, "\tA path.", "\r\n\r\n\t\x93Why?\x94\r\n\tOn.");
+        read.SaveDialogue({2026, 11, 21, 20, 15, 0}, "\tStones.",
+                          "\r\n\r\n\t\x93No.\x94\r\n\tYes.");
+        read.Open(1);
+        for (int step = 0; step < 3; ++step) {
+            read.Key(Qt::Key_PageDown);
+        }
+        QVERIFY(read.Title().startsWith(u"Veyrant Dialogue -- 1/3"_s));
+        QVERIFY(!read.Window->Widget(cmdNext)->isEnabled());
+        read.App.Links.CloseLibrary();
+        read.Open(1);
+        read.SearchFor(u"heron?"_s);
+        QVERIFY(read.Title().startsWith(u"Veyrant Dialogue -- 1/3"_s));
+        QCOMPARE(read.Selected(), u"Heron?"_s);
+        QVERIFY(read.HitInView());
+        QCOMPARE(read.List()->currentRow(), 2);
+        read.App.Links.CloseLibrary();
         read.Open(3);
         read.SearchFor(u"wisdom"_s);
         QCOMPARE(read.Selected().toLower(), u"wisdom"_s);
@@ -441,29 +399,6 @@ private slots:
         QCOMPARE(read.SearchBox()->text(), u"No text found"_s);
         read.Key(Qt::Key_Escape);
         QVERIFY(!read.SearchBox()->isEnabled());
-    }
-
-    // The Dialogue Library steps latest first, and a search of all Dialogues opens the one it
-    // finds, latest to earliest, with the hit selected.
-    void dialogueLibraryStepsLatestFirstAndIsSearched() {
-        ReadWindow read;
-        read.SaveDialogue({2026, 11, 12, 9, 0, 0}, "\tA heron by the water.", LongDialogue());
-        read.SaveDialogue({2026, 11, 18, 9, 0, 0}, "\tA path.", "\r\n\r\n\t\x93Why?\x94\r\n\tOn.");
-        read.SaveDialogue({2026, 11, 21, 20, 15, 0}, "\tStones.",
-                          "\r\n\r\n\t\x93No.\x94\r\n\tYes.");
-        read.Open(1);
-        for (int step = 0; step < 3; ++step) {
-            read.Key(Qt::Key_PageDown);
-        }
-        QVERIFY(read.Title().startsWith(u"Veyrant Dialogue -- 1/3"_s));
-        QVERIFY(!read.Window->Widget(cmdNext)->isEnabled());
-        read.App.Links.CloseLibrary();
-        read.Open(1);
-        read.SearchFor(u"heron?"_s);
-        QVERIFY(read.Title().startsWith(u"Veyrant Dialogue -- 1/3"_s));
-        QCOMPARE(read.Selected(), u"Heron?"_s);
-        QVERIFY(read.HitInView());
-        QCOMPARE(read.List()->currentRow(), 2);
     }
 };
 

@@ -277,12 +277,7 @@ private slots:
 
         // Each step: the key, and what the user sees once its command has run.
         const auto count = [](std::size_t number) { return QString::number(number); };
-        struct Step {
-            Qt::Key Key;
-            std::function<QString()> Seen;
-            QString Expected;
-        };
-        const std::vector<Step> steps = {
+        const std::tuple<Qt::Key, std::function<QString()>, QString> steps[] = {
             {Qt::Key_F, [&] { return write.Caption(cmdNew); }, "New"},
             {Qt::Key_O, [&] { return write.Caption(cmdNew); }, "Finish"},
             {Qt::Key_F, [&] { return write.Caption(cmdRemove); }, "Continue"},
@@ -290,12 +285,12 @@ private slots:
             {Qt::Key_I, [&] { return count(write.Layer.EditorTexts.size()); }, "1"},
             {Qt::Key_S, [&] { return count(write.Library.Listing().LibraryCount); }, "1"},
         };
-        for (const Step& step : steps) {
+        for (const auto& [key, seen, expected] : steps) {
             QStringList keys = AccessKeysOnShow(*write.Window);
             QVERIFY2(!keys.contains(QString()) && keys.removeDuplicates() == 0,
                      qPrintable(keys.join(", ")));
-            alt(step.Key);
-            QTRY_COMPARE(step.Seen(), step.Expected);
+            alt(key);
+            QTRY_COMPARE(seen(), expected);
         }
         // Saving began a new Dialogue.
         QTRY_COMPARE(write.Window->windowTitle(), u"Veyrant Sagrel -- New Dialogue"_s);
@@ -312,6 +307,7 @@ private slots:
             windows, folders, spelling, QString::fromUtf8("Veyrant Sagrel\n\u201cCaf\u00e9\u201d"),
             u"Dialogue.txt"_s);
         editor->show();
+        QCOMPARE(Unnamed(*editor), QStringList());
         editor->Editor().appendPlainText(u"A line of my own."_s);
         QVERIFY(editor->Editor().document()->isModified());
         const auto path = folder / "Sunday.txt";

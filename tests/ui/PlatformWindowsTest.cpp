@@ -1,6 +1,6 @@
 // The program's windows on a real display server: ctest runs this on the offscreen platform, on
 // X11 under Xvfb and on Wayland under a headless Weston, and at device scales 1, 1.25 and 2. Each
-// window opens, takes keys, closes, and shows its captions whole.
+// window opens, takes keys, closes, and shows its captions whole and its controls named.
 
 #include "ProgramFixtures.h"
 #include "ui/OptionsWindow.h"
@@ -77,7 +77,7 @@ private slots:
             program.Windows.ShowWindow(id);
             QWidget* window = program.Windows.Window(id);
             QVERIFY(QTest::qWaitForWindowExposed(window));
-            QCOMPARE(CutOff(*window), QStringList());
+            QCOMPARE(CutOff(*window) + Unnamed(*window), QStringList());
             QWidget* first = window->focusWidget();
             QTest::keyClick(window, Qt::Key_Tab);
             QVERIFY(window->focusWidget() != first);
@@ -95,7 +95,7 @@ private slots:
         QObject::connect(&knock, &QTimer::timeout, [&] {
             if (QWidget* box = QApplication::activeModalWidget()) {
                 knock.stop();
-                cut = CutOff(*box);
+                cut = CutOff(*box) + Unnamed(*box);
                 QTest::keyClick(box, Qt::Key_Return);
             }
         });
@@ -132,7 +132,7 @@ private slots:
             QVERIFY2(tool->iconSize().width() * ratio <= largest->width(),
                      qPrintable(u"%1 at %2"_s.arg(tool->text()).arg(ratio)));
         }
-        QCOMPARE(CutOff(*preview), QStringList());
+        QCOMPARE(CutOff(*preview) + Unnamed(*preview), QStringList());
     }
 
     // Last: the way out asks the application to quit, which ends any event loop after it.
@@ -141,6 +141,7 @@ private slots:
         Main(program.App);
         QVERIFY(!program.Windows.Ended());
         QVERIFY(program.Windows.IsWindowVisible(WindowId::Banner));
+        QCOMPARE(Unnamed(*program.Windows.Window(WindowId::Banner)), QStringList());
         QTRY_VERIFY_WITH_TIMEOUT(program.Write != nullptr && program.Write->isVisible(), 10000);
         QVERIFY(QTest::qWaitForWindowExposed(program.Write));
         QTRY_VERIFY(!program.Windows.IsWindowVisible(WindowId::Banner));
@@ -148,6 +149,9 @@ private slots:
                  QString("Veyrant Sagrel 4.1 -- Written Dialogues of Self-Reflection"));
         // On Wayland the program would draw the backdrop's title bar itself; it has none.
         QVERIFY(program.Back && program.Back->isVisible());
+        QCOMPARE(Unnamed(*program.Back), QStringList());
+        // The backdrop's hint shows only under a moving pointer; a screen reader tells it always.
+        QCOMPARE(Spoken(program.Back, QAccessible::Description), QString(Backdrop::HintText));
         if (QGuiApplication::platformName() == u"wayland"_s) {
             QCOMPARE(program.Back->frameGeometry(), program.Back->geometry());
         }
@@ -171,6 +175,7 @@ private slots:
             QVERIFY(read);
             QCOMPARE(read->windowTitle(), QString::fromLatin1(c.Title));
             QVERIFY(read->isVisible());
+            QCOMPARE(Unnamed(*read), QStringList());
             QVERIFY(program.Windows.IsWindowMinimised(WindowId::Mirror));
             QTest::keyClick(read.data(), Qt::Key_Down);
             QVERIFY(read->windowTitle() != QString::fromLatin1(c.Title) || c.Button == cmdRetrieve);
@@ -192,7 +197,7 @@ private slots:
         QVERIFY(entry->toPlainText().endsWith(QChar(0x201D)));
         auto* response = static_cast<QPlainTextEdit*>(program.Write->Widget(txtResponse));
         QVERIFY(response->toPlainText().size() > 10);
-        QCOMPARE(CutOff(*program.Write), QStringList());
+        QCOMPARE(CutOff(*program.Write) + Unnamed(*program.Write), QStringList());
 
         // Closing the window stores the settings and ends the program.
         program.Write->close();

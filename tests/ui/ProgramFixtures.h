@@ -26,6 +26,10 @@
 #include "ui/QtWindowLayer.h"
 #include "ui/ReaderWindow.h"
 
+#include <QAbstractButton>
+#include <QAccessible>
+#include <QComboBox>
+#include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPointer>
 #include <QPushButton>
@@ -34,13 +38,18 @@
 
 namespace veyrant {
 
+// The program's state in a fresh folder, over the fake clock and window layer.
+struct FreshApplication {
+    testing::TempFolder Temp;
+    testing::FakeWindowLayer Layer;
+    testing::FakeClock Clock;
+    Random Draws;
+    Application App{AppFolder{Temp.Path()}, Temp / "program", Clock, Draws, Layer};
+};
+
 // A whole Write window, shown and started.
-struct WriteWindow {
-    explicit WriteWindow(int displayOption = 1)
-        : App(AppFolder{Temp.Path()}, Temp / "program", Clock, Draws, Layer),
-          Composer(Draws, Clock, Layer), Replies(Composer),
-          Library(App.Folder, App.UserSettings, Clock, Layer),
-          Buffers(App.Folder, App.UserSettings, Clock, Layer) {
+struct WriteWindow : FreshApplication {
+    explicit WriteWindow(int displayOption = 1) {
         SetDisplayScale(displayOption, App.Scale);
         InstallEngineFiles(App.Folder);
         Composer.LoadSystem(App.Folder);
@@ -65,15 +74,10 @@ struct WriteWindow {
         QTest::mouseClick(Window->Widget(control), Qt::LeftButton);
     }
 
-    testing::TempFolder Temp;
-    testing::FakeWindowLayer Layer;
-    testing::FakeClock Clock;
-    Random Draws;
-    Application App;
-    Engine Composer;
-    EngineDialogue Replies;
-    DialogueLibrary Library;
-    WorkBuffers Buffers;
+    Engine Composer{Draws, Clock, Layer};
+    EngineDialogue Replies{Composer};
+    DialogueLibrary Library{App.Folder, App.UserSettings, Clock, Layer};
+    WorkBuffers Buffers{App.Folder, App.UserSettings, Clock, Layer};
     std::unique_ptr<Mirror> Logic;
     std::unique_ptr<MirrorWindow> Window;
 };
@@ -139,5 +143,34 @@ struct StartedProgram {
     QPointer<ReaderWindow> Read;
     QPointer<BackWindow> Back;
 };
+
+// What a screen reader tells of a widget.
+inline QString Spoken(QWidget* widget, QAccessible::Text text) {
+    QAccessibleInterface* face = QAccessible::queryAccessibleInterface(widget);
+    return face == nullptr ? QString() : face->text(text);
+}
+
+// Whether the user works the widget, and so needs it named.
+inline bool IsControl(const QWidget* widget) {
+    return qobject_cast<const QAbstractButton*>(widget) != nullptr ||
+           qobject_cast<const QPlainTextEdit*>(widget) != nullptr ||
+           qobject_cast<const QLineEdit*>(widget) != nullptr ||
+           qobject_cast<const QComboBox*>(widget) != nullptr;
+}
+
+// The controls of a window that a screen reader would give no name.
+inline QStringList Unnamed(QWidget& window) {
+    QStringList unnamed;
+    if (Spoken(&window, QAccessible::Name).isEmpty()) {
+        unnamed << window.objectName();
+    }
+    for (QWidget* widget : window.findChildren<QWidget*>()) {
+        if (IsControl(widget) && Spoken(widget, QAccessible::Name).trimmed().isEmpty()) {
+            unnamed << QStringLiteral("%1 (%2)").arg(widget->objectName(),
+                                                     widget->metaObject()->className());
+        }
+    }
+    return unnamed;
+}
 
 } // namespace veyrant
