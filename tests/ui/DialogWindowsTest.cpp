@@ -1,7 +1,6 @@
 // The windows besides the Write window as the user meets them: the Read window stepping through
 // each library by keys, the banner, Utilities, Display Size and Library Options, and the window
-// layer under them. The Write window as a screen reader meets it, and Tab walks the dialogs'
-// commands in reading order.
+// layer under them; Tab walks the dialogs' commands in reading order.
 
 #include "ProgramFixtures.h"
 #include "core/Cp1252.h"
@@ -246,11 +245,9 @@ private slots:
         QVERIFY(!windows.IsWindowVisible(WindowId::Back));
     }
 
-    void theWriteWindowIsSpokenAndTabReadsTheDialogsInOrder() {
-        WriteWindow program;
-        MirrorWindow& write = *program.Window;
+    void theBannerStandsAboveTheMiddleAndTabReadsTheDialogsInOrder() {
         UtilityDialogs<testing::FakeWindowLayer> dialogs;
-        BannerWindow banner(program.Layer);
+        BannerWindow banner(dialogs.Windows);
         banner.show();
         // The banner stands frameless above the middle of the screen.
         QCOMPARE(banner.geometry(), QRect((1920 - 512) / 2, int((1080 - 302) / 2.3), 512, 302));
@@ -261,27 +258,6 @@ private slots:
         displaySize.show();
         OptionsWindow options(dialogs.LibraryOptions);
         options.show();
-        // The hover help is spoken, and a screen reader tells the key that presses a button, as
-        // the underlined letter shows it.
-        QCOMPARE(Spoken(write.Widget(MirrorControl::txtMirror), QAccessible::Description),
-                 QString("Type a question or a statement, then press 'Enter'."));
-        QCOMPARE(Spoken(write.Widget(MirrorControl::cmdHelp), QAccessible::Description),
-                 QString("Open the Information Library for instructions and information on the "
-                         "program. Right-click to open the Utilities window."));
-        QCOMPARE(QAccessible::queryAccessibleInterface(write.Widget(MirrorControl::cmdHelp))
-                     ->actionInterface()
-                     ->keyBindingsForAction(QAccessibleActionInterface::pressAction()),
-                 QStringList{"Alt+H"});
-        // The description follows the button's state, as the hover help does.
-        QTest::mouseClick(write.Widget(MirrorControl::cmdConverse), Qt::LeftButton);
-        QCOMPARE(Unnamed(write), QStringList());
-        QCOMPARE(Spoken(write.Widget(MirrorControl::cmdConverse), QAccessible::Description),
-                 QString("Click 'Cancel' to exit Converse and reset to New Dialogue."));
-        // The instruction line's description follows its words.
-        QCOMPARE(Spoken(write.Widget(MirrorControl::txtNote), QAccessible::Description),
-                 QString("Type your question or statement. Click 'Rewrite' to erase the text. "
-                         "Press 'Enter' for the Sagrel response."));
-
         // Tab walks the dialogs' commands in reading order.
         const std::pair<QWidget*, QStringList> cases[] = {
             {&utilities, {"cmdOptions", "cmdResize", "cmdExport", "cmdAbout"}},

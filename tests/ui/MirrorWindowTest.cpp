@@ -1,5 +1,6 @@
 // The Write window and the export editor on a real (offscreen) screen: keys typed into their
-// widgets go through the rules and show as the user would see them.
+// widgets go through the rules and show as the user would see them, and a screen reader tells
+// what each control does.
 
 #include "ui/MirrorWindow.h"
 
@@ -94,8 +95,8 @@ class MirrorWindowTest : public QObject {
     SaveFolder folders;
 
 private slots:
-    // A Converse typed and answered on screen, a button's help under the resting pointer, and the
-    // full view of the Dialogue over the boxes and back.
+    // A Converse typed and answered on screen, a button's help under the resting pointer and as a
+    // screen reader tells it, and the full view of the Dialogue over the boxes and back.
     void TypedEntryIsAnsweredOnScreenAndShownWhole() {
         WriteWindow write;
         // The window's size less its frame, and the boxes' fonts, follow the display size.
@@ -105,7 +106,26 @@ private slots:
                                              std::lround((design.WindowHeight - 405) * factor)));
         QCOMPARE(write.Box(txtSaved)->font().pointSizeF(), write.App.Scale.TextSize[1]);
         QVERIFY(write.Box(txtSaved)->font().bold());
+        // The hover help is spoken, and a screen reader tells the key that presses a button, as
+        // the underlined letter shows it.
+        QCOMPARE(Spoken(write.Window->Widget(txtMirror), QAccessible::Description),
+                 QString("Type a question or a statement, then press 'Enter'."));
+        QCOMPARE(Spoken(write.Window->Widget(cmdHelp), QAccessible::Description),
+                 QString("Open the Information Library for instructions and information on the "
+                         "program. Right-click to open the Utilities window."));
+        QCOMPARE(QAccessible::queryAccessibleInterface(write.Window->Widget(cmdHelp))
+                     ->actionInterface()
+                     ->keyBindingsForAction(QAccessibleActionInterface::pressAction()),
+                 QStringList{"Alt+H"});
         write.Click(cmdConverse);
+        // The description follows the button's state, as the hover help does.
+        QCOMPARE(Spoken(write.Window->Widget(cmdConverse), QAccessible::Description),
+                 QString("Click 'Cancel' to exit Converse and reset to New Dialogue."));
+        // The instruction line's description follows its words.
+        QCOMPARE(Spoken(write.Window->Widget(txtNote), QAccessible::Description),
+                 QString("Type your question or statement. Click 'Rewrite' to erase the text. "
+                         "Press 'Enter' for the Sagrel response."));
+
         auto* entry = write.Box(txtMirror);
         auto* mark = write.Window->Widget(lblRem);
         QVERIFY(mark->isVisible());
