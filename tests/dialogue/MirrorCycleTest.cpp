@@ -26,6 +26,11 @@ TEST_F(MirrorCycle, ConverseEntryIsAcceptedAnsweredAndKept) {
               "Veyrant Sagrel 4.1 -- Written Dialogues of Self-Reflection");
     EXPECT_EQ(Text(txtSaved).substr(0, 39), "Suggestion 1\r\n\r\nDialogue Library Status");
     EXPECT_FALSE(Box(cmdNew).Visible || Box(cmdRemove).Visible || Box(txtMirror).Enabled);
+    // A click on either text of the new Dialogue draws another.
+    Click(txtSaved);
+    EXPECT_EQ(Text(txtSaved).substr(0, 12), "Suggestion 2");
+    Click(txtResponse);
+    EXPECT_EQ(Text(txtResponse), "Inspiration\r\n\tInspiration number 2.");
     Click(cmdConverse);
     EXPECT_EQ(mirror->Controls().Title,
               "Veyrant Sagrel -- Conversation -- Sunday, 12:00 pm, November 22, 2026");
@@ -54,18 +59,11 @@ TEST_F(MirrorCycle, ConverseEntryIsAcceptedAnsweredAndKept) {
               "Type your question or statement. Then press 'Enter' for the Sagrel response.");
 }
 
-TEST_F(MirrorCycle, ClosingTheWindowKeepsARunningDialogueForNextTime) {
-    StartConverse();
-    mirror->Unload();
-    EXPECT_EQ(Kept(), "none"); // nothing kept yet
-    Converse(Question);
-    mirror->Unload();
-    EXPECT_EQ(Kept(), "1:" + State().DialogueText);
-    EXPECT_FALSE(Box(txtMirror).Enabled);
-}
-
+// Closing the window keeps a running Dialogue for next time, and only a kept pair makes it run.
 TEST_F(MirrorCycle, RemarkStaysOutUntilKeptAndKeepRemoveRestoreTheTextExactly) {
     StartConverse();
+    mirror->Unload();
+    EXPECT_EQ(Kept(), "none");
     Engine.Rolls.push_back(0);
     Converse(Question);
     // The first pair left out leaves Cancel and no Display.
@@ -84,6 +82,9 @@ TEST_F(MirrorCycle, RemarkStaysOutUntilKeptAndKeepRemoveRestoreTheTextExactly) {
                              "it, before continuing. Press 'Enter' to continue.");
     Click(cmdRemove);
     EXPECT_EQ(State().DialogueText, kept);
+    mirror->Unload();
+    EXPECT_EQ(Kept(), "1:" + kept);
+    EXPECT_FALSE(Box(txtMirror).Enabled);
 }
 
 // Removing a pair takes it out of the Dialogue, not out of the count that brings the notice,
@@ -117,13 +118,21 @@ TEST_F(MirrorCycle, NoticeComesOnceTheGoalIsReachedEvenWithThePairsRemoved) {
 }
 
 // Each refusal shows its message and instruction; the entry keeps its text and the caret
-// leaves it only when the entry must begin again.
+// leaves it only when the entry must begin again. Too short is judged before the parser, and
+// typing on clears a message that keeps the entry.
 TEST(MirrorCycleTable, ARejectionShowsItsMessageAndInstruction) {
     const std::string startAgain = "Press 'Enter' to start again.";
     const struct {
         int Status, Method;
         std::string Message, Instruction;
+        std::string Entry = Question;
     } cases[] = {
+        {1, 1,
+         ">> Your entry is too short. Add more detail to clarify its meaning until the display "
+         "status to the right no longer shows 'X'. Or click 'Rewrite' or the text to begin again.",
+         "Lengthen your entry, or click 'Rewrite' to begin again. Press 'Enter' when 'X' no "
+         "longer shows.",
+         "Why me?"},
         {-1, 1, ">> Do not add a quotation mark at the end",
          "Backspace out the quote, then press 'Enter' to continue."},
         {0, 1, ">> Your entry is not punctuated.",
@@ -150,16 +159,24 @@ TEST(MirrorCycleTable, ARejectionShowsItsMessageAndInstruction) {
         driver.mirror->StartWindow();
         driver.Click(c.Method == 2 ? cmdSuppose : cmdConverse);
         driver.Engine.Judgements.push_back({c.Status, c.Status == -100 ? 1 : 2});
-        driver.Converse(Question);
+        driver.Converse(c.Entry);
         EXPECT_EQ(driver.Text(txtResponse).substr(0, c.Message.size()), c.Message);
+        EXPECT_EQ(driver.Engine.CheckedEntries.empty(), c.Entry != Question);
         EXPECT_EQ(driver.Box(txtResponse).Background, Colour::ColourError);
         EXPECT_EQ(driver.Text(txtNote), c.Instruction);
         const bool again = c.Instruction == startAgain;
         EXPECT_EQ(driver.State().AwaitingEnter, again);
         EXPECT_EQ(driver.State().CycleCount + driver.State().PairCount, 0);
-        EXPECT_EQ(driver.Text(txtMirror), Prefix + Question);
+        EXPECT_EQ(driver.Text(txtMirror), Prefix + c.Entry);
         EXPECT_EQ(driver.Box(txtMirror).Caret == 0, again);
-        if (again) { // the next Enter begins the entry again
+        if (!again) {
+            EXPECT_EQ(driver.Box(lblRem).Visible && driver.Box(cmdClear).Enabled,
+                      c.Entry != Question);
+            driver.Type(" Why is it always me who has to call first?");
+            EXPECT_EQ(driver.Box(txtResponse).Background, Colour::ColourReady);
+            driver.Enter();
+            EXPECT_EQ(driver.State().PairCount, 1);
+        } else { // the next Enter begins the entry again
             driver.Enter();
             EXPECT_EQ(driver.Text(txtMirror), Prefix);
             EXPECT_EQ(driver.Box(txtResponse).Background, Colour::ColourReady);
@@ -170,24 +187,6 @@ TEST(MirrorCycleTable, ARejectionShowsItsMessageAndInstruction) {
                                       "the Sagrel response.");
         }
     }
-}
-
-TEST_F(MirrorCycle, TooShortIsJudgedBeforeTheParser) {
-    StartConverse();
-    Converse("Why me?");
-    EXPECT_EQ(Text(txtResponse),
-              ">> Your entry is too short. Add more detail to clarify its meaning until the "
-              "display status to the right no longer shows 'X'. Or click 'Rewrite' or the text "
-              "to begin again.");
-    EXPECT_EQ(Text(txtNote), "Lengthen your entry, or click 'Rewrite' to begin again. "
-                             "Press 'Enter' when 'X' no longer shows.");
-    EXPECT_TRUE(Box(lblRem).Visible && Box(cmdClear).Enabled);
-    EXPECT_TRUE(Engine.CheckedEntries.empty());
-    // Typing on clears the message at once and the entry goes on.
-    Type(" Why is it always me who has to call first?");
-    EXPECT_EQ(Box(txtResponse).Background, Colour::ColourReady);
-    Enter();
-    EXPECT_EQ(State().PairCount, 1);
 }
 
 TEST_F(MirrorCycle, CommentGoesInAtOnceAndHandsOverToConverse) {
