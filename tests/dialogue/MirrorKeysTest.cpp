@@ -76,8 +76,10 @@ TEST_F(MirrorKeys, OverTheLimitOnlyBackspaceWorks) {
     EXPECT_EQ(Box(txtResponse).Background, Colour::ColourReady);
 }
 
-TEST_F(MirrorKeys, ProtectedHeadAndCaretMoves) {
+// The key record takes the time and code of every key but Enter and Backspace.
+TEST_F(MirrorKeys, ProtectedHeadCaretMovesAndTheKeyRecord) {
     StartConverse();
+    Clock.Seconds = 100.5f;
     Type("abcdefghij"); // caret at 12, length 12
     Press(KeyCode::Home);
     EXPECT_EQ(Box(txtMirror).Caret, 2);
@@ -96,6 +98,12 @@ TEST_F(MirrorKeys, ProtectedHeadAndCaretMoves) {
     EXPECT_EQ(Text(txtMirror), Prefix + "abcdefghij");
     Press(KeyCode::Control);
     EXPECT_EQ(Titles() + Layer.Boxes[0].Text, "Invalid Key;Use of the control key is not allowed.");
+    Backspace();
+    Clock.Seconds = 101.25f;
+    Converse("\xe9");
+    EXPECT_EQ(Engine.KeyCodes,
+              (std::vector<int>{'a', 'b', 'c', 'd', 'e', 'f', 'g', 'h', 'i', 'j', 0xe9}));
+    EXPECT_TRUE(Engine.KeyTimes.front() == 100.5f && Engine.KeyTimes.back() == 101.25f);
 }
 
 TEST_F(MirrorKeys, RewriteAndAClickEraseTheEntryUntilItIsAnswered) {
@@ -123,17 +131,6 @@ TEST_F(MirrorKeys, RewriteAndAClickEraseTheEntryUntilItIsAnswered) {
     EXPECT_EQ(Box(txtMirror).Caret, 0);
     Enter();
     EXPECT_EQ(Text(txtMirror), Prefix);
-}
-
-TEST_F(MirrorKeys, TheKeyRecordTakesTimeAndCodeOfEveryKeyButEnterAndBackspace) {
-    StartConverse();
-    Clock.Seconds = 100.5f;
-    Type("Hi");
-    Backspace();
-    Clock.Seconds = 101.25f;
-    Converse("\xe9");
-    EXPECT_EQ(Engine.KeyCodes, (std::vector<int>{'H', 'i', 0xe9}));
-    EXPECT_EQ(Engine.KeyTimes, (std::vector<float>{100.5f, 100.5f, 101.25f}));
 }
 
 // Focus returns to the entry box, a mouse release leaves nothing selected, and a right press
