@@ -112,7 +112,7 @@ TEST(MirrorSupposeTable, TheHeaviestIdeaIsChosenAndTheLaterOfEqualOnes) {
 }
 
 // A refused Select leaves the outcome out until kept; each list weighs its own ideas, so what an
-// earlier, longer list left behind is never chosen.
+// earlier, longer list left behind is never chosen; a declined question goes back to Converse.
 TEST_F(MirrorSuppose, SelectRefusedByTheDrawLeavesTheOutcomeOutUntilKept) {
     OpenList(*this, {0.2f, 0.3f, 0.9f});
     for (int idea = 1; idea <= 3; ++idea) {
@@ -135,20 +135,18 @@ TEST_F(MirrorSuppose, SelectRefusedByTheDrawLeavesTheOutcomeOutUntilKept) {
     Click(cmdNew);
     EXPECT_EQ(Text(txtResponse), "\tYour idea \x93"
                                  "Another idea.\x94 is verdict 2.");
-}
-
-TEST_F(MirrorSuppose, AQuestionDeclinedByTheDrawEndsInConverseWithKeep) {
-    mirror->StartWindow();
+    // A question the draw declines ends in Converse with Keep, its remark composed once.
+    Enter();
     Engine.Rolls.push_back(0);
     AskQuestion(*this);
     EXPECT_EQ(State().ActiveMethod, WriteMethod::Converse);
     EXPECT_EQ(Shown("txtAnalyze") + Shown("cmdRemove"), "cmdRemove: \"Keep\"");
-    // The remark of the Suppose method, composed once and shown as the response.
-    EXPECT_EQ(Text(txtResponse), "\tRemark 1 on type 9.");
-    EXPECT_EQ(Engine.Compositions, 1);
-    EXPECT_EQ(State().PairCount, 0);
+    EXPECT_EQ(Text(txtResponse), "\tRemark 3 on type 9.");
+    EXPECT_TRUE(Engine.Compositions == 3 && State().PairCount == 2);
+    const std::string dialogue = State().DialogueText;
     Click(cmdRemove);
-    EXPECT_EQ(State().DialogueText, "\r\n\r\n" + Quoted(Question) + "\r\n\tRemark 1 on type 9.");
+    EXPECT_EQ(State().DialogueText,
+              dialogue + "\r\n\r\n" + Quoted(Question) + "\r\n\tRemark 3 on type 9.");
 }
 
 // An idea is capped and loses one closing mark; a too short one stays to be lengthened.
