@@ -245,24 +245,24 @@ TEST(MirrorComposed, ADialogueOfSeveralCyclesWithTheRealEngine) {
 // An entry that the parser refuses before it reads the sentence keeps the type of the entry
 // before: after a yes-or-no question in Suppose, every such refusal is the yes-or-no one.
 TEST(MirrorComposed, AfterAYesNoQuestionAnEarlyRefusalStaysTheYesNoOne) {
+    MirrorDriver driver(1, MirrorDriver::Replies::Composed);
+    driver.mirror->StartWindow();
+    driver.Click(cmdSuppose);
     for (const char* early : {"Tomorrow will bring happiness for all.", "Tomorrow, maybe, perhaps?",
                               "Is it not so, is it?", "Will tomorrow bring happiness",
                               "Will tomorrow bring happiness\""}) {
         SCOPED_TRACE(early);
-        MirrorDriver driver(1, MirrorDriver::Replies::Composed);
-        driver.mirror->StartWindow();
-        driver.Click(cmdSuppose);
         driver.Converse("Will tomorrow bring happiness for all?");
         ASSERT_EQ(driver.Text(txtResponse), YesNoRefusal);
         driver.Enter();
         driver.Converse(early);
         EXPECT_EQ(driver.Text(txtResponse), YesNoRefusal);
         EXPECT_TRUE(driver.State().AwaitingEnter);
-        // A question the parser reads replaces the type and is accepted.
         driver.Enter();
-        driver.Converse("What would bring happiness to us all?");
-        EXPECT_EQ(driver.State().CycleCount, 1) << driver.Text(txtResponse);
     }
+    // A question the parser reads replaces the type and is accepted.
+    driver.Converse("What would bring happiness to us all?");
+    EXPECT_EQ(driver.State().CycleCount, 1) << driver.Text(txtResponse);
 }
 
 } // namespace

@@ -28,11 +28,6 @@ EntryJudgement ScriptedEngine::CheckEntry(const std::string& entryText, WriteMet
     return {static_cast<EntryVerdict>(judgement.Status), static_cast<SentenceType>(judgement.Type)};
 }
 
-void ScriptedEngine::RecordKey(float time, int characterCode) {
-    KeyTimes.push_back(time);
-    KeyCodes.push_back(characterCode);
-}
-
 ReplyKind ScriptedEngine::RollAnswer(int percent) {
     RollPercents.push_back(percent);
     return static_cast<ReplyKind>(Next(Rolls, 1));
@@ -63,14 +58,6 @@ std::string ScriptedEngine::RequestIdeaVerdict(ReplyKind answerFlag) {
     Last = answerFlag == ReplyKind::Answer ? "is verdict " + number + "."
                                            : "\t Refusal " + number + ".";
     return Last;
-}
-
-std::string ScriptedEngine::RequestInspiration() {
-    return "\tInspiration number " + std::to_string(++Inspirations) + ".";
-}
-
-std::string ScriptedEngine::PickGuidance() {
-    return "Suggestion " + std::to_string(++Guidances);
 }
 
 std::string Quoted(const std::string& entry) {
@@ -141,12 +128,6 @@ void MirrorDriver::Type(const std::string& text) {
     }
 }
 
-std::string MirrorDriver::Help(MirrorControl control) {
-    mirror->MouseMove(control);
-    mirror->TimerFired(TimerId::MirrorHover);
-    return Text(MirrorControl::txtNote);
-}
-
 std::string MirrorDriver::Shown(const std::string& control) const {
     const std::string dump = mirror->Dump();
     const auto start = dump.find("\n" + control + ": ");
@@ -168,11 +149,6 @@ std::string MirrorDriver::Kept() const {
     return buffers
                ? std::to_string(buffers->Buffers.PairCount) + ":" + buffers->Buffers.DialogueText
                : "none";
-}
-
-void MirrorDriver::StartConverse() {
-    mirror->StartWindow();
-    mirror->Click(MirrorControl::cmdConverse);
 }
 
 } // namespace veyrant::testing
