@@ -56,7 +56,7 @@ TEST(MirrorKeysCount, MarkAndInstructionFollowTheLaggingCount) {
 }
 
 // The key record takes the time and code of every key but Enter and Backspace.
-TEST_F(MirrorKeys, ProtectedHeadCaretMovesAndTheKeyRecord) {
+TEST_F(MirrorKeys, ProtectedHeadCaretMovesTheKeyRecordFocusAndFont) {
     StartConverse();
     Clock.Seconds = 100.5f;
     Type("abcdefghij"); // caret at 12, length 12
@@ -83,6 +83,26 @@ TEST_F(MirrorKeys, ProtectedHeadCaretMovesAndTheKeyRecord) {
     EXPECT_EQ(Engine.KeyCodes,
               (std::vector<int>{'a', 'b', 'c', 'd', 'e', 'f', 'g', 'h', 'i', 'j', 0xe9}));
     EXPECT_TRUE(Engine.KeyTimes.front() == 100.5f && Engine.KeyTimes.back() == 101.25f);
+    // Focus returns to the entry box, a mouse release leaves nothing selected, and a right press
+    // toggles the Write font.
+    Enter();
+    mirror->FocusGained(txtSaved);
+    EXPECT_EQ(mirror->Controls().Focus, txtMirror);
+    mirror->FocusLost(txtMirror);
+    EXPECT_EQ(mirror->Controls().Focus, txtMirror);
+    Type("select me");
+    mirror->CaretMoved(txtMirror, 4, 5);
+    mirror->MouseUp(txtMirror, MouseButton::Left);
+    EXPECT_EQ(Box(txtMirror).SelectionLength, 0);
+    EXPECT_TRUE(Box(txtMirror).FontSize == 12 && Box(txtMirror).FontBold);
+    mirror->MouseDown(txtMirror, MouseButton::Right);
+    EXPECT_EQ(Layer.Boxes.back().Title, "Change Font Size");
+    EXPECT_EQ(App.UserSettings.WriteFontStep, 2);
+    EXPECT_TRUE(Box(txtSaved).FontSize == 13.5 && !Box(txtResponse).FontBold);
+    // The focus rule stands down while the program is ending.
+    App.ClosingState = ClosingStates::Exiting;
+    mirror->FocusGained(txtSaved);
+    EXPECT_EQ(mirror->Controls().Focus, txtSaved);
 }
 
 TEST_F(MirrorKeys,
@@ -128,29 +148,6 @@ TEST_F(MirrorKeys,
     EXPECT_TRUE(State().EntryFit == EntryLength::Fits && State().EntryCount == 137);
     EXPECT_EQ(Text(txtResponse), view);
     EXPECT_EQ(Box(txtResponse).Background, Colour::ColourReady);
-}
-
-// Focus returns to the entry box, a mouse release leaves nothing selected, and a right press
-// toggles the Write font.
-TEST_F(MirrorKeys, TheEntryBoxKeepsFocusNoSelectionAndTogglesItsFont) {
-    StartConverse();
-    mirror->FocusGained(txtSaved);
-    EXPECT_EQ(mirror->Controls().Focus, txtMirror);
-    mirror->FocusLost(txtMirror);
-    EXPECT_EQ(mirror->Controls().Focus, txtMirror);
-    Type("select me");
-    mirror->CaretMoved(txtMirror, 4, 5);
-    mirror->MouseUp(txtMirror, MouseButton::Left);
-    EXPECT_EQ(Box(txtMirror).SelectionLength, 0);
-    EXPECT_TRUE(Box(txtMirror).FontSize == 12 && Box(txtMirror).FontBold);
-    mirror->MouseDown(txtMirror, MouseButton::Right);
-    EXPECT_EQ(Layer.Boxes.back().Title, "Change Font Size");
-    EXPECT_EQ(App.UserSettings.WriteFontStep, 2);
-    EXPECT_TRUE(Box(txtSaved).FontSize == 13.5 && !Box(txtResponse).FontBold);
-    // The focus rule stands down while the program is ending.
-    App.ClosingState = ClosingStates::Exiting;
-    mirror->FocusGained(txtSaved);
-    EXPECT_EQ(mirror->Controls().Focus, txtSaved);
 }
 
 // Esc clicks Cancel or Finish, whichever the window offers, and nothing when nothing runs.
