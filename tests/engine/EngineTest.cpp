@@ -131,12 +131,6 @@ protected:
         TheEngine.SeriesSeed = 50000.5f;
         TheEngine.StretchSeeds();
     }
-
-    // The text that composing the message itself gives from the same pool.
-    std::string Composed(std::int16_t message) {
-        TheEngine.Compose(static_cast<MessageNumber>(message));
-        return TheEngine.MessageComposer().ComposedText;
-    }
 };
 
 // A type with no message of its own gives the last composition again (message 0 below).
