@@ -5,6 +5,7 @@
 #include "storage/FileTransaction.h"
 
 #include "LibraryFixture.h"
+#include "support/FaultSweep.h"
 
 #include <set>
 
@@ -64,11 +65,8 @@ TEST(FileTransaction, TheNextStartFinishesOrClearsWhatACrashLeft) {
         }
         FinishInterruptedChanges(AppFolder{temp.Path()});
         Files found;
-        for (const auto& entry : std::filesystem::recursive_directory_iterator(temp.Path())) {
-            if (entry.is_regular_file()) {
-                found.insert(entry.path().lexically_relative(temp.Path()).string() + "=" +
-                             ReadWholeFile(entry.path()));
-            }
+        for (const auto& [file, bytes] : ImageOf(temp.Path())) {
+            found.insert(file + "=" + bytes);
         }
         EXPECT_EQ(found, c.Expected);
     }

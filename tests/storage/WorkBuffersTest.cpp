@@ -1,5 +1,6 @@
 #include "LibraryFixture.h"
 #include "storage/SavedDialogues.h"
+#include "support/FaultSweep.h"
 #include "support/FileFaults.h"
 
 namespace veyrant::testing {
@@ -13,10 +14,10 @@ auto Fields(const DialogueBuffers& b) {
 
 TEST_F(WorkBuffersTest, GuestModeMissingAndDeletedBuffersGiveNoPriorDialogue) {
     ASSERT_TRUE(Buffers.WriteWorkBuffers(Kept));
-    EXPECT_EQ(ReadWholeFile(Folder.Exe() / "savei.tmp") +
-                  ReadWholeFile(Folder.Exe() / "savep.tmp") +
-                  ReadWholeFile(Folder.Exe() / "saves.tmp"),
-              Kept.InspirationText + " 1 \r\n" + Kept.SuggestionText);
+    EXPECT_EQ(ImageOf(Folder.Exe()), (FolderImage{{"savei.tmp", Kept.InspirationText},
+                                                  {"savem.tmp", Kept.DialogueText},
+                                                  {"savep.tmp", " 1 \r\n"},
+                                                  {"saves.tmp", Kept.SuggestionText}}));
     SetFileDate(Folder.Exe() / "savei.tmp", DaysAgo(4));
     UserSettings.GuestMode = 1;
     EXPECT_FALSE(Buffers.ReadWorkBuffers().has_value());
