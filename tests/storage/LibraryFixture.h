@@ -18,6 +18,7 @@
 #include <gtest/gtest.h>
 #include <string>
 #include <sys/resource.h>
+#include <tuple>
 #include <vector>
 
 namespace veyrant::testing {

@@ -15,22 +15,20 @@ protected:
 };
 
 TEST_F(OptionsTest, OkClampsTheLimitsAndEndsTheProgram) {
-    const struct {
-        std::string Files, Days;
-        int StoredFiles, StoredDays;
-    } cases[] = {
+    // The limits typed, and the limits stored.
+    const std::tuple<std::string, std::string, int, int> cases[] = {
         {"", "", 1, 3},       {"0", "2", 1, 3},     {"45", "60", 45, 60},
         {"99", "99", 99, 99}, {"7x", "12 ", 7, 12},
     };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.Files + "/" + c.Days);
+    for (const auto& [files, days, storedFiles, storedDays] : cases) {
+        SCOPED_TRACE(files + "/" + days);
         UserSettings = Settings{};
         Window.Form_Load();
-        Window.txtSetSave_Change(c.Files);
-        Window.txtSetDays_Change(c.Days);
+        Window.txtSetSave_Change(files);
+        Window.txtSetDays_Change(days);
         Window.cmdOK_Click();
         EXPECT_EQ(UserSettings.MaxLibraryFiles * 1000 + UserSettings.MaxLibraryDays,
-                  c.StoredFiles * 1000 + c.StoredDays);
+                  storedFiles * 1000 + storedDays);
         EXPECT_EQ(Windows.WindowEvents.back(), "hide Options");
     }
     EXPECT_TRUE(Exits == 5 && Windows.Boxes.empty());
