@@ -4,12 +4,11 @@
 
 #include "app/Utility.h"
 
+#include "app/AppFixture.h"
 #include "app/LibraryUnlock.h"
 #include "app/LockOptions.h"
 #include "shell/Resize.h"
 #include "storage/LibraryLock.h"
-#include "support/FakeWindowLayer.h"
-#include "support/TempFolder.h"
 
 #include <deque>
 #include <gtest/gtest.h>
@@ -97,10 +96,7 @@ struct FakeKeyring : PassphraseKeeper {
     void Forget() override { Kept.reset(); }
 };
 
-struct LockWorld {
-    TempFolder Temp{std::filesystem::temp_directory_path()};
-    AppFolder Folder{Temp.Path()};
-    FakeWindowLayer Windows;
+struct LockWorld : AppFixture {
     FakeKeyring Keyring;
     int Closed = 0;
     LockOptions Window{Folder, Windows, &Keyring, [this] { ++Closed; },

@@ -1,5 +1,7 @@
 #include "support/FaultSweep.h"
 
+#include <algorithm>
+#include <array>
 #include <cerrno>
 #include <fstream>
 #include <gtest/gtest.h>
@@ -55,15 +57,10 @@ std::optional<std::string> Find(const FolderImage& image, const std::string& fil
 // A group is whole when all its files stand as before, or all as after.
 bool Whole(const std::vector<std::string>& group, const FolderImage& before,
            const FolderImage& after, const FolderImage& now) {
-    const auto all = [&](const FolderImage& side) {
-        for (const auto& file : group) {
-            if (Find(now, file) != Find(side, file)) {
-                return false;
-            }
-        }
-        return true;
-    };
-    return all(before) || all(after);
+    return std::ranges::any_of(std::array{&before, &after}, [&](const FolderImage* side) {
+        return std::ranges::all_of(
+            group, [&](const std::string& file) { return Find(now, file) == Find(*side, file); });
+    });
 }
 
 std::vector<std::string> Findings(const FolderImage& before, const FolderImage& after,
@@ -100,13 +97,9 @@ std::vector<std::string> Findings(const FolderImage& before, const FolderImage& 
 
 bool Told(const std::vector<MessageBoxRequest>& boxes, int number) {
     const std::string error = "Error " + std::to_string(number);
-    for (const auto& box : boxes) {
-        if (box.Title.find(error) != std::string::npos ||
-            box.Text.find(error) != std::string::npos) {
-            return true;
-        }
-    }
-    return false;
+    return std::ranges::any_of(boxes, [&](const MessageBoxRequest& box) {
+        return (box.Title + "\n" + box.Text).find(error) != std::string::npos;
+    });
 }
 
 // A fresh run of the path, acting with the faults the arm puts in.
