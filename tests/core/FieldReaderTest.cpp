@@ -54,9 +54,8 @@ TEST(FieldReader, FailuresCarryTheirNumbers) {
 
 // Strings quoted or bare, the limits of each width, and an empty field between commas as zero.
 TEST(FieldReader, StringsQuotedOrBareAndTheLimitsOfEachWidth) {
-    FieldReader reader(
-        "\"Parity\", \"a, b\",\"\"\r\n  Liberation Serif  \r\nx,7\r\n\"Tail\" junk,8,"
-        "32767,-32768,,2147483647,-2147483648");
+    FieldReader reader("\"Parity\", \"a, b\",\"\"\r\n  Liberation Serif  \r\nx,7\r\n\"Tail\" "
+                       "junk,8,32767,-32768,,2147483647,-2147483648");
     for (const char* expected : {"Parity", "a, b", "", "Liberation Serif"}) {
         EXPECT_EQ(reader.ReadString(), expected);
     }

@@ -3,12 +3,11 @@
 
 #include "printing/LibraryMarkdown.h"
 
+#include "core/WholeFile.h"
 #include "support/FakeClock.h"
 #include "support/TempFolder.h"
 
-#include <array>
-#include <cstdio>
-#include <fstream>
+#include <cstdlib>
 #include <gtest/gtest.h>
 
 namespace veyrant::testing {
@@ -16,33 +15,24 @@ namespace {
 
 std::string CommonMarkHtml(const std::string& markdown) {
     TempFolder folder;
-    std::ofstream(folder / "d.md", std::ios::binary) << markdown;
-    const std::string command = "cmark '" + (folder / "d.md").string() + "'";
-    std::string html;
-    FILE* pipe = popen(command.c_str(), "r");
-    std::array<char, 4096> chunk{};
-    for (std::size_t got; (got = fread(chunk.data(), 1, chunk.size(), pipe)) > 0;) {
-        html.append(chunk.data(), got);
-    }
-    EXPECT_EQ(pclose(pipe), 0) << "cmark is installed by scripts/install-deps";
-    return html;
+    WriteWholeFile(folder / "d.md", markdown);
+    const std::string command =
+        "cmark '" + (folder / "d.md").string() + "' > '" + (folder / "d.html").string() + "'";
+    EXPECT_EQ(std::system(command.c_str()), 0) << "cmark is installed by scripts/install-deps";
+    return ReadWholeFile(folder / "d.html");
 }
 
 TEST(LibraryMarkdown, ADialogueReadsAsTheUserWroteIt) {
-    const std::string dialogue = "\r\n\r\n\t\x93Is # a *star* <b> & [link](x)?\x94\r\n\t"
-                                 "1. Not a list, \\ nor `code`.\r\n\r\n"
-                                 "\t\x93Suppose it rains.\x94\r\n\tYour idea \x93Stay in.\x94 Yes."
-                                 "\r\n\r\n\t\x93- A comment, caf\xE9.\x94";
+    const std::string dialogue =
+        "\r\n\r\n\t\x93Is # a *star* <b> & [link](x)?\x94\r\n\t1. Not a list, \\ nor "
+        "`code`.\r\n\r\n\t\x93Suppose it rains.\x94\r\n\tYour idea \x93Stay in.\x94 "
+        "Yes.\r\n\r\n\t\x93- A comment, caf\xE9.\x94";
     EXPECT_EQ(CommonMarkHtml(DialogueMarkdown(FakeClock{}.Date, "\t> Begin here.", dialogue)),
-              "<h1>Sunday, 12:00 PM, November 22, 2026</h1>\n"
-              "<h2>Inspiration</h2>\n"
-              "<p>&gt; Begin here.</p>\n"
-              "<h2>Dialogue</h2>\n"
-              "<blockquote>\n<p>“Is # a *star* &lt;b&gt; &amp; [link](x)?”</p>\n</blockquote>\n"
-              "<p>1. Not a list, \\ nor `code`.</p>\n"
-              "<blockquote>\n<p>“Suppose it rains.”</p>\n</blockquote>\n"
-              "<p>Your idea “Stay in.” Yes.</p>\n"
-              "<blockquote>\n<p>“- A comment, café.”</p>\n</blockquote>\n");
+              "<h1>Sunday, 12:00 PM, November 22, 2026</h1>\n<h2>Inspiration</h2>\n<p>&gt; Begin "
+              "here.</p>\n<h2>Dialogue</h2>\n<blockquote>\n<p>“Is # a *star* &lt;b&gt; &amp; "
+              "[link](x)?”</p>\n</blockquote>\n<p>1. Not a list, \\ nor "
+              "`code`.</p>\n<blockquote>\n<p>“Suppose it rains.”</p>\n</blockquote>\n<p>Your idea "
+              "“Stay in.” Yes.</p>\n<blockquote>\n<p>“- A comment, café.”</p>\n</blockquote>\n");
 }
 
 TEST(LibraryMarkdown, TheIndexLinksEachFileLatestFirst) {
@@ -53,11 +43,10 @@ TEST(LibraryMarkdown, TheIndexLinksEachFileLatestFirst) {
                                                "2026-11-23 09.15 (2).md"}));
     EXPECT_EQ(CommonMarkHtml(IndexMarkdown(
                   {{first, names[0], "\tOne *day*."}, {later, names[2], "no tab\r\nsecond line"}})),
-              "<h1>Veyrant Sagrel Dialogue Library</h1>\n<ul>\n"
-              "<li><a href=\"2026-11-23%2009.15%20%282%29.md\">Monday, 9:15 AM, November 23, "
-              "2026</a>: no tab</li>\n"
-              "<li><a href=\"2026-11-22%2012.00.md\">Sunday, 12:00 PM, November 22, 2026</a>: "
-              "One *day*.</li>\n</ul>\n");
+              "<h1>Veyrant Sagrel Dialogue Library</h1>\n<ul>\n<li><a "
+              "href=\"2026-11-23%2009.15%20%282%29.md\">Monday, 9:15 AM, November 23, 2026</a>: no "
+              "tab</li>\n<li><a href=\"2026-11-22%2012.00.md\">Sunday, 12:00 PM, November 22, "
+              "2026</a>: One *day*.</li>\n</ul>\n");
 }
 
 } // namespace

@@ -7,45 +7,36 @@
 namespace veyrant::testing {
 namespace {
 
-// With the fake's widths a body line is full at 18 characters, so 17 is the most that prints.
-struct WrapCase {
-    const char* Name;
-    std::string Text;
-    std::vector<std::string> Lines;
-};
-
+// With the fake's widths a body line is full at 18 characters, so 17 is the most that prints; a
+// text of more lines than a print takes is cut at the thousandth.
 TEST(WrapText, BreaksWhereTheLineIsFull) {
-    const std::vector<WrapCase> cases = {
-        {"at the last blank that fits",
-         "Sundays feel heavy to me",
-         {"Sundays feel", "heavy to me"}},
-        {"after a hyphen", "good-natured-person", {"good-natured-", "person"}},
-        {"inside a hyphenated word", "unexpectedly-self-made", {"unexpectedly-", "self-made"}},
-        {"a word wider than the line is cut",
-         "abcdefghijklmnopqrstuvwxyzabcdefghij",
-         {"abcdefghijklmnopq", "rstuvwxyzabcdefgh", "ij"}},
-        {"seventeen characters fit", "abcdefghijklmnopq", {"abcdefghijklmnopq"}},
-        {"at a line feed, the carriage return dropped", "one\r\ntwo", {"one", "two"}},
-        {"an empty line stays", "one\r\n\r\ntwo", {"one", "", "two"}},
-        {"a tab is ten blanks", "\tOne two three", {"          One two", "three"}},
-        {"a further tab too", "a\tb", {"a          b"}},
-        {"trailing blanks go", "words   \r\nmore  ", {"words", "more"}},
-        {"leading blanks are no break", "\tabcdefghijklmno", {"          abcdefg", "hijklmno"}},
-        {"nothing", "", {}},
+    std::string many;
+    for (int i = 0; i < 1500; ++i) {
+        many += "line\r\n";
+    }
+    const struct {
+        std::string Text;
+        std::vector<std::string> Lines;
+    } cases[] = {
+        {"Sundays feel heavy to me", {"Sundays feel", "heavy to me"}}, // the last blank that fits
+        {"good-natured-person", {"good-natured-", "person"}},          // after a hyphen
+        {"unexpectedly-self-made", {"unexpectedly-", "self-made"}},    // inside a hyphenated word
+        // A word wider than the line is cut.
+        {"abcdefghijklmnopqrstuvwxyzabcdefghij", {"abcdefghijklmnopq", "rstuvwxyzabcdefgh", "ij"}},
+        {"abcdefghijklmnopq", {"abcdefghijklmnopq"}},             // seventeen characters fit
+        {"one\r\ntwo", {"one", "two"}},                           // the carriage return dropped
+        {"one\r\n\r\ntwo", {"one", "", "two"}},                   // an empty line stays
+        {"\tOne two three", {"          One two", "three"}},      // a tab is ten blanks
+        {"a\tb", {"a          b"}},                               // a further tab too
+        {"words   \r\nmore  ", {"words", "more"}},                // trailing blanks go
+        {"\tabcdefghijklmno", {"          abcdefg", "hijklmno"}}, // leading blanks are no break
+        {"", {}},
+        {many, std::vector<std::string>(MaxPrintLines, "line")},
     };
     for (const auto& c : cases) {
         FakePageDevice device;
-        EXPECT_EQ(WrapText(device, c.Text), c.Lines) << c.Name;
+        EXPECT_EQ(WrapText(device, c.Text), c.Lines) << c.Text.substr(0, 40);
     }
-}
-
-TEST(WrapText, TakesAtMostAThousandLines) {
-    std::string text;
-    for (int i = 0; i < 1500; ++i) {
-        text += "line\r\n";
-    }
-    FakePageDevice device;
-    EXPECT_EQ(WrapText(device, text).size(), MaxPrintLines);
 }
 
 } // namespace

@@ -5,24 +5,19 @@
 #include "printing/ExportText.h"
 #include "support/FileFaults.h"
 
-#include <algorithm>
+#include <set>
 #include <sstream>
 
 namespace veyrant::testing {
 namespace {
 
-using RC = ReaderControl;
-
-// The Library's files, both folders, by name.
-std::vector<std::string> Files(const AppFolder& folder) {
-    std::vector<std::string> names;
+// The Library's files, both folders.
+std::set<std::filesystem::directory_entry> Files(const AppFolder& folder) {
+    std::set<std::filesystem::directory_entry> files;
     for (const auto& place : {folder.Isp(), folder.Dlg()}) {
-        for (const auto& entry : std::filesystem::directory_iterator(place)) {
-            names.push_back(place.filename().string() + "/" + entry.path().filename().string());
-        }
+        files.insert(std::filesystem::directory_iterator(place), {});
     }
-    std::sort(names.begin(), names.end());
-    return names;
+    return files;
 }
 
 // Runs a user's steps, one word each: "expand" saves the Knowledge Library's expanded mode, "K/R"
@@ -40,8 +35,7 @@ void Steps(ReaderFixture& t, const std::string& steps) {
         } else if (word == "close") {
             t.App.Links.CloseLibrary();
         } else if (word == "help") {
-            t.App.Write->MouseDown(MirrorControl::cmdHelp, MouseButton::Left);
-            t.App.Write->Click(MirrorControl::cmdHelp);
+            t.Press(MirrorControl::cmdHelp);
         } else if (word == "3days") {
             for (int day = 19; day <= 21; ++day) {
                 t.SaveDialogue(DateTime{2026, 11, day, 9, 30, 0},
@@ -83,8 +77,8 @@ TEST(ReaderActions, MarkExitReopensAtTheMark) {
         // selected rather than show a Dialogue that was never marked.
         {"3days 1:2 mark", 1, " 1  2 ", "1",
          "Veyrant Dialogue Library -- 1/30 Saved/Max -- Nov 21 -- 1/21 Days Old/Max",
-         "1 rows, selected -1, top 0, split back=ListInUse | low \"Dialogue Library | "
-         "\\tDialogues are listed latest-to-earliest, \" back=IndexText | \"Latest\""},
+         "1 rows, selected -1, top 0, split back=ListInUse | low \"Dialogue Library | \\tDialogues "
+         "are listed latest-to-earliest, \" back=IndexText | \"Latest\""},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.Visit);
@@ -107,8 +101,7 @@ TEST(ReaderActions, MarkExitReopensAtTheMark) {
             }
         }
         c.Reopen == "help" ? Steps(t, c.Reopen) : t.Open(c.Reopen[0] - '0');
-        EXPECT_EQ(t.Title() + " | " + t.Lines({RC::List1, RC::txtSpin, RC::cmdNext}),
-                  c.Title + " | " + c.Shown);
+        EXPECT_EQ(t.Shows({RC::List1, RC::txtSpin, RC::cmdNext}), c.Title + " | " + c.Shown);
         // Read.ini's lines are Information, Dialogue, Knowledge, Advanced; Help here reopens
         // the marked Advanced Knowledge Library.
         t.App.Links.CloseLibrary();
@@ -147,8 +140,8 @@ TEST(ReaderActions, MergeShowsTheSectionsTopicsExpanded) {
         EXPECT_EQ(t.Line(RC::txtSpin).substr(0, 5), "high ");
         EXPECT_EQ(t.Lines({RC::List1, RC::cmdPrint, RC::cmdExitM, RC::cmdSelect, RC::txtNote}),
                   "(hidden) | \"Merge\" disabled | \"Mark Exit\" | \"< Index >\" | \"Click "
-                  "'Window' or the text to split the window and show the index. Click 'Index' "
-                  "to clear the window and reset the list.\"");
+                  "'Window' or the text to split the window and show the index. Click 'Index' to "
+                  "clear the window and reset the list.\"");
         EXPECT_EQ(t.App.UserSettings.WindowMode[library], c.Mode);
         EXPECT_TRUE(t.Windows.Boxes.empty() && !t.Windows.Busy && t.Windows.Yields >= 2);
         t.Read().Click(RC::cmdWindow);
@@ -209,31 +202,6 @@ TEST_F(ReaderFixture, OnlyTheAmbrelAndOverflowingEssaysAreRefused) {
     EXPECT_EQ(std::string(merge(4, 0)), "refused at yield 2");
 }
 
-// Print and File hand the open Dialogue on, with its own date; a failed print says so.
-TEST_F(ReaderFixture, PrintAndFileHandTheDialogueOn) {
-    const DateTime saved{2026, 11, 20, 9, 30, 0};
-    const std::string body = "\t\x93Hello.\x94\r\n\tA reply.";
-    SaveDialogue(saved, "\r\n\tMy inspiration.");
-    Open(1);
-    Read().Click(RC::cmdNext);
-    Windows.PrintAnswer = PrintOutcome::Failed;
-    Read().Click(RC::cmdPrint);
-    ASSERT_EQ(Windows.Printed.size(), 1u);
-    const PrintRequest& printed = Windows.Printed[0];
-    EXPECT_EQ(printed.Inspiration + "|" + printed.Dialogue + "|" + printed.Title,
-              "\r\n\tMy inspiration.|" + body + "|Veyrant Dialogue");
-    EXPECT_EQ(FormatDate(printed.ShownDate, "yyyy-mm-dd hh:nn"), "2026-11-20 09:30");
-    EXPECT_TRUE(Windows.BusyWhilePrinting && !Windows.Busy);
-    EXPECT_EQ(Line(RC::cmdPrint), "\"Print\"");
-    EXPECT_EQ(BoxTitles(), std::vector<std::string>{"Print Error"});
-    Read().Click(RC::cmdFile);
-    ASSERT_EQ(Windows.EditorTexts.size(), 1u);
-    EXPECT_EQ(Windows.EditorTexts[0].Text,
-              ExportText(saved, "Inspiration\r\n\r\n\r\n\tMy inspiration.\r\n\r\nDialogue\r\n\r\n" +
-                                    body));
-    EXPECT_EQ(Windows.EditorTexts[0].ProposedFileName, ExportFileName(saved));
-}
-
 // Delete asks first; Yes takes the pair off the disk, lists the Library anew and brings the
 // Write window's Library status up to date.
 TEST_F(ReaderFixture, DeleteTakesTheDialogueOutOfTheLibrary) {
@@ -269,8 +237,8 @@ TEST_F(ReaderFixture, DeleteTakesTheDialogueOutOfTheLibrary) {
     };
     const std::string nothing =
         "Veyrant Dialogue Library -- No Dialogues Saved | 0 rows, selected -1, top 0, split "
-        "back=ListEmpty | \"Latest\" disabled | \"< Index >\" disabled | \"Delete\" disabled | "
-        "low \"Dialogue Library | \\tThere are currently no Dialogues saved in\" back=IndexText | "
+        "back=ListEmpty | \"Latest\" disabled | \"< Index >\" disabled | \"Delete\" disabled | low "
+        "\"Dialogue Library | \\tThere are currently no Dialogues saved in\" back=IndexText | "
         "\"There are no Dialogues saved in the Library.\"";
     EXPECT_EQ(empty(), nothing);
     // Keys and a click that reaches a disabled button, as a screen reader's action might, do
@@ -286,12 +254,31 @@ TEST_F(ReaderFixture, DeleteTakesTheDialogueOutOfTheLibrary) {
               std::string::npos);
 }
 
-// A delete the disk refuses shows the program's box with the error's number, and both files of
-// the pair stay with the Dialogue on view.
-TEST_F(ReaderFixture, AFailedDeleteKeepsThePair) {
+// Print and File hand the open Dialogue on, with its own date; a failed print says so. A delete
+// the disk refuses shows the program's box with the error's number, and both files of the pair
+// stay with the Dialogue on view.
+TEST_F(ReaderFixture, PrintFileAndAFailedDeleteKeepTheDialogue) {
+    const DateTime saved{2026, 11, 21, 9, 30, 0};
+    const std::string body = "\t\x93Hello.\x94\r\n\tA reply.";
     Steps(*this, "3days");
     Open(1);
     Read().Click(RC::cmdNext);
+    Windows.PrintAnswer = PrintOutcome::Failed;
+    Read().Click(RC::cmdPrint);
+    ASSERT_EQ(Windows.Printed.size(), 1u);
+    const PrintRequest& printed = Windows.Printed[0];
+    EXPECT_EQ(printed.Inspiration + "|" + printed.Dialogue + "|" + printed.Title,
+              "\r\n\tInspiration of day 21.|" + body + "|Veyrant Dialogue");
+    EXPECT_EQ(FormatDate(printed.ShownDate, "yyyy-mm-dd hh:nn"), "2026-11-21 09:30");
+    EXPECT_TRUE(Windows.BusyWhilePrinting && !Windows.Busy);
+    EXPECT_EQ(Line(RC::cmdPrint), "\"Print\"");
+    Read().Click(RC::cmdFile);
+    ASSERT_EQ(Windows.EditorTexts.size(), 1u);
+    EXPECT_EQ(Windows.EditorTexts[0].Text,
+              ExportText(saved, "Inspiration\r\n\r\n\r\n\tInspiration of day 21.\r\n\r\n"
+                                "Dialogue\r\n\r\n" +
+                                    body));
+    EXPECT_EQ(Windows.EditorTexts[0].ProposedFileName, ExportFileName(saved));
     const std::string shown = Title();
     const auto before = Files(Folder);
     Windows.Answers = {MessageAnswer::Yes};
@@ -302,9 +289,9 @@ TEST_F(ReaderFixture, AFailedDeleteKeepsThePair) {
     }
     // The trash cannot take the pair either, and the user's Yes to deleting it for good meets
     // the same refusal.
-    EXPECT_EQ(BoxTitles(),
-              (std::vector<std::string>{"Delete Dialogue", "Error 70 Moving to the Trash",
-                                        "Dialogue Library Corrupted"}));
+    EXPECT_EQ(BoxTitles(), (std::vector<std::string>{"Print Error", "Delete Dialogue",
+                                                     "Error 70 Moving to the Trash",
+                                                     "Dialogue Library Corrupted"}));
     EXPECT_EQ(Windows.Boxes.back().Text,
               "Error 70 attempting to delete the file from the Dialogue Library. Because the "
               "Library has become corrupted, it is necessary for you to repair it. Open the "

@@ -12,8 +12,8 @@ TEST_F(ReaderFixture, ListsLatestFirstAndStepsIntoDialogues) {
     SaveDialogue({2026, 11, 12, 9, 5, 0}, "no tab here");
     SaveDialogue({2026, 11, 20, 15, 30, 0}, "\tA calm lake.");
     Open(1);
-    EXPECT_EQ(Title(), "Veyrant Dialogue Library -- 2/30 Saved/Max -- Latest, Nov 20 -- "
-                       "Earliest, Nov 12 -- 10/21 Days Old/Max");
+    EXPECT_EQ(Title(), "Veyrant Dialogue Library -- 2/30 Saved/Max -- Latest, Nov 20 -- Earliest, "
+                       "Nov 12 -- 10/21 Days Old/Max");
     EXPECT_EQ(
         Read().Controls().List.Rows,
         (std::vector<std::string>{"26-11-20 -- A calm lake.", "26-11-12 -- < format error >"}));
@@ -27,9 +27,9 @@ TEST_F(ReaderFixture, ListsLatestFirstAndStepsIntoDialogues) {
     EXPECT_EQ(Lines({RC::cmdNext, RC::cmdPrior}), "\"Earlier >>\" | \"<< Later\" disabled");
     EXPECT_EQ(App.ReaderSettings.MarkRows[LibraryId::Dialogue], 0);
     Key(KeyCode::PageDown);
-    EXPECT_EQ(Title(),
-              "Veyrant Dialogue -- 1/2 -- Thursday, 9:05 am, November 12, 2026 -- 10/21 Days "
-              "Old/Max");
+    EXPECT_EQ(
+        Title(),
+        "Veyrant Dialogue -- 1/2 -- Thursday, 9:05 am, November 12, 2026 -- 10/21 Days Old/Max");
     EXPECT_EQ(Line(RC::cmdNext), "\"Earlier >>\" disabled");
     Key(KeyCode::Escape);
     EXPECT_EQ(Line(RC::cmdNext), "\"Latest\"");

@@ -4,12 +4,6 @@ namespace veyrant::testing {
 namespace {
 
 using MC = MirrorControl;
-using RC = ReaderControl;
-
-void Press(ReaderFixture& t, MC button, MouseButton mouse = MouseButton::Left) {
-    t.App.Write->MouseDown(button, mouse);
-    t.App.Write->Click(button);
-}
 
 // Each library button opens its library with the Write window minimised behind the Reader and the
 // backdrop kept, and bringing the Write window back closes the Reader and releases the button.
@@ -32,7 +26,7 @@ TEST_F(ReaderFixture, LibraryButtonsOpenTheReaderAndRestoringClosesIt) {
     App.Back.Load();
     for (const auto& c : cases) {
         SCOPED_TRACE(c.Title);
-        Press(*this, c.Button, c.Mouse);
+        Press(c.Button, c.Mouse);
         EXPECT_EQ(Title(), c.Title);
         EXPECT_EQ(App.Write->State().ReadLibrary, c.ReadLibrary);
         EXPECT_TRUE(App.Reading.ReaderOpen == ReaderOpenState::Open && pressed(c.Button) &&
@@ -41,7 +35,7 @@ TEST_F(ReaderFixture, LibraryButtonsOpenTheReaderAndRestoringClosesIt) {
                     Windows.IsWindowVisible(WindowId::Back) && !Windows.Busy);
         // The same library is not opened twice.
         const auto events = Windows.WindowEvents.size();
-        Press(*this, c.Button, c.Mouse);
+        Press(c.Button, c.Mouse);
         EXPECT_EQ(Windows.WindowEvents.size(), events);
         // The user brings the Write window back.
         Windows.RestoreWindow(WindowId::Mirror);
@@ -52,7 +46,7 @@ TEST_F(ReaderFixture, LibraryButtonsOpenTheReaderAndRestoringClosesIt) {
     }
     EXPECT_TRUE(std::filesystem::exists(Folder.Exe() / "Read.ini"));
     // Closing the Reader's own window brings the Write window back from minimised.
-    Press(*this, MC::cmdKnow);
+    Press(MC::cmdKnow);
     App.Links.CloseLibrary();
     EXPECT_FALSE(Windows.IsWindowMinimised(WindowId::Mirror) || pressed(MC::cmdKnow) ||
                  App.Write->State().ReadLibrary != LibraryId::None);
@@ -63,7 +57,7 @@ TEST_F(ReaderFixture, LibraryButtonsOpenTheReaderAndRestoringClosesIt) {
     App.Write->WindowStateChanged(false);
     EXPECT_TRUE(Windows.IsWindowVisible(WindowId::Back) &&
                 Windows.WindowEvents.back() == "show Mirror");
-    Press(*this, MC::cmdHelp);
+    Press(MC::cmdHelp);
     App.Write->WindowStateChanged(true);
     EXPECT_TRUE(Windows.IsWindowVisible(WindowId::Back));
     // A backdrop the user clicked away stays away when the Write window comes back.

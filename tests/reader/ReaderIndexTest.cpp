@@ -15,8 +15,8 @@ TEST_F(ReaderFixture, SectionsShowSplitAndTopicsInTheSavedMode) {
     App.UserSettings.WindowMode[LibraryId::Knowledge] = 1;
     Open(3);
     EXPECT_EQ(Title() + " | " + Lines({RC::List1, RC::cmdSelect, RC::cmdNext, RC::cmdPrior}),
-              "Veyrant Knowledge Library | 3 rows, selected -1, top 0, split back=ListInUse | "
-              "\"< Index 1 >\" | \"First\" | \"<< Prior\" disabled");
+              "Veyrant Knowledge Library | 3 rows, selected -1, top 0, split back=ListInUse | \"< "
+              "Index 1 >\" | \"First\" | \"<< Prior\" disabled");
     const std::string second = "Veyrant Knowledge Library -- 5/6/7 -- < Second >";
     const std::string c = "Veyrant Knowledge Library -- 6/6/7 -- C";
     const std::string cShown = "(hidden) | high \"C |  | \\tText of row 5. | \" back=ReadingText | "
@@ -76,8 +76,8 @@ TEST_F(ReaderFixture, IndexButtonTogglesTheLists) {
     Open(2);
     Read().Click(RC::cmdNext);
     EXPECT_EQ(Title() + " | " + Lines({RC::cmdPrior, RC::List1}),
-              "Veyrant Information Library -- 1/14/185 -- < Introduction for the New User > | "
-              "\"<< Prior\" disabled | 185 rows, selected 0, top 0, split back=ListInUse");
+              "Veyrant Information Library -- 1/14/185 -- < Introduction for the New User > | \"<< "
+              "Prior\" disabled | 185 rows, selected 0, top 0, split back=ListInUse");
 }
 
 // Index-1 keeps the window split: Space explains instead of toggling. A Topic toggles, and the
@@ -138,8 +138,8 @@ TEST_F(ReaderFixture, HoverHelpMarksTheButtonAndNamesTheKeys) {
     Read().MouseMove(RC::cmdNext);
     EXPECT_EQ(Line(RC::cmdNext), "\"First\" ink=HoverInk");
     Read().TimerFired(TimerId::ReadHover);
-    EXPECT_EQ(Line(RC::txtNote), "\"Display the first Section content. You may also press "
-                                 "the 'Down' arrow or page key.\" ink=HelpInk");
+    EXPECT_EQ(Line(RC::txtNote), "\"Display the first Section content. You may also press the "
+                                 "'Down' arrow or page key.\" ink=HelpInk");
     Read().MouseMove(RC::txtNote);
     EXPECT_EQ(Line(RC::txtNote), "\"Function key alternates for mouse clicks.\" ink=HelpInk");
     Read().TimerFired(TimerId::ReadHover);
