@@ -34,21 +34,6 @@ inline FixedLibrary LibraryOf(const std::vector<std::string>& titles) {
     return library;
 }
 
-// The Information Library's real titles, with a short text for each row.
-inline FixedLibrary InformationCatalogue() {
-    std::istringstream catalogue(ReadWholeFile(std::filesystem::path(VEYRANT_TEST_DATA) / ".." /
-                                               ".." / "data" / "libraries" / "catalogue" /
-                                               "information.txt"));
-    std::vector<std::string> titles;
-    for (std::string line; std::getline(catalogue, line);) {
-        if (line.size() > 4 && line[0] == '[') {
-            titles.push_back(std::string(static_cast<std::size_t>(line[1] - '0'), '\t') +
-                             line.substr(4));
-        }
-    }
-    return LibraryOf(titles);
-}
-
 // A whole program in a fresh folder with small fixed libraries, the clock at noon on 22 November
 // 2026, and the Write window's logic wired to the Reader.
 class ReaderFixture : public ::testing::Test {
@@ -57,7 +42,10 @@ public:
         std::filesystem::create_directories(Folder.Exe());
         App.UserSettings.DisplayOption = 1;
         SetDisplayScale(1, App.Scale);
-        App.Libraries[LibraryId::Information] = InformationCatalogue();
+        // The Information Library's real titles, with a short text for each row.
+        LoadLibraries(App.Libraries);
+        App.Libraries[LibraryId::Information] =
+            LibraryOf(App.Libraries[LibraryId::Information].Titles);
         App.Libraries[LibraryId::Knowledge] =
             LibraryOf({"< First >", "\tA", "\t\tA1", "\tB", "< Second >", "\tC", "< Third >"});
         App.Libraries[LibraryId::Advanced] = LibraryOf({"< Adv One >", "\tX", "\tY"});
