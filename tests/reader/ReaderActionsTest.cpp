@@ -156,11 +156,10 @@ TEST(ReaderActions, MergeShowsTheSectionsTopicsExpanded) {
 // refused the same way once the merging has shown.
 TEST_F(ReaderFixture, OnlyTheAmbrelAndOverflowingEssaysAreRefused) {
     LoadLibraries(App.Libraries);
-    FixedLibrary many;
-    many.Titles.assign(10001, "\tA");
+    // Ten thousand empty Topics pass the size check and overflow the text box only once merged.
+    FixedLibrary many = LibraryOf(std::vector<std::string>(10001, "\tA"));
     many.Titles[0] = "< Many >";
     many.Texts.assign(10001, "");
-    many.LastRow = 10000;
     many.RecordWidth = 10;
     const auto merge = [&](int library, int section) {
         Windows.Boxes.clear();

@@ -59,12 +59,39 @@ TEST_F(ReaderSearch, OverlappingHitsCountAndTheWalkEnds) {
     EXPECT_EQ(Line(RC::cmdSelect), "\"Cancel\"");
 }
 
-// A search of all Dialogues runs latest to earliest and opens the Dialogue it finds; Cancel leaves
-// it on view, and the next search again walks them all. A Dialogue whose dlg/ file is gone is
-// reported as the walk reads it, and its Inspiration is still searched.
+// With a Dialogue open only that Dialogue is searched, and it stays on view. A search of all
+// Dialogues runs latest to earliest and opens the Dialogue it finds; Cancel leaves it on view, and
+// the next search again walks them all. A Dialogue whose dlg/ file is gone
+// is reported as the walk reads it, and its Inspiration is still searched.
 TEST_F(ReaderSearch, AllDialoguesLandOnTheThird) {
     SaveThree();
     Open(1);
+    Read().Click(RC::cmdNext);
+    // With a Dialogue open only that Dialogue is searched, and it stays on view. Hover help names
+    // what Search, File and Print reach from there, and in each fixed library.
+    EXPECT_EQ(Hover() + " " + Hover(RC::cmdFile) + " " + Hover(RC::cmdPrint),
+              "Search for words or phrases within only the displayed Dialogue. Click 'Index' to "
+              "search all Dialogues, latest to earliest. Write the displayed Dialogue into the "
+              "program's text editor. Then you may save it as a text file. Print the displayed "
+              "Dialogue. The pages are laid out for 'Letter' paper.");
+    const std::string title = Title();
+    Search("REPLY");
+    EXPECT_EQ(Title(), title);
+    EXPECT_NE(Read().Dump().find("+5 \"reply\""), std::string::npos) << Read().Dump();
+    EXPECT_EQ(Line(RC::txtNote), "\"Click 'Next' or press 'Enter' to search for the next instance. "
+                                 "Click the text for a new search. Click 'Cancel' to exit search "
+                                 "mode.\"");
+    Read().Click(RC::cmdSearch);
+    EXPECT_EQ(Line(RC::txtNote), "\"The search is complete with 1 instances found, the last "
+                                 "displayed. Click 'Cancel' to exit search mode.\"");
+    // A new search finds nothing there: the heron is in another Dialogue.
+    Read().Click(RC::txtSearch);
+    EXPECT_EQ(Line(RC::cmdSearch), "\"Enter >>\"");
+    Go("heron");
+    EXPECT_EQ(Line(RC::txtSearch), "\"No Text found\"");
+    Read().Click(RC::cmdSelect);
+    EXPECT_EQ(Shows({RC::cmdSelect}), title + " | \"< Index >\"");
+    Read().Click(RC::cmdSelect);
     EXPECT_EQ(Hover(), "Search for words or phrases within all the Dialogues. Starting with the "
                        "latest, Dialogues are opened as the search text is found.");
     Read().Click(RC::cmdSearch);
@@ -91,36 +118,6 @@ TEST_F(ReaderSearch, AllDialoguesLandOnTheThird) {
     EXPECT_EQ(Title().substr(0, 26), "Veyrant Dialogue -- 2/3 --");
     EXPECT_EQ(Windows.Boxes.at(0).Text.substr(0, 60),
               "Error 53 attempting to retrieve a file from the Dialogue Lib");
-}
-
-// With a Dialogue open only that Dialogue is searched, and it stays on view. Hover help names what
-// Search, File and Print reach from there, and in each fixed library.
-TEST_F(ReaderSearch, OpenDialogueAloneIsSearched) {
-    SaveThree();
-    Open(1);
-    Read().Click(RC::cmdNext);
-    EXPECT_EQ(Hover() + " " + Hover(RC::cmdFile) + " " + Hover(RC::cmdPrint),
-              "Search for words or phrases within only the displayed Dialogue. Click 'Index' to "
-              "search all Dialogues, latest to earliest. Write the displayed Dialogue into the "
-              "program's text editor. Then you may save it as a text file. Print the displayed "
-              "Dialogue. The pages are laid out for 'Letter' paper.");
-    const std::string title = Title();
-    Search("REPLY");
-    EXPECT_EQ(Title(), title);
-    EXPECT_NE(Read().Dump().find("+5 \"reply\""), std::string::npos) << Read().Dump();
-    EXPECT_EQ(Line(RC::txtNote), "\"Click 'Next' or press 'Enter' to search for the next instance. "
-                                 "Click the text for a new search. Click 'Cancel' to exit search "
-                                 "mode.\"");
-    Read().Click(RC::cmdSearch);
-    EXPECT_EQ(Line(RC::txtNote), "\"The search is complete with 1 instances found, the last "
-                                 "displayed. Click 'Cancel' to exit search mode.\"");
-    // A new search finds nothing there: the heron is in another Dialogue.
-    Read().Click(RC::txtSearch);
-    EXPECT_EQ(Line(RC::cmdSearch), "\"Enter >>\"");
-    Go("heron");
-    EXPECT_EQ(Line(RC::txtSearch), "\"No Text found\"");
-    Read().Click(RC::cmdSelect);
-    EXPECT_EQ(Shows({RC::cmdSelect}), title + " | \"< Index >\"");
     for (const auto& [library, name] :
          {std::pair{2, "Information"}, {3, "Knowledge"}, {4, "Advanced Knowledge"}}) {
         Reopen(library);
