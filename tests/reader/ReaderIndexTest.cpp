@@ -125,21 +125,27 @@ TEST_F(ReaderFixture, WindowModeTogglesOnlyWithinASectionAndRightClickCyclesTheF
     EXPECT_EQ(Windows.Boxes.back().Title, "Split Window Mode for Section Display");
 }
 
-// The list runs latest first; a damaged inspiration lists as a format error; Latest opens the
-// newest Dialogue with its age, and stepping goes on to the earlier one.
+// The list runs latest first; a damaged inspiration lists as a format error, a long one is cut;
+// Latest opens the newest Dialogue with its age, and stepping goes on to the earlier one.
 TEST_F(ReaderFixture, ListsLatestFirstAndStepsIntoDialogues) {
     SaveDialogue({2026, 11, 12, 9, 5, 0}, "no tab here");
     SaveDialogue({2026, 11, 20, 15, 30, 0}, "\tA calm lake.");
+    SaveDialogue({2026, 11, 10, 8, 0, 0}, "\t" + std::string(200, 'w'));
     Open(1);
-    EXPECT_EQ(Title(), "Veyrant Dialogue Library -- 2/30 Saved/Max -- Latest, Nov 20 -- Earliest, "
-                       "Nov 12 -- 10/21 Days Old/Max");
-    EXPECT_EQ(
-        Read().Controls().List.Rows,
-        (std::vector<std::string>{"26-11-20 -- A calm lake.", "26-11-12 -- < format error >"}));
+    EXPECT_EQ(Title(), "Veyrant Dialogue Library -- 3/30 Saved/Max -- Latest, Nov 20 -- Earliest, "
+                       "Nov 10 -- 12/21 Days Old/Max");
+    const auto& rows = Read().Controls().List.Rows;
+    ASSERT_EQ(rows.size(), 3u);
+    EXPECT_EQ(rows[0] + " | " + rows[1], "26-11-20 -- A calm lake. | 26-11-12 -- < format error >");
+    // Rows too wide for the list are cut and marked; those that fit stand whole.
+    EXPECT_TRUE(rows[2].starts_with("26-11-10 -- www") && rows[2].ends_with("w...")) << rows[2];
+    const int listWidth = Read().Controls()[RC::List1].Width;
+    EXPECT_LE(Windows.TextWidthTwips("", 12, true, false, "<" + rows[2]), listWidth);
+    EXPECT_GT(Windows.TextWidthTwips("", 12, true, false, "<" + rows[2] + "ww"), listWidth);
     EXPECT_EQ(Lines({RC::cmdNext, RC::cmdSearch}), "\"Latest\" | \"Search\"");
     Read().Click(RC::cmdNext);
     EXPECT_EQ(Title(),
-              "Veyrant Dialogue -- 2/2 -- Friday, 3:30 pm, November 20, 2026 -- 2/21 Days Old/Max");
+              "Veyrant Dialogue -- 3/3 -- Friday, 3:30 pm, November 20, 2026 -- 2/21 Days Old/Max");
     EXPECT_EQ(Read().Controls()[RC::txtSpin].Text,
               "Friday, 3:30 pm, November 20, 2026\r\n\r\nInspiration\r\n\r\n\tA calm "
               "lake.\r\n\r\nDialogue\r\n\r\n\t\x93Hello.\x94\r\n\tA reply.");
@@ -148,24 +154,12 @@ TEST_F(ReaderFixture, ListsLatestFirstAndStepsIntoDialogues) {
     Key(KeyCode::PageDown);
     EXPECT_EQ(
         Title(),
-        "Veyrant Dialogue -- 1/2 -- Thursday, 9:05 am, November 12, 2026 -- 10/21 Days Old/Max");
+        "Veyrant Dialogue -- 2/3 -- Thursday, 9:05 am, November 12, 2026 -- 10/21 Days Old/Max");
+    Key(KeyCode::PageDown);
     EXPECT_EQ(Line(RC::cmdNext), "\"Earlier >>\" disabled");
     Key(KeyCode::Escape);
     EXPECT_EQ(Line(RC::cmdNext), "\"Latest\"");
     EXPECT_EQ(App.ReaderSettings.MarkRows[LibraryId::Dialogue], -1);
-}
-
-// Rows too wide for the list are cut and marked; those that fit stand whole.
-TEST_F(ReaderFixture, LongInspirationsAreCutToTheListWidth) {
-    SaveDialogue({2026, 11, 20, 15, 30, 0}, "\t" + std::string(200, 'w'));
-    Open(1);
-    const std::string row = Read().Controls().List.Rows.at(0);
-    ASSERT_GT(row.size(), 3u);
-    EXPECT_EQ(row.substr(row.size() - 3), "...");
-    EXPECT_EQ(row.rfind("26-11-20 -- www", 0), 0u);
-    const int listWidth = Read().Controls()[RC::List1].Width;
-    EXPECT_LE(Windows.TextWidthTwips("", 12, true, false, "<" + row), listWidth);
-    EXPECT_GT(Windows.TextWidthTwips("", 12, true, false, "<" + row + "ww"), listWidth);
 }
 
 // A file in the Library whose name holds no date the program can read opens as a damaged
