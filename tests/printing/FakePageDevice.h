@@ -33,16 +33,16 @@ public:
     }
     void SetCurrentX(double inches) override { x_ = inches; }
     void Print(std::string_view text) override {
-        Drawings.push_back({Pages, LinesPerPage.back(), x_, font_, std::string(text)});
+        Drawings.push_back({Pages, line_, x_, font_, std::string(text)});
         x_ += TextWidth(text);
     }
     void EndLine() override {
-        ++LinesPerPage.back();
+        ++line_;
         x_ = 0;
     }
     void NewPage() override {
         ++Pages;
-        LinesPerPage.push_back(0);
+        line_ = 0;
         x_ = 0;
     }
     void EndDocument() override { ++Ended; }
@@ -68,10 +68,10 @@ public:
     std::vector<Drawn> Drawings;
     int Pages = 1;
     int Ended = 0;
-    std::vector<int> LinesPerPage{0};
 
 private:
     PrintFont font_;
+    int line_ = 0; // lines ended on this page
     double x_ = 0;
 };
 

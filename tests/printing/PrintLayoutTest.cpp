@@ -10,17 +10,16 @@
 namespace veyrant::testing {
 namespace {
 
-// Lines of the fake's widths, each short enough to print as it stands.
-std::string Lines(const std::string& word, int count) {
-    std::string text;
-    for (int i = 1; i <= count; ++i) {
-        text += (i > 1 ? "\r\n" : "") + word + " " + std::to_string(i);
-    }
-    return text;
-}
-
+// A Dialogue of numbered lines, each short enough with the fake's widths to print as it stands.
 PrintRequest Dialogue(int inspirationLines, int dialogueLines) {
-    return {Lines("Inspire", inspirationLines), Lines("Entry", dialogueLines), "Veyrant Dialogue",
+    const auto lines = [](const std::string& word, int count) {
+        std::string text;
+        for (int i = 1; i <= count; ++i) {
+            text += (i > 1 ? "\r\n" : "") + word + " " + std::to_string(i);
+        }
+        return text;
+    };
+    return {lines("Inspire", inspirationLines), lines("Entry", dialogueLines), "Veyrant Dialogue",
             DateTime{2026, 11, 22, 21, 40, 0}};
 }
 

@@ -11,6 +11,8 @@
 namespace veyrant::testing {
 namespace {
 
+using MC = MirrorControl;
+
 // The Library's files, both folders.
 std::set<std::filesystem::directory_entry> Files(const AppFolder& folder) {
     std::set<std::filesystem::directory_entry> files;
@@ -164,15 +166,14 @@ TEST_F(ReaderFixture, OnlyTheAmbrelAndOverflowingEssaysAreRefused) {
     const auto merge = [&](int library, int section) {
         Windows.Boxes.clear();
         Steps(*this, std::to_string(library) + ":" + std::to_string(section));
-        const std::string sectionText = Read().Controls()[RC::txtSpin].Text;
-        const std::string sectionTitle = Title();
+        const std::string shown = Read().Controls()[RC::txtSpin].Text + Title();
         const int yields = Windows.Yields;
         Read().Click(RC::cmdPrint);
         const bool refused = !Windows.Boxes.empty();
         if (refused) {
             EXPECT_EQ(Windows.Boxes[0].Title + ": " + Windows.Boxes[0].Text,
                       "Cannot Merge: This Essay is too long to be merged.");
-            EXPECT_EQ(Read().Controls()[RC::txtSpin].Text + Title(), sectionText + sectionTitle);
+            EXPECT_EQ(Read().Controls()[RC::txtSpin].Text + Title(), shown);
             EXPECT_EQ(Line(RC::cmdPrint) + Line(RC::txtSpin).substr(0, 4),
                       "\"Merge\" disabledlow ");
             EXPECT_FALSE(Windows.Busy);
@@ -230,9 +231,8 @@ TEST_F(ReaderFixture, DeleteTakesTheDialogueOutOfTheLibrary) {
                 box.DefaultButton == 2);
     EXPECT_TRUE(Files(Folder).empty());
     const auto empty = [&] {
-        return Title() + " | " +
-               Lines({RC::List1, RC::cmdNext, RC::cmdSelect, RC::cmdDelete, RC::txtSpin,
-                      RC::txtNote});
+        return Shows(
+            {RC::List1, RC::cmdNext, RC::cmdSelect, RC::cmdDelete, RC::txtSpin, RC::txtNote});
     };
     const std::string nothing =
         "Veyrant Dialogue Library -- No Dialogues Saved | 0 rows, selected -1, top 0, split "
@@ -251,6 +251,20 @@ TEST_F(ReaderFixture, DeleteTakesTheDialogueOutOfTheLibrary) {
     EXPECT_EQ(Windows.Boxes.size(), 3u);
     EXPECT_NE(status().find("There are currently no Dialogues saved in the Library."),
               std::string::npos);
+    // A file whose name holds no date the program can read opens as a damaged Dialogue: the scan
+    // names it, the opening says it cannot be retrieved, and the Reader goes on.
+    for (const auto& folder : {Folder.Isp(), Folder.Dlg()}) {
+        WriteWholeFile(folder / "99999999.999", "\tA name out of any calendar.");
+    }
+    Windows.Boxes.clear();
+    Reopen(1);
+    ASSERT_EQ(Read().Controls().List.Rows.size(), 1u);
+    ASSERT_EQ(Windows.Boxes.size(), 1u);
+    Read().Click(RC::cmdNext);
+    EXPECT_EQ(BoxTitles(),
+              (std::vector<std::string>{"Error 13 Dialogue Library File Names",
+                                        "Dialogue Library Corrupted -- Cannot Retrieve"}));
+    EXPECT_EQ(Line(RC::cmdDelete), "\"Delete\"");
 }
 
 // Print and File hand the open Dialogue on, with its own date; a failed print says so. A delete
@@ -302,6 +316,121 @@ TEST_F(ReaderFixture, PrintFileAndAFailedDeleteKeepTheDialogue) {
     Read().Click(RC::cmdDelete);
     EXPECT_EQ(Windows.Boxes.back().Title, "Dialogue Library Corrupted");
     EXPECT_EQ(Line(RC::List1), "2 rows, selected -1, top 0, split back=ListInUse");
+}
+
+// Each library button opens its library with the Write window minimised behind the Reader and the
+// backdrop kept, and bringing the Write window back closes the Reader and releases the button.
+TEST_F(ReaderFixture, LibraryButtonsOpenTheReaderAndRestoringClosesIt) {
+    const struct {
+        MC Button;
+        MouseButton Mouse;
+        const char* Title;
+        LibraryId ReadLibrary;
+    } cases[] = {
+        {MC::cmdHelp, MouseButton::Left, "Veyrant Information Library", LibraryId::Information},
+        {MC::cmdKnow, MouseButton::Left, "Veyrant Knowledge Library", LibraryId::Knowledge},
+        {MC::cmdKnow, MouseButton::Right, "Veyrant Advanced Knowledge Library",
+         LibraryId::Advanced},
+        {MC::cmdRetrieve, MouseButton::Left, "Veyrant Dialogue Library -- No Dialogues Saved",
+         LibraryId::Dialogue},
+    };
+    const auto pressed = [&](MC button) { return App.Write->Controls()[button].PressedIn; };
+    Windows.ShowWindow(WindowId::Back);
+    App.Back.Load();
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.Title);
+        Press(c.Button, c.Mouse);
+        EXPECT_EQ(Title(), c.Title);
+        EXPECT_EQ(App.Write->State().ReadLibrary, c.ReadLibrary);
+        EXPECT_TRUE(App.Reading.ReaderOpen == ReaderOpenState::Open && pressed(c.Button) &&
+                    Windows.IsWindowMinimised(WindowId::Mirror) &&
+                    Windows.IsWindowVisible(WindowId::Read) &&
+                    Windows.IsWindowVisible(WindowId::Back) && !Windows.Busy);
+        // The same library is not opened twice.
+        const auto events = Windows.WindowEvents.size();
+        Press(c.Button, c.Mouse);
+        EXPECT_EQ(Windows.WindowEvents.size(), events);
+        // The user brings the Write window back.
+        Windows.RestoreWindow(WindowId::Mirror);
+        App.Write->WindowStateChanged(false);
+        EXPECT_TRUE(App.Reading.ReaderOpen == ReaderOpenState::Closed && !pressed(c.Button) &&
+                    !Windows.IsWindowVisible(WindowId::Read) &&
+                    App.Write->State().ReadLibrary == LibraryId::None);
+    }
+    // Closing the Reader's own window brings the Write window back from minimised.
+    Press(MC::cmdKnow);
+    App.Links.CloseLibrary();
+    EXPECT_FALSE(Windows.IsWindowMinimised(WindowId::Mirror) || pressed(MC::cmdKnow) ||
+                 App.Write->State().ReadLibrary != LibraryId::None);
+    // The backdrop goes when the user minimises the Write window, and comes back with it; while
+    // a library is open it stays behind the Read window.
+    App.Write->WindowStateChanged(true);
+    EXPECT_FALSE(Windows.IsWindowVisible(WindowId::Back));
+    App.Write->WindowStateChanged(false);
+    EXPECT_TRUE(Windows.IsWindowVisible(WindowId::Back) &&
+                Windows.WindowEvents.back() == "show Mirror");
+    Press(MC::cmdHelp);
+    App.Write->WindowStateChanged(true);
+    EXPECT_TRUE(Windows.IsWindowVisible(WindowId::Back));
+    // A backdrop the user clicked away stays away when the Write window comes back.
+    App.Back.MouseDown();
+    Windows.RestoreWindow(WindowId::Mirror);
+    App.Write->WindowStateChanged(false);
+    EXPECT_FALSE(Windows.IsWindowVisible(WindowId::Back));
+}
+
+// The pointer on the bare background of the Write or the Read window: with the backdrop hidden
+// each window's note tells how to bring it back, for seven ticks; with the backdrop up it says
+// nothing of it and silences the backdrop's own hint. Any button there restores the backdrop.
+TEST(BackgroundHelp, TellsHowToRestoreAHiddenBackdropOnEitherWindow) {
+    for (const bool onReader : {false, true}) {
+        SCOPED_TRACE(onReader ? "Read" : "Write");
+        ReaderFixture t;
+        t.App.Back.Load();
+        t.Windows.ShowWindow(WindowId::Back);
+        if (onReader) {
+            t.Open(3);
+        }
+        const TimerId timer = onReader ? TimerId::ReadHover : TimerId::MirrorHover;
+        const auto move = [&] {
+            onReader ? t.Read().MouseMove(RC::Window) : t.App.Write->MouseMove(MC::Panel1);
+        };
+        const auto tick = [&] {
+            onReader ? t.Read().TimerFired(timer) : t.App.Write->TimerFired(timer);
+        };
+        const auto note = [&] {
+            return onReader ? t.Read().Controls()[RC::txtNote].Text
+                            : t.App.Write->Controls()[MC::txtNote].Text;
+        };
+        const std::string instruction = note();
+        t.App.Back.MouseMove();
+        t.App.Back.TimerFired();
+        ASSERT_TRUE(t.App.Back.HintShowing());
+        move();
+        EXPECT_FALSE(t.App.Back.HintShowing());
+        tick();
+        EXPECT_EQ(note(), instruction);
+        t.App.Back.MouseDown();
+        ASSERT_FALSE(t.Windows.IsWindowVisible(WindowId::Back));
+        move();
+        EXPECT_EQ(t.Windows.Timers.at(timer), 1250);
+        tick();
+        EXPECT_EQ(note(), "Click to restore the background that surrounds the window.");
+        // Further moves over the same place neither restart the count nor the help.
+        const auto starts = t.Windows.TimerStarts[timer];
+        move();
+        EXPECT_EQ(t.Windows.TimerStarts[timer], starts);
+        for (int ticks = 0; ticks < 7; ++ticks) {
+            tick();
+        }
+        EXPECT_EQ(note(), instruction);
+        for (const auto button : {MouseButton::Left, MouseButton::Right, MouseButton::Middle}) {
+            t.App.Back.MouseDown();
+            onReader ? t.Read().MouseDown(RC::Window, button)
+                     : t.App.Write->MouseDown(MC::Window, button);
+            EXPECT_TRUE(t.Windows.IsWindowVisible(WindowId::Back));
+        }
+    }
 }
 
 } // namespace

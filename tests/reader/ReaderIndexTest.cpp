@@ -162,23 +162,5 @@ TEST_F(ReaderFixture, ListsLatestFirstAndStepsIntoDialogues) {
     EXPECT_EQ(App.ReaderSettings.MarkRows[LibraryId::Dialogue], -1);
 }
 
-// A file in the Library whose name holds no date the program can read opens as a damaged
-// Dialogue: the box says so and the Reader goes on.
-TEST_F(ReaderFixture, ANameWithNoDateOpensAsADamagedDialogue) {
-    for (const auto& folder : {Folder.Isp(), Folder.Dlg()}) {
-        std::filesystem::create_directories(folder);
-        WriteWholeFile(folder / "99999999.999", "\tA name out of any calendar.");
-    }
-    Open(1);
-    ASSERT_EQ(Read().Controls().List.Rows.size(), 1u);
-    ASSERT_EQ(Windows.Boxes.size(), 1u);
-    Read().Click(RC::cmdNext);
-    // The scan has named the file already; the opening says it cannot be retrieved.
-    EXPECT_EQ(BoxTitles(),
-              (std::vector<std::string>{"Error 13 Dialogue Library File Names",
-                                        "Dialogue Library Corrupted -- Cannot Retrieve"}));
-    EXPECT_EQ(Line(RC::cmdDelete), "\"Delete\"");
-}
-
 } // namespace
 } // namespace veyrant::testing

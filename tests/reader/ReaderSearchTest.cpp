@@ -41,24 +41,6 @@ protected:
     }
 };
 
-// "aa" stands twice in "Aaa"; Next after the last hit ends the walk with the count shown.
-TEST_F(ReaderSearch, OverlappingHitsCountAndTheWalkEnds) {
-    App.Libraries[LibraryId::Advanced] = LibraryOf({"< Aaa >", "\tX"});
-    Open(4);
-    Search("aa");
-    EXPECT_TRUE(Selected("2+2 \"Aa\"") && Read().State().HitCount == 1) << Read().Dump();
-    Read().Click(RC::cmdSearch);
-    EXPECT_TRUE(Selected("3+2 \"aa\"") && Read().State().HitCount == 2) << Read().Dump();
-    EnterInBox();
-    EXPECT_EQ(Lines({RC::txtSearch, RC::txtNote}),
-              "\"Search complete\" | \"The search is complete with 2 instances found, the last "
-              "displayed. Click 'Cancel' to exit search mode.\"");
-    // The last hit stays on view and selected; Enter at the end does nothing more.
-    EXPECT_TRUE(Selected("3+2 \"aa\""));
-    EnterInBox();
-    EXPECT_EQ(Line(RC::cmdSelect), "\"Cancel\"");
-}
-
 // With a Dialogue open only that Dialogue is searched, and it stays on view. A search of all
 // Dialogues runs latest to earliest and opens the Dialogue it finds; Cancel leaves it on view, and
 // the next search again walks them all. A Dialogue whose dlg/ file is gone
@@ -127,11 +109,28 @@ TEST_F(ReaderSearch, AllDialoguesLandOnTheThird) {
     }
 }
 
-// Cancel keeps a found Topic on view; with nothing found it returns to the list. With no Dialogue
-// saved the search cannot start; elsewhere Enter in the box is always taken, and Esc leaves the
-// search from any of its states.
-TEST_F(ReaderSearch, CancelKeepsWhatWasFound) {
-    Open(1);
+// "aa" stands twice in "Aaa"; Next after the last hit ends the walk with the count shown. Cancel
+// keeps a found Topic on view; with nothing found it returns to the list. With no Dialogue saved
+// the search cannot start; elsewhere Enter in the box is always taken, and Esc leaves the search
+// from any of its states. A click on the search box: with text waiting it empties the box; during
+// a search or after it, it starts a new search on the full list. The hover help of Search follows
+// its caption.
+TEST_F(ReaderSearch, HitsCountTheBoxStartsOverAndCancelKeepsWhatWasFound) {
+    App.Libraries[LibraryId::Advanced] = LibraryOf({"< Aaa >", "\tX"});
+    Open(4);
+    Search("aa");
+    EXPECT_TRUE(Selected("2+2 \"Aa\"") && Read().State().HitCount == 1) << Read().Dump();
+    Read().Click(RC::cmdSearch);
+    EXPECT_TRUE(Selected("3+2 \"aa\"") && Read().State().HitCount == 2) << Read().Dump();
+    EnterInBox();
+    EXPECT_EQ(Lines({RC::txtSearch, RC::txtNote}),
+              "\"Search complete\" | \"The search is complete with 2 instances found, the last "
+              "displayed. Click 'Cancel' to exit search mode.\"");
+    // The last hit stays on view and selected; Enter at the end does nothing more.
+    EXPECT_TRUE(Selected("3+2 \"aa\""));
+    EnterInBox();
+    EXPECT_EQ(Line(RC::cmdSelect), "\"Cancel\"");
+    Reopen(1);
     EXPECT_EQ(Line(RC::cmdSearch), "\"Search\" disabled");
     Reopen(2);
     Read().Click(RC::cmdSearch);
@@ -155,18 +154,7 @@ TEST_F(ReaderSearch, CancelKeepsWhatWasFound) {
                                  "for a new search. Click 'Cancel' to exit search mode.\"");
     Key(KeyCode::Escape);
     EXPECT_EQ(Shows({RC::cmdSearch}), "Veyrant Knowledge Library | \"Search\"");
-    // The Dialogue list comes back when a search of all Dialogues found nothing.
-    SaveThree();
-    Reopen(1);
-    Search("zebra");
-    Read().Click(RC::cmdSelect);
-    EXPECT_EQ(Line(RC::cmdNext), "\"Latest\"");
-    EXPECT_EQ(Title().substr(0, 31), "Veyrant Dialogue Library -- 3/3");
-}
-
-// A click on the search box: with text waiting it empties the box; during a search or after it,
-// it starts a new search on the full list. The hover help of Search follows its caption.
-TEST_F(ReaderSearch, ClickOnTheBoxStartsOver) {
+    App.Links.CloseLibrary();
     const struct {
         std::string Before, Caption, Hover;
     } cases[] = {
@@ -199,6 +187,13 @@ TEST_F(ReaderSearch, ClickOnTheBoxStartsOver) {
         EXPECT_EQ(Title(), "Veyrant Knowledge Library -- 1/4/7 -- < First >");
         App.Links.CloseLibrary();
     }
+    // The Dialogue list comes back when a search of all Dialogues found nothing.
+    SaveThree();
+    Open(1);
+    Search("zebra");
+    Read().Click(RC::cmdSelect);
+    EXPECT_EQ(Line(RC::cmdNext), "\"Latest\"");
+    EXPECT_EQ(Title().substr(0, 31), "Veyrant Dialogue Library -- 3/3");
 }
 
 } // namespace
