@@ -11,6 +11,7 @@
 #include "support/SavedDialogue.h"
 #include "support/TempFolder.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <gtest/gtest.h>
 #include <sstream>
@@ -103,9 +104,8 @@ public:
     // The titles of the message boxes shown so far.
     std::vector<std::string> BoxTitles() const {
         std::vector<std::string> titles;
-        for (const auto& box : Windows.Boxes) {
-            titles.push_back(box.Title);
-        }
+        std::ranges::transform(Windows.Boxes, std::back_inserter(titles),
+                               &MessageBoxRequest::Title);
         return titles;
     }
     TempFolder Temp;
