@@ -15,13 +15,13 @@ class LoadedLibraries : public ::testing::Test {
 protected:
     void SetUp() override {
         LoadLibraries(Libraries);
-        for (const auto id : All) {
+        for (const auto id : {LibraryId::Information, LibraryId::Knowledge, LibraryId::Advanced}) {
             BuildLibraryIndex(Libraries[id]);
+            All.push_back(&Libraries[id]);
         }
     }
     FixedLibraries Libraries;
-    static constexpr LibraryId All[] = {LibraryId::Information, LibraryId::Knowledge,
-                                        LibraryId::Advanced};
+    std::vector<const FixedLibrary*> All;
 };
 
 // The rows tell what is so of this program on a Linux desktop, and where to mend the Library.
@@ -34,7 +34,9 @@ TEST_F(LoadedLibraries, RowsTellWhatHoldsOnLinux) {
         {Information, "\t\tRepairing the Dialogue Library", "Dialogue Library Corrupted"},
         {Information, "\t\tCommand Buttons", "Three buttons"},
         {Information, "\t\tCommand Buttons", "while a Suppose or a Comment is under way"},
-        {Information, "\tDialogue Commands", "Continue\x92 have none"},
+        {Information, "\tDialogue Commands",
+         "and \x91"
+         "Continue\x92 have none"},
         {Information, "\tDialogue Commands", "Alt+P"},
         {Information, "\t\tEntry Requirements and Limits", "up to 121 pairs"},
         {Information, "\tLegal Notices", "/usr/share/doc/veyrant-sagrel/copyright"},
@@ -58,8 +60,7 @@ TEST_F(LoadedLibraries, RowsTellWhatHoldsOnLinux) {
 // record without its padding, a text that fills its record keeping its last character.
 TEST_F(LoadedLibraries, ARowComposedIntoAKeptStringReadsAsTheShownText) {
     std::string kept = std::string(5000, 'x');
-    for (const auto id : All) {
-        const FixedLibrary* library = &Libraries[id];
+    for (const FixedLibrary* library : All) {
         for (int row = library->LastRow; row >= 0; --row) {
             const auto index = static_cast<std::size_t>(row);
             ComposeRowText(*library, row, kept);
@@ -85,7 +86,7 @@ TEST_F(LoadedLibraries, ARowComposedIntoAKeptStringReadsAsTheShownText) {
 
 TEST_F(LoadedLibraries, AnEmptyLastTitleEndsTheStartExceptInTheAdvancedLibrary) {
     EXPECT_NO_THROW(CheckLibraryContent(Libraries));
-    for (const auto id : All) {
+    for (const auto id : {LibraryId::Information, LibraryId::Knowledge, LibraryId::Advanced}) {
         FixedLibraries libraries = Libraries;
         libraries[id].Titles.back().clear();
         int number = 0;
