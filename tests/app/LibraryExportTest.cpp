@@ -46,7 +46,11 @@ public:
 };
 
 // The Library of the fixture, with the pairs named by their digits.
+// A Library never written to has no folders yet.
 void PutPairs(const AppFixture& fixture, const std::string& pairs) {
+    if (pairs.empty()) {
+        return;
+    }
     std::filesystem::create_directories(fixture.Folder.Isp());
     std::filesystem::create_directories(fixture.Folder.Dlg());
     for (const char digit : pairs) {
@@ -89,7 +93,7 @@ TEST(LibraryExport, CommandLineWritesReportsAndExits) {
         std::string Output; // "@" stands for the export folder
     };
     const Case cases[] = {
-        {"an empty Library", "", nullptr, 0, 1,
+        {"a Library never written to", "", nullptr, 0, 1,
          "There are no Dialogues saved in the Library, so there is nothing to export.\n"},
         {"one Dialogue", "1", nullptr, 0, 0,
          "@/2026-11-22 12.00.md\n@/index.md\n1 Dialogue written to @.\n\n"

@@ -100,6 +100,8 @@ struct ReadWindow : FreshApplication {
         Window->show();
         Window->activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(Window.get()));
+        // The window's own answer to coming to the front runs before the first key, as it would.
+        QCoreApplication::processEvents();
         Window->Render();
     }
     void Key(Qt::Key key) { QTest::keyClick(Window.get(), key); }
