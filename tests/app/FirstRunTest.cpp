@@ -16,9 +16,9 @@ unsigned Rights(const std::filesystem::path& path) {
     return status.st_mode & 07777;
 }
 
-// The folders are laid down with the faces this machine has, and another account must not read
-// the Dialogues: not on a fresh install, not in a folder an earlier version left open, and not in
-// a file written since.
+// The folders are laid down with the faces this machine has, which the font check passes, and
+// another account must not read the Dialogues: not on a fresh install, not in a folder an earlier
+// version left open, and not in a file written since.
 TEST(FirstRun, LaysDownTheFoldersWithTheFacesThisMachineHasForTheUserAlone) {
     // The rights of the folders and files found (0: the folder is new), and the face missing.
     const std::tuple<unsigned, unsigned, const char*> cases[] = {
@@ -56,6 +56,7 @@ TEST(FirstRun, LaysDownTheFoldersWithTheFacesThisMachineHasForTheUserAlone) {
         }
         const std::string face = *missing == 0 ? "Times New Roman" : "Liberation Serif";
         EXPECT_EQ(fixture.ExeFile("Qdrfonts.ini"), face + "\r\n" + face + " Italic\r\n");
+        EXPECT_TRUE(CheckFonts(fixture.App) && fixture.Windows.Boxes.empty());
     }
 }
 
@@ -68,14 +69,9 @@ TEST(DisplayScale, AnOptionWithNoRowLeavesTheFactorAtZero) {
     }
 }
 
-// Installed faces pass without a word; each face that cannot be selected is named, after one stop
-// box per failed step, and the program ends.
+// Each face that cannot be selected is named, after one stop box per failed step, and the program
+// ends; the faces laid down at the first start pass without a word.
 TEST(FontCheck, EachFaceThatCannotBeSelectedIsNamedAndTheProgramEnds) {
-    AppFixture installed;
-    installed.PutExeFile("Qdrfonts.ini", "Liberation Serif\r\nLiberation Serif Italic\r\n");
-    EXPECT_TRUE(CheckFonts(installed.App));
-    EXPECT_TRUE(installed.Windows.Boxes.empty());
-    EXPECT_FALSE(installed.Windows.Ended);
     const auto slot = [](const std::string& face, const char* file, const std::string& usual) {
         return "Error 380 accessing your font named {" + face + "} associated with the file <" +
                file + "> usually named {" + usual + "}.\r\n\r\n";

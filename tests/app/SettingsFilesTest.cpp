@@ -1,6 +1,8 @@
 #include "app/SettingsFiles.h"
 
 #include "app/AppFixture.h"
+#include "app/StartUp.h"
+#include "support/FileFaults.h"
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
@@ -8,20 +10,13 @@
 namespace veyrant::testing {
 namespace {
 
+// The settings in the order of Tolmira.ini.
 std::vector<int> Values(const Settings& s) {
-    const auto& mode = s.WindowMode;
-    return {s.WriteFontStep,
-            s.ReaderFontStep,
-            mode[LibraryId::Dialogue],
-            mode[LibraryId::Information],
-            mode[LibraryId::Knowledge],
-            mode[LibraryId::Advanced],
-            s.IntroDone,
-            s.IntroDone2,
-            s.DisplayOption,
-            s.MaxLibraryDays,
-            s.MaxLibraryFiles,
-            s.GuestMode};
+    std::vector<int> values{s.WriteFontStep, s.ReaderFontStep};
+    values.insert(values.end(), s.WindowMode.begin(), s.WindowMode.end());
+    values.insert(values.end(), {s.IntroDone, s.IntroDone2, s.DisplayOption, s.MaxLibraryDays,
+                                 s.MaxLibraryFiles, s.GuestMode});
+    return values;
 }
 
 // Each library's open flag and mark, Information, Dialogue, Knowledge, Advanced.
@@ -154,14 +149,24 @@ TEST(SettingsFiles, ReadPlacesKeepTheRequestMadeInMemory) {
 }
 
 // Read.ini is not worth the running Dialogue: when it cannot be written, a box says so and the
-// program goes on.
-TEST(SettingsFiles, AReadFileThatCannotBeWrittenIsToldAndTheProgramGoesOn) {
+// program goes on. The settings are stored at the exit, when the Dialogues are kept: the box says
+// what failed, and the program still ends.
+TEST(SettingsFiles, AFileThatCannotBeWrittenIsToldAndOnlyTheExitEnds) {
     AppFixture fixture;
     std::filesystem::create_directories(fixture.Folder.Exe() / "Read.ini");
     LoadReadSettings(fixture.App);
     SaveReadSettings(fixture.App);
     ASSERT_EQ(fixture.Windows.Boxes.size(), 2u);
     EXPECT_EQ(fixture.Windows.Boxes[1].Title, "Error 75 Storing the Library Places");
+    EXPECT_FALSE(fixture.Windows.Ended);
+    FileFaults faults;
+    faults.FailEvery(FileCall::Write, ENOSPC);
+    ExitProgram(fixture.App);
+    EXPECT_TRUE(fixture.Windows.Ended);
+    const MessageBoxRequest& box = fixture.Windows.Boxes.back();
+    EXPECT_EQ(box.Title, "Error 61 Storing the Settings");
+    EXPECT_NE(box.Text.find("The disk is full."), std::string::npos) << box.Text;
+    EXPECT_NE(box.Text.find("Your Dialogues are not affected."), std::string::npos);
 }
 
 // A pipe would hold the start for ever and a device would fill the memory; a file past the

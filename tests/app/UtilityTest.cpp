@@ -4,12 +4,11 @@
 
 #include "app/Utility.h"
 
+#include "app/AppFixture.h"
 #include "app/LibraryUnlock.h"
 #include "app/LockOptions.h"
 #include "shell/Resize.h"
 #include "storage/LibraryLock.h"
-#include "support/FakeWindowLayer.h"
-#include "support/TempFolder.h"
 
 #include <deque>
 #include <gtest/gtest.h>
@@ -21,25 +20,23 @@ namespace veyrant::testing {
 namespace {
 
 TEST(Utility, EachButtonHidesTheWindowAndLeadsOnOrEnds) {
-    const std::pair<void (Utility::*)(), const char*> cases[] = {
-        {&Utility::cmdOptions_Click, "show Options"},
-        {&Utility::cmdResize_Click, "show Resize"},
-        {&Utility::cmdExport_Click, "show Export"},
-        {&Utility::cmdAbout_Click, nullptr},
-        {&Utility::Form_Close, nullptr},
+    // The window's events; the ways that lead nowhere end the program.
+    using Events = std::vector<std::string>;
+    const std::pair<void (Utility::*)(), Events> cases[] = {
+        {&Utility::cmdOptions_Click, {"hide Utility", "show Options"}},
+        {&Utility::cmdResize_Click, {"hide Utility", "show Resize"}},
+        {&Utility::cmdExport_Click, {"hide Utility", "show Export"}},
+        {&Utility::cmdAbout_Click, {"hide Utility"}},
+        {&Utility::Form_Close, {"hide Utility"}},
     };
-    for (const auto& [press, shown] : cases) {
-        SCOPED_TRACE(shown == nullptr ? "ends" : shown);
+    for (const auto& [press, events] : cases) {
+        SCOPED_TRACE(events.back());
         FakeWindowLayer layer;
         int exits = 0;
         Utility window(layer, "5.0.27.1.3", "2027", [&] { ++exits; });
         (window.*press)();
-        std::vector<std::string> events{"hide Utility"};
-        if (shown != nullptr) {
-            events.emplace_back(shown);
-        }
         EXPECT_EQ(layer.WindowEvents, events);
-        EXPECT_EQ(exits, shown == nullptr ? 1 : 0);
+        EXPECT_EQ(exits, events.size() == 1 ? 1 : 0);
         const bool about = press == &Utility::cmdAbout_Click;
         ASSERT_EQ(layer.Boxes.size(), about ? 1u : 0u);
         if (about) {
@@ -97,10 +94,7 @@ struct FakeKeyring : PassphraseKeeper {
     void Forget() override { Kept.reset(); }
 };
 
-struct LockWorld {
-    TempFolder Temp{std::filesystem::temp_directory_path()};
-    AppFolder Folder{Temp.Path()};
-    FakeWindowLayer Windows;
+struct LockWorld : AppFixture {
     FakeKeyring Keyring;
     int Closed = 0;
     LockOptions Window{Folder, Windows, &Keyring, [this] { ++Closed; },

@@ -7,23 +7,15 @@
 namespace veyrant {
 namespace {
 
-std::vector<int> ReadAllInt16(const std::string& text, int count) {
-    FieldReader reader(text);
-    std::vector<int> values;
-    for (int i = 0; i < count; ++i) {
-        values.push_back(reader.ReadInt16());
-    }
-    return values;
-}
-
 TEST(FieldReader, NumbersReadAlikeInAnySpacingOrSeparator) {
-    const std::vector<int> expected = {1, 2, 0, -1, 21};
-    const std::string forms[] = {
-        " 1 \r\n 2 \r\n 0  -1 \r\n 21 \r\n", "1,2,0,-1,21", "1\n2\n0\n-1\n21",
-        "  1 ,  2,0 , -1\r\n\r\n21",         "1 2 0 -1 21",
-    };
-    for (const auto& form : forms) {
-        EXPECT_EQ(ReadAllInt16(form, 5), expected) << form;
+    for (const std::string form : {" 1 \r\n 2 \r\n 0  -1 \r\n 21 \r\n", "1,2,0,-1,21",
+                                   "1\n2\n0\n-1\n21", "  1 ,  2,0 , -1\r\n\r\n21", "1 2 0 -1 21"}) {
+        FieldReader reader(form);
+        std::vector<int> values;
+        for (int i = 0; i < 5; ++i) {
+            values.push_back(reader.ReadInt16());
+        }
+        EXPECT_EQ(values, (std::vector<int>{1, 2, 0, -1, 21})) << form;
     }
 }
 
@@ -40,11 +32,7 @@ TEST(FieldReader, FailuresCarryTheirNumbers) {
     for (const auto& c : cases) {
         FieldReader reader(c.Text);
         try {
-            if (c.Wide) {
-                reader.ReadInt32();
-            } else {
-                reader.ReadInt16();
-            }
+            c.Wide ? reader.ReadInt32() : reader.ReadInt16();
             ADD_FAILURE() << "no failure for " << c.Text;
         } catch (const ProgramError& error) {
             EXPECT_EQ(error.Number(), c.Error) << c.Text;
@@ -54,9 +42,8 @@ TEST(FieldReader, FailuresCarryTheirNumbers) {
 
 // Strings quoted or bare, the limits of each width, and an empty field between commas as zero.
 TEST(FieldReader, StringsQuotedOrBareAndTheLimitsOfEachWidth) {
-    FieldReader reader(
-        "\"Parity\", \"a, b\",\"\"\r\n  Liberation Serif  \r\nx,7\r\n\"Tail\" junk,8,"
-        "32767,-32768,,2147483647,-2147483648");
+    FieldReader reader("\"Parity\", \"a, b\",\"\"\r\n  Liberation Serif  \r\nx,7\r\n\"Tail\" "
+                       "junk,8,32767,-32768,,2147483647,-2147483648");
     for (const char* expected : {"Parity", "a, b", "", "Liberation Serif"}) {
         EXPECT_EQ(reader.ReadString(), expected);
     }

@@ -26,6 +26,11 @@ TEST_F(MirrorCycle, ConverseEntryIsAcceptedAnsweredAndKept) {
               "Veyrant Sagrel 4.1 -- Written Dialogues of Self-Reflection");
     EXPECT_EQ(Text(txtSaved).substr(0, 39), "Suggestion 1\r\n\r\nDialogue Library Status");
     EXPECT_FALSE(Box(cmdNew).Visible || Box(cmdRemove).Visible || Box(txtMirror).Enabled);
+    // A click on either text of the new Dialogue draws another.
+    Click(txtSaved);
+    EXPECT_EQ(Text(txtSaved).substr(0, 12), "Suggestion 2");
+    Click(txtResponse);
+    EXPECT_EQ(Text(txtResponse), "Inspiration\r\n\tInspiration number 2.");
     Click(cmdConverse);
     EXPECT_EQ(mirror->Controls().Title,
               "Veyrant Sagrel -- Conversation -- Sunday, 12:00 pm, November 22, 2026");
@@ -54,18 +59,15 @@ TEST_F(MirrorCycle, ConverseEntryIsAcceptedAnsweredAndKept) {
               "Type your question or statement. Then press 'Enter' for the Sagrel response.");
 }
 
-TEST_F(MirrorCycle, ClosingTheWindowKeepsARunningDialogueForNextTime) {
+// A remark stays out until kept, and Keep and Remove restore the text exactly. Removing a pair
+// takes it out of the Dialogue, not out of the count that brings the notice, and the notice comes
+// only once the goal is reached and stays out of the Dialogue. Closing the window keeps a running
+// Dialogue for next time, and only a kept pair makes it run.
+TEST_F(MirrorCycle, KeepRemoveAndTheNoticeOnceTheGoalIsReachedEvenWithThePairsRemoved) {
+    Draws.Draws = {0.05f}; // CycleGoal 3
     StartConverse();
     mirror->Unload();
-    EXPECT_EQ(Kept(), "none"); // nothing kept yet
-    Converse(Question);
-    mirror->Unload();
-    EXPECT_EQ(Kept(), "1:" + State().DialogueText);
-    EXPECT_FALSE(Box(txtMirror).Enabled);
-}
-
-TEST_F(MirrorCycle, RemarkStaysOutUntilKeptAndKeepRemoveRestoreTheTextExactly) {
-    StartConverse();
+    EXPECT_EQ(Kept(), "none");
     Engine.Rolls.push_back(0);
     Converse(Question);
     // The first pair left out leaves Cancel and no Display.
@@ -84,22 +86,13 @@ TEST_F(MirrorCycle, RemarkStaysOutUntilKeptAndKeepRemoveRestoreTheTextExactly) {
                              "it, before continuing. Press 'Enter' to continue.");
     Click(cmdRemove);
     EXPECT_EQ(State().DialogueText, kept);
-}
-
-// Removing a pair takes it out of the Dialogue, not out of the count that brings the notice,
-// and the notice comes only once the goal is reached and stays out of the Dialogue.
-TEST_F(MirrorCycle, NoticeComesOnceTheGoalIsReachedEvenWithThePairsRemoved) {
-    Draws.Draws = {0.05f}; // CycleGoal 3
-    StartConverse();
-    for (int cycle = 0; cycle < 3; ++cycle) {
+    for (int cycle = 2; cycle <= 3; ++cycle) {
+        Enter();
         Converse(Question);
         Click(cmdRemove);
-        if (cycle < 2) {
-            Enter();
-        }
     }
     EXPECT_EQ(Engine.RollPercents, (std::vector<int>{25, 25, 25}));
-    EXPECT_EQ(State().PairCount, 0);
+    EXPECT_EQ(State().PairCount, 1);
     Engine.Rolls.push_back(0);
     Enter();
     EXPECT_EQ(Engine.RollPercents.back(), 20);
@@ -108,22 +101,33 @@ TEST_F(MirrorCycle, NoticeComesOnceTheGoalIsReachedEvenWithThePairsRemoved) {
     EXPECT_EQ(Text(txtNote), "Review the message regarding the conversation. Press "
                              "'Enter', then continue typing. Or click 'Finish'.");
     EXPECT_TRUE(State().AwaitingEnter);
-    EXPECT_EQ(State().DialogueText, "");
+    EXPECT_EQ(State().DialogueText, kept);
     // The next Enter draws again and, on a 1, simply begins the entry.
     Enter();
     EXPECT_EQ(Engine.RollPercents.back(), 20);
     EXPECT_FALSE(State().AwaitingEnter);
     EXPECT_EQ(Box(txtResponse).Background, Colour::ColourReady);
+    mirror->Unload();
+    EXPECT_EQ(Kept(), "1:" + kept);
+    EXPECT_FALSE(Box(txtMirror).Enabled);
 }
 
 // Each refusal shows its message and instruction; the entry keeps its text and the caret
-// leaves it only when the entry must begin again.
+// leaves it only when the entry must begin again. Too short is judged before the parser, and
+// typing on clears a message that keeps the entry.
 TEST(MirrorCycleTable, ARejectionShowsItsMessageAndInstruction) {
     const std::string startAgain = "Press 'Enter' to start again.";
     const struct {
         int Status, Method;
         std::string Message, Instruction;
+        std::string Entry = Question;
     } cases[] = {
+        {1, 1,
+         ">> Your entry is too short. Add more detail to clarify its meaning until the display "
+         "status to the right no longer shows 'X'. Or click 'Rewrite' or the text to begin again.",
+         "Lengthen your entry, or click 'Rewrite' to begin again. Press 'Enter' when 'X' no "
+         "longer shows.",
+         "Why me?"},
         {-1, 1, ">> Do not add a quotation mark at the end",
          "Backspace out the quote, then press 'Enter' to continue."},
         {0, 1, ">> Your entry is not punctuated.",
@@ -150,16 +154,24 @@ TEST(MirrorCycleTable, ARejectionShowsItsMessageAndInstruction) {
         driver.mirror->StartWindow();
         driver.Click(c.Method == 2 ? cmdSuppose : cmdConverse);
         driver.Engine.Judgements.push_back({c.Status, c.Status == -100 ? 1 : 2});
-        driver.Converse(Question);
+        driver.Converse(c.Entry);
         EXPECT_EQ(driver.Text(txtResponse).substr(0, c.Message.size()), c.Message);
+        EXPECT_EQ(driver.Engine.CheckedEntries.empty(), c.Entry != Question);
         EXPECT_EQ(driver.Box(txtResponse).Background, Colour::ColourError);
         EXPECT_EQ(driver.Text(txtNote), c.Instruction);
         const bool again = c.Instruction == startAgain;
         EXPECT_EQ(driver.State().AwaitingEnter, again);
         EXPECT_EQ(driver.State().CycleCount + driver.State().PairCount, 0);
-        EXPECT_EQ(driver.Text(txtMirror), Prefix + Question);
+        EXPECT_EQ(driver.Text(txtMirror), Prefix + c.Entry);
         EXPECT_EQ(driver.Box(txtMirror).Caret == 0, again);
-        if (again) { // the next Enter begins the entry again
+        if (!again) {
+            EXPECT_EQ(driver.Box(lblRem).Visible && driver.Box(cmdClear).Enabled,
+                      c.Entry != Question);
+            driver.Type(" Why is it always me who has to call first?");
+            EXPECT_EQ(driver.Box(txtResponse).Background, Colour::ColourReady);
+            driver.Enter();
+            EXPECT_EQ(driver.State().PairCount, 1);
+        } else { // the next Enter begins the entry again
             driver.Enter();
             EXPECT_EQ(driver.Text(txtMirror), Prefix);
             EXPECT_EQ(driver.Box(txtResponse).Background, Colour::ColourReady);
@@ -170,24 +182,6 @@ TEST(MirrorCycleTable, ARejectionShowsItsMessageAndInstruction) {
                                       "the Sagrel response.");
         }
     }
-}
-
-TEST_F(MirrorCycle, TooShortIsJudgedBeforeTheParser) {
-    StartConverse();
-    Converse("Why me?");
-    EXPECT_EQ(Text(txtResponse),
-              ">> Your entry is too short. Add more detail to clarify its meaning until the "
-              "display status to the right no longer shows 'X'. Or click 'Rewrite' or the text "
-              "to begin again.");
-    EXPECT_EQ(Text(txtNote), "Lengthen your entry, or click 'Rewrite' to begin again. "
-                             "Press 'Enter' when 'X' no longer shows.");
-    EXPECT_TRUE(Box(lblRem).Visible && Box(cmdClear).Enabled);
-    EXPECT_TRUE(Engine.CheckedEntries.empty());
-    // Typing on clears the message at once and the entry goes on.
-    Type(" Why is it always me who has to call first?");
-    EXPECT_EQ(Box(txtResponse).Background, Colour::ColourReady);
-    Enter();
-    EXPECT_EQ(State().PairCount, 1);
 }
 
 TEST_F(MirrorCycle, CommentGoesInAtOnceAndHandsOverToConverse) {
@@ -251,24 +245,24 @@ TEST(MirrorComposed, ADialogueOfSeveralCyclesWithTheRealEngine) {
 // An entry that the parser refuses before it reads the sentence keeps the type of the entry
 // before: after a yes-or-no question in Suppose, every such refusal is the yes-or-no one.
 TEST(MirrorComposed, AfterAYesNoQuestionAnEarlyRefusalStaysTheYesNoOne) {
+    MirrorDriver driver(1, MirrorDriver::Replies::Composed);
+    driver.mirror->StartWindow();
+    driver.Click(cmdSuppose);
     for (const char* early : {"Tomorrow will bring happiness for all.", "Tomorrow, maybe, perhaps?",
                               "Is it not so, is it?", "Will tomorrow bring happiness",
                               "Will tomorrow bring happiness\""}) {
         SCOPED_TRACE(early);
-        MirrorDriver driver(1, MirrorDriver::Replies::Composed);
-        driver.mirror->StartWindow();
-        driver.Click(cmdSuppose);
         driver.Converse("Will tomorrow bring happiness for all?");
         ASSERT_EQ(driver.Text(txtResponse), YesNoRefusal);
         driver.Enter();
         driver.Converse(early);
         EXPECT_EQ(driver.Text(txtResponse), YesNoRefusal);
         EXPECT_TRUE(driver.State().AwaitingEnter);
-        // A question the parser reads replaces the type and is accepted.
         driver.Enter();
-        driver.Converse("What would bring happiness to us all?");
-        EXPECT_EQ(driver.State().CycleCount, 1) << driver.Text(txtResponse);
     }
+    // A question the parser reads replaces the type and is accepted.
+    driver.Converse("What would bring happiness to us all?");
+    EXPECT_EQ(driver.State().CycleCount, 1) << driver.Text(txtResponse);
 }
 
 } // namespace

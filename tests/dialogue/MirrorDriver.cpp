@@ -7,29 +7,30 @@
 
 namespace veyrant::testing {
 
+namespace {
+
+// The next item of a script, or the default once the script has run out.
+template <typename Item>
+Item Next(std::deque<Item>& script, Item otherwise) {
+    if (!script.empty()) {
+        otherwise = script.front();
+        script.pop_front();
+    }
+    return otherwise;
+}
+
+} // namespace
+
 EntryJudgement ScriptedEngine::CheckEntry(const std::string& entryText, WriteMethod, int,
                                           SentenceType) {
     CheckedEntries.push_back(entryText);
-    if (Judgements.empty()) {
-        return {EntryVerdict::Accepted, SentenceType::Statement};
-    }
-    const auto judgement = Judgements.front();
-    Judgements.pop_front();
+    const auto judgement = Next(Judgements, {1, 2}); // a statement when the script is empty
     return {static_cast<EntryVerdict>(judgement.Status), static_cast<SentenceType>(judgement.Type)};
-}
-
-void ScriptedEngine::RecordKey(float time, int characterCode) {
-    KeyTimes.push_back(time);
-    KeyCodes.push_back(characterCode);
 }
 
 ReplyKind ScriptedEngine::RollAnswer(int percent) {
     RollPercents.push_back(percent);
-    const int flag = Rolls.empty() ? 1 : Rolls.front();
-    if (!Rolls.empty()) {
-        Rolls.pop_front();
-    }
-    return static_cast<ReplyKind>(flag);
+    return static_cast<ReplyKind>(Next(Rolls, 1));
 }
 
 // As the program's engine does, a type with no message composes nothing and the last text comes
@@ -52,20 +53,11 @@ std::string ScriptedEngine::RequestRemark(SentenceType sentenceType) {
     return Last;
 }
 
-// A chosen idea's verdict continues the sentence that names the idea; a refusal stands alone.
 std::string ScriptedEngine::RequestIdeaVerdict(ReplyKind answerFlag) {
     const std::string number = std::to_string(++Compositions);
     Last = answerFlag == ReplyKind::Answer ? "is verdict " + number + "."
                                            : "\t Refusal " + number + ".";
     return Last;
-}
-
-std::string ScriptedEngine::RequestInspiration() {
-    return "\tInspiration number " + std::to_string(++Inspirations) + ".";
-}
-
-std::string ScriptedEngine::PickGuidance() {
-    return "Suggestion " + std::to_string(++Guidances);
 }
 
 std::string Quoted(const std::string& entry) {
@@ -75,12 +67,7 @@ std::string Quoted(const std::string& entry) {
 }
 
 float ScriptedRandom::Draw() {
-    if (Draws.empty()) {
-        return Random::Draw();
-    }
-    const float draw = Draws.front();
-    Draws.pop_front();
-    return draw;
+    return Draws.empty() ? Random::Draw() : Next(Draws, 0.0f);
 }
 
 MirrorDriver::MirrorDriver(int displayOption, Replies replies)
@@ -141,12 +128,6 @@ void MirrorDriver::Type(const std::string& text) {
     }
 }
 
-std::string MirrorDriver::Help(MirrorControl control) {
-    mirror->MouseMove(control);
-    mirror->TimerFired(TimerId::MirrorHover);
-    return Text(MirrorControl::txtNote);
-}
-
 std::string MirrorDriver::Shown(const std::string& control) const {
     const std::string dump = mirror->Dump();
     const auto start = dump.find("\n" + control + ": ");
@@ -168,11 +149,6 @@ std::string MirrorDriver::Kept() const {
     return buffers
                ? std::to_string(buffers->Buffers.PairCount) + ":" + buffers->Buffers.DialogueText
                : "none";
-}
-
-void MirrorDriver::StartConverse() {
-    mirror->StartWindow();
-    mirror->Click(MirrorControl::cmdConverse);
 }
 
 } // namespace veyrant::testing

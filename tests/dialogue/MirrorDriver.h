@@ -31,15 +31,20 @@ class ScriptedEngine : public DialogueEngine {
 public:
     EntryJudgement CheckEntry(const std::string& entryText, WriteMethod, int,
                               SentenceType) override;
-    void RecordKey(float time, int characterCode) override;
+    void RecordKey(float time, int characterCode) override {
+        KeyTimes.push_back(time);
+        KeyCodes.push_back(characterCode);
+    }
     void StretchSeeds(float) override {}
     ReplyKind RollAnswer(int percent) override;
     std::string RequestAnswer(SentenceType entryType) override;
     std::string RequestRemark(SentenceType entryType) override;
     std::string RequestIdeaVerdict(ReplyKind answerFlag) override;
     std::string RequestInterjection() override { return "\t The talk has turned inward."; }
-    std::string RequestInspiration() override;
-    std::string PickGuidance() override;
+    std::string RequestInspiration() override {
+        return "\tInspiration number " + std::to_string(++Inspirations) + ".";
+    }
+    std::string PickGuidance() override { return "Suggestion " + std::to_string(++Guidances); }
 
     struct Judgement {
         int Status, Type; // the verdict and sentence type by their numbers
@@ -77,14 +82,21 @@ public:
     void Backspace() { Key(KeyCode::Backspace, KeyCode::Backspace); }
     // A key with no character, such as an arrow or a function key.
     void Press(int keyCode) { Key(keyCode, 0); }
-    void StartConverse();
+    void StartConverse() {
+        mirror->StartWindow();
+        mirror->Click(MirrorControl::cmdConverse);
+    }
     void Converse(const std::string& entry) {
         Type(entry);
         Enter();
     }
     void Click(MirrorControl control) { mirror->Click(control); }
     // Rests the mouse on a control, lets the hover timer tick once and reads the instruction.
-    std::string Help(MirrorControl control);
+    std::string Help(MirrorControl control) {
+        mirror->MouseMove(control);
+        mirror->TimerFired(TimerId::MirrorHover);
+        return Text(MirrorControl::txtNote);
+    }
     const Control& Box(MirrorControl control) const { return mirror->Controls()[control]; }
     std::string Text(MirrorControl control) const { return Box(control).Text; }
     const MirrorState& State() const { return mirror->State(); }

@@ -8,6 +8,7 @@
 
 #include <filesystem>
 #include <gtest/gtest.h>
+#include <optional>
 #include <tuple>
 
 namespace veyrant::testing {
@@ -15,6 +16,7 @@ namespace {
 
 using MirrorFinish = MirrorTest;
 using MirrorTranscript = MirrorTest;
+using MirrorGuest = MirrorTest;
 
 const std::string Statement = "I want to understand why Sundays feel so heavy.";
 const std::string Question = "what would make Sunday evenings lighter?";
@@ -237,8 +239,9 @@ TEST_F(MirrorFinish, AFinishedDialogueTheBuffersRefusedIsKeptOnTheWayOut) {
     EXPECT_EQ(ReadWholeFile(kept), State().DialogueText);
 }
 
-// Print sends the Finished Dialogue without its leading blank line; only a failure says so.
-TEST(MirrorFinishPrint, PrintSendsTheDialogueAndOnlyAFailureShowsABox) {
+// Print sends the Finished Dialogue without its leading blank line; only a failure says so. File
+// opens the full view in the editor, laid out as the export lays it out.
+TEST(MirrorFinishPrint, PrintSendsTheDialogueAndOnlyAFailureShowsABoxAndFileOpensTheEditor) {
     for (const auto outcome : {PrintOutcome::Printed, PrintOutcome::Failed}) {
         MirrorDriver driver;
         FinishOnePair(driver);
@@ -260,24 +263,18 @@ TEST(MirrorFinishPrint, PrintSendsTheDialogueAndOnlyAFailureShowsABox) {
                       "a non-printing device (such as a Fax/Modem, Print-to-File, etc.). Check "
                       "the printer setup.");
         }
+        driver.Click(cmdDisplay); // File
+        ASSERT_EQ(driver.Layer.EditorTexts.size(), 1u);
+        EXPECT_EQ(driver.Layer.EditorTexts[0].Text,
+                  ExportText(driver.Clock.Date, "Inspiration\r\n\r\n\tInspiration number 1.\r\n\r\n"
+                                                "Dialogue\r\n\r\n" +
+                                                    OnePair));
+        EXPECT_EQ(driver.Layer.EditorTexts[0].ProposedFileName, "Dialogue 2026-11-23 8.15 AM.txt");
+        EXPECT_EQ(driver.Text(cmdDisplay), "File"); // the window stays as it was
     }
 }
 
 // The full view and the window's title tell the length of the Dialogue.
-TEST_F(MirrorFinish, FileOpensTheFullViewInTheEditor) {
-    FinishOnePair(*this);
-    Clock.Date = {2026, 11, 23, 8, 15, 0};
-    Click(cmdDisplay); // File
-    ASSERT_EQ(Layer.EditorTexts.size(), 1u);
-    // The layout around the body is the export's own.
-    EXPECT_EQ(Layer.EditorTexts[0].Text,
-              ExportText(Clock.Date, "Inspiration\r\n\r\n\tInspiration number 1.\r\n\r\n"
-                                     "Dialogue\r\n\r\n" +
-                                         OnePair));
-    EXPECT_EQ(Layer.EditorTexts[0].ProposedFileName, "Dialogue 2026-11-23 8.15 AM.txt");
-    EXPECT_EQ(Text(cmdDisplay), "File"); // the window stays as it was
-}
-
 TEST(MirrorTranscriptLength, DisplayTellsTheLengthAndWriteRestoresTheState) {
     const std::tuple<int, std::string, std::string> cases[] = {{1, "less than 1 page", "1 Page"},
                                                                {4, "less than 1 page", "1 Page"},
@@ -308,7 +305,7 @@ TEST(MirrorTranscriptLength, DisplayTellsTheLengthAndWriteRestoresTheState) {
 
 // The advice comes once, at the 61st pair; from 100 every fifth Enter warns, refused entries
 // counted; at 121 every entry is refused.
-TEST_F(MirrorTranscript, AdviceOnceThenWarningsThenTheLimit) {
+TEST_F(MirrorTranscript, AdviceOnceThenWarningsThenTheLimitOfOneHundredTwentyOne) {
     ContinuePrior(*this, 60);
     Converse(Entry);
     EXPECT_TRUE(Layer.Boxes.empty());
@@ -331,11 +328,12 @@ TEST_F(MirrorTranscript, AdviceOnceThenWarningsThenTheLimit) {
     EXPECT_EQ(Layer.Boxes[1].Text, "The length of your Dialogue is nearing the system limit. You "
                                    "have approximately 20 cycles of interaction available.");
     EXPECT_EQ(Layer.Boxes[1].Icon, MessageIcon::Warning);
-}
-
-// A response left out does not bring the limit nearer; at 121 every entry is refused.
-TEST_F(MirrorTranscript, AtOneHundredTwentyOneEveryEntryIsRefused) {
-    ContinuePrior(*this, 120);
+    // A response left out does not bring the limit nearer.
+    while (State().PairCount < 120) {
+        Enter();
+        Converse(Entry);
+    }
+    Enter();
     Engine.Rolls.push_back(0);
     Converse(Entry);
     ASSERT_EQ(Text(cmdRemove), "Keep");
@@ -356,12 +354,107 @@ TEST_F(MirrorTranscript, AtOneHundredTwentyOneEveryEntryIsRefused) {
     EXPECT_EQ(Text(txtNote), "Press 'Enter' to begin this entry again.");
 }
 
-TEST_F(MirrorTranscript, ClickOnTheNewDialoguePanelDrawsAnotherSuggestion) {
-    mirror->StartWindow();
-    Click(txtSaved);
-    EXPECT_EQ(Text(txtSaved).substr(0, 12), "Suggestion 2");
-    Click(txtResponse);
-    EXPECT_EQ(Text(txtResponse), "Inspiration\r\n\tInspiration number 2.");
+// Closes the window, or right-clicks on the Help or the Library button for the Utilities or the
+// Library Options window, which puts it out of the way; true when the program went on.
+bool Leave(MirrorDriver& driver, std::optional<MirrorControl> rightClick) {
+    if (!rightClick) {
+        return driver.mirror->Unload();
+    }
+    driver.mirror->MouseDown(*rightClick, MouseButton::Right);
+    return driver.App.ClosingState == ClosingStates::UtilitiesUp;
+}
+
+// When the work buffers cannot take the Dialogue on the way out, the box offers to save it as a
+// text file elsewhere; the program goes on only once the Dialogue is safe in that file.
+TEST(MirrorUtilities, ADialogueTheBuffersCannotTakeCanBeSavedElsewhereOnTheWayOut) {
+    const struct {
+        const char* Name;
+        std::optional<MirrorControl> RightClick; // none: the window is closed
+        MessageAnswer Answer;                    // to the box that the buffers failed
+        bool NameChosen;
+        int SaveError; // 0: the chosen place takes the file
+    } cases[] = {
+        {"close, saved", std::nullopt, MessageAnswer::Yes, true, 0},
+        {"Utilities, saved", cmdHelp, MessageAnswer::Yes, true, 0},
+        {"Library Options, saved", cmdRetrieve, MessageAnswer::Yes, true, 0},
+        {"close, save cancelled", std::nullopt, MessageAnswer::Yes, false, 0},
+        {"close, declined", std::nullopt, MessageAnswer::No, true, 0},
+        {"Library Options, the other place is full too", cmdRetrieve, MessageAnswer::Yes, true,
+         ENOSPC},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.Name);
+        MirrorDriver driver;
+        driver.StartConverse();
+        driver.Converse(Statement);
+        const std::string dialogue = driver.State().DialogueText;
+        const TempFolder elsewhere;
+        const auto chosen = elsewhere / "my dialogue.txt";
+        driver.Layer.Answers = {c.Answer};
+        if (c.NameChosen) {
+            driver.Layer.SaveNameAnswers = {chosen};
+        }
+        // The program's folder is full; the other place takes the file, or fails as it says.
+        const std::string programFolder = driver.App.Folder.Root.string();
+        SetFileFault([&](FileCall call, const std::filesystem::path& path) {
+            if (call != FileCall::Open) {
+                return 0;
+            }
+            return path.string().rfind(programFolder, 0) == 0 ? ENOSPC : c.SaveError;
+        });
+        const bool wentOn = Leave(driver, c.RightClick);
+        SetFileFault({});
+
+        const bool saved = c.Answer == MessageAnswer::Yes && c.NameChosen && c.SaveError == 0;
+        EXPECT_EQ(driver.Titles(),
+                  "Error 61 Keeping the Dialogue;" + std::string(saved         ? "Dialogue Saved;"
+                                                                 : c.SaveError ? "Save File Error;"
+                                                                               : ""));
+        const MessageBoxRequest& offer = driver.Layer.Boxes.at(0);
+        EXPECT_EQ(offer.Buttons, MessageButtons::YesNo);
+        EXPECT_EQ(offer.Text.substr(offer.Text.find("The disk is full.")),
+                  "The disk is full.\r\n\r\nYour Dialogue is not lost: it stays on the screen, "
+                  "and the program stays open. The work buffers still hold the Dialogue as it was "
+                  "last kept. Make room on the disk, then try again.\r\n\r\nOr save the Dialogue "
+                  "now as a text file in a place you choose, and the program goes on without it: "
+                  "the Dialogue then does not reopen at the next start.\r\n\r\nDo you wish to "
+                  "save the Dialogue as a text file?");
+        EXPECT_EQ(driver.State().DialogueText, dialogue);
+        EXPECT_FALSE(std::filesystem::exists(driver.App.Folder.Exe() / "savem.tmp"));
+        EXPECT_EQ(wentOn, saved);
+        if (!saved) {
+            EXPECT_TRUE(driver.Box(txtMirror).Enabled);
+            EXPECT_EQ(driver.App.ClosingState, ClosingStates::Running);
+            EXPECT_TRUE(std::filesystem::is_empty(elsewhere.Path()));
+            continue;
+        }
+        if (c.RightClick) { // the window asked for, with this one out of the way
+            EXPECT_EQ(driver.Layer.Visible.count(WindowId::Mirror), 0u);
+            EXPECT_EQ(driver.Layer.WindowEvents.back(),
+                      *c.RightClick == cmdHelp ? "show Utility" : "show Options");
+        }
+        EXPECT_EQ(driver.Layer.ProposedSaveNames[0], "Dialogue 2026-11-22 12.00 PM.txt");
+        EXPECT_EQ(driver.Layer.Boxes.back().Text,
+                  "Your Dialogue is saved in the file " + chosen.string() + ".");
+        // The export in UTF-8 with this system's line ends; its layout is the export's own.
+        const std::string file = ReadWholeFile(chosen);
+        EXPECT_EQ(file.substr(0, 53), "Veyrant Sagrel\nSunday, 12:00 PM, November 22, 2026\n\n\n");
+        EXPECT_NE(file.find("\n\t\xE2\x80\x9C" + Statement + "\xE2\x80\x9D\n"), std::string::npos);
+    }
+}
+
+// A guest leaves Guest Mode through the Utilities window, since the Library button is disabled.
+TEST_F(MirrorGuest, GuestModeReachesTheUtilitiesThroughHelpOnly) {
+    App.UserSettings.GuestMode = 1;
+    Mirror guest(App.WriteWorld(), Engine, Buffers, Library);
+    guest.StartWindow();
+    EXPECT_TRUE(!guest.Controls()[cmdRetrieve].Enabled && guest.Controls()[cmdKnow].Enabled);
+    guest.MouseDown(cmdRetrieve, MouseButton::Right);
+    EXPECT_EQ(Layer.Visible.count(WindowId::Options), 0u);
+    EXPECT_EQ(App.ClosingState, ClosingStates::Running);
+    guest.MouseDown(cmdHelp, MouseButton::Right);
+    EXPECT_EQ(Layer.Visible.count(WindowId::Utility), 1u);
+    EXPECT_EQ(App.ClosingState, ClosingStates::UtilitiesUp);
 }
 
 } // namespace

@@ -55,29 +55,10 @@ TEST(MirrorKeysCount, MarkAndInstructionFollowTheLaggingCount) {
     }
 }
 
-// Over the limit only Backspace works, and typing takes a ">>" message away only once the count
-// is back within the limit.
-TEST_F(MirrorKeys, OverTheLimitOnlyBackspaceWorks) {
+// The key record takes the time and code of every key but Enter and Backspace.
+TEST_F(MirrorKeys, ProtectedHeadCaretMovesTheKeyRecordFocusAndFont) {
     StartConverse();
-    const std::string direction = State().DirectionText;
-    Converse(std::string(142, 'a'));
-    const std::string tooLong = Text(txtResponse);
-    ASSERT_EQ(tooLong.substr(0, 26), ">> Your entry is too long.");
-    Type(std::string(18, 'a'));
-    // 141 typed: the 142nd press counts 140 and is the first one dropped.
-    EXPECT_EQ(Text(txtMirror).size(), 2u + 141u);
-    EXPECT_EQ(Text(txtResponse), tooLong);
-    Backspace();
-    Backspace();
-    EXPECT_EQ(Text(txtMirror).size(), 2u + 139u);
-    // The count of a Backspace is one less than the next typed key will take.
-    EXPECT_TRUE(State().EntryFit == EntryLength::Fits && State().EntryCount == 137);
-    EXPECT_EQ(Text(txtResponse), direction);
-    EXPECT_EQ(Box(txtResponse).Background, Colour::ColourReady);
-}
-
-TEST_F(MirrorKeys, ProtectedHeadAndCaretMoves) {
-    StartConverse();
+    Clock.Seconds = 100.5f;
     Type("abcdefghij"); // caret at 12, length 12
     Press(KeyCode::Home);
     EXPECT_EQ(Box(txtMirror).Caret, 2);
@@ -96,9 +77,36 @@ TEST_F(MirrorKeys, ProtectedHeadAndCaretMoves) {
     EXPECT_EQ(Text(txtMirror), Prefix + "abcdefghij");
     Press(KeyCode::Control);
     EXPECT_EQ(Titles() + Layer.Boxes[0].Text, "Invalid Key;Use of the control key is not allowed.");
+    Backspace();
+    Clock.Seconds = 101.25f;
+    Converse("\xe9");
+    EXPECT_EQ(Engine.KeyCodes,
+              (std::vector<int>{'a', 'b', 'c', 'd', 'e', 'f', 'g', 'h', 'i', 'j', 0xe9}));
+    EXPECT_TRUE(Engine.KeyTimes.front() == 100.5f && Engine.KeyTimes.back() == 101.25f);
+    // Focus returns to the entry box, a mouse release leaves nothing selected, and a right press
+    // toggles the Write font.
+    Enter();
+    mirror->FocusGained(txtSaved);
+    EXPECT_EQ(mirror->Controls().Focus, txtMirror);
+    mirror->FocusLost(txtMirror);
+    EXPECT_EQ(mirror->Controls().Focus, txtMirror);
+    Type("select me");
+    mirror->CaretMoved(txtMirror, 4, 5);
+    mirror->MouseUp(txtMirror, MouseButton::Left);
+    EXPECT_EQ(Box(txtMirror).SelectionLength, 0);
+    EXPECT_TRUE(Box(txtMirror).FontSize == 12 && Box(txtMirror).FontBold);
+    mirror->MouseDown(txtMirror, MouseButton::Right);
+    EXPECT_EQ(Layer.Boxes.back().Title, "Change Font Size");
+    EXPECT_EQ(App.UserSettings.WriteFontStep, 2);
+    EXPECT_TRUE(Box(txtSaved).FontSize == 13.5 && !Box(txtResponse).FontBold);
+    // The focus rule stands down while the program is ending.
+    App.ClosingState = ClosingStates::Exiting;
+    mirror->FocusGained(txtSaved);
+    EXPECT_EQ(mirror->Controls().Focus, txtSaved);
 }
 
-TEST_F(MirrorKeys, RewriteAndAClickEraseTheEntryUntilItIsAnswered) {
+TEST_F(MirrorKeys,
+       RewriteAndAClickEraseTheEntryUntilItIsAnsweredAndOverTheLimitOnlyBackspaceWorks) {
     StartConverse();
     EXPECT_FALSE(Box(cmdClear).Enabled);
     Type("Something I meant");
@@ -123,40 +131,23 @@ TEST_F(MirrorKeys, RewriteAndAClickEraseTheEntryUntilItIsAnswered) {
     EXPECT_EQ(Box(txtMirror).Caret, 0);
     Enter();
     EXPECT_EQ(Text(txtMirror), Prefix);
-}
-
-TEST_F(MirrorKeys, TheKeyRecordTakesTimeAndCodeOfEveryKeyButEnterAndBackspace) {
-    StartConverse();
-    Clock.Seconds = 100.5f;
-    Type("Hi");
+    // Over the limit only Backspace works, and typing takes a ">>" message away only once the
+    // count is back within the limit.
+    const std::string view = Text(txtResponse); // what the message covers
+    Converse(std::string(142, 'a'));
+    const std::string tooLong = Text(txtResponse);
+    ASSERT_EQ(tooLong.substr(0, 26), ">> Your entry is too long.");
+    Type(std::string(18, 'a'));
+    // 141 typed: the 142nd press counts 140 and is the first one dropped.
+    EXPECT_EQ(Text(txtMirror).size(), 2u + 141u);
+    EXPECT_EQ(Text(txtResponse), tooLong);
     Backspace();
-    Clock.Seconds = 101.25f;
-    Converse("\xe9");
-    EXPECT_EQ(Engine.KeyCodes, (std::vector<int>{'H', 'i', 0xe9}));
-    EXPECT_EQ(Engine.KeyTimes, (std::vector<float>{100.5f, 100.5f, 101.25f}));
-}
-
-// Focus returns to the entry box, a mouse release leaves nothing selected, and a right press
-// toggles the Write font.
-TEST_F(MirrorKeys, TheEntryBoxKeepsFocusNoSelectionAndTogglesItsFont) {
-    StartConverse();
-    mirror->FocusGained(txtSaved);
-    EXPECT_EQ(mirror->Controls().Focus, txtMirror);
-    mirror->FocusLost(txtMirror);
-    EXPECT_EQ(mirror->Controls().Focus, txtMirror);
-    Type("select me");
-    mirror->CaretMoved(txtMirror, 4, 5);
-    mirror->MouseUp(txtMirror, MouseButton::Left);
-    EXPECT_EQ(Box(txtMirror).SelectionLength, 0);
-    EXPECT_TRUE(Box(txtMirror).FontSize == 12 && Box(txtMirror).FontBold);
-    mirror->MouseDown(txtMirror, MouseButton::Right);
-    EXPECT_EQ(Layer.Boxes.back().Title, "Change Font Size");
-    EXPECT_EQ(App.UserSettings.WriteFontStep, 2);
-    EXPECT_TRUE(Box(txtSaved).FontSize == 13.5 && !Box(txtResponse).FontBold);
-    // The focus rule stands down while the program is ending.
-    App.ClosingState = ClosingStates::Exiting;
-    mirror->FocusGained(txtSaved);
-    EXPECT_EQ(mirror->Controls().Focus, txtSaved);
+    Backspace();
+    EXPECT_EQ(Text(txtMirror).size(), 2u + 139u);
+    // The count of a Backspace is one less than the next typed key will take.
+    EXPECT_TRUE(State().EntryFit == EntryLength::Fits && State().EntryCount == 137);
+    EXPECT_EQ(Text(txtResponse), view);
+    EXPECT_EQ(Box(txtResponse).Background, Colour::ColourReady);
 }
 
 // Esc clicks Cancel or Finish, whichever the window offers, and nothing when nothing runs.

@@ -17,12 +17,18 @@ const std::string ListHeader =
     "negative as appropriate. Press 'Enter' after each supposition. When your list is complete "
     "with two or more ideas, click 'Select'. To cancel, click another Method.\r\n";
 
-std::string Filed(int number, const std::string& idea) {
-    return "\r\n\tEntry " + std::to_string(number) + ": " + OpenQuote + idea + CloseQuote;
+std::string Prompt(std::size_t number) {
+    return "\r\n\r\nEntry " + std::to_string(number) + " >> ";
 }
 
-std::string Prompt(int number) {
-    return "\r\n\r\nEntry " + std::to_string(number) + " >> ";
+// The list as it shows with those ideas filed and the next one being typed.
+std::string List(const std::vector<std::string>& filed, const std::string& typing = "") {
+    std::string list = ListHeader;
+    for (std::size_t idea = 0; idea < filed.size(); ++idea) {
+        list +=
+            "\r\n\tEntry " + std::to_string(idea + 1) + ": " + OpenQuote + filed[idea] + CloseQuote;
+    }
+    return list + Prompt(filed.size() + 1) + typing;
 }
 
 void AskQuestion(MirrorDriver& driver) {
@@ -46,7 +52,7 @@ TEST_F(MirrorSuppose, TheQuestionOpensAListAndSelectPutsTheHeaviestIdeaInTheDial
     EXPECT_EQ(Shown("txtMirror"),
               "txtMirror: \"\\t\xE2\x80\x9CWhat could make the mornings easier for the whole "
               "family?\xE2\x80\x9D\" disabled back=Yellow");
-    EXPECT_EQ(Text(txtAnalyze), ListHeader + Prompt(1));
+    EXPECT_EQ(Text(txtAnalyze), List({}));
     EXPECT_EQ(mirror->Controls().Focus, txtAnalyze);
     EXPECT_EQ(Shown("lblRemS") + Shown("cmdNew"), "lblRemS: \"X\"cmdNew: \"Cancel\"");
     EXPECT_EQ(Text(txtNote), "Type your supposed answer. Click 'Rewrite' to erase the text "
@@ -69,9 +75,8 @@ TEST_F(MirrorSuppose, TheQuestionOpensAListAndSelectPutsTheHeaviestIdeaInTheDial
     EXPECT_EQ(Help(cmdSuppose), selectNote);
     EXPECT_EQ(Box(cmdSuppose).Ink, Colour::Black);
     Converse("pack the lunches the night before!");
-    EXPECT_EQ(Text(txtAnalyze), ListHeader + Filed(1, "Ask my sister to drive on Mondays.") +
-                                    Filed(2, "Get up earlier.") +
-                                    Filed(3, "Pack the lunches the night before.") + Prompt(4));
+    EXPECT_EQ(Text(txtAnalyze), List({"Ask my sister to drive on Mondays.", "Get up earlier.",
+                                      "Pack the lunches the night before."}));
     Click(cmdNew);
     // The heaviest of 201, 901 and 501.
     const std::string conclusion = "\tYour idea \x93Get up earlier.\x94 is verdict 1.";
@@ -107,7 +112,7 @@ TEST(MirrorSupposeTable, TheHeaviestIdeaIsChosenAndTheLaterOfEqualOnes) {
 }
 
 // A refused Select leaves the outcome out until kept; each list weighs its own ideas, so what an
-// earlier, longer list left behind is never chosen.
+// earlier, longer list left behind is never chosen; a declined question goes back to Converse.
 TEST_F(MirrorSuppose, SelectRefusedByTheDrawLeavesTheOutcomeOutUntilKept) {
     OpenList(*this, {0.2f, 0.3f, 0.9f});
     for (int idea = 1; idea <= 3; ++idea) {
@@ -130,20 +135,18 @@ TEST_F(MirrorSuppose, SelectRefusedByTheDrawLeavesTheOutcomeOutUntilKept) {
     Click(cmdNew);
     EXPECT_EQ(Text(txtResponse), "\tYour idea \x93"
                                  "Another idea.\x94 is verdict 2.");
-}
-
-TEST_F(MirrorSuppose, AQuestionDeclinedByTheDrawEndsInConverseWithKeep) {
-    mirror->StartWindow();
+    // A question the draw declines ends in Converse with Keep, its remark composed once.
+    Enter();
     Engine.Rolls.push_back(0);
     AskQuestion(*this);
     EXPECT_EQ(State().ActiveMethod, WriteMethod::Converse);
     EXPECT_EQ(Shown("txtAnalyze") + Shown("cmdRemove"), "cmdRemove: \"Keep\"");
-    // The remark of the Suppose method, composed once and shown as the response.
-    EXPECT_EQ(Text(txtResponse), "\tRemark 1 on type 9.");
-    EXPECT_EQ(Engine.Compositions, 1);
-    EXPECT_EQ(State().PairCount, 0);
+    EXPECT_EQ(Text(txtResponse), "\tRemark 3 on type 9.");
+    EXPECT_TRUE(Engine.Compositions == 3 && State().PairCount == 2);
+    const std::string dialogue = State().DialogueText;
     Click(cmdRemove);
-    EXPECT_EQ(State().DialogueText, "\r\n\r\n" + Quoted(Question) + "\r\n\tRemark 1 on type 9.");
+    EXPECT_EQ(State().DialogueText,
+              dialogue + "\r\n\r\n" + Quoted(Question) + "\r\n\tRemark 3 on type 9.");
 }
 
 // An idea is capped and loses one closing mark; a too short one stays to be lengthened.
@@ -160,8 +163,7 @@ TEST(MirrorSupposeTable, AnIdeaIsFiledCappedWithOneClosingMark) {
         MirrorDriver driver;
         OpenList(driver);
         driver.Converse(typed);
-        EXPECT_EQ(driver.Text(txtAnalyze),
-                  ListHeader + (filed.empty() ? Prompt(1) + typed : Filed(1, filed) + Prompt(2)))
+        EXPECT_EQ(driver.Text(txtAnalyze), filed.empty() ? List({}, typed) : List({filed}))
             << typed;
     }
 }
@@ -169,7 +171,7 @@ TEST(MirrorSupposeTable, AnIdeaIsFiledCappedWithOneClosingMark) {
 // A too short idea can only be lengthened. An Enter straight after it tries it again as it
 // stands and leaves Cancel; mending it by typing takes the ordinary road, which turns the button
 // to Select.
-TEST_F(MirrorSuppose, ATooShortIdeaCanOnlyBeLengthenedAndIsTriedAgain) {
+TEST_F(MirrorSuppose, ATooShortIdeaCanOnlyBeLengthenedAndATooLongOneShortened) {
     OpenList(*this);
     Converse("walk to school");
     Converse("go");
@@ -177,7 +179,7 @@ TEST_F(MirrorSuppose, ATooShortIdeaCanOnlyBeLengthenedAndIsTriedAgain) {
     EXPECT_EQ(Text(txtNote), std::string(MirrorText::TooShortInstruction));
     EXPECT_EQ(Shown("lblRemS"), "lblRemS: \"X\"");
     Backspace(); // refused: a short idea only grows
-    EXPECT_EQ(Text(txtAnalyze), ListHeader + Filed(1, "Walk to school.") + Prompt(2) + "go");
+    EXPECT_EQ(Text(txtAnalyze), List({"Walk to school."}, "go"));
     Type(" slow");
     EXPECT_EQ(Text(txtResponse), "Question\r\n" + Quoted(Question));
     EXPECT_EQ(Text(txtNote),
@@ -192,16 +194,12 @@ TEST_F(MirrorSuppose, ATooShortIdeaCanOnlyBeLengthenedAndIsTriedAgain) {
     EXPECT_EQ(State().IdeaCount, 1);
     EXPECT_EQ(Text(cmdNew), "Cancel");
     Converse(" slow");
-    EXPECT_EQ(Text(txtAnalyze),
-              ListHeader + Filed(1, "Walk to school.") + Filed(2, "Go slow.") + Prompt(3));
+    EXPECT_EQ(Text(txtAnalyze), List({"Walk to school.", "Go slow."}));
     EXPECT_EQ(Text(cmdNew), "Select");
-}
-
-TEST_F(MirrorSuppose, ATooLongIdeaCanOnlyBeShortened) {
-    OpenList(*this);
+    // Too long, an idea can only be shortened: the count includes the key, so the 140th letter
+    // meets the maximum and is refused.
     Type(std::string(150, 'a'));
-    // The count includes the key: the 140th letter meets the maximum and is refused.
-    EXPECT_EQ(Text(txtAnalyze), ListHeader + Prompt(1) + std::string(139, 'a'));
+    EXPECT_EQ(Text(txtAnalyze), List({"Walk to school.", "Go slow."}, std::string(139, 'a')));
     EXPECT_EQ(Text(txtNote), "Over the maximum text limit. Backspace until this display "
                              "status changes. Or click 'Rewrite' to erase the text.");
     EXPECT_EQ(Box(txtNote).Ink, Colour::InkOver);
@@ -213,13 +211,18 @@ TEST_F(MirrorSuppose, ATooLongIdeaCanOnlyBeShortened) {
     EXPECT_EQ(Shown("lblRemS"), "lblRemS: \"0\"");
     Enter();
     EXPECT_EQ(Text(txtAnalyze),
-              ListHeader + Filed(1, "A" + std::string(137, 'a') + ".") + Prompt(2));
+              List({"Walk to school.", "Go slow.", "A" + std::string(137, 'a') + "."}));
 }
 
-TEST_F(MirrorSuppose, TheCaretStaysBehindThePrompt) {
+// The caret stays behind the prompt, and a click or Rewrite erases the idea being typed.
+TEST_F(MirrorSuppose, TheCaretStaysBehindThePromptAndAClickOrRewriteErasesTheIdea) {
     OpenList(*this);
+    const std::string prompt = List({});
+    Click(txtAnalyze); // only the prompt: nothing to erase
+    EXPECT_EQ(Text(txtAnalyze), prompt);
+    EXPECT_FALSE(Box(cmdClear).Enabled);
     Type("abc");
-    const long head = static_cast<long>((ListHeader + Prompt(1)).size());
+    const auto head = static_cast<long>(prompt.size());
     Press(KeyCode::Home);
     EXPECT_EQ(Box(txtAnalyze).Caret, head);
     Backspace();
@@ -229,25 +232,16 @@ TEST_F(MirrorSuppose, TheCaretStaysBehindThePrompt) {
     // A key typed with the caret inside the head goes nowhere; the caret jumps to the end.
     mirror->CaretMoved(txtAnalyze, 10, 0);
     Type("Z");
-    EXPECT_EQ(Text(txtAnalyze), ListHeader + Prompt(1) + "Xabc");
+    EXPECT_EQ(Text(txtAnalyze), List({}, "Xabc"));
     EXPECT_EQ(Box(txtAnalyze).Caret, head + 4);
     Press(KeyCode::Up);
     EXPECT_EQ(Box(txtAnalyze).Caret, head + 2);
     Press(KeyCode::Control);
     EXPECT_EQ(Titles(), "Invalid Key;");
-}
-
-TEST_F(MirrorSuppose, AClickOrRewriteErasesTheIdeaBeingTyped) {
-    OpenList(*this);
-    const std::string prompt = ListHeader + Prompt(1);
-    Click(txtAnalyze); // only the prompt: nothing to erase
-    EXPECT_EQ(Text(txtAnalyze), prompt);
-    EXPECT_FALSE(Box(cmdClear).Enabled);
-    Type("call gran");
     EXPECT_EQ(Shown("lblRemS"), "");
     Click(txtAnalyze);
     EXPECT_EQ(Text(txtAnalyze), prompt);
-    EXPECT_EQ(Box(txtAnalyze).Caret, static_cast<long>(prompt.size()));
+    EXPECT_EQ(Box(txtAnalyze).Caret, head);
     EXPECT_FALSE(Box(cmdClear).Enabled);
     EXPECT_EQ(Shown("lblRemS"), "lblRemS: \"X\"");
     Converse("go"); // too short
@@ -257,12 +251,22 @@ TEST_F(MirrorSuppose, AClickOrRewriteErasesTheIdeaBeingTyped) {
     EXPECT_EQ(Text(txtMirror), Quoted(Question)); // Rewrite spared it
 }
 
-TEST_F(MirrorSuppose, CancelDropsTheListAndReturnsToConverseInARunningDialogue) {
+// The full view covers the list and Write gives it back; Cancel drops it and returns to Converse
+// in a running Dialogue.
+TEST_F(MirrorSuppose, TheFullViewCoversTheListAndCancelDropsIt) {
     StartConverse();
     Converse("I have been tired every morning this month.");
     const std::string before = State().DialogueText;
     AskQuestion(*this);
-    Converse("earlier nights.");
+    Type("earl");
+    const std::string shown = mirror->Dump();
+    Click(cmdDisplay);
+    EXPECT_EQ(Shown("txtAnalyze") + Shown("cmdDisplay"), "cmdDisplay: \"Write\"");
+    Type("zz"); // no key reaches a box under the full view
+    Click(cmdDisplay);
+    EXPECT_EQ(mirror->Dump(), shown);
+    Converse("ier nights");
+    EXPECT_EQ(Text(txtAnalyze), List({"Earlier nights."}));
     Converse("fewer screens.");
     Converse("go"); // refused as too short
     // Esc with Select leaves the method as F5 does.
@@ -273,27 +277,12 @@ TEST_F(MirrorSuppose, CancelDropsTheListAndReturnsToConverseInARunningDialogue) 
     EXPECT_EQ(State().CycleCount, 2);
     // A list left on a refused idea still opens the next one with its prompt.
     AskQuestion(*this);
-    EXPECT_EQ(Text(txtAnalyze), ListHeader + Prompt(1));
+    EXPECT_EQ(Text(txtAnalyze), List({}));
     Click(cmdNew);
     EXPECT_EQ(Shown("cmdNew") + Shown("txtAnalyze"), "cmdNew: \"Finish\"");
     EXPECT_EQ(Shown("cmdConverse"), "cmdConverse: \"Converse\" pressed");
     EXPECT_EQ(State().DialogueText, before);
     EXPECT_EQ(State().CycleCount, 3);
-}
-
-TEST_F(MirrorSuppose, TheFullViewCoversTheListAndWriteGivesItBack) {
-    StartConverse();
-    Converse("I have been tired every morning this month.");
-    AskQuestion(*this);
-    Type("earl");
-    const std::string before = mirror->Dump();
-    Click(cmdDisplay);
-    EXPECT_EQ(Shown("txtAnalyze") + Shown("cmdDisplay"), "cmdDisplay: \"Write\"");
-    Type("zz"); // no key reaches a box under the full view
-    Click(cmdDisplay);
-    EXPECT_EQ(mirror->Dump(), before);
-    Converse("ier nights");
-    EXPECT_EQ(Text(txtAnalyze), ListHeader + Filed(1, "Earlier nights.") + Prompt(2));
 }
 
 TEST_F(MirrorSuppose, TheListClosesByItselfAfterNinetyEightIdeas) {

@@ -59,6 +59,11 @@ protected:
         ASSERT_TRUE(TheEngine.LoadSystem(Folder));
         Windows.Boxes.clear();
     }
+    // The text that composing the message itself gives from the seed pool as it stands.
+    std::string Composed(std::int16_t message) {
+        TheEngine.Compose(static_cast<MessageNumber>(message));
+        return TheEngine.MessageComposer().ComposedText;
+    }
 
     TempFolder Temp;
     AppFolder Folder{Temp.Path()};

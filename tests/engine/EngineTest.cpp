@@ -131,12 +131,6 @@ protected:
         TheEngine.SeriesSeed = 50000.5f;
         TheEngine.StretchSeeds();
     }
-
-    // The text that composing the message itself gives from the same pool.
-    std::string Composed(std::int16_t message) {
-        TheEngine.Compose(static_cast<MessageNumber>(message));
-        return TheEngine.MessageComposer().ComposedText;
-    }
 };
 
 // A type with no message of its own gives the last composition again (message 0 below).
@@ -169,18 +163,16 @@ TEST_F(Requests, VerdictInspirationAndInterjectionTakeTheirMessage) {
     EXPECT_EQ(TheEngine.IdeaVerdict, chosen);
     EXPECT_EQ(TheEngine.IdeaVerdict.front(), LowerChar(TheEngine.IdeaVerdict.front()));
     EXPECT_NE(TheEngine.IdeaVerdict.front(), ' ');
-    const std::string declined = Composed(10);
     TheEngine.RequestIdeaVerdict(ReplyKind::Remark);
-    EXPECT_EQ(TheEngine.IdeaVerdict, declined);
+    EXPECT_EQ(TheEngine.IdeaVerdict, Composed(10));
     // The Inspiration keeps its first capital.
     const std::string inspiration = Composed(15);
     TheEngine.RequestInspiration();
     EXPECT_EQ(TheEngine.InspirationText, "\t" + Mid(inspiration, 3));
     EXPECT_NE(UpperChar(TheEngine.InspirationText[1]), LowerChar(TheEngine.InspirationText[1]));
     EXPECT_EQ(TheEngine.InspirationText[1], UpperChar(TheEngine.InspirationText[1]));
-    const std::string interjection = Composed(16);
     TheEngine.RequestInterjection();
-    EXPECT_EQ(TheEngine.ReplyText, interjection);
+    EXPECT_EQ(TheEngine.ReplyText, Composed(16));
     EXPECT_TRUE(Windows.Boxes.empty());
 }
 

@@ -5,24 +5,21 @@
 #include "printing/ExportText.h"
 #include "support/FileFaults.h"
 
-#include <algorithm>
+#include <set>
 #include <sstream>
 
 namespace veyrant::testing {
 namespace {
 
-using RC = ReaderControl;
+using MC = MirrorControl;
 
-// The Library's files, both folders, by name.
-std::vector<std::string> Files(const AppFolder& folder) {
-    std::vector<std::string> names;
+// The Library's files, both folders.
+std::set<std::filesystem::directory_entry> Files(const AppFolder& folder) {
+    std::set<std::filesystem::directory_entry> files;
     for (const auto& place : {folder.Isp(), folder.Dlg()}) {
-        for (const auto& entry : std::filesystem::directory_iterator(place)) {
-            names.push_back(place.filename().string() + "/" + entry.path().filename().string());
-        }
+        files.insert(std::filesystem::directory_iterator(place), {});
     }
-    std::sort(names.begin(), names.end());
-    return names;
+    return files;
 }
 
 // Runs a user's steps, one word each: "expand" saves the Knowledge Library's expanded mode, "K/R"
@@ -40,8 +37,7 @@ void Steps(ReaderFixture& t, const std::string& steps) {
         } else if (word == "close") {
             t.App.Links.CloseLibrary();
         } else if (word == "help") {
-            t.App.Write->MouseDown(MirrorControl::cmdHelp, MouseButton::Left);
-            t.App.Write->Click(MirrorControl::cmdHelp);
+            t.Press(MirrorControl::cmdHelp);
         } else if (word == "3days") {
             for (int day = 19; day <= 21; ++day) {
                 t.SaveDialogue(DateTime{2026, 11, day, 9, 30, 0},
@@ -83,8 +79,8 @@ TEST(ReaderActions, MarkExitReopensAtTheMark) {
         // selected rather than show a Dialogue that was never marked.
         {"3days 1:2 mark", 1, " 1  2 ", "1",
          "Veyrant Dialogue Library -- 1/30 Saved/Max -- Nov 21 -- 1/21 Days Old/Max",
-         "1 rows, selected -1, top 0, split back=ListInUse | low \"Dialogue Library | "
-         "\\tDialogues are listed latest-to-earliest, \" back=IndexText | \"Latest\""},
+         "1 rows, selected -1, top 0, split back=ListInUse | low \"Dialogue Library | \\tDialogues "
+         "are listed latest-to-earliest, \" back=IndexText | \"Latest\""},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.Visit);
@@ -107,8 +103,7 @@ TEST(ReaderActions, MarkExitReopensAtTheMark) {
             }
         }
         c.Reopen == "help" ? Steps(t, c.Reopen) : t.Open(c.Reopen[0] - '0');
-        EXPECT_EQ(t.Title() + " | " + t.Lines({RC::List1, RC::txtSpin, RC::cmdNext}),
-                  c.Title + " | " + c.Shown);
+        EXPECT_EQ(t.Shows({RC::List1, RC::txtSpin, RC::cmdNext}), c.Title + " | " + c.Shown);
         // Read.ini's lines are Information, Dialogue, Knowledge, Advanced; Help here reopens
         // the marked Advanced Knowledge Library.
         t.App.Links.CloseLibrary();
@@ -139,7 +134,6 @@ TEST(ReaderActions, MergeShowsTheSectionsTopicsExpanded) {
         const auto library = static_cast<LibraryId>(c.Library);
         t.App.UserSettings.WindowMode[library] = c.Mode;
         Steps(t, std::to_string(c.Library) + ":" + std::to_string(c.Section));
-        ASSERT_EQ(t.Line(RC::cmdPrint), "\"Merge\"");
         t.Read().Click(RC::cmdPrint);
         EXPECT_EQ(t.Title(), c.Title);
         const std::string& text = t.Read().Controls()[RC::txtSpin].Text;
@@ -147,8 +141,8 @@ TEST(ReaderActions, MergeShowsTheSectionsTopicsExpanded) {
         EXPECT_EQ(t.Line(RC::txtSpin).substr(0, 5), "high ");
         EXPECT_EQ(t.Lines({RC::List1, RC::cmdPrint, RC::cmdExitM, RC::cmdSelect, RC::txtNote}),
                   "(hidden) | \"Merge\" disabled | \"Mark Exit\" | \"< Index >\" | \"Click "
-                  "'Window' or the text to split the window and show the index. Click 'Index' "
-                  "to clear the window and reset the list.\"");
+                  "'Window' or the text to split the window and show the index. Click 'Index' to "
+                  "clear the window and reset the list.\"");
         EXPECT_EQ(t.App.UserSettings.WindowMode[library], c.Mode);
         EXPECT_TRUE(t.Windows.Boxes.empty() && !t.Windows.Busy && t.Windows.Yields >= 2);
         t.Read().Click(RC::cmdWindow);
@@ -163,24 +157,22 @@ TEST(ReaderActions, MergeShowsTheSectionsTopicsExpanded) {
 // refused the same way once the merging has shown.
 TEST_F(ReaderFixture, OnlyTheAmbrelAndOverflowingEssaysAreRefused) {
     LoadLibraries(App.Libraries);
-    FixedLibrary many;
-    many.Titles.assign(10001, "\tA");
+    // Ten thousand empty Topics pass the size check and overflow the text box only once merged.
+    FixedLibrary many = LibraryOf(std::vector<std::string>(10001, "\tA"));
     many.Titles[0] = "< Many >";
     many.Texts.assign(10001, "");
-    many.LastRow = 10000;
     many.RecordWidth = 10;
     const auto merge = [&](int library, int section) {
         Windows.Boxes.clear();
         Steps(*this, std::to_string(library) + ":" + std::to_string(section));
-        const std::string sectionText = Read().Controls()[RC::txtSpin].Text;
-        const std::string sectionTitle = Title();
+        const std::string shown = Read().Controls()[RC::txtSpin].Text + Title();
         const int yields = Windows.Yields;
         Read().Click(RC::cmdPrint);
         const bool refused = !Windows.Boxes.empty();
         if (refused) {
             EXPECT_EQ(Windows.Boxes[0].Title + ": " + Windows.Boxes[0].Text,
                       "Cannot Merge: This Essay is too long to be merged.");
-            EXPECT_EQ(Read().Controls()[RC::txtSpin].Text + Title(), sectionText + sectionTitle);
+            EXPECT_EQ(Read().Controls()[RC::txtSpin].Text + Title(), shown);
             EXPECT_EQ(Line(RC::cmdPrint) + Line(RC::txtSpin).substr(0, 4),
                       "\"Merge\" disabledlow ");
             EXPECT_FALSE(Windows.Busy);
@@ -207,31 +199,6 @@ TEST_F(ReaderFixture, OnlyTheAmbrelAndOverflowingEssaysAreRefused) {
     BuildLibraryIndex(many);
     App.Libraries[LibraryId::Advanced] = many;
     EXPECT_EQ(std::string(merge(4, 0)), "refused at yield 2");
-}
-
-// Print and File hand the open Dialogue on, with its own date; a failed print says so.
-TEST_F(ReaderFixture, PrintAndFileHandTheDialogueOn) {
-    const DateTime saved{2026, 11, 20, 9, 30, 0};
-    const std::string body = "\t\x93Hello.\x94\r\n\tA reply.";
-    SaveDialogue(saved, "\r\n\tMy inspiration.");
-    Open(1);
-    Read().Click(RC::cmdNext);
-    Windows.PrintAnswer = PrintOutcome::Failed;
-    Read().Click(RC::cmdPrint);
-    ASSERT_EQ(Windows.Printed.size(), 1u);
-    const PrintRequest& printed = Windows.Printed[0];
-    EXPECT_EQ(printed.Inspiration + "|" + printed.Dialogue + "|" + printed.Title,
-              "\r\n\tMy inspiration.|" + body + "|Veyrant Dialogue");
-    EXPECT_EQ(FormatDate(printed.ShownDate, "yyyy-mm-dd hh:nn"), "2026-11-20 09:30");
-    EXPECT_TRUE(Windows.BusyWhilePrinting && !Windows.Busy);
-    EXPECT_EQ(Line(RC::cmdPrint), "\"Print\"");
-    EXPECT_EQ(BoxTitles(), std::vector<std::string>{"Print Error"});
-    Read().Click(RC::cmdFile);
-    ASSERT_EQ(Windows.EditorTexts.size(), 1u);
-    EXPECT_EQ(Windows.EditorTexts[0].Text,
-              ExportText(saved, "Inspiration\r\n\r\n\r\n\tMy inspiration.\r\n\r\nDialogue\r\n\r\n" +
-                                    body));
-    EXPECT_EQ(Windows.EditorTexts[0].ProposedFileName, ExportFileName(saved));
 }
 
 // Delete asks first; Yes takes the pair off the disk, lists the Library anew and brings the
@@ -263,14 +230,13 @@ TEST_F(ReaderFixture, DeleteTakesTheDialogueOutOfTheLibrary) {
                 box.DefaultButton == 2);
     EXPECT_TRUE(Files(Folder).empty());
     const auto empty = [&] {
-        return Title() + " | " +
-               Lines({RC::List1, RC::cmdNext, RC::cmdSelect, RC::cmdDelete, RC::txtSpin,
-                      RC::txtNote});
+        return Shows(
+            {RC::List1, RC::cmdNext, RC::cmdSelect, RC::cmdDelete, RC::txtSpin, RC::txtNote});
     };
     const std::string nothing =
         "Veyrant Dialogue Library -- No Dialogues Saved | 0 rows, selected -1, top 0, split "
-        "back=ListEmpty | \"Latest\" disabled | \"< Index >\" disabled | \"Delete\" disabled | "
-        "low \"Dialogue Library | \\tThere are currently no Dialogues saved in\" back=IndexText | "
+        "back=ListEmpty | \"Latest\" disabled | \"< Index >\" disabled | \"Delete\" disabled | low "
+        "\"Dialogue Library | \\tThere are currently no Dialogues saved in\" back=IndexText | "
         "\"There are no Dialogues saved in the Library.\"";
     EXPECT_EQ(empty(), nothing);
     // Keys and a click that reaches a disabled button, as a screen reader's action might, do
@@ -284,14 +250,47 @@ TEST_F(ReaderFixture, DeleteTakesTheDialogueOutOfTheLibrary) {
     EXPECT_EQ(Windows.Boxes.size(), 3u);
     EXPECT_NE(status().find("There are currently no Dialogues saved in the Library."),
               std::string::npos);
+    // A file whose name holds no date the program can read opens as a damaged Dialogue: the scan
+    // names it, the opening says it cannot be retrieved, and the Reader goes on.
+    for (const auto& folder : {Folder.Isp(), Folder.Dlg()}) {
+        WriteWholeFile(folder / "99999999.999", "\tA name out of any calendar.");
+    }
+    Windows.Boxes.clear();
+    Reopen(1);
+    ASSERT_EQ(Read().Controls().List.Rows.size(), 1u);
+    ASSERT_EQ(Windows.Boxes.size(), 1u);
+    Read().Click(RC::cmdNext);
+    EXPECT_EQ(BoxTitles(),
+              (std::vector<std::string>{"Error 13 Dialogue Library File Names",
+                                        "Dialogue Library Corrupted -- Cannot Retrieve"}));
+    EXPECT_EQ(Line(RC::cmdDelete), "\"Delete\"");
 }
 
-// A delete the disk refuses shows the program's box with the error's number, and both files of
-// the pair stay with the Dialogue on view.
-TEST_F(ReaderFixture, AFailedDeleteKeepsThePair) {
+// Print and File hand the open Dialogue on, with its own date; a failed print says so. A delete
+// the disk refuses shows the program's box with the error's number, and both files of the pair
+// stay with the Dialogue on view.
+TEST_F(ReaderFixture, PrintFileAndAFailedDeleteKeepTheDialogue) {
+    const DateTime saved{2026, 11, 21, 9, 30, 0};
+    const std::string body = "\t\x93Hello.\x94\r\n\tA reply.";
     Steps(*this, "3days");
     Open(1);
     Read().Click(RC::cmdNext);
+    Windows.PrintAnswer = PrintOutcome::Failed;
+    Read().Click(RC::cmdPrint);
+    ASSERT_EQ(Windows.Printed.size(), 1u);
+    const PrintRequest& printed = Windows.Printed[0];
+    EXPECT_EQ(printed.Inspiration + "|" + printed.Dialogue + "|" + printed.Title,
+              "\r\n\tInspiration of day 21.|" + body + "|Veyrant Dialogue");
+    EXPECT_EQ(FormatDate(printed.ShownDate, "yyyy-mm-dd hh:nn"), "2026-11-21 09:30");
+    EXPECT_TRUE(Windows.BusyWhilePrinting && !Windows.Busy);
+    EXPECT_EQ(Line(RC::cmdPrint), "\"Print\"");
+    Read().Click(RC::cmdFile);
+    ASSERT_EQ(Windows.EditorTexts.size(), 1u);
+    EXPECT_EQ(Windows.EditorTexts[0].Text,
+              ExportText(saved, "Inspiration\r\n\r\n\r\n\tInspiration of day 21.\r\n\r\n"
+                                "Dialogue\r\n\r\n" +
+                                    body));
+    EXPECT_EQ(Windows.EditorTexts[0].ProposedFileName, ExportFileName(saved));
     const std::string shown = Title();
     const auto before = Files(Folder);
     Windows.Answers = {MessageAnswer::Yes};
@@ -302,9 +301,9 @@ TEST_F(ReaderFixture, AFailedDeleteKeepsThePair) {
     }
     // The trash cannot take the pair either, and the user's Yes to deleting it for good meets
     // the same refusal.
-    EXPECT_EQ(BoxTitles(),
-              (std::vector<std::string>{"Delete Dialogue", "Error 70 Moving to the Trash",
-                                        "Dialogue Library Corrupted"}));
+    EXPECT_EQ(BoxTitles(), (std::vector<std::string>{"Print Error", "Delete Dialogue",
+                                                     "Error 70 Moving to the Trash",
+                                                     "Dialogue Library Corrupted"}));
     EXPECT_EQ(Windows.Boxes.back().Text,
               "Error 70 attempting to delete the file from the Dialogue Library. Because the "
               "Library has become corrupted, it is necessary for you to repair it. Open the "
@@ -316,6 +315,121 @@ TEST_F(ReaderFixture, AFailedDeleteKeepsThePair) {
     Read().Click(RC::cmdDelete);
     EXPECT_EQ(Windows.Boxes.back().Title, "Dialogue Library Corrupted");
     EXPECT_EQ(Line(RC::List1), "2 rows, selected -1, top 0, split back=ListInUse");
+}
+
+// Each library button opens its library with the Write window minimised behind the Reader and the
+// backdrop kept, and bringing the Write window back closes the Reader and releases the button.
+TEST_F(ReaderFixture, LibraryButtonsOpenTheReaderAndRestoringClosesIt) {
+    const struct {
+        MC Button;
+        MouseButton Mouse;
+        const char* Title;
+        LibraryId ReadLibrary;
+    } cases[] = {
+        {MC::cmdHelp, MouseButton::Left, "Veyrant Information Library", LibraryId::Information},
+        {MC::cmdKnow, MouseButton::Left, "Veyrant Knowledge Library", LibraryId::Knowledge},
+        {MC::cmdKnow, MouseButton::Right, "Veyrant Advanced Knowledge Library",
+         LibraryId::Advanced},
+        {MC::cmdRetrieve, MouseButton::Left, "Veyrant Dialogue Library -- No Dialogues Saved",
+         LibraryId::Dialogue},
+    };
+    const auto pressed = [&](MC button) { return App.Write->Controls()[button].PressedIn; };
+    Windows.ShowWindow(WindowId::Back);
+    App.Back.Load();
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.Title);
+        Press(c.Button, c.Mouse);
+        EXPECT_EQ(Title(), c.Title);
+        EXPECT_EQ(App.Write->State().ReadLibrary, c.ReadLibrary);
+        EXPECT_TRUE(App.Reading.ReaderOpen == ReaderOpenState::Open && pressed(c.Button) &&
+                    Windows.IsWindowMinimised(WindowId::Mirror) &&
+                    Windows.IsWindowVisible(WindowId::Read) &&
+                    Windows.IsWindowVisible(WindowId::Back) && !Windows.Busy);
+        // The same library is not opened twice.
+        const auto events = Windows.WindowEvents.size();
+        Press(c.Button, c.Mouse);
+        EXPECT_EQ(Windows.WindowEvents.size(), events);
+        // The user brings the Write window back.
+        Windows.RestoreWindow(WindowId::Mirror);
+        App.Write->WindowStateChanged(false);
+        EXPECT_TRUE(App.Reading.ReaderOpen == ReaderOpenState::Closed && !pressed(c.Button) &&
+                    !Windows.IsWindowVisible(WindowId::Read) &&
+                    App.Write->State().ReadLibrary == LibraryId::None);
+    }
+    // Closing the Reader's own window brings the Write window back from minimised.
+    Press(MC::cmdKnow);
+    App.Links.CloseLibrary();
+    EXPECT_FALSE(Windows.IsWindowMinimised(WindowId::Mirror) || pressed(MC::cmdKnow) ||
+                 App.Write->State().ReadLibrary != LibraryId::None);
+    // The backdrop goes when the user minimises the Write window, and comes back with it; while
+    // a library is open it stays behind the Read window.
+    App.Write->WindowStateChanged(true);
+    EXPECT_FALSE(Windows.IsWindowVisible(WindowId::Back));
+    App.Write->WindowStateChanged(false);
+    EXPECT_TRUE(Windows.IsWindowVisible(WindowId::Back) &&
+                Windows.WindowEvents.back() == "show Mirror");
+    Press(MC::cmdHelp);
+    App.Write->WindowStateChanged(true);
+    EXPECT_TRUE(Windows.IsWindowVisible(WindowId::Back));
+    // A backdrop the user clicked away stays away when the Write window comes back.
+    App.Back.MouseDown();
+    Windows.RestoreWindow(WindowId::Mirror);
+    App.Write->WindowStateChanged(false);
+    EXPECT_FALSE(Windows.IsWindowVisible(WindowId::Back));
+}
+
+// The pointer on the bare background of the Write or the Read window: with the backdrop hidden
+// each window's note tells how to bring it back, for seven ticks; with the backdrop up it says
+// nothing of it and silences the backdrop's own hint. Any button there restores the backdrop.
+TEST(BackgroundHelp, TellsHowToRestoreAHiddenBackdropOnEitherWindow) {
+    for (const bool onReader : {false, true}) {
+        SCOPED_TRACE(onReader ? "Read" : "Write");
+        ReaderFixture t;
+        t.App.Back.Load();
+        t.Windows.ShowWindow(WindowId::Back);
+        if (onReader) {
+            t.Open(3);
+        }
+        const TimerId timer = onReader ? TimerId::ReadHover : TimerId::MirrorHover;
+        const auto move = [&] {
+            onReader ? t.Read().MouseMove(RC::Window) : t.App.Write->MouseMove(MC::Panel1);
+        };
+        const auto tick = [&] {
+            onReader ? t.Read().TimerFired(timer) : t.App.Write->TimerFired(timer);
+        };
+        const auto note = [&] {
+            return onReader ? t.Read().Controls()[RC::txtNote].Text
+                            : t.App.Write->Controls()[MC::txtNote].Text;
+        };
+        const std::string instruction = note();
+        t.App.Back.MouseMove();
+        t.App.Back.TimerFired();
+        ASSERT_TRUE(t.App.Back.HintShowing());
+        move();
+        EXPECT_FALSE(t.App.Back.HintShowing());
+        tick();
+        EXPECT_EQ(note(), instruction);
+        t.App.Back.MouseDown();
+        ASSERT_FALSE(t.Windows.IsWindowVisible(WindowId::Back));
+        move();
+        EXPECT_EQ(t.Windows.Timers.at(timer), 1250);
+        tick();
+        EXPECT_EQ(note(), "Click to restore the background that surrounds the window.");
+        // Further moves over the same place neither restart the count nor the help.
+        const auto starts = t.Windows.TimerStarts[timer];
+        move();
+        EXPECT_EQ(t.Windows.TimerStarts[timer], starts);
+        for (int ticks = 0; ticks < 7; ++ticks) {
+            tick();
+        }
+        EXPECT_EQ(note(), instruction);
+        for (const auto button : {MouseButton::Left, MouseButton::Right, MouseButton::Middle}) {
+            t.App.Back.MouseDown();
+            onReader ? t.Read().MouseDown(RC::Window, button)
+                     : t.App.Write->MouseDown(MC::Window, button);
+            EXPECT_TRUE(t.Windows.IsWindowVisible(WindowId::Back));
+        }
+    }
 }
 
 } // namespace

@@ -1,14 +1,11 @@
-// The Read window's search as the user drives it: type into the search box,
-// click Go or press Enter, step with Next, click the box to start over, Cancel
-// or Esc to leave.
+// The Read window's search as the user drives it: type into the search box, click Go or press
+// Enter, step with Next, click the box to start over, Cancel or Esc to leave.
 
 #include "ReaderFixture.h"
 #include "core/KeyCodes.h"
 
 namespace veyrant::testing {
 namespace {
-
-using RC = ReaderControl;
 
 class ReaderSearch : public ReaderFixture {
 protected:
@@ -20,8 +17,7 @@ protected:
         Read().SearchTextChanged(text);
         Read().Click(RC::cmdSearch);
     }
-    // Enter typed in the search box: the window lets it by, the box's key press
-    // takes it.
+    // Enter typed in the search box: the window lets it by, the box's key press takes it.
     void EnterInBox() {
         if (Read().KeyDown(KeyCode::Enter) != 0) {
             EXPECT_EQ(Read().KeyPress(KeyCode::Enter, RC::txtSearch), 0);
@@ -35,69 +31,31 @@ protected:
     bool Selected(const std::string& selection) {
         return Read().Dump().find("Selection: " + selection) != std::string::npos;
     }
+    // The hover help of a button the pointer comes onto and leaves again.
+    std::string Hover(RC button = RC::cmdSearch) {
+        Read().MouseMove(RC::List1);
+        Read().MouseMove(button);
+        const std::string text = Read().Hover().Text();
+        Read().MouseMove(RC::List1);
+        return text;
+    }
 };
 
-// "aa" stands twice in "Aaa"; Next after the last hit ends the walk with the
-// count shown.
-TEST_F(ReaderSearch, OverlappingHitsCountAndTheWalkEnds) {
-    App.Libraries[LibraryId::Advanced] = LibraryOf({"< Aaa >", "\tX"});
-    Open(4);
-    Search("aa");
-    EXPECT_TRUE(Selected("2+2 \"Aa\"") && Read().State().HitCount == 1) << Read().Dump();
-    Read().Click(RC::cmdSearch);
-    EXPECT_TRUE(Selected("3+2 \"aa\"") && Read().State().HitCount == 2) << Read().Dump();
-    EnterInBox();
-    EXPECT_EQ(Lines({RC::txtSearch, RC::txtNote}),
-              "\"Search complete\" | \"The search is complete with 2 instances "
-              "found, the last "
-              "displayed. Click 'Cancel' to exit search mode.\"");
-    // The last hit stays on view and selected; Enter at the end does nothing
-    // more.
-    EXPECT_TRUE(Selected("3+2 \"aa\""));
-    EnterInBox();
-    EXPECT_EQ(Line(RC::cmdSelect), "\"Cancel\"");
-}
-
-// A search of all Dialogues runs latest to earliest and opens the Dialogue it
-// finds; Cancel leaves it on view, and the next search again walks them all. A
-// Dialogue whose dlg/ file is gone is reported as the walk reads it, and its
-// Inspiration is still searched.
+// With a Dialogue open only that Dialogue is searched, and it stays on view. A search of all
+// Dialogues runs latest to earliest and opens the Dialogue it finds; Cancel leaves it on view, and
+// the next search again walks them all. A Dialogue whose dlg/ file is gone
+// is reported as the walk reads it, and its Inspiration is still searched.
 TEST_F(ReaderSearch, AllDialoguesLandOnTheThird) {
     SaveThree();
     Open(1);
-    Read().Click(RC::cmdSearch);
-    EXPECT_EQ(Title(), "Veyrant Dialogue Library -- Search Text");
-    EXPECT_EQ(Lines({RC::txtSpin, RC::txtNote, RC::cmdSearch}),
-              "low \"Search Dialogues | \\tWhen you start a search with only the Ind\" "
-              "back=IndexText | \"Search all Dialogues. Enter the text, then click "
-              "'Go' or press "
-              "'Enter'. Click 'Cancel' to exit the search.\" | \"Enter >>\"");
-    Go("HERON");
-    const std::string heron = "Veyrant Dialogue -- 1/3 -- Thursday, 9:05 am, November 12, 2026 "
-                              "-- 10/21 Days Old/Max";
-    EXPECT_EQ(Title() + " | " + Line(RC::List1),
-              heron + " | 3 rows, selected 2, top 0, split back=IndexText");
-    EXPECT_TRUE(Selected("63+5 \"heron\"")) << Read().Dump();
-    Read().Click(RC::cmdSearch);
-    EXPECT_EQ(Line(RC::txtSearch), "\"Search complete\"");
-    Key(KeyCode::Escape);
-    EXPECT_EQ(Title() + " | " + Lines({RC::txtSearch, RC::cmdSelect, RC::cmdPrint}),
-              heron + " | \"Search not active\" disabled ink=IndexText | \"< Index >\" | "
-                      "\"Print\"");
-    Read().Click(RC::cmdSearch);
-    EXPECT_EQ(Title(), "Veyrant Dialogue Library -- Search Text");
-    std::filesystem::remove(Folder.Dlg() / MakeFileName({2026, 11, 15, 10, 0, 0}));
-    Go("lake");
-    EXPECT_EQ(Title().substr(0, 26), "Veyrant Dialogue -- 2/3 --");
-    EXPECT_EQ(Windows.Boxes.at(0).Text.substr(0, 60),
-              "Error 53 attempting to retrieve a file from the Dialogue Lib");
-}
-
-// With a Dialogue open only that Dialogue is searched, and it stays on view.
-TEST_F(ReaderSearch, OpenDialogueAloneIsSearched) {
-    SaveThree();
-    Open(1);
     Read().Click(RC::cmdNext);
+    // With a Dialogue open only that Dialogue is searched, and it stays on view. Hover help names
+    // what Search, File and Print reach from there, and in each fixed library.
+    EXPECT_EQ(Hover() + " " + Hover(RC::cmdFile) + " " + Hover(RC::cmdPrint),
+              "Search for words or phrases within only the displayed Dialogue. Click 'Index' to "
+              "search all Dialogues, latest to earliest. Write the displayed Dialogue into the "
+              "program's text editor. Then you may save it as a text file. Print the displayed "
+              "Dialogue. The pages are laid out for 'Letter' paper.");
     const std::string title = Title();
     Search("REPLY");
     EXPECT_EQ(Title(), title);
@@ -114,66 +72,114 @@ TEST_F(ReaderSearch, OpenDialogueAloneIsSearched) {
     Go("heron");
     EXPECT_EQ(Line(RC::txtSearch), "\"No Text found\"");
     Read().Click(RC::cmdSelect);
-    EXPECT_EQ(Title() + " | " + Line(RC::cmdSelect), title + " | \"< Index >\"");
+    EXPECT_EQ(Shows({RC::cmdSelect}), title + " | \"< Index >\"");
+    Read().Click(RC::cmdSelect);
+    EXPECT_EQ(Hover(), "Search for words or phrases within all the Dialogues. Starting with the "
+                       "latest, Dialogues are opened as the search text is found.");
+    Read().Click(RC::cmdSearch);
+    EXPECT_EQ(Shows({RC::txtSpin, RC::txtNote, RC::cmdSearch}),
+              "Veyrant Dialogue Library -- Search Text | low \"Search Dialogues | \\tWhen you "
+              "start a search with only the Ind\" back=IndexText | \"Search all Dialogues. Enter "
+              "the text, then click 'Go' or press 'Enter'. Click 'Cancel' to exit the search.\" | "
+              "\"Enter >>\"");
+    Go("HERON");
+    const std::string heron =
+        "Veyrant Dialogue -- 1/3 -- Thursday, 9:05 am, November 12, 2026 -- 10/21 Days Old/Max";
+    EXPECT_EQ(Shows({RC::List1}), heron + " | 3 rows, selected 2, top 0, split back=IndexText");
+    EXPECT_TRUE(Selected("63+5 \"heron\"")) << Read().Dump();
+    Read().Click(RC::cmdSearch);
+    EXPECT_EQ(Line(RC::txtSearch), "\"Search complete\"");
+    Key(KeyCode::Escape);
+    EXPECT_EQ(Shows({RC::txtSearch, RC::cmdSelect, RC::cmdPrint}),
+              heron + " | \"Search not active\" disabled ink=IndexText | \"< Index >\" | "
+                      "\"Print\"");
+    Read().Click(RC::cmdSearch);
+    EXPECT_EQ(Title(), "Veyrant Dialogue Library -- Search Text");
+    std::filesystem::remove(Folder.Dlg() / MakeFileName({2026, 11, 15, 10, 0, 0}));
+    Go("lake");
+    EXPECT_EQ(Title().substr(0, 26), "Veyrant Dialogue -- 2/3 --");
+    EXPECT_EQ(Windows.Boxes.at(0).Text.substr(0, 60),
+              "Error 53 attempting to retrieve a file from the Dialogue Lib");
+    for (const auto& [library, name] :
+         {std::pair{2, "Information"}, {3, "Knowledge"}, {4, "Advanced Knowledge"}}) {
+        Reopen(library);
+        EXPECT_EQ(Hover(), "Search for words or phrases within all " + std::string(name) +
+                               ". The list opens, and Topics are displayed as the search text "
+                               "text is found.");
+    }
 }
 
-// Cancel keeps a found Topic on view; with nothing found it returns to the
-// list. With no Dialogue saved the search cannot start; elsewhere Enter in the
-// box is always taken, and Esc leaves the search from any of its states.
-TEST_F(ReaderSearch, CancelKeepsWhatWasFound) {
-    Open(1);
+// "aa" stands twice in "Aaa"; Next after the last hit ends the walk with the count shown. Cancel
+// keeps a found Topic on view; with nothing found it returns to the list. With no Dialogue saved
+// the search cannot start; elsewhere Enter in the box is always taken, and Esc leaves the search
+// from any of its states. A click on the search box: with text waiting it empties the box; during
+// a search or after it, it starts a new search on the full list. The hover help of Search follows
+// its caption.
+TEST_F(ReaderSearch, HitsCountTheBoxStartsOverAndCancelKeepsWhatWasFound) {
+    App.Libraries[LibraryId::Advanced] = LibraryOf({"< Aaa >", "\tX"});
+    Open(4);
+    Search("aa");
+    EXPECT_TRUE(Selected("2+2 \"Aa\"") && Read().State().HitCount == 1) << Read().Dump();
+    Read().Click(RC::cmdSearch);
+    EXPECT_TRUE(Selected("3+2 \"aa\"") && Read().State().HitCount == 2) << Read().Dump();
+    EnterInBox();
+    EXPECT_EQ(Lines({RC::txtSearch, RC::txtNote}),
+              "\"Search complete\" | \"The search is complete with 2 instances found, the last "
+              "displayed. Click 'Cancel' to exit search mode.\"");
+    // The last hit stays on view and selected; Enter at the end does nothing more.
+    EXPECT_TRUE(Selected("3+2 \"aa\""));
+    EnterInBox();
+    EXPECT_EQ(Line(RC::cmdSelect), "\"Cancel\"");
+    Reopen(1);
     EXPECT_EQ(Line(RC::cmdSearch), "\"Search\" disabled");
-    App.Links.CloseLibrary();
-    Open(2);
+    Reopen(2);
     Read().Click(RC::cmdSearch);
     EXPECT_EQ(Line(RC::txtSpin).substr(0, 46), "low \"Search Information | \\tThe Information Li");
+    EXPECT_EQ(Hover(), "Ready to enter the search text. Then click 'Go' or press 'Enter' to start "
+                       "the search. Or click 'Cancel' to exit search mode.");
     EXPECT_EQ(Read().KeyPress(KeyCode::Enter, RC::txtSearch), 0);
     EXPECT_EQ(Line(RC::cmdSearch), "\"Enter >>\"");
     EXPECT_EQ(Read().KeyPress('w', RC::txtSearch), 'w');
     Key(KeyCode::Escape);
-    EXPECT_EQ(Title() + " | " + Line(RC::cmdSearch), "Veyrant Information Library | \"Search\"");
-    App.Links.CloseLibrary();
-    Open(3);
+    EXPECT_EQ(Shows({RC::cmdSearch}), "Veyrant Information Library | \"Search\"");
+    Reopen(3);
     Search("row 3");
     Read().Click(RC::cmdSelect);
-    EXPECT_EQ(Title() + " | " + Lines({RC::txtSpin, RC::List1}),
-              "Veyrant Knowledge Library -- 4/4/7 -- B | low \"B |  | \\tText of row "
-              "3. | \" "
+    EXPECT_EQ(Shows({RC::txtSpin, RC::List1}),
+              "Veyrant Knowledge Library -- 4/4/7 -- B | low \"B |  | \\tText of row 3. | \" "
               "back=ReadingText | 7 rows, selected -1, top 0, split back=IndexText");
     EXPECT_FALSE(Selected(""));
     Search("zebra");
-    EXPECT_EQ(Line(RC::txtNote),
-              "\"The search is complete. The text was not found. Click 'New' for a new "
-              "search. Click 'Cancel' to exit search mode.\"");
+    EXPECT_EQ(Line(RC::txtNote), "\"The search is complete. The text was not found. Click 'New' "
+                                 "for a new search. Click 'Cancel' to exit search mode.\"");
     Key(KeyCode::Escape);
-    EXPECT_EQ(Title() + " | " + Line(RC::cmdSearch), "Veyrant Knowledge Library | \"Search\"");
-    // The Dialogue list comes back when a search of all Dialogues found nothing.
+    EXPECT_EQ(Shows({RC::cmdSearch}), "Veyrant Knowledge Library | \"Search\"");
     App.Links.CloseLibrary();
-    SaveThree();
-    Open(1);
-    Search("zebra");
-    Read().Click(RC::cmdSelect);
-    EXPECT_EQ(Line(RC::cmdNext), "\"Latest\"");
-    EXPECT_EQ(Title().substr(0, 31), "Veyrant Dialogue Library -- 3/3");
-}
-
-// A click on the search box: with text waiting it empties the box; during a
-// search or after it, it starts a new search on the full list.
-TEST_F(ReaderSearch, ClickOnTheBoxStartsOver) {
-    for (const auto& [before, caption] :
-         {std::pair<std::string, std::string>{"typed", "\"< Go >\""},
-          {"hit", "\"< Next >\""},
-          {"ended", "\"New\""}}) {
-        SCOPED_TRACE(before);
+    const struct {
+        std::string Before, Caption, Hover;
+    } cases[] = {
+        {"typed", "\"< Go >\"",
+         "Begin the search. You may also press 'Enter'. Or click the search text to erase it and "
+         "begin again."},
+        {"hit", "\"< Next >\"",
+         "Find the next instance. You may also press 'Enter'. Or click the search text to cancel "
+         "and begin another search."},
+        {"ended", "\"New\"",
+         "Clear the search text box to begin another search. Or click 'Cancel' to exit the "
+         "search."},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.Before);
         Open(3);
         Read().Click(RC::cmdSearch);
-        Read().SearchTextChanged(before == "ended" ? "zebra" : "row");
-        if (before != "typed") {
+        Read().SearchTextChanged(c.Before == "ended" ? "zebra" : "row");
+        if (c.Before != "typed") {
             Read().Click(RC::cmdSearch);
         }
-        EXPECT_EQ(Line(RC::cmdSearch), caption);
+        EXPECT_EQ(Line(RC::cmdSearch), c.Caption);
+        EXPECT_EQ(Hover(), c.Hover);
         Read().Click(RC::txtSearch);
-        EXPECT_EQ(Title() + " | " + Lines({RC::cmdSearch, RC::txtSearch}),
+        EXPECT_EQ(Shows({RC::cmdSearch, RC::txtSearch}),
                   "Veyrant Knowledge Library -- Search Text | \"Enter >>\" | \"\" focus");
         EXPECT_FALSE(Selected(""));
         // The new search starts again from row 0.
@@ -181,54 +187,13 @@ TEST_F(ReaderSearch, ClickOnTheBoxStartsOver) {
         EXPECT_EQ(Title(), "Veyrant Knowledge Library -- 1/4/7 -- < First >");
         App.Links.CloseLibrary();
     }
-}
-
-// The hover help of cmdSearch follows the library outside search and the
-// caption inside it; File and Print tell where the text goes on this system.
-TEST_F(ReaderSearch, HoverTextsFollowTheState) {
+    // The Dialogue list comes back when a search of all Dialogues found nothing.
     SaveThree();
-    const auto hover = [&](RC button = RC::cmdSearch) {
-        Read().MouseMove(RC::List1);
-        Read().MouseMove(button);
-        return Read().Hover().Text();
-    };
     Open(1);
-    EXPECT_EQ(hover(), "Search for words or phrases within all the Dialogues. Starting with the "
-                       "latest, Dialogues are opened as the search text is found.");
-    Read().Click(RC::cmdNext);
-    EXPECT_EQ(hover(), "Search for words or phrases within only the displayed Dialogue. Click "
-                       "'Index' to search all Dialogues, latest to earliest.");
-    EXPECT_EQ(hover(RC::cmdFile) + " " + hover(RC::cmdPrint),
-              "Write the displayed Dialogue into the program's text editor. Then "
-              "you may save it "
-              "as a text file. Print the displayed Dialogue. The pages are laid "
-              "out for 'Letter' "
-              "paper.");
-    App.Links.CloseLibrary();
-    for (const auto& [library, name] :
-         {std::pair{2, "Information"}, {3, "Knowledge"}, {4, "Advanced Knowledge"}}) {
-        Open(library);
-        EXPECT_EQ(hover(), "Search for words or phrases within all " + std::string(name) +
-                               ". The list opens, and Topics are displayed as the search text "
-                               "text is found.");
-        App.Links.CloseLibrary();
-    }
-    Open(3);
-    Read().Click(RC::cmdSearch);
-    EXPECT_EQ(hover(), "Ready to enter the search text. Then click 'Go' or press "
-                       "'Enter' to start "
-                       "the search. Or click 'Cancel' to exit search mode.");
-    Read().SearchTextChanged("row");
-    EXPECT_EQ(hover(), "Begin the search. You may also press 'Enter'. Or click "
-                       "the search text to "
-                       "erase it and begin again.");
-    Read().Click(RC::cmdSearch);
-    EXPECT_EQ(hover(), "Find the next instance. You may also press 'Enter'. Or click the search "
-                       "text to cancel and begin another search.");
-    Read().Click(RC::txtSearch);
-    Go("zebra");
-    EXPECT_EQ(hover(), "Clear the search text box to begin another search. Or click 'Cancel' to "
-                       "exit the search.");
+    Search("zebra");
+    Read().Click(RC::cmdSelect);
+    EXPECT_EQ(Line(RC::cmdNext), "\"Latest\"");
+    EXPECT_EQ(Title().substr(0, 31), "Veyrant Dialogue Library -- 3/3");
 }
 
 } // namespace

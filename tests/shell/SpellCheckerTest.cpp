@@ -2,18 +2,24 @@
 
 #include "core/WholeFile.h"
 #include "shell/DictionaryChoice.h"
-#include "support/FakeDictionary.h"
 #include "support/TempFolder.h"
 
 #include <gtest/gtest.h>
+#include <set>
 
 namespace veyrant::testing {
 namespace {
 
-std::unique_ptr<Dictionary> FewWords() {
-    return std::make_unique<FakeDictionary>(
-        std::set<std::string, std::less<>>{"I", "the", "cat", "sat", "caf\xE9", "don't", "on"});
-}
+// A dictionary of a few words, with no corrections.
+class FewWords final : public Dictionary {
+public:
+    bool Knows(std::string_view word) const override { return words_.contains(word); }
+    std::vector<std::string> Suggest(std::string_view) const override { return {}; }
+    void Add(std::string_view word) override { words_.emplace(word); }
+
+private:
+    std::set<std::string, std::less<>> words_{"I", "the", "cat", "sat", "caf\xE9", "don't", "on"};
+};
 
 std::vector<std::string> Marked(const SpellChecker& checker, std::string_view text,
                                 std::size_t caret) {
@@ -42,7 +48,7 @@ TEST(SpellChecker, MarksFinishedWordsTheDictionaryDoesNotKnow) {
     };
     TempFolder folder;
     SpellChecker checker;
-    checker.Open(FewWords(), folder / "Words.txt");
+    checker.Open(std::make_unique<FewWords>(), folder / "Words.txt");
     for (const auto& c : cases) {
         EXPECT_EQ(Marked(checker, c.Text, c.Caret), c.Marked) << c.Text;
     }
@@ -60,7 +66,7 @@ TEST(SpellChecker, MarksFinishedWordsTheDictionaryDoesNotKnow) {
     EXPECT_EQ(looks, 2); // the watcher that answered false was forgotten
     EXPECT_EQ(ReadWholeFile(folder / "Words.txt"), "Qwerty\r\nZorp\r\n");
     SpellChecker restarted;
-    restarted.Open(FewWords(), folder / "Words.txt");
+    restarted.Open(std::make_unique<FewWords>(), folder / "Words.txt");
     EXPECT_TRUE(restarted.Knows("Qwerty") && restarted.Knows("Zorp"));
 }
 

@@ -47,22 +47,21 @@ TEST_F(DialogueLibraryTest, StrayNamesInTheInspirationFolderCountAsDialogues) {
 TEST_F(DialogueLibraryTest, SavingTakesTheDateOfTheWorkBuffersAndWritesBothFilesExactly) {
     const std::string inspiration = "\tEvery door you open \x93leads\x94 somewhere.";
     const std::string dialogue = "\r\n\r\n\t\x93Why now?\x94\r\n\tBecause the hour has come.";
-    KeepInspirationAt(inspiration, {2026, 11, 21, 18, 7, 42});
+    // The inspiration buffer, as the Write window keeps it, dates the save.
+    std::filesystem::create_directories(Folder.Exe());
+    WriteWholeFile(Folder.Exe() / "savei.tmp", inspiration);
+    SetFileDate(Folder.Exe() / "savei.tmp", {2026, 11, 21, 18, 7, 42});
     ASSERT_TRUE(Library.AddToLibrary(inspiration, dialogue));
-    EXPECT_EQ(SavedPair("76112118.070"), inspiration + "|" + dialogue);
-    EXPECT_EQ(Library.Listing().LibraryCount, 1);
     // A second save in the same minute takes the next file tag; the first pair stays.
     SetFileDate(Folder.Exe() / "savei.tmp", {2026, 11, 21, 18, 7, 5});
     EXPECT_EQ(Library.AddToLibrary(inspiration, dialogue + " More."), "76112118.071");
-    EXPECT_EQ(Library.Listing().LibraryCount, 2);
-    EXPECT_EQ(ReadWholeFile(Folder.Dlg() / "76112118.070"), dialogue);
-    EXPECT_EQ(ReadWholeFile(Folder.Dlg() / "76112118.071"), dialogue + " More.");
+    EXPECT_EQ(SavedPair("76112118.070") + SavedPair("76112118.071"),
+              inspiration + "|" + dialogue + inspiration + "|" + dialogue + " More.");
     // An inspiration without its tab is kept as it stands.
     SetFileDate(Folder.Exe() / "savei.tmp", {2026, 11, 21, 18, 8, 0});
     ASSERT_TRUE(Library.AddToLibrary("no tab here", dialogue));
     EXPECT_EQ(ReadWholeFile(Folder.Isp() / "76112118.080"), "no tab here");
-    EXPECT_EQ(Library.Listing().LibraryCount, 3);
-    EXPECT_TRUE(Windows.Boxes.empty());
+    EXPECT_TRUE(Library.Listing().LibraryCount == 3 && Windows.Boxes.empty());
     // With all ten tags of a minute taken the save is refused, and the box says why.
     for (int tag = 1; tag < FileTags; ++tag) {
         ASSERT_TRUE(Library.AddToLibrary(inspiration, dialogue));

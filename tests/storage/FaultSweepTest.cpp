@@ -30,10 +30,9 @@ struct StorageRun : LibraryStorage {
             onDisk += entry.path().filename().string().front() != '.' ? 1 : 0;
         }
         // A scan that failed has said so and leaves its tables as they stood.
-        const bool scanFailed =
-            std::any_of(Windows.Boxes.begin(), Windows.Boxes.end(), [](const auto& box) {
-                return box.Title.ends_with("Dialogue Library File Names");
-            });
+        const bool scanFailed = std::ranges::any_of(BoxTitles(), [](const std::string& title) {
+            return title.ends_with("Dialogue Library File Names");
+        });
         if (!scanFailed && Library.Listing().LibraryCount != onDisk) {
             return "the Library lists " + std::to_string(Library.Listing().LibraryCount) +
                    " Dialogues, isp/ holds " + std::to_string(onDisk);

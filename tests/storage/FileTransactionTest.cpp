@@ -5,6 +5,7 @@
 #include "storage/FileTransaction.h"
 
 #include "LibraryFixture.h"
+#include "support/FaultSweep.h"
 
 #include <set>
 
@@ -15,10 +16,8 @@ namespace {
 using Files = std::set<std::string>;
 
 TEST(FileTransaction, TheNextStartFinishesOrClearsWhatACrashLeft) {
-    const struct {
-        const char* Name;
-        Files Left, Expected; // Expected: everything the folder then holds
-    } cases[] = {
+    // What the crash left, and everything the folder then holds.
+    const std::tuple<const char*, Files, Files> cases[] = {
         {"a write of ours cut short in each folder; the user's own hidden files stay",
          {"exe/.savei.tmp.veyrant-staged.Ab12Cd=\thalf",
           "dlg/.76112010.000.veyrant-staged.x9Y8z7=half",
@@ -52,25 +51,22 @@ TEST(FileTransaction, TheNextStartFinishesOrClearsWhatACrashLeft) {
          {"isp/.76112010.000.new=\tnew"},
          {}},
     };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.Name);
+    for (const auto& [name, left, expected] : cases) {
+        SCOPED_TRACE(name);
         TempFolder temp;
         for (const auto& folder : {"exe", "dlg", "isp"}) {
             std::filesystem::create_directories(temp / folder);
         }
-        for (const std::string& file : c.Left) {
+        for (const std::string& file : left) {
             const auto equals = file.find('=');
             WriteWholeFile(temp / file.substr(0, equals), file.substr(equals + 1));
         }
         FinishInterruptedChanges(AppFolder{temp.Path()});
         Files found;
-        for (const auto& entry : std::filesystem::recursive_directory_iterator(temp.Path())) {
-            if (entry.is_regular_file()) {
-                found.insert(entry.path().lexically_relative(temp.Path()).string() + "=" +
-                             ReadWholeFile(entry.path()));
-            }
+        for (const auto& [file, bytes] : ImageOf(temp.Path())) {
+            found.insert(file + "=" + bytes);
         }
-        EXPECT_EQ(found, c.Expected);
+        EXPECT_EQ(found, expected);
     }
 }
 

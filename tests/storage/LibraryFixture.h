@@ -18,6 +18,7 @@
 #include <gtest/gtest.h>
 #include <string>
 #include <sys/resource.h>
+#include <tuple>
 #include <vector>
 
 namespace veyrant::testing {
@@ -42,11 +43,6 @@ struct LibraryStorage {
     std::string SaveAt(const DateTime& when, const std::string& dialogue = "\r\n\r\n\t\x93Hi\x94") {
         return PutDialogue(Folder, when, "\tInspiration of " + MakeFileName(when), dialogue);
     }
-    void SaveDays(std::initializer_list<double> ages) {
-        for (const double age : ages) {
-            SaveAt(DaysAgo(age));
-        }
-    }
     // A date the given number of days (and hours) before the clock's.
     DateTime DaysAgo(double days) const { return FromDayNumber(DayNumber(Clock.Date) - days); }
     std::vector<std::string> Names(const std::filesystem::path& folder) const {
@@ -60,12 +56,6 @@ struct LibraryStorage {
     // Dates a file through the fake clock, the one clock every test reads.
     void SetFileDate(const std::filesystem::path& path, const DateTime& when) {
         Clock.FileDates[path] = when;
-    }
-    // The inspiration buffer as the Write window keeps it, which dates the next save.
-    void KeepInspirationAt(const std::string& inspiration, const DateTime& when) {
-        std::filesystem::create_directories(Folder.Exe());
-        WriteWholeFile(Folder.Exe() / "savei.tmp", inspiration);
-        SetFileDate(Folder.Exe() / "savei.tmp", when);
     }
     // Both files of a saved pair, as "inspiration|dialogue".
     std::string SavedPair(const std::string& name) const {

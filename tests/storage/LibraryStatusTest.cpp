@@ -1,6 +1,7 @@
 #include "storage/LibraryStatus.h"
 
 #include <gtest/gtest.h>
+#include <tuple>
 
 namespace veyrant {
 namespace {
@@ -10,14 +11,8 @@ TEST(LibraryStatus, EveryWordingOfTheStatus) {
     const std::string limits =
         "The Library is set to save 30 Dialogues and delete those older than 21 days.";
     const std::string latest = "You created the latest one on ";
-    const struct {
-        int Count;
-        int OldestAge;
-        std::int16_t GuestMode;
-        const char* FirstFile;
-        std::int16_t MaxFiles;
-        std::string Status;
-    } cases[] = {
+    // The Dialogues, the age of the oldest, Guest Mode, the first file, the most files kept.
+    const std::tuple<int, int, std::int16_t, const char*, std::int16_t, std::string> cases[] = {
         {0, 0, 0, "76110309.050", 30,
          "There are currently no Dialogues saved in the Library. " + limits},
         {1, 19, 0, "76110309.050", 30,
@@ -46,18 +41,18 @@ TEST(LibraryStatus, EveryWordingOfTheStatus) {
         {3, 19, 1, "", 30,
          "The Library is in the Guest Mode. No Dialogues are saved or retrieved."},
     };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.Status);
+    for (const auto& [count, oldestAge, guestMode, firstFile, maxFiles, status] : cases) {
+        SCOPED_TRACE(status);
         LibraryListing listing;
-        listing.LibraryFiles[1] = c.FirstFile;
+        listing.LibraryFiles[1] = firstFile;
         listing.LibraryFiles[2] = "76112123.450";
         listing.LibraryFiles[3] = "76112200.010";
-        listing.LibraryCount = c.Count;
-        listing.OldestAge = c.OldestAge;
+        listing.LibraryCount = count;
+        listing.OldestAge = oldestAge;
         Settings settings;
-        settings.GuestMode = c.GuestMode;
-        settings.MaxLibraryFiles = c.MaxFiles;
-        EXPECT_EQ(GenLibStatus(listing, settings), heading + c.Status);
+        settings.GuestMode = guestMode;
+        settings.MaxLibraryFiles = maxFiles;
+        EXPECT_EQ(GenLibStatus(listing, settings), heading + status);
     }
 }
 

@@ -1,5 +1,6 @@
 #include "LibraryFixture.h"
 #include "storage/SavedDialogues.h"
+#include "support/FaultSweep.h"
 #include "support/FileFaults.h"
 
 namespace veyrant::testing {
@@ -7,16 +8,12 @@ namespace {
 
 using WorkBuffersTest = LibraryFixture;
 
-auto Fields(const DialogueBuffers& b) {
-    return std::tie(b.InspirationText, b.DialogueText, b.SuggestionText, b.PairCount);
-}
-
 TEST_F(WorkBuffersTest, GuestModeMissingAndDeletedBuffersGiveNoPriorDialogue) {
     ASSERT_TRUE(Buffers.WriteWorkBuffers(Kept));
-    EXPECT_EQ(ReadWholeFile(Folder.Exe() / "savei.tmp") +
-                  ReadWholeFile(Folder.Exe() / "savep.tmp") +
-                  ReadWholeFile(Folder.Exe() / "saves.tmp"),
-              Kept.InspirationText + " 1 \r\n" + Kept.SuggestionText);
+    EXPECT_EQ(ImageOf(Folder.Exe()), (FolderImage{{"savei.tmp", Kept.InspirationText},
+                                                  {"savem.tmp", Kept.DialogueText},
+                                                  {"savep.tmp", " 1 \r\n"},
+                                                  {"saves.tmp", Kept.SuggestionText}}));
     SetFileDate(Folder.Exe() / "savei.tmp", DaysAgo(4));
     UserSettings.GuestMode = 1;
     EXPECT_FALSE(Buffers.ReadWorkBuffers().has_value());
@@ -92,32 +89,28 @@ TEST_F(WorkBuffersTest, BuffersBeyondWhatTheProgramWritesAreDamaged) {
     while (manyShortLines.size() <= 121 * 8192) {
         manyShortLines += "\r\n\r\n\t\x93Why?\x94\r\n\tBecause.";
     }
-    const struct {
-        const char* Name;
-        DialogueBuffers Buffers;
-        bool Read;
-    } cases[] = {
+    // The name, the buffers and whether they read back.
+    const std::tuple<const char*, DialogueBuffers, bool> cases[] = {
         {"longest", {"\t" + std::string(8000, 'i'), longest, std::string(8000, 's'), 121}, true},
         {"one long line", {"\ti", "\r\n\r\n\t" + std::string(20000, 'x'), "s", 1}, false},
         {"too many lines", {"\ti", manyShortLines, "s", 121}, false},
         {"long inspiration", {"\t" + std::string(9000, 'i'), "\r\n\r\n\tx", "s", 1}, false},
         {"long suggestion", {"\ti", "\r\n\r\n\tx", std::string(9000, 's'), 1}, false},
     };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.Name);
-        ASSERT_TRUE(Buffers.WriteWorkBuffers(c.Buffers));
+    for (const auto& [name, buffers, read] : cases) {
+        SCOPED_TRACE(name);
+        ASSERT_TRUE(Buffers.WriteWorkBuffers(buffers));
         const auto prior = Buffers.ReadWorkBuffers();
-        ASSERT_EQ(prior.has_value(), c.Read);
+        ASSERT_EQ(prior.has_value(), read);
         if (prior) {
-            EXPECT_EQ(prior->Buffers.DialogueText, c.Buffers.DialogueText);
+            EXPECT_EQ(prior->Buffers.DialogueText, buffers.DialogueText);
             // Saved, the longest Dialogue reads back whole from the Library.
-            const auto saved =
-                Library.AddToLibrary(c.Buffers.InspirationText, c.Buffers.DialogueText);
-            EXPECT_EQ(ReadSavedDialogue(Folder, saved.value()).Dialogue, c.Buffers.DialogueText);
+            const auto saved = Library.AddToLibrary(buffers.InspirationText, buffers.DialogueText);
+            EXPECT_EQ(ReadSavedDialogue(Folder, saved.value()).Dialogue, buffers.DialogueText);
         }
         // An unusable buffer is set aside under a dated name, never written over, and the box
         // says where.
-        EXPECT_EQ(Windows.Boxes.size(), c.Read ? 0u : 1u);
+        EXPECT_EQ(Windows.Boxes.size(), read ? 0u : 1u);
         Windows.Boxes.clear();
     }
     std::filesystem::remove(Folder.Exe() / "savem.tmp");
@@ -131,10 +124,11 @@ TEST_F(WorkBuffersTest, BuffersBeyondWhatTheProgramWritesAreDamaged) {
 
 TEST_F(WorkBuffersTest, AFailedWriteLeavesTheOldSetWhole) {
     ASSERT_TRUE(Buffers.WriteWorkBuffers(Kept));
+    const FolderImage kept = ImageOf(Folder.Exe());
     EXPECT_FALSE(WithDiskNearlyFull([&] {
         return Buffers.WriteWorkBuffers({"\tnew", std::string(100000, 'x'), "new suggestion", 9});
     }));
-    EXPECT_EQ(Fields(Buffers.ReadWorkBuffers()->Buffers), Fields(Kept));
+    EXPECT_EQ(ImageOf(Folder.Exe()), kept);
     EXPECT_EQ(Windows.Boxes.at(0).Text.substr(0, 80),
               "Error 61 attempting to keep your Dialogue in the work buffers. The disk is full.");
     // A file where the program folder should be.

@@ -16,7 +16,12 @@ namespace veyrant::testing {
 // logic asked of the platform, so a test can assert what the user would have seen.
 class FakeWindowLayer : public WindowLayer {
 public:
-    MessageAnswer ShowMessage(const MessageBoxRequest& request) override;
+    MessageAnswer ShowMessage(const MessageBoxRequest& request) override {
+        Boxes.push_back(request);
+        const bool ok =
+            request.Buttons == MessageButtons::Ok || request.Buttons == MessageButtons::OkCancel;
+        return Next(Answers).value_or(ok ? MessageAnswer::Ok : MessageAnswer::Yes);
+    }
     void Yield() override { ++Yields; }
     void SetBusyPointer(bool busy) override { Busy = busy; }
     // A start of a running timer begins its count again, as the screen's timer does.
@@ -25,28 +30,57 @@ public:
         ++TimerStarts[timer];
     }
     void StopTimer(TimerId timer) override { Timers.erase(timer); }
-    void LoadWindow(WindowId window) override;
-    void UnloadWindow(WindowId window) override;
-    void ShowWindow(WindowId window) override;
-    void HideWindow(WindowId window) override;
+    void LoadWindow(WindowId window) override {
+        Loaded.insert(window);
+        Note("load ", window);
+    }
+    void UnloadWindow(WindowId window) override {
+        Loaded.erase(window);
+        Visible.erase(window);
+        Note("unload ", window);
+    }
+    void ShowWindow(WindowId window) override {
+        Loaded.insert(window);
+        Visible.insert(window);
+        Note("show ", window);
+    }
+    void HideWindow(WindowId window) override {
+        Visible.erase(window);
+        Note("hide ", window);
+    }
     void MinimiseWindow(WindowId window) override { Minimised.insert(window); }
     void RestoreWindow(WindowId window) override { Minimised.erase(window); }
     bool IsWindowVisible(WindowId window) const override { return Visible.count(window) > 0; }
     bool IsWindowMinimised(WindowId window) const override { return Minimised.count(window) > 0; }
     int ScreenWidthTwips() const override { return ScreenWidth; }
     int ScreenHeightTwips() const override { return ScreenHeight; }
-    int TextWidthTwips(const std::string& face, double points, bool bold, bool italic,
-                       const std::string& text) const override;
-    bool HasFontFace(const std::string& face, bool italic) const override;
-    PrintOutcome PrintDialogue(const PrintRequest& request) override;
+    // A fixed advance of half an em per character keeps layout tests predictable.
+    int TextWidthTwips(const std::string&, double points, bool, bool,
+                       const std::string& text) const override {
+        return static_cast<int>(static_cast<double>(text.size()) * points * 10.0);
+    }
+    bool HasFontFace(const std::string& face, bool italic) const override {
+        return !MissingFaces.contains(face + (italic ? "/italic" : "")) &&
+               !MissingFaces.contains(face);
+    }
+    PrintOutcome PrintDialogue(const PrintRequest& request) override {
+        Printed.push_back(request);
+        BusyWhilePrinting = Busy;
+        return PrintAnswer;
+    }
     void ShowInEditor(const std::string& text, const std::string& proposedFileName) override {
         EditorTexts.push_back({text, proposedFileName});
     }
     // Answers from the script, a cancel when it is empty.
     std::optional<std::filesystem::path>
-    AskSaveFileName(const std::string& proposedFileName) override;
+    AskSaveFileName(const std::string& proposedFileName) override {
+        ProposedSaveNames.push_back(proposedFileName);
+        return Next(SaveNameAnswers).value_or(std::nullopt);
+    }
     // Answers from the script, a cancel when it is empty.
-    std::optional<std::filesystem::path> AskFolder(const std::string& title) override;
+    std::optional<std::filesystem::path> AskFolder(const std::string&) override {
+        return Next(FolderAnswers);
+    }
     void OpenFolder(const std::filesystem::path& folder) override {
         OpenedFolders.push_back(folder);
     }
@@ -82,6 +116,23 @@ public:
     int Yields = 0;
     bool Busy = false;
     bool Ended = false;
+
+private:
+    // The script's next answer, taken from it; nothing when the script is empty.
+    template <typename Answer>
+    static std::optional<Answer> Next(std::deque<Answer>& script) {
+        if (script.empty()) {
+            return std::nullopt;
+        }
+        Answer answer = script.front();
+        script.pop_front();
+        return answer;
+    }
+    void Note(const char* verb, WindowId window) {
+        static const char* const Names[] = {"Banner",  "Back",   "Mirror", "Read",  "Options",
+                                            "Utility", "Resize", "Check",  "Export"};
+        WindowEvents.push_back(verb + std::string(Names[static_cast<int>(window)]));
+    }
 };
 
 } // namespace veyrant::testing

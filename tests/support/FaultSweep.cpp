@@ -1,5 +1,7 @@
 #include "support/FaultSweep.h"
 
+#include <algorithm>
+#include <array>
 #include <cerrno>
 #include <fstream>
 #include <gtest/gtest.h>
@@ -55,15 +57,10 @@ std::optional<std::string> Find(const FolderImage& image, const std::string& fil
 // A group is whole when all its files stand as before, or all as after.
 bool Whole(const std::vector<std::string>& group, const FolderImage& before,
            const FolderImage& after, const FolderImage& now) {
-    const auto all = [&](const FolderImage& side) {
-        for (const auto& file : group) {
-            if (Find(now, file) != Find(side, file)) {
-                return false;
-            }
-        }
-        return true;
-    };
-    return all(before) || all(after);
+    return std::ranges::any_of(std::array{&before, &after}, [&](const FolderImage* side) {
+        return std::ranges::all_of(
+            group, [&](const std::string& file) { return Find(now, file) == Find(*side, file); });
+    });
 }
 
 std::vector<std::string> Findings(const FolderImage& before, const FolderImage& after,
@@ -100,64 +97,55 @@ std::vector<std::string> Findings(const FolderImage& before, const FolderImage& 
 
 bool Told(const std::vector<MessageBoxRequest>& boxes, int number) {
     const std::string error = "Error " + std::to_string(number);
-    for (const auto& box : boxes) {
-        if (box.Title.find(error) != std::string::npos ||
-            box.Text.find(error) != std::string::npos) {
-            return true;
-        }
-    }
-    return false;
+    return std::ranges::any_of(boxes, [&](const MessageBoxRequest& box) {
+        return (box.Title + "\n" + box.Text).find(error) != std::string::npos;
+    });
+}
+
+// A fresh run of the path, acting with the faults the arm puts in.
+SweepRun RunUnder(const SweepPath& path, const std::function<void(FileFaults&)>& arm) {
+    SweepRun run = path.Make();
+    run.Before();
+    FileFaults faults;
+    arm(faults);
+    run.Act();
+    return run;
 }
 
 void Sweep(const SweepPath& path) {
+    SCOPED_TRACE(path.Name);
+    SweepRun clean = path.Make();
+    clean.Before();
+    const FolderImage before = clean.Image();
     int calls = 0;
-    FolderImage before;
-    FolderImage after;
     {
-        SCOPED_TRACE(path.Name + ", clean run");
-        auto run = path.Make();
-        run->Before();
-        before = run->Image();
         FileFaults faults;
-        run->Act();
+        clean.Act();
         calls = faults.Calls;
-        after = run->Image();
-        EXPECT_EQ(run->Disagreement(), std::nullopt);
-        for (const auto& [file, bytes] : after) {
-            EXPECT_EQ(file.find("/."), std::string::npos) << "hidden file left: " << file;
-        }
+    }
+    const FolderImage after = clean.Image();
+    EXPECT_EQ(clean.Disagreement(), std::nullopt);
+    for (const auto& [file, bytes] : after) {
+        EXPECT_EQ(file.find("/."), std::string::npos) << "hidden file left: " << file;
     }
     for (int k = 1; k <= calls; ++k) {
         for (const Fault& fault : Faults) {
-            SCOPED_TRACE(path.Name + ", call " + std::to_string(k) + " fails with " + fault.Name);
-            auto run = path.Make();
-            run->Before();
-            {
-                FileFaults faults;
-                faults.FailAt(k, fault.Error);
-                run->Act();
-            }
-            const auto now = run->Image();
+            SCOPED_TRACE("call " + std::to_string(k) + " fails with " + fault.Name);
+            SweepRun run =
+                RunUnder(path, [&](FileFaults& faults) { faults.FailAt(k, fault.Error); });
+            const auto now = run.Image();
             EXPECT_EQ(Findings(before, after, now), std::vector<std::string>{});
             if (now != after && !path.Silent) {
-                EXPECT_TRUE(Told(run->Boxes(), fault.Number)) << "no box names the failure";
+                EXPECT_TRUE(Told(run.Boxes(), fault.Number)) << "no box names the failure";
             }
-            EXPECT_EQ(run->Disagreement(), std::nullopt);
+            EXPECT_EQ(run.Disagreement(), std::nullopt);
         }
+        SCOPED_TRACE("killed at call " + std::to_string(k));
+        SweepRun run = RunUnder(path, [&](FileFaults& faults) { faults.CrashAt(k); });
+        EXPECT_EQ(run.Restart(before, after), std::nullopt);
+        EXPECT_EQ(Findings(before, after, run.Image()), std::vector<std::string>{});
     }
-    for (int k = 1; k <= calls; ++k) {
-        SCOPED_TRACE(path.Name + ", killed at call " + std::to_string(k));
-        auto run = path.Make();
-        run->Before();
-        {
-            FileFaults faults;
-            faults.CrashAt(k);
-            run->Act();
-        }
-        EXPECT_EQ(run->Restart(before, after), std::nullopt);
-        EXPECT_EQ(Findings(before, after, run->Image()), std::vector<std::string>{});
-    }
-    EXPECT_GT(calls, 0) << path.Name;
+    EXPECT_GT(calls, 0);
 }
 
 } // namespace

@@ -25,72 +25,57 @@ using FolderImage = std::map<std::string, std::string>;
 
 FolderImage ImageOf(const std::filesystem::path& root);
 
-// One program's worth of storage for one run; the path makes it and runs in it.
+// One program's worth of storage for one run, made by its path.
 struct SweepRun {
-    virtual ~SweepRun() = default;
-    virtual std::filesystem::path Root() const = 0;
-    virtual const std::vector<MessageBoxRequest>& Boxes() const = 0;
     // The folder as the path's files are compared: their bytes, or what a sealed file holds.
-    virtual FolderImage Image() const { return ImageOf(Root()); }
+    std::function<FolderImage()> Image;
+    std::function<const std::vector<MessageBoxRequest>&()> Boxes;
     // Lays down what was there before, without the faults.
-    virtual void Before() = 0;
+    std::function<void()> Before;
     // The path itself.
-    virtual void Act() = 0;
+    std::function<void()> Act;
     // A message when what the program holds in memory disagrees with the disk, after the path.
-    virtual std::optional<std::string> Disagreement() const = 0;
+    std::function<std::optional<std::string>()> Disagreement;
     // The next start after a kill, and what it then shows: a message when it shows a Dialogue
     // that is not whole, or reopens a running Dialogue that is neither old nor new.
-    virtual std::optional<std::string> Restart(const FolderImage& before,
-                                               const FolderImage& after) = 0;
+    std::function<std::optional<std::string>(const FolderImage& before, const FolderImage& after)>
+        Restart;
 };
 
 struct SweepPath {
     std::string Name;
-    std::function<std::unique_ptr<SweepRun>()> Make;
+    std::function<SweepRun()> Make;
     // The path stops without a word at a failure, as the delete of the work buffers does.
     bool Silent = false;
 };
 
-// A run in a world that has a Folder and Windows and says itself what disagrees and what the
-// next start finds; the path gives what was there before and what it does.
+// A path run in a fresh world that has a Folder and Windows and says itself what disagrees and
+// what the next start finds; the path gives what was there before and what it does.
 template <typename World>
-class WorldRun final : public SweepRun {
-public:
-    using Step = std::function<void(World&)>;
-
-    WorldRun(Step before, Step act) : before_(std::move(before)), act_(std::move(act)) {}
-
-    std::filesystem::path Root() const override { return world_.Folder.Root; }
-    const std::vector<MessageBoxRequest>& Boxes() const override { return world_.Windows.Boxes; }
-    FolderImage Image() const override {
-        if constexpr (requires { world_.Image(); }) {
-            return world_.Image();
-        } else {
-            return ImageOf(Root());
-        }
-    }
-    void Before() override {
-        before_(world_);
-        world_.Windows.Boxes.clear();
-    }
-    void Act() override { act_(world_); }
-    std::optional<std::string> Disagreement() const override { return world_.Disagreement(); }
-    std::optional<std::string> Restart(const FolderImage& before,
-                                       const FolderImage& after) override {
-        return world_.Restart(before, after);
-    }
-
-private:
-    World world_;
-    Step before_;
-    Step act_;
-};
-
-template <typename World>
-SweepPath PathIn(std::string name, typename WorldRun<World>::Step before,
-                 typename WorldRun<World>::Step act, bool silent = false) {
-    return {std::move(name),
-            [before, act] { return std::make_unique<WorldRun<World>>(before, act); }, silent};
+SweepPath PathIn(std::string name, std::function<void(World&)> before,
+                 std::function<void(World&)> act, bool silent = false) {
+    const auto make = [before, act] {
+        const auto world = std::make_shared<World>();
+        return SweepRun{
+            [world] {
+                if constexpr (requires { world->Image(); }) {
+                    return world->Image();
+                } else {
+                    return ImageOf(world->Folder.Root);
+                }
+            },
+            [world]() -> const std::vector<MessageBoxRequest>& { return world->Windows.Boxes; },
+            [world, before] {
+                before(*world);
+                world->Windows.Boxes.clear();
+            },
+            [world, act] { act(*world); },
+            [world] { return world->Disagreement(); },
+            [world](const FolderImage& was, const FolderImage& is) {
+                return world->Restart(was, is);
+            }};
+    };
+    return {std::move(name), make, silent};
 }
 
 // Sweeps each path with ENOSPC, EIO and EROFS at every call, then with a kill at every call;

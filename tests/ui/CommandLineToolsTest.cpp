@@ -1,14 +1,12 @@
 // The program's tools as a script runs them, with no display: --export-library with --pdf, and
 // the developer's print-dialogue; what they print is read back with pdftotext.
 
-#include "storage/LibraryFileName.h"
-#include "support/FakeClock.h"
+#include "support/SavedDialogue.h"
 #include "support/TempFolder.h"
 
 #include <QProcess>
 #include <QProcessEnvironment>
 #include <QTest>
-#include <fstream>
 
 namespace veyrant {
 
@@ -16,21 +14,15 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-void WriteFile(const std::filesystem::path& path, const std::string& bytes) {
-    std::filesystem::create_directories(path.parent_path());
-    std::ofstream(path, std::ios::binary) << bytes;
-}
-
-// A saved Dialogue whose entries are numbered from first on.
-void SaveDialogue(const std::filesystem::path& library, const std::string& name, int first,
-                  int count, const std::string& inspiration) {
+// A Dialogue saved at that date whose entries are numbered from first on; returns its file name.
+std::string SaveDialogue(const std::filesystem::path& library, const DateTime& when, int first,
+                         int count, const std::string& inspiration) {
     std::string dialogue;
     for (int entry = first; entry < first + count; ++entry) {
         dialogue += "\r\n\r\n\t\223Entry number " + std::to_string(entry) +
                     " of the Dialogue.\224\r\n\tA short reply.";
     }
-    WriteFile(library / "dlg" / name, dialogue);
-    WriteFile(library / "isp" / name, inspiration);
+    return testing::PutDialogue(AppFolder{library}, when, inspiration, dialogue);
 }
 
 QString Run(const QString& program, const QStringList& arguments,
@@ -64,8 +56,8 @@ private slots:
         testing::TempFolder folder;
         const auto library = folder / "veyrant-sagrel";
         // Two Dialogues of four pages and of one, saved out of date order.
-        SaveDialogue(library, "76112309.150", 100, 40, "\tAn Inspiration.");
-        SaveDialogue(library, "76112212.000", 1, 3, "\tAn Inspiration.");
+        SaveDialogue(library, {2026, 11, 23, 9, 15, 0}, 100, 40, "\tAn Inspiration.");
+        SaveDialogue(library, {2026, 11, 22, 12, 0, 0}, 1, 3, "\tAn Inspiration.");
         const auto out = QString::fromStdString((folder / "out").string());
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert(u"XDG_DATA_HOME"_s, QString::fromStdString(folder.Path()));
@@ -99,8 +91,8 @@ private slots:
     // line: 26 on the first page, 32 on the second, the rest on the third.
     void PrintDialoguePutsHeadsAndTheLastEntryOnThreePages() {
         testing::TempFolder folder;
-        const auto name = MakeFileName(testing::FakeClock{}.Date);
-        SaveDialogue(folder.Path(), name, 1, 30, "\tThe Inspiration of the day.");
+        const auto name = SaveDialogue(folder.Path(), testing::FakeClock{}.Date, 1, 30,
+                                       "\tThe Inspiration of the day.");
         const auto pdf = QString::fromStdString((folder / "dialogue.pdf").string());
         QCOMPARE(Run(QStringLiteral(PRINT_DIALOGUE),
                      {QString::fromStdString((folder / "dlg" / name).string()), pdf}),

@@ -2,7 +2,7 @@
 // presses on the windows, the program's real boxes take the clicks, and the window manager tells
 // which window stands in front.
 
-#include "StartedProgram.h"
+#include "ProgramFixtures.h"
 
 #include <QApplication>
 #include <QLabel>

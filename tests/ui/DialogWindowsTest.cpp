@@ -1,50 +1,24 @@
 // The windows besides the Write window as the user meets them: the Read window stepping through
 // each library by keys, the banner, Utilities, Display Size and Library Options, and the window
-// layer under them. Every window as a screen reader and a keyboard user meet it: each control
-// says what it is, and Tab walks the dialogs' commands in reading order.
+// layer under them; Tab walks the dialogs' commands in reading order.
 
-#include "WriteWindowFixture.h"
-#include "app/Application.h"
-#include "app/Utility.h"
+#include "ProgramFixtures.h"
 #include "core/Cp1252.h"
-#include "core/Random.h"
 #include "reader/FixedLibrary.h"
-#include "shell/DisplayScale.h"
-#include "shell/Resize.h"
-#include "storage/Options.h"
-#include "support/FakeClock.h"
-#include "support/FakeWindowLayer.h"
 #include "support/SavedDialogue.h"
-#include "support/TempFolder.h"
-#include "ui/BackWindow.h"
-#include "ui/BannerWindow.h"
-#include "ui/ExportEditorWindow.h"
 #include "ui/OptionsWindow.h"
-#include "ui/PrintFlow.h"
-#include "ui/QtWindowLayer.h"
-#include "ui/ReaderWindow.h"
 #include "ui/ResizeWindow.h"
 #include "ui/UtilityWindow.h"
 
-#include <QAbstractButton>
-#include <QAccessible>
 #include <QCheckBox>
-#include <QComboBox>
-#include <QGuiApplication>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMessageBox>
-#include <QPlainTextEdit>
-#include <QPrintPreviewDialog>
-#include <QPrinter>
-#include <QPushButton>
 #include <QRadioButton>
 #include <QScreen>
 #include <QScrollBar>
 #include <QtTest>
-#include <filesystem>
-#include <memory>
 
 namespace veyrant {
 
@@ -59,23 +33,19 @@ void Show(Window& window) {
     QVERIFY(QTest::qWaitForWindowExposed(&window));
 }
 
-struct DisplaySize {
-    explicit DisplaySize(std::int16_t option) {
+// The Display Size dialog, shown with a display option ticked.
+struct DisplaySizeDialog : UtilityDialogs<testing::FakeWindowLayer> {
+    explicit DisplaySizeDialog(std::int16_t option) {
         UserSettings.DisplayOption = option;
         Show(Window);
     }
     QRadioButton* Choice(const char* name) { return Window.findChild<QRadioButton*>(name); }
-    testing::FakeWindowLayer Windows;
-    Settings UserSettings;
-    Preferences UserPreferences;
-    int Exits = 0;
-    Resize Logic{UserSettings, UserPreferences, Windows, [this] { ++Exits; }};
-    ResizeWindow Window{Logic, 1.0};
+    ResizeWindow Window{DisplaySize, 1.0};
 };
 
 // The Library Options window over a Library of three Dialogues, with a first start's settings.
-struct LibraryOptions {
-    LibraryOptions() {
+struct OptionsDialog : UtilityDialogs<testing::FakeWindowLayer> {
+    OptionsDialog() {
         for (const int day : {18, 20, 21}) {
             testing::PutDialogue(Folder, {2026, 11, day, 20, 15, 0}, "\tA seed.",
                                  "\r\n\r\n\tSoon.");
@@ -86,49 +56,8 @@ struct LibraryOptions {
     Widget* Find(const char* name) {
         return Window.findChild<Widget*>(name);
     }
-    testing::TempFolder Temp;
-    AppFolder Folder{Temp.Path()};
-    Settings UserSettings;
-    testing::FakeClock Clock;
-    testing::FakeWindowLayer Windows;
-    DialogueLibrary Library{Folder, UserSettings, Clock, Windows};
-    int Exits = 0;
-    Options Logic{Library, UserSettings, Windows, [this] { ++Exits; }, [] {}};
-    OptionsWindow Window{Logic};
+    OptionsWindow Window{LibraryOptions};
 };
-
-// Every window of the program over one fresh folder, the Write window shown and started.
-struct Program : WriteWindow {
-    Utility Utilities{Layer, "4.1.26.11.22", "2026", [] {}};
-    Resize DisplaySize{App.UserSettings, App.UserPreferences, Layer, [] {}};
-    Options LibraryOptions{Library, App.UserSettings, Layer, [] {}, [] {}};
-};
-
-QString Spoken(QWidget* widget, QAccessible::Text text) {
-    QAccessibleInterface* face = QAccessible::queryAccessibleInterface(widget);
-    return face == nullptr ? QString() : face->text(text);
-}
-
-bool IsControl(const QWidget* widget) {
-    return qobject_cast<const QAbstractButton*>(widget) != nullptr ||
-           qobject_cast<const QPlainTextEdit*>(widget) != nullptr ||
-           qobject_cast<const QLineEdit*>(widget) != nullptr ||
-           qobject_cast<const QComboBox*>(widget) != nullptr;
-}
-
-// The controls of a window that a screen reader would give no name.
-QStringList Unnamed(QWidget& window) {
-    QStringList unnamed;
-    if (Spoken(&window, QAccessible::Name).isEmpty()) {
-        unnamed << window.objectName();
-    }
-    for (QWidget* widget : window.findChildren<QWidget*>()) {
-        if (IsControl(widget) && Spoken(widget, QAccessible::Name).trimmed().isEmpty()) {
-            unnamed << u"%1 (%2)"_s.arg(widget->objectName(), widget->metaObject()->className());
-        }
-    }
-    return unnamed;
-}
 
 // The controls that the Tab key visits from the one in focus, by name, once round.
 QStringList TabOrder() {
@@ -153,8 +82,9 @@ std::string LongDialogue() {
     return text + "\r\n\r\n\t\223And the Heron?\224";
 }
 
-struct ReadWindow {
-    ReadWindow() : App(AppFolder{Temp / "app"}, Temp / "program", Clock, Draws, Layer) {
+// The Read window over the libraries as the program loads them.
+struct ReadWindow : FreshApplication {
+    ReadWindow() {
         std::filesystem::create_directories(App.Folder.Exe());
         SetDisplayScale(1, App.Scale);
         LoadLibraries(App.Libraries);
@@ -170,6 +100,8 @@ struct ReadWindow {
         Window->show();
         Window->activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(Window.get()));
+        // The window's own answer to coming to the front runs before the first key, as it would.
+        QCoreApplication::processEvents();
         Window->Render();
     }
     void Key(Qt::Key key) { QTest::keyClick(Window.get(), key); }
@@ -198,11 +130,6 @@ struct ReadWindow {
         testing::PutDialogue(App.Folder, when, inspiration, dialogue, &Clock);
     }
 
-    testing::TempFolder Temp;
-    testing::FakeWindowLayer Layer;
-    testing::FakeClock Clock;
-    Random Draws;
-    Application App;
     std::unique_ptr<ReaderWindow> Window;
 };
 
@@ -213,7 +140,7 @@ class DialogWindowsTest : public QObject {
 
 private slots:
     void displaySizeStoresTheChoiceAndCancelPutsItBack() {
-        DisplaySize program(1);
+        DisplaySizeDialog program(1);
         QVERIFY(program.Choice("Option1")->isChecked() && program.Choice("Option1")->hasFocus());
         QCOMPARE(program.Choice("Option4")->text(),
                  QString("90% for 12\" display, 640x480 (not recomnd)"));
@@ -226,7 +153,7 @@ private slots:
         QCOMPARE(program.UserSettings.DisplayOption, 1);
         QVERIFY(program.Choice("Option1")->isChecked());
 
-        DisplaySize ok(0);
+        DisplaySizeDialog ok(0);
         QTest::mouseClick(ok.Choice("Option3"), Qt::LeftButton);
         QTest::keyClick(&ok.Window, Qt::Key_O, Qt::AltModifier);
         QTRY_COMPARE(ok.Exits, 1);
@@ -234,7 +161,7 @@ private slots:
     }
 
     void optionsTakeDigitsOnlyAndOkClampsThem() {
-        LibraryOptions program;
+        OptionsDialog program;
         QCOMPARE(program.Find<QLabel>("lblSetSave")->text(),
                  QString("Set maximum saved &files between 1 and 99 files"));
         QVERIFY(program.Find<QPushButton>("cmdCancel")->hasFocus());
@@ -266,7 +193,7 @@ private slots:
     }
 
     void optionsEscapeRestoresGuestModeOnlyAndCleanEmptiesTheLibrary() {
-        LibraryOptions program;
+        OptionsDialog program;
         QTest::keyClick(&program.Window, Qt::Key_G, Qt::AltModifier);
         // A mnemonic clicks a check box after a short show of the press.
         QTRY_COMPARE(program.UserSettings.GuestMode, 1);
@@ -277,7 +204,7 @@ private slots:
         QCOMPARE(program.UserSettings.MaxLibraryFiles, 0);
         QCOMPARE(program.Exits, 1);
 
-        LibraryOptions clean;
+        OptionsDialog clean;
         QTest::mouseClick(clean.Find<QPushButton>("cmdClean"), Qt::LeftButton);
         QVERIFY(!clean.Find<QPushButton>("cmdClean")->isEnabled());
         QVERIFY(clean.Find<QPushButton>("cmdCancel")->hasFocus());
@@ -320,89 +247,39 @@ private slots:
         QVERIFY(!windows.IsWindowVisible(WindowId::Back));
     }
 
-    void everyControlOfEveryWindowHasANameAndTabReadsInOrder() {
-        Program program;
-        MirrorWindow& write = *program.Window;
-        BannerWindow banner(program.Layer);
+    void theBannerStandsAboveTheMiddleAndTabReadsTheDialogsInOrder() {
+        UtilityDialogs<testing::FakeWindowLayer> dialogs;
+        BannerWindow banner(dialogs.Windows);
         banner.show();
         // The banner stands frameless above the middle of the screen.
         QCOMPARE(banner.geometry(), QRect((1920 - 512) / 2, int((1080 - 302) / 2.3), 512, 302));
         QVERIFY(banner.windowFlags().testFlag(Qt::FramelessWindowHint));
-        UtilityWindow utilities(program.Utilities, 1.0);
+        UtilityWindow utilities(dialogs.Utilities, 1.0);
         utilities.show();
-        ResizeWindow displaySize(program.DisplaySize, 1.0);
+        ResizeWindow displaySize(dialogs.DisplaySize, 1.0);
         displaySize.show();
-        OptionsWindow options(program.LibraryOptions);
+        OptionsWindow options(dialogs.LibraryOptions);
         options.show();
-        SaveFolder folders;
-        ExportEditorWindow exported(program.Layer, folders, program.App.Spelling,
-                                    u"Dialogue text"_s, u"Dialogue.txt"_s);
-        const auto about = BuildMessageBox(
-            {"About the Veyrant Sagrel Program", AboutText("4.1.26.11.22", "2026")});
-        QPrinter printer;
-        const auto preview = BuildPrintPreview(printer, &write);
-        program.App.Back.Load();
-        BackWindow backdrop(program.App.Back);
-
-        // The Read window over the Dialogue Library, which needs no fixed library loaded.
-        program.App.Links.BeginOpening();
-        program.App.Links.OpenLibrary(LibraryId::Dialogue);
-        ReaderWindow reader(program.App, *program.App.Read);
-        reader.show();
-        reader.Render();
-
-        const std::vector<QWidget*> windows = {&write,        &banner,   &utilities,  &displaySize,
-                                               &options,      &exported, about.get(), &reader,
-                                               preview.get(), &backdrop};
-        for (QWidget* window : windows) {
-            QCOMPARE(Unnamed(*window), QStringList());
-        }
-        // The backdrop's hint shows only under a moving pointer; a screen reader tells it always.
-        QCOMPARE(Spoken(&backdrop, QAccessible::Description), QString(Backdrop::HintText));
-        // The hover help is spoken, and a screen reader tells the key that presses a button, as
-        // the underlined letter shows it.
-        QCOMPARE(Spoken(write.Widget(MirrorControl::txtMirror), QAccessible::Description),
-                 QString("Type a question or a statement, then press 'Enter'."));
-        QCOMPARE(Spoken(write.Widget(MirrorControl::cmdHelp), QAccessible::Description),
-                 QString("Open the Information Library for instructions and information on the "
-                         "program. Right-click to open the Utilities window."));
-        QCOMPARE(QAccessible::queryAccessibleInterface(write.Widget(MirrorControl::cmdHelp))
-                     ->actionInterface()
-                     ->keyBindingsForAction(QAccessibleActionInterface::pressAction()),
-                 QStringList{"Alt+H"});
-        // The description follows the button's state, as the hover help does.
-        QTest::mouseClick(write.Widget(MirrorControl::cmdConverse), Qt::LeftButton);
-        QCOMPARE(Unnamed(write), QStringList());
-        QCOMPARE(Spoken(write.Widget(MirrorControl::cmdConverse), QAccessible::Description),
-                 QString("Click 'Cancel' to exit Converse and reset to New Dialogue."));
-        // The instruction line's description follows its words.
-        QCOMPARE(Spoken(write.Widget(MirrorControl::txtNote), QAccessible::Description),
-                 QString("Type your question or statement. Click 'Rewrite' to erase the text. "
-                         "Press 'Enter' for the Sagrel response."));
-
         // Tab walks the dialogs' commands in reading order.
-        struct Case {
-            QWidget* Window;
-            QStringList Order;
-        };
-        const std::vector<Case> cases = {
+        const std::pair<QWidget*, QStringList> cases[] = {
             {&utilities, {"cmdOptions", "cmdResize", "cmdExport", "cmdAbout"}},
             {&displaySize, {"Option1", "chkSpelling", "cmdOK", "cmdCancel"}},
             // An empty Library has nothing to clean, and its button is passed over.
             {&options, {"txtSetSave", "txtSetDays", "Check1", "cmdOK", "cmdCancel"}},
         };
-        for (const Case& c : cases) {
-            QApplication::setActiveWindow(c.Window);
-            QVERIFY(QTest::qWaitForWindowActive(c.Window));
+        for (const auto& [window, expected] : cases) {
+            QApplication::setActiveWindow(window);
+            QVERIFY(QTest::qWaitForWindowActive(window));
             // The round is read from the first control on, wherever the focus began.
-            QStringList order = TabOrder();
-            const auto first = order.indexOf(c.Order.front());
+            const QStringList order = TabOrder();
+            const auto first = order.indexOf(expected.front());
             QVERIFY2(first >= 0, qPrintable(order.join(", ")));
-            order = order.mid(first) + order.first(first);
-            QCOMPARE(order, c.Order);
+            QCOMPARE(order.mid(first) + order.first(first), expected);
         }
     }
-    // Index-1, a Section, its first Topic split and expanded, and back to Index-1 by Esc.
+    // Index-1, a Section, its first Topic split and expanded, and back to Index-1 by Esc; the
+    // window's grey as painted; merge fills the window with the Section's Topics, no step takes
+    // the keys there, and they scroll the long essay.
     void fixedLibrariesStepWithKeys_data() {
         QTest::addColumn<int>("library");
         QTest::addColumn<QString>("name");
@@ -417,6 +294,13 @@ private slots:
         read.Open(library);
         const auto& lib = read.App.Libraries[static_cast<LibraryId>(library)];
         QCOMPARE(read.Title(), name);
+        // The window, its instruction line and its buttons wear the Read window's grey.
+        const QImage shot = read.Window->grab().toImage();
+        for (const auto control : {ReaderControl::Window, txtNote, cmdExitM}) {
+            const QWidget* widget = read.Window->Widget(control);
+            const QPoint inside = widget->mapTo(read.Window.get(), QPoint(3, widget->height() / 2));
+            QCOMPARE(shot.pixelColor(inside), QColor(190, 190, 196));
+        }
         read.Key(Qt::Key_Down);
         QCOMPARE(read.List()->count(), lib.LastRow + 1);
         read.Key(Qt::Key_Down);
@@ -431,12 +315,42 @@ private slots:
         QCOMPARE(read.List()->count(), lib.LastSection + 1);
         read.Key(Qt::Key_Return);
         QCOMPARE(read.List()->count(), lib.LastRow + 1);
+        read.App.Links.CloseLibrary();
+        read.Open(library);
+        read.Key(Qt::Key_Down);
+        read.Click(cmdPrint);
+        QVERIFY(!read.List()->isVisible());
+        QScrollBar* bar = read.Spin()->verticalScrollBar();
+        read.Key(Qt::Key_PageDown);
+        QVERIFY(bar->value() > 0);
+        read.Key(Qt::Key_End);
+        QCOMPARE(bar->value(), bar->maximum());
     }
 
-    // A search of the Knowledge Library typed into the real box: the hit is selected in the
-    // text and scrolled into view, Enter steps on, and keypad Enter on a word not there tells so.
-    void searchesAFixedLibrary() {
+    // The Dialogue Library steps latest first, and a search of all Dialogues opens the one it
+    // finds, latest to earliest, with the hit selected. A search of the Knowledge Library: the hit
+    // is selected in the text and scrolled into view, Enter steps on, and keypad Enter on a word
+    // not there tells so.
+    void searchesSelectTheHitInView() {
         ReadWindow read;
+        read.SaveDialogue({2026, 11, 12, 9, 0, 0}, "\tA heron by the water.", LongDialogue());
+        read.SaveDialogue({2026, 11, 18, 9, 0, 0}, "\tA path.", "\r\n\r\n\t\x93Why?\x94\r\n\tOn.");
+        read.SaveDialogue({2026, 11, 21, 20, 15, 0}, "\tStones.",
+                          "\r\n\r\n\t\x93No.\x94\r\n\tYes.");
+        read.Open(1);
+        for (int step = 0; step < 3; ++step) {
+            read.Key(Qt::Key_PageDown);
+        }
+        QVERIFY(read.Title().startsWith(u"Veyrant Dialogue -- 1/3"_s));
+        QVERIFY(!read.Window->Widget(cmdNext)->isEnabled());
+        read.App.Links.CloseLibrary();
+        read.Open(1);
+        read.SearchFor(u"heron?"_s);
+        QVERIFY(read.Title().startsWith(u"Veyrant Dialogue -- 1/3"_s));
+        QCOMPARE(read.Selected(), u"Heron?"_s);
+        QVERIFY(read.HitInView());
+        QCOMPARE(read.List()->currentRow(), 2);
+        read.App.Links.CloseLibrary();
         read.Open(3);
         read.SearchFor(u"wisdom"_s);
         QCOMPARE(read.Selected().toLower(), u"wisdom"_s);
@@ -463,51 +377,6 @@ private slots:
         QCOMPARE(read.SearchBox()->text(), u"No text found"_s);
         read.Key(Qt::Key_Escape);
         QVERIFY(!read.SearchBox()->isEnabled());
-    }
-
-    // The Dialogue Library steps latest first, and a search of all Dialogues opens the one it
-    // finds, latest to earliest, with the hit selected.
-    void dialogueLibraryStepsLatestFirstAndIsSearched() {
-        ReadWindow read;
-        read.SaveDialogue({2026, 11, 12, 9, 0, 0}, "\tA heron by the water.", LongDialogue());
-        read.SaveDialogue({2026, 11, 18, 9, 0, 0}, "\tA path.", "\r\n\r\n\t\x93Why?\x94\r\n\tOn.");
-        read.SaveDialogue({2026, 11, 21, 20, 15, 0}, "\tStones.",
-                          "\r\n\r\n\t\x93No.\x94\r\n\tYes.");
-        read.Open(1);
-        for (int step = 0; step < 3; ++step) {
-            read.Key(Qt::Key_PageDown);
-        }
-        QVERIFY(read.Title().startsWith(u"Veyrant Dialogue -- 1/3"_s));
-        QVERIFY(!read.Window->Widget(cmdNext)->isEnabled());
-        read.App.Links.CloseLibrary();
-        read.Open(1);
-        read.SearchFor(u"heron?"_s);
-        QVERIFY(read.Title().startsWith(u"Veyrant Dialogue -- 1/3"_s));
-        QCOMPARE(read.Selected(), u"Heron?"_s);
-        QVERIFY(read.HitInView());
-        QCOMPARE(read.List()->currentRow(), 2);
-    }
-
-    // The Read window's grey as painted; merge fills the window with the Section's Topics, no
-    // step takes the keys there, and they scroll the long essay.
-    void readWindowIsGreyAndTheMergedEssayScrollsByKeys() {
-        ReadWindow read;
-        read.Open(3);
-        // The window, its instruction line and its buttons wear the Read window's grey.
-        const QImage shot = read.Window->grab().toImage();
-        for (const auto control : {ReaderControl::Window, txtNote, cmdExitM}) {
-            const QWidget* widget = read.Window->Widget(control);
-            const QPoint inside = widget->mapTo(read.Window.get(), QPoint(3, widget->height() / 2));
-            QCOMPARE(shot.pixelColor(inside), QColor(190, 190, 196));
-        }
-        read.Key(Qt::Key_Down);
-        read.Click(cmdPrint);
-        QVERIFY(!read.List()->isVisible());
-        QScrollBar* bar = read.Spin()->verticalScrollBar();
-        read.Key(Qt::Key_PageDown);
-        QVERIFY(bar->value() > 0);
-        read.Key(Qt::Key_End);
-        QCOMPARE(bar->value(), bar->maximum());
     }
 };
 

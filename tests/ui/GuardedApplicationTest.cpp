@@ -3,19 +3,14 @@
 
 #include "ui/GuardedApplication.h"
 
+#include "ProgramFixtures.h"
 #include "core/FileCalls.h"
 #include "core/ProgramError.h"
-#include "shell/AppFolder.h"
-#include "storage/DialogueLibrary.h"
-#include "storage/WorkBuffers.h"
-#include "support/FakeClock.h"
-#include "support/FakeWindowLayer.h"
-#include "support/TempFolder.h"
 #include "ui/SingleCopy.h"
 
-#include <QEvent>
 #include <QSysInfo>
 #include <QTest>
+#include <QTimer>
 #include <fstream>
 #include <functional>
 #include <new>
@@ -25,23 +20,6 @@
 #include <vector>
 
 namespace veyrant {
-
-namespace {
-
-// A window object whose handler fails as the test says.
-class FailingHandler : public QObject {
-public:
-    explicit FailingHandler(std::function<void()> fail) : fail_(std::move(fail)) {}
-    bool event(QEvent*) override {
-        fail_();
-        return true;
-    }
-
-private:
-    std::function<void()> fail_;
-};
-
-} // namespace
 
 class GuardedApplicationTest : public QObject {
     Q_OBJECT
@@ -64,9 +42,8 @@ private slots:
         };
         for (const auto& [fail, number] : cases) {
             reported_.clear();
-            FailingHandler handler(fail);
-            QEvent event(QEvent::User);
-            QCoreApplication::sendEvent(&handler, &event);
+            QTimer::singleShot(0, fail);
+            QCoreApplication::processEvents();
             QCOMPARE(reported_, std::vector<int>{number});
         }
     }
@@ -74,31 +51,25 @@ private slots:
     // At every file call of a save a second start finds the folder held, and the first copy
     // comes forward when asked.
     void ASecondStartDuringASaveCallsTheFirstForward() {
-        testing::TempFolder temp;
-        SingleCopy first(temp.Path());
+        WriteWindow write;
+        SingleCopy first(write.Temp.Path());
         QVERIFY(first.First());
         int called = 0;
         first.OnCalled = [&] { ++called; };
-        const AppFolder folder{temp.Path()};
-        Settings settings;
-        testing::FakeClock clock;
-        testing::FakeWindowLayer windows;
-        WorkBuffers buffers(folder, settings, clock, windows);
-        DialogueLibrary library(folder, settings, clock, windows);
         int steps = 0;
         int held = 0;
         SetFileFault([&](FileCall, const std::filesystem::path&) {
             ++steps;
-            held += SingleCopy(temp.Path()).First() ? 0 : 1;
+            held += SingleCopy(write.Temp.Path()).First() ? 0 : 1;
             return 0;
         });
-        QVERIFY(buffers.WriteWorkBuffers({"\tA river.", "\r\n\r\n\t\x93Why?\x94", "", 1}));
-        QVERIFY(library.AddToLibrary("\tA river.", "\r\n\r\n\t\x93Why?\x94"));
+        QVERIFY(write.Buffers.WriteWorkBuffers({"\tA river.", "\r\n\r\n\t\x93Why?\x94", "", 1}));
+        QVERIFY(write.Library.AddToLibrary("\tA river.", "\r\n\r\n\t\x93Why?\x94"));
         SetFileFault({});
         QVERIFY(steps > 0);
         QCOMPARE(held, steps);
         bool reached = false;
-        std::thread second([&] { reached = SingleCopy(temp.Path()).CallFirstForward(); });
+        std::thread second([&] { reached = SingleCopy(write.Temp.Path()).CallFirstForward(); });
         QTRY_COMPARE(called, 1);
         second.join();
         QVERIFY(reached);

@@ -1,11 +1,11 @@
 // The Write window and the export editor on a real (offscreen) screen: keys typed into their
-// widgets go through the rules and show as the user would see them.
+// widgets go through the rules and show as the user would see them, and a screen reader tells
+// what each control does.
 
 #include "ui/MirrorWindow.h"
 
-#include "WriteWindowFixture.h"
+#include "ProgramFixtures.h"
 #include "core/WholeFile.h"
-#include "dialogue/Mirror.h"
 #include "shell/MirrorLayout.h"
 #include "ui/ExportEditorWindow.h"
 
@@ -15,15 +15,12 @@
 #include <QLabel>
 #include <QMenu>
 #include <QMessageBox>
-#include <QPlainTextEdit>
-#include <QPushButton>
 #include <QTextBlock>
 #include <QTextLayout>
 #include <QTimer>
 #include <QtTest>
 #include <cmath>
 #include <functional>
-#include <memory>
 
 using namespace veyrant;
 using enum MirrorControl;
@@ -64,16 +61,17 @@ void OpenFor(SpellChecker& spelling, const char* language, const std::filesystem
     spelling.Open(OpenInstalledDictionary(SystemDictionaryFolder), words);
 }
 
-QPoint PointOf(QPlainTextEdit& editor, const QString& word) {
-    QTextCursor at(editor.document());
-    at.setPosition(static_cast<int>(editor.toPlainText().indexOf(word)) + 1);
-    return editor.cursorRect(at).center();
-}
-
-QStringList Texts(const QMenu& menu) {
+// The items of the menu that a right click on the word opens; the one named is chosen.
+QStringList MenuOn(ExportEditorWindow& editor, const QString& word, const QString& choose = {}) {
+    QTextCursor at(editor.Editor().document());
+    at.setPosition(static_cast<int>(editor.Editor().toPlainText().indexOf(word)) + 1);
+    const std::unique_ptr<QMenu> menu(editor.ContextMenu(editor.Editor().cursorRect(at).center()));
     QStringList texts;
-    for (const QAction* action : menu.actions()) {
+    for (QAction* action : menu->actions()) {
         texts << action->text();
+        if (action->text() == choose) {
+            action->trigger();
+        }
     }
     return texts;
 }
@@ -97,8 +95,8 @@ class MirrorWindowTest : public QObject {
     SaveFolder folders;
 
 private slots:
-    // A Converse typed and answered on screen, a button's help under the resting pointer, and the
-    // full view of the Dialogue over the boxes and back.
+    // A Converse typed and answered on screen, a button's help under the resting pointer and as a
+    // screen reader tells it, and the full view of the Dialogue over the boxes and back.
     void TypedEntryIsAnsweredOnScreenAndShownWhole() {
         WriteWindow write;
         // The window's size less its frame, and the boxes' fonts, follow the display size.
@@ -108,7 +106,26 @@ private slots:
                                              std::lround((design.WindowHeight - 405) * factor)));
         QCOMPARE(write.Box(txtSaved)->font().pointSizeF(), write.App.Scale.TextSize[1]);
         QVERIFY(write.Box(txtSaved)->font().bold());
+        // The hover help is spoken, and a screen reader tells the key that presses a button, as
+        // the underlined letter shows it.
+        QCOMPARE(Spoken(write.Window->Widget(txtMirror), QAccessible::Description),
+                 QString("Type a question or a statement, then press 'Enter'."));
+        QCOMPARE(Spoken(write.Window->Widget(cmdHelp), QAccessible::Description),
+                 QString("Open the Information Library for instructions and information on the "
+                         "program. Right-click to open the Utilities window."));
+        QCOMPARE(QAccessible::queryAccessibleInterface(write.Window->Widget(cmdHelp))
+                     ->actionInterface()
+                     ->keyBindingsForAction(QAccessibleActionInterface::pressAction()),
+                 QStringList{"Alt+H"});
         write.Click(cmdConverse);
+        // The description follows the button's state, as the hover help does.
+        QCOMPARE(Spoken(write.Window->Widget(cmdConverse), QAccessible::Description),
+                 QString("Click 'Cancel' to exit Converse and reset to New Dialogue."));
+        // The instruction line's description follows its words.
+        QCOMPARE(Spoken(write.Window->Widget(txtNote), QAccessible::Description),
+                 QString("Type your question or statement. Click 'Rewrite' to erase the text. "
+                         "Press 'Enter' for the Sagrel response."));
+
         auto* entry = write.Box(txtMirror);
         auto* mark = write.Window->Widget(lblRem);
         QVERIFY(mark->isVisible());
@@ -280,12 +297,7 @@ private slots:
 
         // Each step: the key, and what the user sees once its command has run.
         const auto count = [](std::size_t number) { return QString::number(number); };
-        struct Step {
-            Qt::Key Key;
-            std::function<QString()> Seen;
-            QString Expected;
-        };
-        const std::vector<Step> steps = {
+        const std::tuple<Qt::Key, std::function<QString()>, QString> steps[] = {
             {Qt::Key_F, [&] { return write.Caption(cmdNew); }, "New"},
             {Qt::Key_O, [&] { return write.Caption(cmdNew); }, "Finish"},
             {Qt::Key_F, [&] { return write.Caption(cmdRemove); }, "Continue"},
@@ -293,12 +305,12 @@ private slots:
             {Qt::Key_I, [&] { return count(write.Layer.EditorTexts.size()); }, "1"},
             {Qt::Key_S, [&] { return count(write.Library.Listing().LibraryCount); }, "1"},
         };
-        for (const Step& step : steps) {
+        for (const auto& [key, seen, expected] : steps) {
             QStringList keys = AccessKeysOnShow(*write.Window);
             QVERIFY2(!keys.contains(QString()) && keys.removeDuplicates() == 0,
                      qPrintable(keys.join(", ")));
-            alt(step.Key);
-            QTRY_COMPARE(step.Seen(), step.Expected);
+            alt(key);
+            QTRY_COMPARE(seen(), expected);
         }
         // Saving began a new Dialogue.
         QTRY_COMPARE(write.Window->windowTitle(), u"Veyrant Sagrel -- New Dialogue"_s);
@@ -315,6 +327,7 @@ private slots:
             windows, folders, spelling, QString::fromUtf8("Veyrant Sagrel\n\u201cCaf\u00e9\u201d"),
             u"Dialogue.txt"_s);
         editor->show();
+        QCOMPARE(Unnamed(*editor), QStringList());
         editor->Editor().appendPlainText(u"A line of my own."_s);
         QVERIFY(editor->Editor().document()->isModified());
         const auto path = folder / "Sunday.txt";
@@ -368,16 +381,13 @@ private slots:
         QVERIFY(QTest::qWaitForWindowExposed(&editor));
         QCOMPARE(MarkedWords(editor.Editor()), QStringList({"wrte", "lettr"}));
 
-        std::unique_ptr<QMenu> menu(editor.ContextMenu(PointOf(editor.Editor(), "wrte")));
-        const QStringList offered = Texts(*menu);
+        const QStringList offered = MenuOn(editor, "wrte", "write");
         QVERIFY(offered.contains("write"));
         QVERIFY(offered.indexOf("Add to Dictionary") <= 5);
-        menu->actions()[static_cast<int>(offered.indexOf("write"))]->trigger();
         QVERIFY(editor.Editor().toPlainText().contains("I write to"));
         QCOMPARE(MarkedWords(editor.Editor()), QStringList({"lettr"}));
 
-        menu.reset(editor.ContextMenu(PointOf(editor.Editor(), "lettr")));
-        menu->actions()[static_cast<int>(Texts(*menu).indexOf("Add to Dictionary"))]->trigger();
+        MenuOn(editor, "lettr", "Add to Dictionary");
         QCOMPARE(MarkedWords(editor.Editor()), QStringList());
         QCOMPARE(MarkedWords(other.Editor()), QStringList());
         QCOMPARE(other.Editor().toPlainText(), u"A lettr.\n"_s);
@@ -387,8 +397,7 @@ private slots:
         OpenFor(restarted, "en_US.UTF-8", words);
         QVERIFY(restarted.Knows("lettr"));
 
-        menu.reset(editor.ContextMenu(PointOf(editor.Editor(), "Sagrel")));
-        QVERIFY(!Texts(*menu).contains("Add to Dictionary"));
+        QVERIFY(!MenuOn(editor, "Sagrel").contains("Add to Dictionary"));
         QVERIFY(windows.Boxes.empty());
 
         // The dictionary of the user's language judges its accented words.

@@ -1,29 +1,22 @@
 // The program's windows on a real display server: ctest runs this on the offscreen platform, on
 // X11 under Xvfb and on Wayland under a headless Weston, and at device scales 1, 1.25 and 2. Each
-// window opens, takes keys, closes, and shows its captions whole.
+// window opens, takes keys, closes, and shows its captions whole and its controls named.
 
-#include "StartedProgram.h"
-#include "WriteWindowFixture.h"
-#include "app/Utility.h"
-#include "shell/Resize.h"
-#include "storage/Options.h"
+#include "ProgramFixtures.h"
 #include "ui/OptionsWindow.h"
 #include "ui/PrintFlow.h"
-#include "ui/QtWindowLayer.h"
 #include "ui/ResizeWindow.h"
 #include "ui/UtilityWindow.h"
 
 #include <QAbstractButton>
 #include <QApplication>
 #include <QLabel>
-#include <QMessageBox>
 #include <QPrintPreviewDialog>
 #include <QPrinter>
 #include <QTimer>
 #include <QToolButton>
 #include <QtTest>
 #include <algorithm>
-#include <memory>
 
 using namespace veyrant;
 using enum MirrorControl;
@@ -33,26 +26,15 @@ using namespace Qt::StringLiterals;
 namespace {
 
 // The dialogs of the Utilities, loaded and shown through the real window layer.
-struct Utilities {
-    Utilities() {
-        Windows.RegisterWindow(WindowId::Utility, [this] { return new UtilityWindow(Logic, 1.0); });
+struct UtilitiesOnScreen : UtilityDialogs<QtWindowLayer> {
+    UtilitiesOnScreen() {
+        Windows.RegisterWindow(WindowId::Utility,
+                               [this] { return new UtilityWindow(Utilities, 1.0); });
         Windows.RegisterWindow(WindowId::Resize,
                                [this] { return new ResizeWindow(DisplaySize, 1.0); });
         Windows.RegisterWindow(WindowId::Options,
                                [this] { return new OptionsWindow(LibraryOptions); });
     }
-
-    testing::TempFolder Temp;
-    AppFolder Folder{Temp.Path()};
-    QtWindowLayer Windows;
-    testing::FakeClock Clock;
-    Settings UserSettings;
-    Preferences UserPreferences;
-    DialogueLibrary Library{Folder, UserSettings, Clock, Windows};
-    int Exits = 0;
-    Utility Logic{Windows, "4.1.26.11.22", "2026", [this] { ++Exits; }};
-    Resize DisplaySize{UserSettings, UserPreferences, Windows, [this] { ++Exits; }};
-    Options LibraryOptions{Library, UserSettings, Windows, [this] { ++Exits; }, [] {}};
 };
 
 // The buttons and labels of a window that show their text cut off.
@@ -91,11 +73,11 @@ private slots:
     void theUtilityDialogsOpenTakeKeysAndClose() {
         // Escape leaves each of them, which ends the program.
         for (const WindowId id : {WindowId::Utility, WindowId::Resize, WindowId::Options}) {
-            Utilities program;
+            UtilitiesOnScreen program;
             program.Windows.ShowWindow(id);
             QWidget* window = program.Windows.Window(id);
             QVERIFY(QTest::qWaitForWindowExposed(window));
-            QCOMPARE(CutOff(*window), QStringList());
+            QCOMPARE(CutOff(*window) + Unnamed(*window), QStringList());
             QWidget* first = window->focusWidget();
             QTest::keyClick(window, Qt::Key_Tab);
             QVERIFY(window->focusWidget() != first);
@@ -105,7 +87,7 @@ private slots:
     }
 
     void theAboutBoxAnswersEnter() {
-        Utilities program;
+        UtilitiesOnScreen program;
         program.Windows.ShowWindow(WindowId::Utility);
         // The box runs modally; Enter on it, once it stands, closes it.
         QStringList cut = {u"no box"_s};
@@ -113,12 +95,12 @@ private slots:
         QObject::connect(&knock, &QTimer::timeout, [&] {
             if (QWidget* box = QApplication::activeModalWidget()) {
                 knock.stop();
-                cut = CutOff(*box);
+                cut = CutOff(*box) + Unnamed(*box);
                 QTest::keyClick(box, Qt::Key_Return);
             }
         });
         knock.start(50);
-        program.Logic.cmdAbout_Click();
+        program.Utilities.cmdAbout_Click();
         QVERIFY2(cut.isEmpty(), qPrintable(cut.join(", ")));
         QCOMPARE(program.Exits, 1);
     }
@@ -150,7 +132,7 @@ private slots:
             QVERIFY2(tool->iconSize().width() * ratio <= largest->width(),
                      qPrintable(u"%1 at %2"_s.arg(tool->text()).arg(ratio)));
         }
-        QCOMPARE(CutOff(*preview), QStringList());
+        QCOMPARE(CutOff(*preview) + Unnamed(*preview), QStringList());
     }
 
     // Last: the way out asks the application to quit, which ends any event loop after it.
@@ -159,6 +141,7 @@ private slots:
         Main(program.App);
         QVERIFY(!program.Windows.Ended());
         QVERIFY(program.Windows.IsWindowVisible(WindowId::Banner));
+        QCOMPARE(Unnamed(*program.Windows.Window(WindowId::Banner)), QStringList());
         QTRY_VERIFY_WITH_TIMEOUT(program.Write != nullptr && program.Write->isVisible(), 10000);
         QVERIFY(QTest::qWaitForWindowExposed(program.Write));
         QTRY_VERIFY(!program.Windows.IsWindowVisible(WindowId::Banner));
@@ -166,6 +149,9 @@ private slots:
                  QString("Veyrant Sagrel 4.1 -- Written Dialogues of Self-Reflection"));
         // On Wayland the program would draw the backdrop's title bar itself; it has none.
         QVERIFY(program.Back && program.Back->isVisible());
+        QCOMPARE(Unnamed(*program.Back), QStringList());
+        // The backdrop's hint shows only under a moving pointer; a screen reader tells it always.
+        QCOMPARE(Spoken(program.Back, QAccessible::Description), QString(Backdrop::HintText));
         if (QGuiApplication::platformName() == u"wayland"_s) {
             QCOMPARE(program.Back->frameGeometry(), program.Back->geometry());
         }
@@ -189,6 +175,7 @@ private slots:
             QVERIFY(read);
             QCOMPARE(read->windowTitle(), QString::fromLatin1(c.Title));
             QVERIFY(read->isVisible());
+            QCOMPARE(Unnamed(*read), QStringList());
             QVERIFY(program.Windows.IsWindowMinimised(WindowId::Mirror));
             QTest::keyClick(read.data(), Qt::Key_Down);
             QVERIFY(read->windowTitle() != QString::fromLatin1(c.Title) || c.Button == cmdRetrieve);
@@ -210,7 +197,7 @@ private slots:
         QVERIFY(entry->toPlainText().endsWith(QChar(0x201D)));
         auto* response = static_cast<QPlainTextEdit*>(program.Write->Widget(txtResponse));
         QVERIFY(response->toPlainText().size() > 10);
-        QCOMPARE(CutOff(*program.Write), QStringList());
+        QCOMPARE(CutOff(*program.Write) + Unnamed(*program.Write), QStringList());
 
         // Closing the window stores the settings and ends the program.
         program.Write->close();
