@@ -16,7 +16,6 @@ namespace {
 
 using MirrorFinish = MirrorTest;
 using MirrorTranscript = MirrorTest;
-using MirrorGuest = MirrorTest;
 
 const std::string Statement = "I want to understand why Sundays feel so heavy.";
 const std::string Question = "what would make Sunday evenings lighter?";
@@ -35,6 +34,16 @@ void FinishOnePair(MirrorDriver& driver) {
     driver.StartConverse();
     driver.Converse(Statement);
     driver.Click(cmdNew); // Finish
+}
+
+// Closes the window, or right-clicks on the Help or the Library button for the Utilities or the
+// Library Options window, which puts it out of the way; true when the program went on.
+bool Leave(MirrorDriver& driver, std::optional<MirrorControl> rightClick) {
+    if (!rightClick) {
+        return driver.mirror->Unload();
+    }
+    driver.mirror->MouseDown(*rightClick, MouseButton::Right);
+    return driver.App.ClosingState == ClosingStates::UtilitiesUp;
 }
 
 TEST_F(MirrorFinish, FinishThenContinueThenFinishAgain) {
@@ -65,12 +74,36 @@ TEST_F(MirrorFinish, FinishThenContinueThenFinishAgain) {
         EXPECT_FALSE(Box(method).Enabled || Box(method).PressedIn);
     }
     EXPECT_TRUE(Box(cmdSave).Enabled && Box(cmdPrint).Enabled);
+    // Print sends the Dialogue without its leading blank line; only a failure shows a box. File
+    // opens the full view in the editor, laid out as the export lays it out.
+    Clock.Date = {2026, 11, 23, 8, 15, 0};
+    for (const auto outcome : {PrintOutcome::Printed, PrintOutcome::Failed}) {
+        Layer.PrintAnswer = outcome;
+        Click(cmdPrint);
+    }
+    ASSERT_EQ(Layer.Printed.size(), 2u);
+    const auto& printed = Layer.Printed[1];
+    EXPECT_EQ(printed.Inspiration + "|" + printed.Dialogue + "|" + printed.Title,
+              "\tInspiration number 1.|" + twoPairs.substr(4) + "|Veyrant Dialogue");
+    EXPECT_EQ(printed.ShownDate, Clock.Date);
+    EXPECT_TRUE(Layer.BusyWhilePrinting && !Layer.Busy && Box(cmdPrint).Enabled);
+    EXPECT_EQ(Titles(), "Print Error;");
+    EXPECT_EQ(Layer.Boxes[0].Text,
+              "The system has detected a printing error.\r\n\r\nIf your printer normally "
+              "functions properly with a word processer, you may have assigned 'Print' to a "
+              "non-printing device (such as a Fax/Modem, Print-to-File, etc.). Check the printer "
+              "setup.");
+    Click(cmdDisplay); // File
+    ASSERT_EQ(Layer.EditorTexts.size(), 1u);
+    EXPECT_EQ(Layer.EditorTexts[0].Text, ExportText(Clock.Date, Text(txtSaved)));
+    EXPECT_EQ(Layer.EditorTexts[0].ProposedFileName, "Dialogue 2026-11-23 8.15 AM.txt");
+    EXPECT_EQ(Text(cmdDisplay), "File"); // the window stays as it was
     // A finished Dialogue takes no keys and answers a method button with a help box.
     const auto keys = Engine.KeyCodes.size();
     Type("more");
     EXPECT_EQ(Engine.KeyCodes.size(), keys);
     Click(cmdConverse);
-    EXPECT_EQ(Titles(), "Veyrant Sagrel Help;");
+    EXPECT_EQ(Titles(), "Print Error;Veyrant Sagrel Help;");
     EXPECT_EQ(Kept(), "2:" + twoPairs);
 
     Click(cmdRemove); // Continue
@@ -103,7 +136,11 @@ TEST(MirrorFinishNew, NewAsksOnlyForAnUnsavedDialogueAndResetsOnNo) {
     for (const auto& c : cases) {
         SCOPED_TRACE(c.Name);
         MirrorDriver driver;
-        driver.App.UserSettings.GuestMode = c.Guest ? 1 : 0;
+        if (c.Guest) { // the window is made in Guest Mode, as the program makes it
+            driver.App.UserSettings.GuestMode = 1;
+            driver.mirror = std::make_unique<Mirror>(driver.App.WriteWorld(), driver.Engine,
+                                                     driver.Buffers, driver.Library);
+        }
         FinishOnePair(driver);
         EXPECT_EQ(driver.Box(cmdSave).Enabled, !c.Guest);
         driver.Layer.Answers.push_back(c.Answer);
@@ -133,6 +170,11 @@ TEST(MirrorFinishNew, NewAsksOnlyForAnUnsavedDialogueAndResetsOnNo) {
                   c.Guest ? "Veyrant Sagrel -- New Dialogue -- Guest Mode"
                           : "Veyrant Sagrel -- New Dialogue");
         EXPECT_TRUE(driver.Box(cmdConverse).Enabled);
+        if (c.Guest) { // a guest reaches the Utilities through Help, the Library button disabled
+            EXPECT_TRUE(driver.Box(cmdKnow).Enabled && !driver.Box(cmdRetrieve).Enabled);
+            EXPECT_FALSE(Leave(driver, cmdRetrieve));
+            EXPECT_TRUE(Leave(driver, cmdHelp));
+        }
     }
 }
 
@@ -239,41 +281,6 @@ TEST_F(MirrorFinish, AFinishedDialogueTheBuffersRefusedIsKeptOnTheWayOut) {
     EXPECT_EQ(ReadWholeFile(kept), State().DialogueText);
 }
 
-// Print sends the Finished Dialogue without its leading blank line; only a failure says so. File
-// opens the full view in the editor, laid out as the export lays it out.
-TEST(MirrorFinishPrint, PrintSendsTheDialogueAndOnlyAFailureShowsABoxAndFileOpensTheEditor) {
-    for (const auto outcome : {PrintOutcome::Printed, PrintOutcome::Failed}) {
-        MirrorDriver driver;
-        FinishOnePair(driver);
-        driver.Clock.Date = {2026, 11, 23, 8, 15, 0};
-        driver.Layer.PrintAnswer = outcome;
-        driver.Click(cmdPrint);
-        ASSERT_EQ(driver.Layer.Printed.size(), 1u);
-        const auto& printed = driver.Layer.Printed[0];
-        EXPECT_EQ(printed.Inspiration + "|" + printed.Dialogue + "|" + printed.Title,
-                  "\tInspiration number 1.|" + OnePair + "|Veyrant Dialogue");
-        EXPECT_EQ(printed.ShownDate, driver.Clock.Date);
-        EXPECT_TRUE(driver.Layer.BusyWhilePrinting && !driver.Layer.Busy);
-        EXPECT_TRUE(driver.Box(cmdPrint).Enabled);
-        EXPECT_EQ(driver.Titles(), outcome == PrintOutcome::Failed ? "Print Error;" : "");
-        if (outcome == PrintOutcome::Failed) {
-            EXPECT_EQ(driver.Layer.Boxes[0].Text,
-                      "The system has detected a printing error.\r\n\r\nIf your printer normally "
-                      "functions properly with a word processer, you may have assigned 'Print' to "
-                      "a non-printing device (such as a Fax/Modem, Print-to-File, etc.). Check "
-                      "the printer setup.");
-        }
-        driver.Click(cmdDisplay); // File
-        ASSERT_EQ(driver.Layer.EditorTexts.size(), 1u);
-        EXPECT_EQ(driver.Layer.EditorTexts[0].Text,
-                  ExportText(driver.Clock.Date, "Inspiration\r\n\r\n\tInspiration number 1.\r\n\r\n"
-                                                "Dialogue\r\n\r\n" +
-                                                    OnePair));
-        EXPECT_EQ(driver.Layer.EditorTexts[0].ProposedFileName, "Dialogue 2026-11-23 8.15 AM.txt");
-        EXPECT_EQ(driver.Text(cmdDisplay), "File"); // the window stays as it was
-    }
-}
-
 // The full view and the window's title tell the length of the Dialogue.
 TEST(MirrorTranscriptLength, DisplayTellsTheLengthAndWriteRestoresTheState) {
     const std::tuple<int, std::string, std::string> cases[] = {{1, "less than 1 page", "1 Page"},
@@ -354,16 +361,6 @@ TEST_F(MirrorTranscript, AdviceOnceThenWarningsThenTheLimitOfOneHundredTwentyOne
     EXPECT_EQ(Text(txtNote), "Press 'Enter' to begin this entry again.");
 }
 
-// Closes the window, or right-clicks on the Help or the Library button for the Utilities or the
-// Library Options window, which puts it out of the way; true when the program went on.
-bool Leave(MirrorDriver& driver, std::optional<MirrorControl> rightClick) {
-    if (!rightClick) {
-        return driver.mirror->Unload();
-    }
-    driver.mirror->MouseDown(*rightClick, MouseButton::Right);
-    return driver.App.ClosingState == ClosingStates::UtilitiesUp;
-}
-
 // When the work buffers cannot take the Dialogue on the way out, the box offers to save it as a
 // text file elsewhere; the program goes on only once the Dialogue is safe in that file.
 TEST(MirrorUtilities, ADialogueTheBuffersCannotTakeCanBeSavedElsewhereOnTheWayOut) {
@@ -441,20 +438,6 @@ TEST(MirrorUtilities, ADialogueTheBuffersCannotTakeCanBeSavedElsewhereOnTheWayOu
         EXPECT_EQ(file.substr(0, 53), "Veyrant Sagrel\nSunday, 12:00 PM, November 22, 2026\n\n\n");
         EXPECT_NE(file.find("\n\t\xE2\x80\x9C" + Statement + "\xE2\x80\x9D\n"), std::string::npos);
     }
-}
-
-// A guest leaves Guest Mode through the Utilities window, since the Library button is disabled.
-TEST_F(MirrorGuest, GuestModeReachesTheUtilitiesThroughHelpOnly) {
-    App.UserSettings.GuestMode = 1;
-    Mirror guest(App.WriteWorld(), Engine, Buffers, Library);
-    guest.StartWindow();
-    EXPECT_TRUE(!guest.Controls()[cmdRetrieve].Enabled && guest.Controls()[cmdKnow].Enabled);
-    guest.MouseDown(cmdRetrieve, MouseButton::Right);
-    EXPECT_EQ(Layer.Visible.count(WindowId::Options), 0u);
-    EXPECT_EQ(App.ClosingState, ClosingStates::Running);
-    guest.MouseDown(cmdHelp, MouseButton::Right);
-    EXPECT_EQ(Layer.Visible.count(WindowId::Utility), 1u);
-    EXPECT_EQ(App.ClosingState, ClosingStates::UtilitiesUp);
 }
 
 } // namespace
