@@ -47,7 +47,7 @@ void OpenList(MirrorDriver& driver, std::deque<float> weights = {}) {
 }
 
 TEST_F(MirrorSuppose, TheQuestionOpensAListAndSelectPutsTheHeaviestIdeaInTheDialogue) {
-    OpenList(*this, {0.2f, 0.9f, 0.5f});
+    OpenList(*this, {0.2f, 0.9f, 0.9f});
     EXPECT_EQ(Text(txtResponse), "Question\r\n" + Quoted(Question));
     EXPECT_EQ(Shown("txtMirror"),
               "txtMirror: \"\\t\xE2\x80\x9CWhat could make the mornings easier for the whole "
@@ -78,12 +78,12 @@ TEST_F(MirrorSuppose, TheQuestionOpensAListAndSelectPutsTheHeaviestIdeaInTheDial
     EXPECT_EQ(Text(txtAnalyze), List({"Ask my sister to drive on Mondays.", "Get up earlier.",
                                       "Pack the lunches the night before."}));
     Click(cmdNew);
-    // The heaviest of 201, 901 and 501.
-    const std::string conclusion = "\tYour idea \x93Get up earlier.\x94 is verdict 1.";
+    // The later of the two heaviest, 901 and 901; a later list below chooses its first idea.
+    const std::string conclusion =
+        "\tYour idea \x93Pack the lunches the night before.\x94 is verdict 1.";
     EXPECT_EQ(State().DialogueText, "\r\n\r\n" + Quoted(Question) + "\r\n" + conclusion);
-    EXPECT_EQ(Shown("txtResponse"),
-              "txtResponse: \"\\tYour idea \xE2\x80\x9CGet up earlier.\xE2\x80\x9D is verdict 1.\" "
-              "back=Added");
+    EXPECT_TRUE(Text(txtResponse) == conclusion &&
+                Box(txtResponse).Background == Colour::ColourAdded);
     EXPECT_EQ(Shown("txtAnalyze") + Shown("lblRemS"), "");
     EXPECT_EQ(Shown("cmdConverse") + Shown("cmdSuppose"),
               "cmdConverse: \"Converse\" pressedcmdSuppose: \"Suppose\"");
@@ -92,23 +92,6 @@ TEST_F(MirrorSuppose, TheQuestionOpensAListAndSelectPutsTheHeaviestIdeaInTheDial
     Enter();
     EXPECT_EQ(Text(txtMirror), (std::string{Tab, OpenQuote}));
     EXPECT_EQ(mirror->Controls().Focus, txtMirror);
-}
-
-TEST(MirrorSupposeTable, TheHeaviestIdeaIsChosenAndTheLaterOfEqualOnes) {
-    const std::pair<std::deque<float>, std::string> cases[] = {
-        {{0.99f, 0.1f}, "Idea number 1"},
-        {{0.5f, 0.5f}, "Idea number 2"},
-        {{0.9f, 0.1f, 0.9f, 0.3f}, "Idea number 3"},
-        {{0.1f, 0.2f, 0.3f, 0.4f}, "Idea number 4"}};
-    for (const auto& [draws, chosen] : cases) {
-        MirrorDriver driver;
-        OpenList(driver, draws);
-        for (std::size_t idea = 1; idea <= draws.size(); ++idea) {
-            driver.Converse("idea number " + std::to_string(idea));
-        }
-        driver.Click(cmdNew);
-        EXPECT_EQ(driver.Text(txtResponse), "\tYour idea \x93" + chosen + ".\x94 is verdict 1.");
-    }
 }
 
 // A refused Select leaves the outcome out until kept; each list weighs its own ideas, so what an
@@ -168,11 +151,43 @@ TEST(MirrorSupposeTable, AnIdeaIsFiledCappedWithOneClosingMark) {
     }
 }
 
-// A too short idea can only be lengthened. An Enter straight after it tries it again as it
-// stands and leaves Cancel; mending it by typing takes the ordinary road, which turns the button
-// to Select.
-TEST_F(MirrorSuppose, ATooShortIdeaCanOnlyBeLengthenedAndATooLongOneShortened) {
+// The caret stays behind the prompt, and a click or Rewrite erases the idea being typed. A too
+// short idea can only be lengthened: an Enter straight after it tries it again as it stands and
+// leaves Cancel; mending it by typing takes the ordinary road, which turns the button to Select.
+TEST_F(MirrorSuppose, TheCaretStaysBehindThePromptAndAnIdeaOnlyGrowsOrShrinksToFit) {
     OpenList(*this);
+    const std::string prompt = List({});
+    Click(txtAnalyze); // only the prompt: nothing to erase
+    EXPECT_EQ(Text(txtAnalyze), prompt);
+    EXPECT_FALSE(Box(cmdClear).Enabled);
+    Type("abc");
+    const auto head = static_cast<long>(prompt.size());
+    Press(KeyCode::Home);
+    EXPECT_EQ(Box(txtAnalyze).Caret, head);
+    Backspace();
+    Press(KeyCode::Left);
+    EXPECT_EQ(Box(txtAnalyze).Caret, head);
+    Type("X");
+    // A key typed with the caret inside the head goes nowhere; the caret jumps to the end.
+    mirror->CaretMoved(txtAnalyze, 10, 0);
+    Type("Z");
+    EXPECT_EQ(Text(txtAnalyze), List({}, "Xabc"));
+    EXPECT_EQ(Box(txtAnalyze).Caret, head + 4);
+    Press(KeyCode::Up);
+    EXPECT_EQ(Box(txtAnalyze).Caret, head + 2);
+    Press(KeyCode::Control);
+    EXPECT_EQ(Titles(), "Invalid Key;");
+    EXPECT_EQ(Shown("lblRemS"), "");
+    Click(txtAnalyze);
+    EXPECT_EQ(Text(txtAnalyze), prompt);
+    EXPECT_EQ(Box(txtAnalyze).Caret, head);
+    EXPECT_FALSE(Box(cmdClear).Enabled);
+    EXPECT_EQ(Shown("lblRemS"), "lblRemS: \"X\"");
+    Converse("go"); // too short
+    Click(cmdClear);
+    EXPECT_EQ(Text(txtAnalyze), prompt);
+    EXPECT_EQ(Text(txtResponse), "Question\r\n" + Quoted(Question));
+    EXPECT_EQ(Text(txtMirror), Quoted(Question)); // Rewrite spared it
     Converse("walk to school");
     Converse("go");
     EXPECT_EQ(Text(txtResponse), std::string(MirrorText::TooShort));
@@ -212,43 +227,6 @@ TEST_F(MirrorSuppose, ATooShortIdeaCanOnlyBeLengthenedAndATooLongOneShortened) {
     Enter();
     EXPECT_EQ(Text(txtAnalyze),
               List({"Walk to school.", "Go slow.", "A" + std::string(137, 'a') + "."}));
-}
-
-// The caret stays behind the prompt, and a click or Rewrite erases the idea being typed.
-TEST_F(MirrorSuppose, TheCaretStaysBehindThePromptAndAClickOrRewriteErasesTheIdea) {
-    OpenList(*this);
-    const std::string prompt = List({});
-    Click(txtAnalyze); // only the prompt: nothing to erase
-    EXPECT_EQ(Text(txtAnalyze), prompt);
-    EXPECT_FALSE(Box(cmdClear).Enabled);
-    Type("abc");
-    const auto head = static_cast<long>(prompt.size());
-    Press(KeyCode::Home);
-    EXPECT_EQ(Box(txtAnalyze).Caret, head);
-    Backspace();
-    Press(KeyCode::Left);
-    EXPECT_EQ(Box(txtAnalyze).Caret, head);
-    Type("X");
-    // A key typed with the caret inside the head goes nowhere; the caret jumps to the end.
-    mirror->CaretMoved(txtAnalyze, 10, 0);
-    Type("Z");
-    EXPECT_EQ(Text(txtAnalyze), List({}, "Xabc"));
-    EXPECT_EQ(Box(txtAnalyze).Caret, head + 4);
-    Press(KeyCode::Up);
-    EXPECT_EQ(Box(txtAnalyze).Caret, head + 2);
-    Press(KeyCode::Control);
-    EXPECT_EQ(Titles(), "Invalid Key;");
-    EXPECT_EQ(Shown("lblRemS"), "");
-    Click(txtAnalyze);
-    EXPECT_EQ(Text(txtAnalyze), prompt);
-    EXPECT_EQ(Box(txtAnalyze).Caret, head);
-    EXPECT_FALSE(Box(cmdClear).Enabled);
-    EXPECT_EQ(Shown("lblRemS"), "lblRemS: \"X\"");
-    Converse("go"); // too short
-    Click(cmdClear);
-    EXPECT_EQ(Text(txtAnalyze), prompt);
-    EXPECT_EQ(Text(txtResponse), "Question\r\n" + Quoted(Question));
-    EXPECT_EQ(Text(txtMirror), Quoted(Question)); // Rewrite spared it
 }
 
 // The full view covers the list and Write gives it back; Cancel drops it and returns to Converse
