@@ -114,11 +114,20 @@ TEST_F(MirrorFinish, FinishThenContinueThenFinishAgain) {
     EXPECT_EQ(State().CycleCount, 2);
 
     Converse("Sunday is the day I stop being busy.");
-    Click(cmdNew); // Finish again
+    // Finish writes the buffers once; when they could not take the Dialogue, they hold it as it
+    // was last kept, and the way out tries again instead of leaving it behind.
+    {
+        FileFaults faults;
+        faults.FailEvery(FileCall::Write, ENOSPC);
+        Click(cmdNew); // Finish again
+    }
+    EXPECT_EQ(Titles(), "Print Error;Veyrant Sagrel Help;Error 61 Keeping the Dialogue;");
+    EXPECT_EQ(Text(cmdRemove) + Text(cmdNew), "ContinueNew");
+    EXPECT_EQ(Kept(), "2:" + twoPairs);
+    EXPECT_TRUE(mirror->Unload());
     EXPECT_EQ(Kept(), "3:" + twoPairs + "\r\n\r\n" +
                           Quoted("Sunday is the day I stop being busy.") +
                           "\r\n\tAnswer 3 to type 2.");
-    EXPECT_EQ(Text(cmdRemove) + Text(cmdNew), "ContinueNew");
 }
 
 // New asks only for an unsaved Dialogue, and resets on No.
@@ -261,24 +270,6 @@ TEST_F(MirrorFinish, ACancelledListInAnEmptyDialogueClosesBeforeOldBuffersReopen
     EXPECT_EQ(Text(cmdRemove) + std::to_string(State().PairCount), "Continue1");
     EXPECT_FALSE(Box(txtAnalyze).Visible || Box(lblRemS).Visible);
     EXPECT_EQ(mirror->Controls().Focus, txtMirror);
-}
-
-// Finish writes the buffers once; when they could not take the Dialogue, the way out tries
-// again instead of leaving it behind.
-TEST_F(MirrorFinish, AFinishedDialogueTheBuffersRefusedIsKeptOnTheWayOut) {
-    StartConverse();
-    Converse(Statement);
-    {
-        FileFaults faults;
-        faults.FailEvery(FileCall::Write, ENOSPC);
-        Click(cmdNew); // Finish
-    }
-    EXPECT_EQ(Titles(), "Error 61 Keeping the Dialogue;");
-    EXPECT_EQ(Text(cmdNew), "New");
-    const auto kept = App.Folder.Exe() / "savem.tmp";
-    EXPECT_FALSE(std::filesystem::exists(kept));
-    EXPECT_TRUE(mirror->Unload());
-    EXPECT_EQ(ReadWholeFile(kept), State().DialogueText);
 }
 
 // The full view and the window's title tell the length of the Dialogue.

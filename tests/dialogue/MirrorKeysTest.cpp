@@ -150,37 +150,25 @@ TEST_F(MirrorKeys,
     EXPECT_EQ(Box(txtResponse).Background, Colour::ColourReady);
 }
 
-// Esc clicks Cancel or Finish, whichever the window offers, and nothing when nothing runs.
-TEST_F(MirrorLayout, EscapeByMethod) {
-    mirror->StartWindow();
-    Press(KeyCode::Escape);
-    EXPECT_EQ(State().ActiveMethod, WriteMethod::None);
-    EXPECT_TRUE(Layer.Boxes.empty());
-    Click(cmdConverse);
-    Press(KeyCode::Escape); // Cancel in an empty Converse
-    EXPECT_EQ(State().ActiveMethod, WriteMethod::None);
-    EXPECT_EQ(mirror->Controls().Title, "Veyrant Sagrel -- New Dialogue");
-    EXPECT_EQ(Engine.Inspirations, 2);
-    Click(cmdConverse);
-    Converse(Entry);
-    Enter();
-    Click(cmdNotate);
-    Press(KeyCode::Escape); // Cancel back to Converse
-    EXPECT_EQ(State().ActiveMethod, WriteMethod::Converse);
-    EXPECT_TRUE(Text(cmdNew) == "Finish" && Box(cmdConverse).PressedIn);
-    Press(KeyCode::Escape); // Finish
-    EXPECT_EQ(Text(cmdNew), "New");
-}
-
-TEST_F(MirrorLayout, FunctionKeysActOnTheirButtonsUnlessGuarded) {
+// Esc clicks Cancel or Finish, whichever the window offers, and nothing when nothing runs; the
+// function keys act on their buttons unless guarded.
+TEST_F(MirrorLayout, EscapeAndFunctionKeysActOnTheirButtonsUnlessGuarded) {
     // No key reaches the window before it starts.
     EXPECT_EQ(mirror->KeyDown(KeyCode::Function(5)) + mirror->KeyPress('a'), 0);
     EXPECT_EQ(State().ActiveMethod, WriteMethod::NotStarted);
     mirror->StartWindow();
+    Press(KeyCode::Escape);
+    EXPECT_TRUE(State().ActiveMethod == WriteMethod::None && Layer.Boxes.empty());
     Press(KeyCode::Function(7));
     EXPECT_EQ(State().ActiveMethod, WriteMethod::Comment);
     Press(KeyCode::Function(5));
     EXPECT_EQ(State().ActiveMethod, WriteMethod::Converse);
+    const int inspirations = Engine.Inspirations;
+    Press(KeyCode::Escape); // Cancel in an empty Converse
+    EXPECT_EQ(State().ActiveMethod, WriteMethod::None);
+    EXPECT_EQ(mirror->Controls().Title, "Veyrant Sagrel -- New Dialogue");
+    EXPECT_EQ(Engine.Inspirations, inspirations + 1);
+    Press(KeyCode::Function(5));
     const std::string converse = mirror->Dump();
     EXPECT_NE(converse.find("txtMirror: \"\\t\xe2\x80\x9c\" back=Yellow focus\n"),
               std::string::npos);
@@ -205,11 +193,18 @@ TEST_F(MirrorLayout, FunctionKeysActOnTheirButtonsUnlessGuarded) {
     EXPECT_EQ(Box(txtSaved).Caret, 0);
     Press(KeyCode::Function(11));
     EXPECT_FALSE(State().DisplayFull);
-    Press(KeyCode::Function(12));
-    EXPECT_EQ(Text(cmdDisplay), "File");
+    Enter();
+    Click(cmdNotate);
+    Press(KeyCode::Escape); // Cancel back to Converse
+    EXPECT_EQ(State().ActiveMethod, WriteMethod::Converse);
+    EXPECT_TRUE(Text(cmdNew) == "Finish" && Box(cmdConverse).PressedIn);
+    Press(KeyCode::Escape); // Finish
+    EXPECT_EQ(Text(cmdNew) + Text(cmdDisplay), "NewFile");
     Press(KeyCode::Function(11)); // "File" is not a view switch
     Press(KeyCode::Function(10)); // nor is "Continue" an edit
     EXPECT_EQ(State().ActiveMethod, WriteMethod::None);
+    Press(KeyCode::Function(12));
+    EXPECT_EQ(Layer.Boxes.back().Title, "Save Finished Dialogue");
 }
 
 } // namespace
