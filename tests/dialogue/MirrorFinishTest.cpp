@@ -187,24 +187,32 @@ TEST(MirrorFinishNew, NewAsksOnlyForAnUnsavedDialogueAndResetsOnNo) {
     }
 }
 
-// A Prior Dialogue reopens with its age and the date it was written.
-TEST(MirrorFinishPrior, APriorDialogueReopensWithItsAge) {
+// A Prior Dialogue reopens with its age and the date it was written. The Library's limits can
+// take it the moment it is saved: when it is older than the days, or than every Dialogue of a
+// full Library. The user hears of it, and the Dialogue stays on the screen and in the buffers
+// instead of vanishing with the New that a save clicks.
+TEST(MirrorFinishPrior, APriorDialogueReopensWithItsAgeAndStaysWhenTheLimitsTakeItAtOnce) {
     const struct {
         DateTime Written;
         std::string Title;
+        std::int16_t MaxFiles = 0; // saved at once into a Library of 21 days and that many files
     } cases[] = {
-        {{2026, 11, 22, 8, 30, 0}, "1 Page, 0 Days -- Sunday, 8:30 am, November 22, 2026"},
-        {{2026, 11, 21, 21, 5, 0}, "1 Page, 1 Day -- Saturday, 9:05 pm, November 21, 2026"},
-        {{2026, 11, 17, 9, 5, 0}, "1 Page, 5 Days Old -- Tuesday, 9:05 am, November 17, 2026"},
+        {{2026, 11, 22, 8, 30, 0}, "0 Days -- Sunday, 8:30 am, November 22, 2026"},
+        {{2026, 11, 21, 21, 5, 0}, "1 Day -- Saturday, 9:05 pm, November 21, 2026"},
+        {{2026, 11, 17, 9, 5, 0}, "5 Days Old -- Tuesday, 9:05 am, November 17, 2026"},
         // Buffers dated after now, as when the clock was set back.
-        {{2026, 11, 25, 19, 0, 0}, "1 Page, 0 Days -- Wednesday, 7:00 pm, November 25, 2026"}};
+        {{2026, 11, 25, 19, 0, 0}, "0 Days -- Wednesday, 7:00 pm, November 25, 2026"},
+        // Older than the days, and older than a full Library.
+        {{2026, 10, 28, 9, 0, 0}, "25 Days Old -- Wednesday, 9:00 am, October 28, 2026", 30},
+        {{2026, 11, 19, 9, 0, 0}, "3 Days Old -- Thursday, 9:00 am, November 19, 2026", 1}};
     for (const auto& c : cases) {
         SCOPED_TRACE(c.Title);
         MirrorDriver driver;
         driver.LeavePriorDialogue(3);
         driver.Clock.FileDates[driver.App.Folder.Exe() / "savei.tmp"] = c.Written;
         driver.mirror->StartWindow();
-        EXPECT_EQ(driver.mirror->Controls().Title, "Veyrant Sagrel -- Dialogue, " + c.Title);
+        EXPECT_EQ(driver.mirror->Controls().Title,
+                  "Veyrant Sagrel -- Dialogue, 1 Page, " + c.Title);
         EXPECT_EQ(driver.Text(cmdRemove) + driver.Text(cmdNew) + driver.Text(cmdDisplay),
                   "ContinueNewFile");
         EXPECT_EQ(driver.Text(txtSaved).substr(0, 35), "Inspiration\r\n\r\n\tAn old inspiration.");
@@ -213,23 +221,11 @@ TEST(MirrorFinishPrior, APriorDialogueReopensWithItsAge) {
         EXPECT_EQ(driver.State().PairCount, 3);
         EXPECT_FALSE(driver.Box(cmdConverse).Enabled || driver.Box(cmdClear).Enabled);
         EXPECT_EQ(driver.Engine.Inspirations, 0); // the Dialogue keeps its own
-        driver.Click(cmdRemove);                  // Continue
-        EXPECT_EQ(driver.Text(txtResponse), "Inspiration\r\n\tAn old inspiration.");
-    }
-}
-
-// The Library's limits can take a Dialogue the moment it is saved: an old Prior Dialogue, or one
-// older than every Dialogue of a full Library. The user hears of it, and the Dialogue stays on
-// the screen and in the buffers instead of vanishing with the New that a save clicks.
-TEST(MirrorFinishLimits, ADialogueTheLimitsTakeAtOnceStaysOnTheScreen) {
-    const struct {
-        std::int16_t MaxFiles;
-        DateTime Written;
-    } cases[] = {{30, {2026, 10, 28, 9, 0, 0}}, // older than the days
-                 {1, {2026, 11, 19, 9, 0, 0}}}; // older than a full Library
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.MaxFiles);
-        MirrorDriver driver;
+        if (c.MaxFiles == 0) {
+            driver.Click(cmdRemove); // Continue
+            EXPECT_EQ(driver.Text(txtResponse), "Inspiration\r\n\tAn old inspiration.");
+            continue;
+        }
         driver.App.UserSettings.MaxLibraryFiles = c.MaxFiles;
         driver.App.UserSettings.MaxLibraryDays = 21;
         const DateTime later{2026, 11, 20, 10, 0, 0};
@@ -238,9 +234,6 @@ TEST(MirrorFinishLimits, ADialogueTheLimitsTakeAtOnceStaysOnTheScreen) {
             WriteWholeFile(folder / MakeFileName(later), "\tA later Dialogue.");
             driver.Clock.FileDates[folder / MakeFileName(later)] = later;
         }
-        driver.LeavePriorDialogue(2);
-        driver.Clock.FileDates[driver.App.Folder.Exe() / "savei.tmp"] = c.Written;
-        driver.mirror->StartWindow();
         const std::string dialogue = driver.State().DialogueText;
         driver.Click(cmdSave);
         EXPECT_EQ(driver.Titles(), "Dialogue Not Kept in the Library;");
@@ -251,7 +244,7 @@ TEST(MirrorFinishLimits, ADialogueTheLimitsTakeAtOnceStaysOnTheScreen) {
                   0u);
         EXPECT_FALSE(driver.Library.Holds(MakeFileName(c.Written)));
         EXPECT_TRUE(driver.Library.Holds(MakeFileName(later)));
-        EXPECT_EQ(driver.Kept(), "2:" + dialogue);
+        EXPECT_EQ(driver.Kept(), "3:" + dialogue);
         EXPECT_EQ(driver.State().DialogueText, dialogue);
         EXPECT_TRUE(driver.Box(cmdSave).Enabled && !driver.Layer.Busy);
     }
