@@ -29,13 +29,6 @@ void ContinuePrior(MirrorDriver& driver, int pairCount) {
     driver.Click(cmdRemove);
 }
 
-// A Finished Dialogue of one answered statement.
-void FinishOnePair(MirrorDriver& driver) {
-    driver.StartConverse();
-    driver.Converse(Statement);
-    driver.Click(cmdNew); // Finish
-}
-
 // Closes the window, or right-clicks on the Help or the Library button for the Utilities or the
 // Library Options window, which puts it out of the way; true when the program went on.
 bool Leave(MirrorDriver& driver, std::optional<MirrorControl> rightClick) {
@@ -150,7 +143,9 @@ TEST(MirrorFinishNew, NewAsksOnlyForAnUnsavedDialogueAndResetsOnNo) {
             driver.mirror = std::make_unique<Mirror>(driver.App.WriteWorld(), driver.Engine,
                                                      driver.Buffers, driver.Library);
         }
-        FinishOnePair(driver);
+        driver.StartConverse();
+        driver.Converse(Statement);
+        driver.Click(cmdNew); // Finish
         EXPECT_EQ(driver.Box(cmdSave).Enabled, !c.Guest);
         driver.Layer.Answers.push_back(c.Answer);
         driver.Click(c.SavedFirst ? cmdSave : cmdNew);

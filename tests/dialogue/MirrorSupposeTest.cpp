@@ -96,7 +96,7 @@ TEST_F(MirrorSuppose, TheQuestionOpensAListAndSelectPutsTheHeaviestIdeaInTheDial
 
 // A refused Select leaves the outcome out until kept; each list weighs its own ideas, so what an
 // earlier, longer list left behind is never chosen; a declined question goes back to Converse.
-TEST_F(MirrorSuppose, SelectRefusedByTheDrawLeavesTheOutcomeOutUntilKept) {
+TEST_F(MirrorSuppose, SelectRefusedByTheDrawLeavesTheOutcomeOutUntilKeptAndCancelDropsTheList) {
     OpenList(*this, {0.2f, 0.3f, 0.9f});
     for (int idea = 1; idea <= 3; ++idea) {
         Converse("idea number " + std::to_string(idea));
@@ -130,6 +130,37 @@ TEST_F(MirrorSuppose, SelectRefusedByTheDrawLeavesTheOutcomeOutUntilKept) {
     Click(cmdRemove);
     EXPECT_EQ(State().DialogueText,
               dialogue + "\r\n\r\n" + Quoted(Question) + "\r\n\tRemark 3 on type 9.");
+    // The full view covers the list and Write gives it back; Cancel drops it and returns to
+    // Converse in a running Dialogue.
+    Enter();
+    const std::string before = State().DialogueText;
+    const int cycles = State().CycleCount;
+    AskQuestion(*this);
+    Type("earl");
+    const std::string shown = mirror->Dump();
+    Click(cmdDisplay);
+    EXPECT_EQ(Shown("txtAnalyze") + Shown("cmdDisplay"), "cmdDisplay: \"Write\"");
+    Type("zz"); // no key reaches a box under the full view
+    Click(cmdDisplay);
+    EXPECT_EQ(mirror->Dump(), shown);
+    Converse("ier nights");
+    EXPECT_EQ(Text(txtAnalyze), List({"Earlier nights."}));
+    Converse("fewer screens.");
+    Converse("go"); // refused as too short
+    // Esc with Select leaves the method as F5 does.
+    Press(KeyCode::Escape);
+    EXPECT_EQ(State().ActiveMethod, WriteMethod::Converse);
+    EXPECT_EQ(Shown("txtAnalyze"), "");
+    EXPECT_EQ(State().DialogueText, before);
+    EXPECT_EQ(State().CycleCount, cycles + 1);
+    // A list left on a refused idea still opens the next one with its prompt.
+    AskQuestion(*this);
+    EXPECT_EQ(Text(txtAnalyze), List({}));
+    Click(cmdNew);
+    EXPECT_EQ(Shown("cmdNew") + Shown("txtAnalyze"), "cmdNew: \"Finish\"");
+    EXPECT_EQ(Shown("cmdConverse"), "cmdConverse: \"Converse\" pressed");
+    EXPECT_EQ(State().DialogueText, before);
+    EXPECT_EQ(State().CycleCount, cycles + 2);
 }
 
 // An idea is capped and loses one closing mark; a too short one stays to be lengthened.
@@ -227,40 +258,6 @@ TEST_F(MirrorSuppose, TheCaretStaysBehindThePromptAndAnIdeaOnlyGrowsOrShrinksToF
     Enter();
     EXPECT_EQ(Text(txtAnalyze),
               List({"Walk to school.", "Go slow.", "A" + std::string(137, 'a') + "."}));
-}
-
-// The full view covers the list and Write gives it back; Cancel drops it and returns to Converse
-// in a running Dialogue.
-TEST_F(MirrorSuppose, TheFullViewCoversTheListAndCancelDropsIt) {
-    StartConverse();
-    Converse("I have been tired every morning this month.");
-    const std::string before = State().DialogueText;
-    AskQuestion(*this);
-    Type("earl");
-    const std::string shown = mirror->Dump();
-    Click(cmdDisplay);
-    EXPECT_EQ(Shown("txtAnalyze") + Shown("cmdDisplay"), "cmdDisplay: \"Write\"");
-    Type("zz"); // no key reaches a box under the full view
-    Click(cmdDisplay);
-    EXPECT_EQ(mirror->Dump(), shown);
-    Converse("ier nights");
-    EXPECT_EQ(Text(txtAnalyze), List({"Earlier nights."}));
-    Converse("fewer screens.");
-    Converse("go"); // refused as too short
-    // Esc with Select leaves the method as F5 does.
-    Press(KeyCode::Escape);
-    EXPECT_EQ(State().ActiveMethod, WriteMethod::Converse);
-    EXPECT_EQ(Shown("txtAnalyze"), "");
-    EXPECT_EQ(State().DialogueText, before);
-    EXPECT_EQ(State().CycleCount, 2);
-    // A list left on a refused idea still opens the next one with its prompt.
-    AskQuestion(*this);
-    EXPECT_EQ(Text(txtAnalyze), List({}));
-    Click(cmdNew);
-    EXPECT_EQ(Shown("cmdNew") + Shown("txtAnalyze"), "cmdNew: \"Finish\"");
-    EXPECT_EQ(Shown("cmdConverse"), "cmdConverse: \"Converse\" pressed");
-    EXPECT_EQ(State().DialogueText, before);
-    EXPECT_EQ(State().CycleCount, 3);
 }
 
 TEST_F(MirrorSuppose, TheListClosesByItselfAfterNinetyEightIdeas) {
