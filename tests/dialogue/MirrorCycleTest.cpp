@@ -17,7 +17,7 @@ const std::string Notice =
 
 // A new Dialogue offers the methods and the Inspiration; a Converse entry shows "Processing"
 // before the reply is composed, the pair is kept, and the next Enter begins a fresh entry.
-TEST_F(MirrorCycle, ConverseEntryIsAcceptedAnsweredAndKept) {
+TEST_F(MirrorCycle, CommentThenConverseEntryIsAcceptedAnsweredAndKept) {
     mirror->StartWindow();
     EXPECT_EQ(Text(txtResponse), "Inspiration\r\n\tInspiration number 1.");
     EXPECT_EQ(Text(txtNote), "Reflect upon the Inspiration and Suggestion to compose your "
@@ -31,7 +31,19 @@ TEST_F(MirrorCycle, ConverseEntryIsAcceptedAnsweredAndKept) {
     EXPECT_EQ(Text(txtSaved).substr(0, 12), "Suggestion 2");
     Click(txtResponse);
     EXPECT_EQ(Text(txtResponse), "Inspiration\r\n\tInspiration number 2.");
-    Click(cmdConverse);
+    // An opening comment goes in at once and hands over to Converse.
+    Click(cmdNotate);
+    EXPECT_EQ(mirror->Controls().Title.substr(0, 28), "Veyrant Sagrel -- Notation -");
+    EXPECT_EQ(Text(txtResponse).substr(0, 32), "Direction for Beginning Notation");
+    const std::string comment =
+        "\r\n\r\n" + Quoted("tonight I want to look at why work feels heavy.");
+    Converse("tonight I want to look at why work feels heavy.");
+    EXPECT_EQ(State().DialogueText, comment);
+    EXPECT_EQ(Text(txtResponse), "Comment" + comment.substr(2));
+    EXPECT_TRUE(Box(cmdConverse).PressedIn && !Box(cmdNotate).PressedIn);
+    EXPECT_EQ(Text(cmdNew), "Finish");
+    EXPECT_EQ(State().CycleCount, 0);
+    Enter();
     EXPECT_EQ(mirror->Controls().Title,
               "Veyrant Sagrel -- Conversation -- Sunday, 12:00 pm, November 22, 2026");
     std::vector<std::string> painted;
@@ -41,11 +53,12 @@ TEST_F(MirrorCycle, ConverseEntryIsAcceptedAnsweredAndKept) {
     ASSERT_FALSE(painted.empty());
     EXPECT_EQ(painted.front(), "Processing . . .");
     EXPECT_GE(Layer.Yields, 2);
-    EXPECT_EQ(Engine.CheckedEntries.front(), Prefix + Question);
+    EXPECT_EQ(Engine.CheckedEntries.back(), Prefix + Question);
     EXPECT_EQ(Text(txtMirror), Quoted(Question));
     EXPECT_EQ(Box(txtResponse).Background, Colour::ColourAdded);
-    EXPECT_EQ(State().PairCount + State().CycleCount, 2);
-    EXPECT_EQ(State().DialogueText, "\r\n\r\n" + Quoted(Question) + "\r\n\tAnswer 1 to type 50.");
+    EXPECT_EQ(State().PairCount + State().CycleCount, 3);
+    EXPECT_EQ(State().DialogueText,
+              comment + "\r\n\r\n" + Quoted(Question) + "\r\n\tAnswer 1 to type 50.");
     EXPECT_EQ(Text(txtNote), "Text was added into the Dialogue. Click 'Remove' to erase it, "
                              "before continuing. Press 'Enter' to continue.");
     EXPECT_TRUE(Box(cmdRemove).Enabled && Box(cmdDisplay).Enabled);
@@ -182,23 +195,6 @@ TEST(MirrorCycleTable, ARejectionShowsItsMessageAndInstruction) {
                                       "the Sagrel response.");
         }
     }
-}
-
-TEST_F(MirrorCycle, CommentGoesInAtOnceAndHandsOverToConverse) {
-    mirror->StartWindow();
-    Click(cmdNotate);
-    EXPECT_EQ(mirror->Controls().Title.substr(0, 28), "Veyrant Sagrel -- Notation -");
-    EXPECT_EQ(Text(txtResponse).substr(0, 32), "Direction for Beginning Notation");
-    const std::string comment = "tonight I want to look at why work feels heavy.";
-    Converse(comment);
-    EXPECT_EQ(State().DialogueText, "\r\n\r\n" + Quoted(comment));
-    EXPECT_EQ(Text(txtResponse), "Comment\r\n" + Quoted(comment));
-    EXPECT_TRUE(Box(cmdConverse).PressedIn && !Box(cmdNotate).PressedIn);
-    EXPECT_EQ(Text(cmdNew), "Finish");
-    EXPECT_EQ(State().CycleCount, 0);
-    Enter();
-    EXPECT_EQ(Text(txtMirror), Prefix);
-    EXPECT_EQ(mirror->Controls().Title.substr(0, 32), "Veyrant Sagrel -- Conversation -");
 }
 
 // The window over the program's own parser and composer with the starter content.
