@@ -7,13 +7,29 @@ namespace {
 
 using MirrorHelp = MirrorTest;
 
-// Help shows 1.25 seconds after the mouse arrives, however it moves on the control, and ends by
-// itself after seven ticks; the response box toggles by a click.
-TEST_F(MirrorHelp, HelpShowsAfterATickAndEndsByItselfAfterSeven) {
-    StartConverse();
-    const std::string instruction = Text(txtNote);
+// Help shows 1.25 seconds after the mouse arrives, however it moves on the control, ends by
+// itself after seven ticks and follows the state; the response box toggles by a click.
+TEST_F(MirrorHelp, HelpShowsAfterATickEndsByItselfAfterSevenAndFollowsTheState) {
+    mirror->StartWindow();
     mirror->MouseMove(cmdClear); // a disabled button has no help
     EXPECT_EQ(Layer.Timers.count(TimerId::MirrorHover), 0u);
+    EXPECT_EQ(Help(cmdNotate), "Open your Dialogue with a comment. Write a short paragraph "
+                               "without creating an Sagrel response.");
+    EXPECT_EQ(Help(cmdRetrieve), "Open the Dialogue Library. You have no saved Dialogues. "
+                                 "Right-click for Library Options.");
+    for (const auto& [minute, saved] :
+         {std::pair{0, "1 saved Dialogue."}, {1, "2 saved Dialogues."}}) {
+        Clock.Date.Minute = minute; // one file name per minute
+        ASSERT_TRUE(Library.AddToLibrary("\tInspiration.", "\r\n\r\n\tA comment."));
+        mirror->MouseMove(txtMirror);
+        EXPECT_EQ(Help(cmdRetrieve), "Open the Dialogue Library to access your " +
+                                         std::string(saved) + " Right-click for Library Options.");
+    }
+    Click(cmdConverse);
+    const std::string instruction = Text(txtNote);
+    EXPECT_EQ(Help(cmdConverse), "Click 'Cancel' to exit Converse and reset to New Dialogue.");
+    EXPECT_EQ(Help(cmdNotate), "Add a comment into your Dialogue. Write a short paragraph "
+                               "without creating an Sagrel response.");
     const int& starts = Layer.TimerStarts[TimerId::MirrorHover];
     for (const auto& [control, help] :
          {std::pair<MirrorControl, std::string>{
@@ -83,27 +99,7 @@ TEST_F(MirrorHelp, HelpShowsAfterATickAndEndsByItselfAfterSeven) {
     const std::string result = Text(txtResponse);
     Click(txtResponse);
     EXPECT_EQ(Text(txtResponse), result);
-}
-
-TEST_F(MirrorHelp, ButtonHelpFollowsTheState) {
-    mirror->StartWindow();
-    EXPECT_EQ(Help(cmdNotate), "Open your Dialogue with a comment. Write a short paragraph "
-                               "without creating an Sagrel response.");
-    EXPECT_EQ(Help(cmdRetrieve), "Open the Dialogue Library. You have no saved Dialogues. "
-                                 "Right-click for Library Options.");
-    for (const auto& [minute, saved] :
-         {std::pair{0, "1 saved Dialogue."}, {1, "2 saved Dialogues."}}) {
-        Clock.Date.Minute = minute; // one file name per minute
-        ASSERT_TRUE(Library.AddToLibrary("\tInspiration.", "\r\n\r\n\tA comment."));
-        mirror->MouseMove(txtMirror);
-        EXPECT_EQ(Help(cmdRetrieve), "Open the Dialogue Library to access your " +
-                                         std::string(saved) + " Right-click for Library Options.");
-    }
-    Click(cmdConverse);
-    EXPECT_EQ(Help(cmdConverse), "Click 'Cancel' to exit Converse and reset to New Dialogue.");
-    EXPECT_EQ(Help(cmdNotate), "Add a comment into your Dialogue. Write a short paragraph "
-                               "without creating an Sagrel response.");
-    Converse("Where did the joy of drawing go?");
+    // Each button's help follows the state.
     EXPECT_EQ(Help(cmdConverse),
               "Click 'Finish' to close your Dialogue for saving, printing, or filing. You may "
               "reopen it by clicking 'Continue'.");
