@@ -55,8 +55,9 @@ TEST(MirrorKeysCount, MarkAndInstructionFollowTheLaggingCount) {
     }
 }
 
-// The key record takes the time and code of every key but Enter and Backspace.
-TEST_F(MirrorKeys, ProtectedHeadCaretMovesTheKeyRecordFocusAndFont) {
+// The key record takes the time and code of every key but Enter and Backspace. Over the limit
+// only Backspace works.
+TEST_F(MirrorKeys, ProtectedHeadCaretKeyRecordFocusFontRewriteAndTheLimit) {
     StartConverse();
     Clock.Seconds = 100.5f;
     Type("abcdefghij"); // caret at 12, length 12
@@ -99,15 +100,8 @@ TEST_F(MirrorKeys, ProtectedHeadCaretMovesTheKeyRecordFocusAndFont) {
     EXPECT_EQ(Layer.Boxes.back().Title, "Change Font Size");
     EXPECT_EQ(App.UserSettings.WriteFontStep, 2);
     EXPECT_TRUE(Box(txtSaved).FontSize == 13.5 && !Box(txtResponse).FontBold);
-    // The focus rule stands down while the program is ending.
-    App.ClosingState = ClosingStates::Exiting;
-    mirror->FocusGained(txtSaved);
-    EXPECT_EQ(mirror->Controls().Focus, txtSaved);
-}
-
-TEST_F(MirrorKeys,
-       RewriteAndAClickEraseTheEntryUntilItIsAnsweredAndOverTheLimitOnlyBackspaceWorks) {
-    StartConverse();
+    // Rewrite and a click erase the entry until it is answered.
+    Click(cmdClear);
     EXPECT_FALSE(Box(cmdClear).Enabled);
     Type("Something I meant");
     EXPECT_TRUE(Box(cmdClear).Enabled);
@@ -125,9 +119,9 @@ TEST_F(MirrorKeys,
     Click(txtMirror);
     EXPECT_EQ(Text(txtMirror), shown);
     EXPECT_EQ(State().PairCount, 1);
-    EXPECT_EQ(Titles(), "Veyrant Sagrel Help;Veyrant Sagrel Help;");
-    EXPECT_EQ(Layer.Boxes[0].Text.substr(0, 29), "Press 'Enter' to continue. In");
-    EXPECT_EQ(Layer.Boxes[1].Text.substr(0, 40), "In this part of the cycle, you must pres");
+    EXPECT_EQ(Titles(), "Invalid Key;Change Font Size;Veyrant Sagrel Help;Veyrant Sagrel Help;");
+    EXPECT_EQ(Layer.Boxes[2].Text.substr(0, 29), "Press 'Enter' to continue. In");
+    EXPECT_EQ(Layer.Boxes[3].Text.substr(0, 40), "In this part of the cycle, you must pres");
     EXPECT_EQ(Box(txtMirror).Caret, 0);
     Enter();
     EXPECT_EQ(Text(txtMirror), Prefix);
@@ -148,6 +142,10 @@ TEST_F(MirrorKeys,
     EXPECT_TRUE(State().EntryFit == EntryLength::Fits && State().EntryCount == 137);
     EXPECT_EQ(Text(txtResponse), view);
     EXPECT_EQ(Box(txtResponse).Background, Colour::ColourReady);
+    // The focus rule stands down while the program is ending.
+    App.ClosingState = ClosingStates::Exiting;
+    mirror->FocusGained(txtSaved);
+    EXPECT_EQ(mirror->Controls().Focus, txtSaved);
 }
 
 // Esc clicks Cancel or Finish, whichever the window offers, and nothing when nothing runs; the
