@@ -160,7 +160,7 @@ private slots:
         QCOMPARE(ok.UserSettings.DisplayOption, 3);
     }
 
-    void optionsTakeDigitsOnlyAndOkClampsThem() {
+    void optionsTakeDigitsOnlyOkClampsEscapeRestoresGuestModeAndCleanEmpties() {
         OptionsDialog program;
         QCOMPARE(program.Find<QLabel>("lblSetSave")->text(),
                  QString("Set maximum saved &files between 1 and 99 files"));
@@ -190,19 +190,18 @@ private slots:
         QTest::keyClicks(days, "2");
         QTest::mouseClick(program.Find<QPushButton>("cmdOK"), Qt::LeftButton);
         QCOMPARE(program.Exits, 1);
-    }
 
-    void optionsEscapeRestoresGuestModeOnlyAndCleanEmptiesTheLibrary() {
-        OptionsDialog program;
-        QTest::keyClick(&program.Window, Qt::Key_G, Qt::AltModifier);
+        // Escape restores the Guest Mode only.
+        OptionsDialog escape;
+        QTest::keyClick(&escape.Window, Qt::Key_G, Qt::AltModifier);
         // A mnemonic clicks a check box after a short show of the press.
-        QTRY_COMPARE(program.UserSettings.GuestMode, 1);
-        program.Find<QLineEdit>("txtSetSave")->selectAll();
-        QTest::keyClicks(program.Find<QLineEdit>("txtSetSave"), "0");
-        QTest::keyClick(&program.Window, Qt::Key_Escape);
-        QCOMPARE(program.UserSettings.GuestMode, 0);
-        QCOMPARE(program.UserSettings.MaxLibraryFiles, 0);
-        QCOMPARE(program.Exits, 1);
+        QTRY_COMPARE(escape.UserSettings.GuestMode, 1);
+        escape.Find<QLineEdit>("txtSetSave")->selectAll();
+        QTest::keyClicks(escape.Find<QLineEdit>("txtSetSave"), "0");
+        QTest::keyClick(&escape.Window, Qt::Key_Escape);
+        QCOMPARE(escape.UserSettings.GuestMode, 0);
+        QCOMPARE(escape.UserSettings.MaxLibraryFiles, 0);
+        QCOMPARE(escape.Exits, 1);
 
         OptionsDialog clean;
         QTest::mouseClick(clean.Find<QPushButton>("cmdClean"), Qt::LeftButton);

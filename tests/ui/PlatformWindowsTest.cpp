@@ -145,8 +145,7 @@ private slots:
         QTRY_VERIFY_WITH_TIMEOUT(program.Write != nullptr && program.Write->isVisible(), 10000);
         QVERIFY(QTest::qWaitForWindowExposed(program.Write));
         QTRY_VERIFY(!program.Windows.IsWindowVisible(WindowId::Banner));
-        QCOMPARE(program.Write->windowTitle(),
-                 QString("Veyrant Sagrel 4.1 -- Written Dialogues of Self-Reflection"));
+        QVERIFY(program.Write->windowTitle().startsWith(u"Veyrant Sagrel 4.1 --"_s));
         // On Wayland the program would draw the backdrop's title bar itself; it has none.
         QVERIFY(program.Back && program.Back->isVisible());
         QCOMPARE(Unnamed(*program.Back), QStringList());
