@@ -222,7 +222,9 @@ private slots:
         QVERIFY(std::filesystem::is_empty(clean.Folder.Isp()));
     }
 
-    void messageBoxShowsTheProgramsTextAsQtText() {
+    // The window layer under the windows: the program's box as Qt shows it, the font faces the
+    // machine really has, and the screen in twips.
+    void theWindowLayerShowsBoxesFindsFacesAndMeasuresTheScreen() {
         // The entry quotes are Windows-1252 147 and 148; paragraphs are parted by CR LF.
         const auto box = BuildMessageBox({"Change Font Size", "\x93Why?\x94\r\n\r\nSee \xe9t\xe9.",
                                           MessageIcon::Question, MessageButtons::YesNoCancel, 2});
@@ -239,9 +241,6 @@ private slots:
               std::pair{MessageIcon::None, QMessageBox::NoIcon}}) {
             QCOMPARE(BuildMessageBox({"t", "x", icon, MessageButtons::Ok, 1})->icon(), shown);
         }
-    }
-
-    void onlyRealFacesCountAndTheScreenIsMeasuredInTwips() {
         QtWindowLayer windows;
         QVERIFY(windows.HasFontFace("Liberation Serif", false));
         QVERIFY(windows.HasFontFace("liberation serif", true));
