@@ -308,36 +308,77 @@ private slots:
         QTRY_COMPARE(write.Window->windowTitle(), u"Veyrant Sagrel -- New Dialogue"_s);
     }
 
+    // A correction replaces the word in this text only; an added word is known in every window at
+    // once and after a restart, and its list is the user's alone. Each language has its own words.
     // The user's edits are what is saved, as UTF-8 with the platform's line ends. A failed save
     // says so, leaves no file, and the text is still changed; closing then saves to the file the
     // text already has, and no file dialog asks for a name again.
-    void SavesTheEditedTextAsUtf8OrSaysWhyNotAndClosingKeepsTheFile() {
+    void TheExportEditorCorrectsMarkedWordsAndSavesTheEditsAsUtf8() {
         testing::FakeWindowLayer windows;
         testing::TempFolder folder;
+        const auto words = folder / "Words.txt";
         SpellChecker spelling;
+        OpenFor(spelling, "en_US.UTF-8", words);
         auto* editor = new ExportEditorWindow(
-            windows, folders, spelling, QString::fromUtf8("Veyrant Sagrel\n\u201cCaf\u00e9\u201d"),
+            windows, folders, spelling,
+            QString::fromUtf8("Veyrant Sagrel\n\u201c12\u00b0\u201d\nI wrte to the Sagrel about "
+                              "Tolmira's lettr, 12 times."),
             u"Dialogue.txt"_s);
+        ExportEditorWindow other(windows, folders, spelling, u"A lettr.\n"_s, u"Dialogue.txt"_s);
         editor->show();
+        QVERIFY(QTest::qWaitForWindowExposed(editor));
         QCOMPARE(Unnamed(*editor), QStringList());
+        QCOMPARE(MarkedWords(editor->Editor()), QStringList({"wrte", "lettr"}));
+
+        const QStringList offered = MenuOn(*editor, "wrte", "write");
+        QVERIFY(offered.contains("write"));
+        QVERIFY(offered.indexOf("Add to Dictionary") <= 5);
+        QVERIFY(editor->Editor().toPlainText().contains("I write to"));
+        QCOMPARE(MarkedWords(editor->Editor()), QStringList({"lettr"}));
+
+        MenuOn(*editor, "lettr", "Add to Dictionary");
+        QCOMPARE(MarkedWords(editor->Editor()), QStringList());
+        QCOMPARE(MarkedWords(other.Editor()), QStringList());
+        QCOMPARE(other.Editor().toPlainText(), u"A lettr.\n"_s);
+        QCOMPARE(std::filesystem::status(words).permissions(),
+                 std::filesystem::perms::owner_read | std::filesystem::perms::owner_write);
+        SpellChecker restarted;
+        OpenFor(restarted, "en_US.UTF-8", words);
+        QVERIFY(restarted.Knows("lettr"));
+
+        QVERIFY(!MenuOn(*editor, "Sagrel").contains("Add to Dictionary"));
+        QVERIFY(windows.Boxes.empty());
+
+        // The dictionary of the user's language judges its accented words.
+        SpellChecker german;
+        OpenFor(german, "de_DE.UTF-8", folder / "Wörter.txt");
+        ExportEditorWindow street(windows, folders, german,
+                                  QString::fromUtf8("Die Stra\u00dfe ist gem\u00fctlich, die "
+                                                    "Strase nicht.\n"),
+                                  u"Dialogue.txt"_s);
+        QCOMPARE(MarkedWords(street.Editor()), QStringList({"Strase"}));
+
         editor->Editor().appendPlainText(u"A line of my own."_s);
         QVERIFY(editor->Editor().document()->isModified());
-        const auto path = folder / "Sunday.txt";
+        const auto saves = folder / "saves";
+        std::filesystem::create_directories(saves);
+        const auto path = saves / "Sunday.txt";
         const std::string saved = "Veyrant Sagrel\n\xe2\x80\x9c"
-                                  "Caf\xc3\xa9\xe2\x80\x9d\nA line of my own.";
+                                  "12\xc2\xb0\xe2\x80\x9d\nI write to the Sagrel about Tolmira's "
+                                  "lettr, 12 times.\nA line of my own.";
         QVERIFY(editor->SaveTo(QString::fromStdString(path.string())));
         QCOMPARE(ReadWholeFile(path), saved);
         QVERIFY(!editor->Editor().document()->isModified());
-        QCOMPARE(FilesIn(folder.Path()), std::size_t{1});
+        QCOMPARE(FilesIn(saves), std::size_t{1});
         QVERIFY(windows.Boxes.empty());
 
         editor->Editor().appendPlainText(u"More."_s);
-        const auto missing = folder / "missing" / "Sunday.txt";
+        const auto missing = saves / "missing" / "Sunday.txt";
         QVERIFY(!editor->SaveTo(QString::fromStdString(missing.string())));
         QCOMPARE(windows.Boxes.at(0).Title + ": " + windows.Boxes[0].Text,
                  "Save File Error: Error 53 encountered attempting to save " + missing.string() +
                      ".");
-        QCOMPARE(FilesIn(folder.Path()), std::size_t{1});
+        QCOMPARE(FilesIn(saves), std::size_t{1});
         QVERIFY(editor->Editor().document()->isModified());
 
         bool askedForAName = false;
@@ -354,52 +395,6 @@ private slots:
         QVERIFY(editor->close());
         QVERIFY(!askedForAName);
         QCOMPARE(ReadWholeFile(path), saved + "\nMore.");
-    }
-
-    // A correction replaces the word in this text only; an added word is known in every window at
-    // once and after a restart, and its list is the user's alone. Each language has its own words.
-    void MarkedWordsOfferCorrectionsAndAddToDictionary() {
-        testing::FakeWindowLayer windows;
-        testing::TempFolder folder;
-        const auto words = folder / "Words.txt";
-        SpellChecker spelling;
-        OpenFor(spelling, "en_US.UTF-8", words);
-        ExportEditorWindow editor(windows, folders, spelling,
-                                  QStringLiteral("Veyrant Sagrel\nI wrte to the Sagrel about "
-                                                 "Tolmira's lettr, 12 times.\n"),
-                                  u"Dialogue.txt"_s);
-        ExportEditorWindow other(windows, folders, spelling, u"A lettr.\n"_s, u"Dialogue.txt"_s);
-        editor.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&editor));
-        QCOMPARE(MarkedWords(editor.Editor()), QStringList({"wrte", "lettr"}));
-
-        const QStringList offered = MenuOn(editor, "wrte", "write");
-        QVERIFY(offered.contains("write"));
-        QVERIFY(offered.indexOf("Add to Dictionary") <= 5);
-        QVERIFY(editor.Editor().toPlainText().contains("I write to"));
-        QCOMPARE(MarkedWords(editor.Editor()), QStringList({"lettr"}));
-
-        MenuOn(editor, "lettr", "Add to Dictionary");
-        QCOMPARE(MarkedWords(editor.Editor()), QStringList());
-        QCOMPARE(MarkedWords(other.Editor()), QStringList());
-        QCOMPARE(other.Editor().toPlainText(), u"A lettr.\n"_s);
-        QCOMPARE(std::filesystem::status(words).permissions(),
-                 std::filesystem::perms::owner_read | std::filesystem::perms::owner_write);
-        SpellChecker restarted;
-        OpenFor(restarted, "en_US.UTF-8", words);
-        QVERIFY(restarted.Knows("lettr"));
-
-        QVERIFY(!MenuOn(editor, "Sagrel").contains("Add to Dictionary"));
-        QVERIFY(windows.Boxes.empty());
-
-        // The dictionary of the user's language judges its accented words.
-        SpellChecker german;
-        OpenFor(german, "de_DE.UTF-8", folder / "Wörter.txt");
-        ExportEditorWindow street(windows, folders, german,
-                                  QString::fromUtf8("Die Stra\u00dfe ist gem\u00fctlich, die "
-                                                    "Strase nicht.\n"),
-                                  u"Dialogue.txt"_s);
-        QCOMPARE(MarkedWords(street.Editor()), QStringList({"Strase"}));
     }
 };
 
