@@ -49,8 +49,10 @@ class DesktopTest : public QObject {
     Q_OBJECT
 
 private slots:
-    // The pointer resting on a button or on the instruction line shows its help there.
-    void theReadWindowsHelpFollowsThePointer() {
+    // The pointer resting on a button or on the instruction line shows its help there. The font
+    // step's box takes the right button's release; the user's next click on the text still works
+    // the window.
+    void theReadWindowsHelpFollowsThePointerAndAFontStepLeavesTheNextClickToTheText() {
         Desktop program;
         program.OpenKnowledge();
         const std::pair<ReaderControl, const char*> rests[] = {
@@ -61,13 +63,6 @@ private slots:
             QTest::mouseMove(program.Read->Widget(control));
             QTRY_VERIFY_WITH_TIMEOUT(program.Note().startsWith(QString::fromLatin1(help)), 4000);
         }
-    }
-
-    // The font step's box takes the right button's release; the user's next click on the text
-    // still works the window.
-    void aFontStepLeavesTheNextClickToTheText() {
-        Desktop program;
-        program.OpenKnowledge();
         auto* spin = static_cast<QPlainTextEdit*>(program.Read->Widget(ReaderControl::txtSpin));
         // The box takes the release, as the pointer's grab gives it on a desktop.
         QTimer::singleShot(

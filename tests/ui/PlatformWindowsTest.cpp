@@ -70,7 +70,7 @@ class PlatformWindowsTest : public QObject {
     Q_OBJECT
 
 private slots:
-    void theUtilityDialogsOpenTakeKeysAndClose() {
+    void theUtilityDialogsOpenTakeKeysAndCloseAndTheAboutBoxAnswersEnter() {
         // Escape leaves each of them, which ends the program.
         for (const WindowId id : {WindowId::Utility, WindowId::Resize, WindowId::Options}) {
             UtilitiesOnScreen program;
@@ -84,9 +84,7 @@ private slots:
             QTest::keyClick(window, Qt::Key_Escape);
             QCOMPARE(program.Exits, 1);
         }
-    }
 
-    void theAboutBoxAnswersEnter() {
         UtilitiesOnScreen program;
         program.Windows.ShowWindow(WindowId::Utility);
         // The box runs modally; Enter on it, once it stands, closes it.
