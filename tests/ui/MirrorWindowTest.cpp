@@ -95,66 +95,6 @@ class MirrorWindowTest : public QObject {
     SaveFolder folders;
 
 private slots:
-    // A Converse typed and answered on screen, a button's help under the resting pointer and as a
-    // screen reader tells it, and the full view of the Dialogue over the boxes and back.
-    void TypedEntryIsAnsweredOnScreenAndShownWhole() {
-        WriteWindow write;
-        // The window's size less its frame, and the boxes' fonts, follow the display size.
-        const MirrorLayout design = MirrorDesign();
-        const double factor = write.App.Scale.ScaleFactor / 15;
-        QCOMPARE(write.Window->size(), QSize(std::lround((design.WindowWidth - 90) * factor),
-                                             std::lround((design.WindowHeight - 405) * factor)));
-        QCOMPARE(write.Box(txtSaved)->font().pointSizeF(), write.App.Scale.TextSize[1]);
-        QVERIFY(write.Box(txtSaved)->font().bold());
-        // The hover help is spoken, and a screen reader tells the key that presses a button, as
-        // the underlined letter shows it.
-        QCOMPARE(Spoken(write.Window->Widget(txtMirror), QAccessible::Description),
-                 QString("Type a question or a statement, then press 'Enter'."));
-        QCOMPARE(Spoken(write.Window->Widget(cmdHelp), QAccessible::Description),
-                 QString("Open the Information Library for instructions and information on the "
-                         "program. Right-click to open the Utilities window."));
-        QCOMPARE(QAccessible::queryAccessibleInterface(write.Window->Widget(cmdHelp))
-                     ->actionInterface()
-                     ->keyBindingsForAction(QAccessibleActionInterface::pressAction()),
-                 QStringList{"Alt+H"});
-        write.Click(cmdConverse);
-        // The description follows the button's state, as the hover help does.
-        QVERIFY(Spoken(write.Window->Widget(cmdConverse), QAccessible::Description)
-                    .startsWith(u"Click 'Cancel'"_s));
-        // The instruction line's description follows its words.
-        QCOMPARE(Spoken(write.Window->Widget(txtNote), QAccessible::Description),
-                 QString("Type your question or statement. Click 'Rewrite' to erase the text. "
-                         "Press 'Enter' for the Sagrel response."));
-
-        auto* entry = write.Box(txtMirror);
-        auto* mark = write.Window->Widget(lblRem);
-        QVERIFY(mark->isVisible());
-        QWidget* cancel = write.Window->Widget(cmdNew);
-        QTest::mouseMove(cancel, QPoint(10, 10));
-        QTest::mouseMove(cancel, QPoint(12, 11));
-        QVERIFY(cancel->property("hoverMark").toBool());
-        write.Logic->TimerFired(TimerId::MirrorHover);
-        write.Window->Render();
-        auto* note = static_cast<QLabel*>(write.Window->Widget(txtNote));
-        QVERIFY(note->text().startsWith(u"Cancel your interaction"_s));
-
-        QTest::keyClicks(entry, u"Why do I keep the old letters in a box?"_s);
-        QCOMPARE(entry->toPlainText(), Prefix + u"Why do I keep the old letters in a box?"_s);
-        QVERIFY(!mark->isVisible());
-        QVERIFY(write.Window->Widget(cmdClear)->isEnabled());
-
-        QTest::keyClick(entry, Qt::Key_Return);
-        QCOMPARE(entry->toPlainText(), Prefix + u"Why do I keep the old letters in a box?\u201D"_s);
-        QVERIFY(!write.Box(txtResponse)->toPlainText().isEmpty());
-        if (write.Caption(cmdRemove) == u"Keep"_s) {
-            write.Click(cmdRemove);
-        }
-        QTest::keyClick(entry, Qt::Key_F11);
-        QCOMPARE(write.Caption(cmdDisplay), u"Write"_s);
-        QTest::mouseClick(write.Box(txtSaved)->viewport(), Qt::LeftButton);
-        QCOMPARE(write.Caption(cmdDisplay), u"Display"_s);
-    }
-
     // A finished word the dictionary does not know is marked and loses the mark when corrected.
     // With the marks off or no dictionary nothing is marked and nothing complains, and in every
     // case the keys make the same text and the same random series.
@@ -225,13 +165,33 @@ private slots:
         QCOMPARE(write.Window->focusWidget(), entry);
     }
 
-    // A keyboard user reaches every command by Alt and the letter its caption underlines, while
-    // the entry box keeps the focus and its own rules for Tab and the letters typed. The head of
-    // the entry is out of reach; paste, drop and shortcuts are refused; a character the Dialogue
-    // file cannot hold, typed (an emoji is a surrogate pair) or sent by an input method, is
-    // refused with the program's notice and is never counted.
-    void EveryCommandAnswersToAltAndTheEntryRefusesWhatItCannotHold() {
+    // A Converse typed and answered on screen, a button's help under the resting pointer and as a
+    // screen reader tells it, and the full view of the Dialogue over the boxes and back. A keyboard
+    // user reaches every command by Alt and the letter its caption underlines, while the entry box
+    // keeps the focus and its own rules for Tab and the letters typed. The head of the entry is out
+    // of reach; paste, drop and shortcuts are refused; a character the Dialogue file cannot hold,
+    // typed (an emoji is a surrogate pair) or sent by an input method, is refused with the
+    // program's notice and is never counted.
+    void TypedEntryIsAnsweredOnScreenAndEveryCommandAnswersToAlt() {
         WriteWindow write;
+        // The window's size less its frame, and the boxes' fonts, follow the display size.
+        const MirrorLayout design = MirrorDesign();
+        const double factor = write.App.Scale.ScaleFactor / 15;
+        QCOMPARE(write.Window->size(), QSize(std::lround((design.WindowWidth - 90) * factor),
+                                             std::lround((design.WindowHeight - 405) * factor)));
+        QCOMPARE(write.Box(txtSaved)->font().pointSizeF(), write.App.Scale.TextSize[1]);
+        QVERIFY(write.Box(txtSaved)->font().bold());
+        // The hover help is spoken, and a screen reader tells the key that presses a button, as
+        // the underlined letter shows it.
+        QCOMPARE(Spoken(write.Window->Widget(txtMirror), QAccessible::Description),
+                 QString("Type a question or a statement, then press 'Enter'."));
+        QCOMPARE(Spoken(write.Window->Widget(cmdHelp), QAccessible::Description),
+                 QString("Open the Information Library for instructions and information on the "
+                         "program. Right-click to open the Utilities window."));
+        QCOMPARE(QAccessible::queryAccessibleInterface(write.Window->Widget(cmdHelp))
+                     ->actionInterface()
+                     ->keyBindingsForAction(QAccessibleActionInterface::pressAction()),
+                 QStringList{"Alt+H"});
         QApplication::setActiveWindow(write.Window.get());
         QVERIFY(QTest::qWaitForWindowActive(write.Window.get()));
         auto* entry = write.Box(txtMirror);
@@ -242,6 +202,25 @@ private slots:
         alt(Qt::Key_C);
         QTRY_COMPARE(entry->toPlainText(), Prefix);
         QCOMPARE(QApplication::focusWidget(), entry);
+        // The description follows the button's state, as the hover help does.
+        QVERIFY(Spoken(write.Window->Widget(cmdConverse), QAccessible::Description)
+                    .startsWith(u"Click 'Cancel'"_s));
+        // The instruction line's description follows its words.
+        QCOMPARE(Spoken(write.Window->Widget(txtNote), QAccessible::Description),
+                 QString("Type your question or statement. Click 'Rewrite' to erase the text. "
+                         "Press 'Enter' for the Sagrel response."));
+
+        auto* mark = write.Window->Widget(lblRem);
+        QVERIFY(mark->isVisible());
+        QWidget* cancel = write.Window->Widget(cmdNew);
+        QTest::mouseMove(cancel, QPoint(10, 10));
+        QTest::mouseMove(cancel, QPoint(12, 11));
+        QVERIFY(cancel->property("hoverMark").toBool());
+        write.Logic->TimerFired(TimerId::MirrorHover);
+        write.Window->Render();
+        auto* note = static_cast<QLabel*>(write.Window->Widget(txtNote));
+        QVERIFY(note->text().startsWith(u"Cancel your interaction"_s));
+
         QTest::keyClicks(entry, u"abc"_s);
         QTest::keyClick(entry, Qt::Key_Home);
         QTest::keyClick(entry, Qt::Key_Backspace);
@@ -280,12 +259,22 @@ private slots:
         alt(Qt::Key_W);
         QTRY_COMPARE(entry->toPlainText(), Prefix);
 
-        QTest::keyClicks(entry, u"I keep the old letters in a box for a reason."_s);
+        QTest::keyClicks(entry, u"Why do I keep the old letters in a box?"_s);
+        QCOMPARE(entry->toPlainText(), Prefix + u"Why do I keep the old letters in a box?"_s);
+        QVERIFY(!mark->isVisible());
+        QVERIFY(write.Window->Widget(cmdClear)->isEnabled());
+
         QTest::keyClick(entry, Qt::Key_Return);
+        QCOMPARE(entry->toPlainText(), Prefix + u"Why do I keep the old letters in a box?\u201D"_s);
+        QVERIFY(!write.Box(txtResponse)->toPlainText().isEmpty());
         if (write.Caption(cmdRemove) == u"Keep"_s) {
             alt(Qt::Key_E);
         }
         QTRY_COMPARE(write.Caption(cmdRemove), u"Remove"_s);
+        QTest::keyClick(entry, Qt::Key_F11);
+        QCOMPARE(write.Caption(cmdDisplay), u"Write"_s);
+        QTest::mouseClick(write.Box(txtSaved)->viewport(), Qt::LeftButton);
+        QCOMPARE(write.Caption(cmdDisplay), u"Display"_s);
 
         // Each step: the key, and what the user sees once its command has run.
         const auto count = [](std::size_t number) { return QString::number(number); };
