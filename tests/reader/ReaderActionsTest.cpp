@@ -201,22 +201,78 @@ TEST_F(ReaderFixture, OnlyTheAmbrelAndOverflowingEssaysAreRefused) {
     EXPECT_EQ(std::string(merge(4, 0)), "refused at yield 2");
 }
 
-// Print and File hand the open Dialogue on, with its own date; a failed print says so. Delete
-// asks first. A delete the disk refuses shows the program's box with the error's number, and
-// both files of the pair stay with the Dialogue on view; Yes takes the pair off the disk, lists
-// the Library anew and brings the Write window's Library status up to date.
-TEST_F(ReaderFixture, PrintFileAndDeleteTheOpenDialogue) {
+// Delete asks first; Yes takes the pair off the disk, lists the Library anew and brings the
+// Write window's Library status up to date.
+TEST_F(ReaderFixture, DeleteTakesTheDialogueOutOfTheLibrary) {
     InstallEngineFiles(App.Folder);
     App.Engine.LoadSystem(App.Folder);
     App.Engine.SeedSeries();
-    const DateTime saved{2026, 11, 21, 9, 30, 0};
-    const std::string body = "\t\x93Hello.\x94\r\n\tA reply.";
-    SaveDialogue(DateTime{2026, 11, 20, 9, 30, 0}, "\r\n\tThe earlier one.");
-    SaveDialogue(saved, "\r\n\tInspiration of day 21.");
+    SaveDialogue(DateTime{2026, 11, 20, 9, 30, 0}, "\r\n\tOnly one.");
     App.Library.ScanLibrary();
     App.Write->StartWindow();
     const auto status = [&] { return App.Write->Controls()[MirrorControl::txtSaved].Text; };
-    ASSERT_NE(status().find("You have 2 Dialogues saved in the Library."), std::string::npos);
+    ASSERT_NE(status().find("You have 1 Dialogue saved in the Library."), std::string::npos);
+    Open(1);
+    Read().Click(RC::cmdNext);
+    const std::string shown = Title();
+    for (const auto answer : {MessageAnswer::No, MessageAnswer::Cancel}) {
+        Windows.Answers = {answer};
+        Read().Click(RC::cmdDelete);
+        EXPECT_TRUE(Title() == shown && Files(Folder).size() == 2) << Title();
+    }
+    Windows.Answers = {MessageAnswer::Yes};
+    Read().Click(RC::cmdDelete);
+    ASSERT_EQ(Windows.Boxes.size(), 3u);
+    const MessageBoxRequest& box = Windows.Boxes[2];
+    EXPECT_EQ(box.Title + ": " + box.Text,
+              "Delete Dialogue: Are you certain you want to delete this Dialogue?");
+    EXPECT_TRUE(box.Icon == MessageIcon::Stop && box.Buttons == MessageButtons::YesNoCancel &&
+                box.DefaultButton == 2);
+    EXPECT_TRUE(Files(Folder).empty());
+    const auto empty = [&] {
+        return Shows(
+            {RC::List1, RC::cmdNext, RC::cmdSelect, RC::cmdDelete, RC::txtSpin, RC::txtNote});
+    };
+    const std::string nothing =
+        "Veyrant Dialogue Library -- No Dialogues Saved | 0 rows, selected -1, top 0, split "
+        "back=ListEmpty | \"Latest\" disabled | \"< Index >\" disabled | \"Delete\" disabled | low "
+        "\"Dialogue Library | \\tThere are currently no Dialogues saved in\" back=IndexText | "
+        "\"There are no Dialogues saved in the Library.\"";
+    EXPECT_EQ(empty(), nothing);
+    // Keys and a click that reaches a disabled button, as a screen reader's action might, do
+    // nothing.
+    Key(KeyCode::PageDown);
+    Key(KeyCode::Enter);
+    for (auto button : {RC::cmdNext, RC::cmdPrint, RC::cmdFile, RC::cmdDelete, RC::cmdSearch}) {
+        Read().Click(button);
+    }
+    EXPECT_EQ(empty(), nothing);
+    EXPECT_EQ(Windows.Boxes.size(), 3u);
+    EXPECT_NE(status().find("There are currently no Dialogues saved in the Library."),
+              std::string::npos);
+    // A file whose name holds no date the program can read opens as a damaged Dialogue: the scan
+    // names it, the opening says it cannot be retrieved, and the Reader goes on.
+    for (const auto& folder : {Folder.Isp(), Folder.Dlg()}) {
+        WriteWholeFile(folder / "99999999.999", "\tA name out of any calendar.");
+    }
+    Windows.Boxes.clear();
+    Reopen(1);
+    ASSERT_EQ(Read().Controls().List.Rows.size(), 1u);
+    ASSERT_EQ(Windows.Boxes.size(), 1u);
+    Read().Click(RC::cmdNext);
+    EXPECT_EQ(BoxTitles(),
+              (std::vector<std::string>{"Error 13 Dialogue Library File Names",
+                                        "Dialogue Library Corrupted -- Cannot Retrieve"}));
+    EXPECT_EQ(Line(RC::cmdDelete), "\"Delete\"");
+}
+
+// Print and File hand the open Dialogue on, with its own date; a failed print says so. A delete
+// the disk refuses shows the program's box with the error's number, and both files of the pair
+// stay with the Dialogue on view.
+TEST_F(ReaderFixture, PrintFileAndAFailedDeleteKeepTheDialogue) {
+    const DateTime saved{2026, 11, 21, 9, 30, 0};
+    const std::string body = "\t\x93Hello.\x94\r\n\tA reply.";
+    Steps(*this, "3days");
     Open(1);
     Read().Click(RC::cmdNext);
     Windows.PrintAnswer = PrintOutcome::Failed;
@@ -237,16 +293,6 @@ TEST_F(ReaderFixture, PrintFileAndDeleteTheOpenDialogue) {
     EXPECT_EQ(Windows.EditorTexts[0].ProposedFileName, ExportFileName(saved));
     const std::string shown = Title();
     const auto before = Files(Folder);
-    for (const auto answer : {MessageAnswer::No, MessageAnswer::Cancel}) {
-        Windows.Answers = {answer};
-        Read().Click(RC::cmdDelete);
-        EXPECT_TRUE(Title() == shown && Files(Folder) == before) << Title();
-    }
-    const MessageBoxRequest& box = Windows.Boxes[1];
-    EXPECT_EQ(box.Title + ": " + box.Text,
-              "Delete Dialogue: Are you certain you want to delete this Dialogue?");
-    EXPECT_TRUE(box.Icon == MessageIcon::Stop && box.Buttons == MessageButtons::YesNoCancel &&
-                box.DefaultButton == 2);
     Windows.Answers = {MessageAnswer::Yes};
     {
         FileFaults faults;
@@ -255,59 +301,20 @@ TEST_F(ReaderFixture, PrintFileAndDeleteTheOpenDialogue) {
     }
     // The trash cannot take the pair either, and the user's Yes to deleting it for good meets
     // the same refusal.
-    EXPECT_EQ(BoxTitles(),
-              (std::vector<std::string>{"Print Error", "Delete Dialogue", "Delete Dialogue",
-                                        "Delete Dialogue", "Error 70 Moving to the Trash",
-                                        "Dialogue Library Corrupted"}));
+    EXPECT_EQ(BoxTitles(), (std::vector<std::string>{"Print Error", "Delete Dialogue",
+                                                     "Error 70 Moving to the Trash",
+                                                     "Dialogue Library Corrupted"}));
     EXPECT_EQ(Windows.Boxes.back().Text,
               "Error 70 attempting to delete the file from the Dialogue Library. Because the "
               "Library has become corrupted, it is necessary for you to repair it. Open the "
               "Information Library and review the Topic, 'Repairing the Dialogue Library'.");
     EXPECT_TRUE(Files(Folder) == before && Title() == shown) << Title();
-    Windows.Answers = {MessageAnswer::Yes};
-    Read().Click(RC::cmdDelete);
     // With its dialogue file gone the pair is half deleted: the list no longer offers it.
-    std::filesystem::remove(Folder.Dlg() / "76112009.300");
-    Read().Click(RC::cmdNext);
+    std::filesystem::remove(Folder.Dlg() / "76112109.300");
     Windows.Answers = {MessageAnswer::Yes};
     Read().Click(RC::cmdDelete);
     EXPECT_EQ(Windows.Boxes.back().Title, "Dialogue Library Corrupted");
-    EXPECT_TRUE(Files(Folder).empty());
-    const auto empty = [&] {
-        return Shows(
-            {RC::List1, RC::cmdNext, RC::cmdSelect, RC::cmdDelete, RC::txtSpin, RC::txtNote});
-    };
-    const std::string nothing =
-        "Veyrant Dialogue Library -- No Dialogues Saved | 0 rows, selected -1, top 0, split "
-        "back=ListEmpty | \"Latest\" disabled | \"< Index >\" disabled | \"Delete\" disabled | low "
-        "\"Dialogue Library | \\tThere are currently no Dialogues saved in\" back=IndexText | "
-        "\"There are no Dialogues saved in the Library.\"";
-    EXPECT_EQ(empty(), nothing);
-    // Keys and a click that reaches a disabled button, as a screen reader's action might, do
-    // nothing.
-    const auto boxes = Windows.Boxes.size();
-    Key(KeyCode::PageDown);
-    Key(KeyCode::Enter);
-    for (auto button : {RC::cmdNext, RC::cmdPrint, RC::cmdFile, RC::cmdDelete, RC::cmdSearch}) {
-        Read().Click(button);
-    }
-    EXPECT_EQ(empty(), nothing);
-    EXPECT_EQ(Windows.Boxes.size(), boxes);
-    EXPECT_NE(status().find("There are currently no Dialogues"), std::string::npos);
-    // A file whose name holds no date the program can read opens as a damaged Dialogue: the scan
-    // names it, the opening says it cannot be retrieved, and the Reader goes on.
-    for (const auto& folder : {Folder.Isp(), Folder.Dlg()}) {
-        WriteWholeFile(folder / "99999999.999", "\tA name out of any calendar.");
-    }
-    Windows.Boxes.clear();
-    Reopen(1);
-    ASSERT_EQ(Read().Controls().List.Rows.size(), 1u);
-    ASSERT_EQ(Windows.Boxes.size(), 1u);
-    Read().Click(RC::cmdNext);
-    EXPECT_EQ(BoxTitles(),
-              (std::vector<std::string>{"Error 13 Dialogue Library File Names",
-                                        "Dialogue Library Corrupted -- Cannot Retrieve"}));
-    EXPECT_EQ(Line(RC::cmdDelete), "\"Delete\"");
+    EXPECT_EQ(Line(RC::List1), "2 rows, selected -1, top 0, split back=ListInUse");
 }
 
 // Each library button opens its library with the Write window minimised behind the Reader and the
