@@ -1,13 +1,11 @@
-// The Utilities window passes the user on to one other window, or shows the About box; the Display
-// Size window stores the chosen scale; the Library Options lock the Library. Every way out of the
-// first two ends the program.
+// The Utilities window passes the user on to one other window, or shows the About box, and every
+// way out of it ends the program; the Library Options lock the Library.
 
 #include "app/Utility.h"
 
 #include "app/AppFixture.h"
 #include "app/LibraryUnlock.h"
 #include "app/LockOptions.h"
-#include "shell/Resize.h"
 #include "storage/LibraryLock.h"
 
 #include <deque>
@@ -56,30 +54,6 @@ TEST(Utility, EachButtonHidesTheWindowAndLeadsOnOrEnds) {
               "title \"Veyrant Sagrel Utilities\"\ncmdOptions \"Library Options Window\"\n"
               "cmdResize \"Display Size Window\"\ncmdExport \"Export Library\"\n"
               "cmdAbout \"About Veyrant Sagrel\"\n");
-}
-
-// A click stores the scale and the marks at once; Cancel puts both back.
-TEST(Resize, TheChosenScaleIsStoredAtOnceAndCancelPutsItBack) {
-    FakeWindowLayer layer;
-    Settings settings;
-    settings.DisplayOption = 2;
-    Preferences preferences;
-    int exits = 0;
-    Resize window(settings, preferences, layer, [&] { ++exits; });
-    window.Form_Load();
-    window.Option_Click(0);
-    window.chkSpelling_Click(false);
-    EXPECT_EQ(settings.DisplayOption, 0);
-    EXPECT_FALSE(preferences.SpellingMarks);
-    EXPECT_TRUE(window.Dump().starts_with("title \"Display Size\"\nOption4 (x)")) << window.Dump();
-    EXPECT_NE(window.Dump().find("chkSpelling [ ] \"Mark misspelt words while typing\""),
-              std::string::npos);
-    window.cmdCancel_Click();
-    EXPECT_EQ(settings.DisplayOption, 2);
-    EXPECT_TRUE(preferences.SpellingMarks);
-    EXPECT_NE(window.Dump().find("Option2 (x)"), std::string::npos) << window.Dump();
-    EXPECT_EQ(exits, 1);
-    EXPECT_EQ(layer.WindowEvents.back(), "hide Resize");
 }
 
 struct FakeKeyring : PassphraseKeeper {

@@ -8,8 +8,9 @@ namespace veyrant {
 namespace {
 
 TEST(FieldReader, NumbersReadAlikeInAnySpacingOrSeparator) {
-    for (const std::string form : {" 1 \r\n 2 \r\n 0  -1 \r\n 21 \r\n", "1,2,0,-1,21",
-                                   "1\n2\n0\n-1\n21", "  1 ,  2,0 , -1\r\n\r\n21", "1 2 0 -1 21"}) {
+    for (const std::string form :
+         {" 1 \r\n 2 \r\n 0  -1 \r\n 21 \r\n", "1,2,0,-1,21", "1\n2\n0\n-1\n21",
+          "1\r2\r0\r-1\r21\r", "  1 ,  2,0 , -1\r\n\r\n21", "1 2 0 -1 21"}) {
         FieldReader reader(form);
         std::vector<int> values;
         for (int i = 0; i < 5; ++i) {

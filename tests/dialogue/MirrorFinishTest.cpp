@@ -16,7 +16,6 @@ namespace {
 
 using MirrorFinish = MirrorTest;
 using MirrorTranscript = MirrorTest;
-using MirrorGuest = MirrorTest;
 
 const std::string Statement = "I want to understand why Sundays feel so heavy.";
 const std::string Question = "what would make Sunday evenings lighter?";
@@ -30,11 +29,14 @@ void ContinuePrior(MirrorDriver& driver, int pairCount) {
     driver.Click(cmdRemove);
 }
 
-// A Finished Dialogue of one answered statement.
-void FinishOnePair(MirrorDriver& driver) {
-    driver.StartConverse();
-    driver.Converse(Statement);
-    driver.Click(cmdNew); // Finish
+// Closes the window, or right-clicks on the Help or the Library button for the Utilities or the
+// Library Options window, which puts it out of the way; true when the program went on.
+bool Leave(MirrorDriver& driver, std::optional<MirrorControl> rightClick) {
+    if (!rightClick) {
+        return driver.mirror->Unload();
+    }
+    driver.mirror->MouseDown(*rightClick, MouseButton::Right);
+    return driver.App.ClosingState == ClosingStates::UtilitiesUp;
 }
 
 TEST_F(MirrorFinish, FinishThenContinueThenFinishAgain) {
@@ -65,12 +67,36 @@ TEST_F(MirrorFinish, FinishThenContinueThenFinishAgain) {
         EXPECT_FALSE(Box(method).Enabled || Box(method).PressedIn);
     }
     EXPECT_TRUE(Box(cmdSave).Enabled && Box(cmdPrint).Enabled);
+    // Print sends the Dialogue without its leading blank line; only a failure shows a box. File
+    // opens the full view in the editor, laid out as the export lays it out.
+    Clock.Date = {2026, 11, 23, 8, 15, 0};
+    for (const auto outcome : {PrintOutcome::Printed, PrintOutcome::Failed}) {
+        Layer.PrintAnswer = outcome;
+        Click(cmdPrint);
+    }
+    ASSERT_EQ(Layer.Printed.size(), 2u);
+    const auto& printed = Layer.Printed[1];
+    EXPECT_EQ(printed.Inspiration + "|" + printed.Dialogue + "|" + printed.Title,
+              "\tInspiration number 1.|" + twoPairs.substr(4) + "|Veyrant Dialogue");
+    EXPECT_EQ(printed.ShownDate, Clock.Date);
+    EXPECT_TRUE(Layer.BusyWhilePrinting && !Layer.Busy && Box(cmdPrint).Enabled);
+    EXPECT_EQ(Titles(), "Print Error;");
+    EXPECT_EQ(Layer.Boxes[0].Text,
+              "The system has detected a printing error.\r\n\r\nIf your printer normally "
+              "functions properly with a word processer, you may have assigned 'Print' to a "
+              "non-printing device (such as a Fax/Modem, Print-to-File, etc.). Check the printer "
+              "setup.");
+    Click(cmdDisplay); // File
+    ASSERT_EQ(Layer.EditorTexts.size(), 1u);
+    EXPECT_EQ(Layer.EditorTexts[0].Text, ExportText(Clock.Date, Text(txtSaved)));
+    EXPECT_EQ(Layer.EditorTexts[0].ProposedFileName, "Dialogue 2026-11-23 8.15 AM.txt");
+    EXPECT_EQ(Text(cmdDisplay), "File"); // the window stays as it was
     // A finished Dialogue takes no keys and answers a method button with a help box.
     const auto keys = Engine.KeyCodes.size();
     Type("more");
     EXPECT_EQ(Engine.KeyCodes.size(), keys);
     Click(cmdConverse);
-    EXPECT_EQ(Titles(), "Veyrant Sagrel Help;");
+    EXPECT_EQ(Titles(), "Print Error;Veyrant Sagrel Help;");
     EXPECT_EQ(Kept(), "2:" + twoPairs);
 
     Click(cmdRemove); // Continue
@@ -81,11 +107,20 @@ TEST_F(MirrorFinish, FinishThenContinueThenFinishAgain) {
     EXPECT_EQ(State().CycleCount, 2);
 
     Converse("Sunday is the day I stop being busy.");
-    Click(cmdNew); // Finish again
+    // Finish writes the buffers once; when they could not take the Dialogue, they hold it as it
+    // was last kept, and the way out tries again instead of leaving it behind.
+    {
+        FileFaults faults;
+        faults.FailEvery(FileCall::Write, ENOSPC);
+        Click(cmdNew); // Finish again
+    }
+    EXPECT_EQ(Titles(), "Print Error;Veyrant Sagrel Help;Error 61 Keeping the Dialogue;");
+    EXPECT_EQ(Text(cmdRemove) + Text(cmdNew), "ContinueNew");
+    EXPECT_EQ(Kept(), "2:" + twoPairs);
+    EXPECT_TRUE(mirror->Unload());
     EXPECT_EQ(Kept(), "3:" + twoPairs + "\r\n\r\n" +
                           Quoted("Sunday is the day I stop being busy.") +
                           "\r\n\tAnswer 3 to type 2.");
-    EXPECT_EQ(Text(cmdRemove) + Text(cmdNew), "ContinueNew");
 }
 
 // New asks only for an unsaved Dialogue, and resets on No.
@@ -103,8 +138,14 @@ TEST(MirrorFinishNew, NewAsksOnlyForAnUnsavedDialogueAndResetsOnNo) {
     for (const auto& c : cases) {
         SCOPED_TRACE(c.Name);
         MirrorDriver driver;
-        driver.App.UserSettings.GuestMode = c.Guest ? 1 : 0;
-        FinishOnePair(driver);
+        if (c.Guest) { // the window is made in Guest Mode, as the program makes it
+            driver.App.UserSettings.GuestMode = 1;
+            driver.mirror = std::make_unique<Mirror>(driver.App.WriteWorld(), driver.Engine,
+                                                     driver.Buffers, driver.Library);
+        }
+        driver.StartConverse();
+        driver.Converse(Statement);
+        driver.Click(cmdNew); // Finish
         EXPECT_EQ(driver.Box(cmdSave).Enabled, !c.Guest);
         driver.Layer.Answers.push_back(c.Answer);
         driver.Click(c.SavedFirst ? cmdSave : cmdNew);
@@ -133,27 +174,40 @@ TEST(MirrorFinishNew, NewAsksOnlyForAnUnsavedDialogueAndResetsOnNo) {
                   c.Guest ? "Veyrant Sagrel -- New Dialogue -- Guest Mode"
                           : "Veyrant Sagrel -- New Dialogue");
         EXPECT_TRUE(driver.Box(cmdConverse).Enabled);
+        if (c.Guest) { // a guest reaches the Utilities through Help, the Library button disabled
+            EXPECT_TRUE(driver.Box(cmdKnow).Enabled && !driver.Box(cmdRetrieve).Enabled);
+            EXPECT_FALSE(Leave(driver, cmdRetrieve));
+            EXPECT_TRUE(Leave(driver, cmdHelp));
+        }
     }
 }
 
-// A Prior Dialogue reopens with its age and the date it was written.
-TEST(MirrorFinishPrior, APriorDialogueReopensWithItsAge) {
+// A Prior Dialogue reopens with its age and the date it was written. The Library's limits can
+// take it the moment it is saved: when it is older than the days, or than every Dialogue of a
+// full Library. The user hears of it, and the Dialogue stays on the screen and in the buffers
+// instead of vanishing with the New that a save clicks.
+TEST(MirrorFinishPrior, APriorDialogueReopensWithItsAgeAndStaysWhenTheLimitsTakeItAtOnce) {
     const struct {
         DateTime Written;
         std::string Title;
+        std::int16_t MaxFiles = 0; // saved at once into a Library of 21 days and that many files
     } cases[] = {
-        {{2026, 11, 22, 8, 30, 0}, "1 Page, 0 Days -- Sunday, 8:30 am, November 22, 2026"},
-        {{2026, 11, 21, 21, 5, 0}, "1 Page, 1 Day -- Saturday, 9:05 pm, November 21, 2026"},
-        {{2026, 11, 17, 9, 5, 0}, "1 Page, 5 Days Old -- Tuesday, 9:05 am, November 17, 2026"},
+        {{2026, 11, 22, 8, 30, 0}, "0 Days -- Sunday, 8:30 am, November 22, 2026"},
+        {{2026, 11, 21, 21, 5, 0}, "1 Day -- Saturday, 9:05 pm, November 21, 2026"},
+        {{2026, 11, 17, 9, 5, 0}, "5 Days Old -- Tuesday, 9:05 am, November 17, 2026"},
         // Buffers dated after now, as when the clock was set back.
-        {{2026, 11, 25, 19, 0, 0}, "1 Page, 0 Days -- Wednesday, 7:00 pm, November 25, 2026"}};
+        {{2026, 11, 25, 19, 0, 0}, "0 Days -- Wednesday, 7:00 pm, November 25, 2026"},
+        // Older than the days, and older than a full Library.
+        {{2026, 10, 28, 9, 0, 0}, "25 Days Old -- Wednesday, 9:00 am, October 28, 2026", 30},
+        {{2026, 11, 19, 9, 0, 0}, "3 Days Old -- Thursday, 9:00 am, November 19, 2026", 1}};
     for (const auto& c : cases) {
         SCOPED_TRACE(c.Title);
         MirrorDriver driver;
         driver.LeavePriorDialogue(3);
         driver.Clock.FileDates[driver.App.Folder.Exe() / "savei.tmp"] = c.Written;
         driver.mirror->StartWindow();
-        EXPECT_EQ(driver.mirror->Controls().Title, "Veyrant Sagrel -- Dialogue, " + c.Title);
+        EXPECT_EQ(driver.mirror->Controls().Title,
+                  "Veyrant Sagrel -- Dialogue, 1 Page, " + c.Title);
         EXPECT_EQ(driver.Text(cmdRemove) + driver.Text(cmdNew) + driver.Text(cmdDisplay),
                   "ContinueNewFile");
         EXPECT_EQ(driver.Text(txtSaved).substr(0, 35), "Inspiration\r\n\r\n\tAn old inspiration.");
@@ -162,23 +216,11 @@ TEST(MirrorFinishPrior, APriorDialogueReopensWithItsAge) {
         EXPECT_EQ(driver.State().PairCount, 3);
         EXPECT_FALSE(driver.Box(cmdConverse).Enabled || driver.Box(cmdClear).Enabled);
         EXPECT_EQ(driver.Engine.Inspirations, 0); // the Dialogue keeps its own
-        driver.Click(cmdRemove);                  // Continue
-        EXPECT_EQ(driver.Text(txtResponse), "Inspiration\r\n\tAn old inspiration.");
-    }
-}
-
-// The Library's limits can take a Dialogue the moment it is saved: an old Prior Dialogue, or one
-// older than every Dialogue of a full Library. The user hears of it, and the Dialogue stays on
-// the screen and in the buffers instead of vanishing with the New that a save clicks.
-TEST(MirrorFinishLimits, ADialogueTheLimitsTakeAtOnceStaysOnTheScreen) {
-    const struct {
-        std::int16_t MaxFiles;
-        DateTime Written;
-    } cases[] = {{30, {2026, 10, 28, 9, 0, 0}}, // older than the days
-                 {1, {2026, 11, 19, 9, 0, 0}}}; // older than a full Library
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.MaxFiles);
-        MirrorDriver driver;
+        if (c.MaxFiles == 0) {
+            driver.Click(cmdRemove); // Continue
+            EXPECT_EQ(driver.Text(txtResponse), "Inspiration\r\n\tAn old inspiration.");
+            continue;
+        }
         driver.App.UserSettings.MaxLibraryFiles = c.MaxFiles;
         driver.App.UserSettings.MaxLibraryDays = 21;
         const DateTime later{2026, 11, 20, 10, 0, 0};
@@ -187,9 +229,6 @@ TEST(MirrorFinishLimits, ADialogueTheLimitsTakeAtOnceStaysOnTheScreen) {
             WriteWholeFile(folder / MakeFileName(later), "\tA later Dialogue.");
             driver.Clock.FileDates[folder / MakeFileName(later)] = later;
         }
-        driver.LeavePriorDialogue(2);
-        driver.Clock.FileDates[driver.App.Folder.Exe() / "savei.tmp"] = c.Written;
-        driver.mirror->StartWindow();
         const std::string dialogue = driver.State().DialogueText;
         driver.Click(cmdSave);
         EXPECT_EQ(driver.Titles(), "Dialogue Not Kept in the Library;");
@@ -200,7 +239,7 @@ TEST(MirrorFinishLimits, ADialogueTheLimitsTakeAtOnceStaysOnTheScreen) {
                   0u);
         EXPECT_FALSE(driver.Library.Holds(MakeFileName(c.Written)));
         EXPECT_TRUE(driver.Library.Holds(MakeFileName(later)));
-        EXPECT_EQ(driver.Kept(), "2:" + dialogue);
+        EXPECT_EQ(driver.Kept(), "3:" + dialogue);
         EXPECT_EQ(driver.State().DialogueText, dialogue);
         EXPECT_TRUE(driver.Box(cmdSave).Enabled && !driver.Layer.Busy);
     }
@@ -219,59 +258,6 @@ TEST_F(MirrorFinish, ACancelledListInAnEmptyDialogueClosesBeforeOldBuffersReopen
     EXPECT_EQ(Text(cmdRemove) + std::to_string(State().PairCount), "Continue1");
     EXPECT_FALSE(Box(txtAnalyze).Visible || Box(lblRemS).Visible);
     EXPECT_EQ(mirror->Controls().Focus, txtMirror);
-}
-
-// Finish writes the buffers once; when they could not take the Dialogue, the way out tries
-// again instead of leaving it behind.
-TEST_F(MirrorFinish, AFinishedDialogueTheBuffersRefusedIsKeptOnTheWayOut) {
-    StartConverse();
-    Converse(Statement);
-    {
-        FileFaults faults;
-        faults.FailEvery(FileCall::Write, ENOSPC);
-        Click(cmdNew); // Finish
-    }
-    EXPECT_EQ(Titles(), "Error 61 Keeping the Dialogue;");
-    EXPECT_EQ(Text(cmdNew), "New");
-    const auto kept = App.Folder.Exe() / "savem.tmp";
-    EXPECT_FALSE(std::filesystem::exists(kept));
-    EXPECT_TRUE(mirror->Unload());
-    EXPECT_EQ(ReadWholeFile(kept), State().DialogueText);
-}
-
-// Print sends the Finished Dialogue without its leading blank line; only a failure says so. File
-// opens the full view in the editor, laid out as the export lays it out.
-TEST(MirrorFinishPrint, PrintSendsTheDialogueAndOnlyAFailureShowsABoxAndFileOpensTheEditor) {
-    for (const auto outcome : {PrintOutcome::Printed, PrintOutcome::Failed}) {
-        MirrorDriver driver;
-        FinishOnePair(driver);
-        driver.Clock.Date = {2026, 11, 23, 8, 15, 0};
-        driver.Layer.PrintAnswer = outcome;
-        driver.Click(cmdPrint);
-        ASSERT_EQ(driver.Layer.Printed.size(), 1u);
-        const auto& printed = driver.Layer.Printed[0];
-        EXPECT_EQ(printed.Inspiration + "|" + printed.Dialogue + "|" + printed.Title,
-                  "\tInspiration number 1.|" + OnePair + "|Veyrant Dialogue");
-        EXPECT_EQ(printed.ShownDate, driver.Clock.Date);
-        EXPECT_TRUE(driver.Layer.BusyWhilePrinting && !driver.Layer.Busy);
-        EXPECT_TRUE(driver.Box(cmdPrint).Enabled);
-        EXPECT_EQ(driver.Titles(), outcome == PrintOutcome::Failed ? "Print Error;" : "");
-        if (outcome == PrintOutcome::Failed) {
-            EXPECT_EQ(driver.Layer.Boxes[0].Text,
-                      "The system has detected a printing error.\r\n\r\nIf your printer normally "
-                      "functions properly with a word processer, you may have assigned 'Print' to "
-                      "a non-printing device (such as a Fax/Modem, Print-to-File, etc.). Check "
-                      "the printer setup.");
-        }
-        driver.Click(cmdDisplay); // File
-        ASSERT_EQ(driver.Layer.EditorTexts.size(), 1u);
-        EXPECT_EQ(driver.Layer.EditorTexts[0].Text,
-                  ExportText(driver.Clock.Date, "Inspiration\r\n\r\n\tInspiration number 1.\r\n\r\n"
-                                                "Dialogue\r\n\r\n" +
-                                                    OnePair));
-        EXPECT_EQ(driver.Layer.EditorTexts[0].ProposedFileName, "Dialogue 2026-11-23 8.15 AM.txt");
-        EXPECT_EQ(driver.Text(cmdDisplay), "File"); // the window stays as it was
-    }
 }
 
 // The full view and the window's title tell the length of the Dialogue.
@@ -354,16 +340,6 @@ TEST_F(MirrorTranscript, AdviceOnceThenWarningsThenTheLimitOfOneHundredTwentyOne
     EXPECT_EQ(Text(txtNote), "Press 'Enter' to begin this entry again.");
 }
 
-// Closes the window, or right-clicks on the Help or the Library button for the Utilities or the
-// Library Options window, which puts it out of the way; true when the program went on.
-bool Leave(MirrorDriver& driver, std::optional<MirrorControl> rightClick) {
-    if (!rightClick) {
-        return driver.mirror->Unload();
-    }
-    driver.mirror->MouseDown(*rightClick, MouseButton::Right);
-    return driver.App.ClosingState == ClosingStates::UtilitiesUp;
-}
-
 // When the work buffers cannot take the Dialogue on the way out, the box offers to save it as a
 // text file elsewhere; the program goes on only once the Dialogue is safe in that file.
 TEST(MirrorUtilities, ADialogueTheBuffersCannotTakeCanBeSavedElsewhereOnTheWayOut) {
@@ -441,20 +417,6 @@ TEST(MirrorUtilities, ADialogueTheBuffersCannotTakeCanBeSavedElsewhereOnTheWayOu
         EXPECT_EQ(file.substr(0, 53), "Veyrant Sagrel\nSunday, 12:00 PM, November 22, 2026\n\n\n");
         EXPECT_NE(file.find("\n\t\xE2\x80\x9C" + Statement + "\xE2\x80\x9D\n"), std::string::npos);
     }
-}
-
-// A guest leaves Guest Mode through the Utilities window, since the Library button is disabled.
-TEST_F(MirrorGuest, GuestModeReachesTheUtilitiesThroughHelpOnly) {
-    App.UserSettings.GuestMode = 1;
-    Mirror guest(App.WriteWorld(), Engine, Buffers, Library);
-    guest.StartWindow();
-    EXPECT_TRUE(!guest.Controls()[cmdRetrieve].Enabled && guest.Controls()[cmdKnow].Enabled);
-    guest.MouseDown(cmdRetrieve, MouseButton::Right);
-    EXPECT_EQ(Layer.Visible.count(WindowId::Options), 0u);
-    EXPECT_EQ(App.ClosingState, ClosingStates::Running);
-    guest.MouseDown(cmdHelp, MouseButton::Right);
-    EXPECT_EQ(Layer.Visible.count(WindowId::Utility), 1u);
-    EXPECT_EQ(App.ClosingState, ClosingStates::UtilitiesUp);
 }
 
 } // namespace

@@ -7,14 +7,53 @@ namespace {
 
 using MirrorHelp = MirrorTest;
 
-const std::string CancelHelp = "Cancel your interaction and return to New Dialogue.";
-
-// Help shows after a tick and ends by itself after seven; the response box toggles by a click.
-TEST_F(MirrorHelp, HelpShowsAfterATickAndEndsByItselfAfterSeven) {
-    StartConverse();
-    const std::string instruction = Text(txtNote);
+// Help shows 1.25 seconds after the mouse arrives, however it moves on the control, ends by
+// itself after seven ticks and follows the state; the response box toggles by a click.
+TEST_F(MirrorHelp, HelpShowsAfterATickEndsByItselfAfterSevenAndFollowsTheState) {
+    mirror->StartWindow();
     mirror->MouseMove(cmdClear); // a disabled button has no help
     EXPECT_EQ(Layer.Timers.count(TimerId::MirrorHover), 0u);
+    EXPECT_EQ(Help(cmdNotate), "Open your Dialogue with a comment. Write a short paragraph "
+                               "without creating an Sagrel response.");
+    EXPECT_EQ(Help(cmdRetrieve), "Open the Dialogue Library. You have no saved Dialogues. "
+                                 "Right-click for Library Options.");
+    for (const auto& [minute, saved] :
+         {std::pair{0, "1 saved Dialogue."}, {1, "2 saved Dialogues."}}) {
+        Clock.Date.Minute = minute; // one file name per minute
+        ASSERT_TRUE(Library.AddToLibrary("\tInspiration.", "\r\n\r\n\tA comment."));
+        mirror->MouseMove(txtMirror);
+        EXPECT_EQ(Help(cmdRetrieve), "Open the Dialogue Library to access your " +
+                                         std::string(saved) + " Right-click for Library Options.");
+    }
+    Click(cmdConverse);
+    const std::string instruction = Text(txtNote);
+    EXPECT_EQ(Help(cmdConverse), "Click 'Cancel' to exit Converse and reset to New Dialogue.");
+    EXPECT_EQ(Help(cmdNotate), "Add a comment into your Dialogue. Write a short paragraph "
+                               "without creating an Sagrel response.");
+    const int& starts = Layer.TimerStarts[TimerId::MirrorHover];
+    for (const auto& [control, help] :
+         {std::pair<MirrorControl, std::string>{
+              txtResponse,
+              "Click the text to toggle between the Direction, Inspiration, and Suggestion."},
+          {txtNote, "F1=Help F2=Know F3=Retrieve F4=Aknow F5=Converse F6=Suppose F7=Comment "
+                    "F9=Rewrite F10=Edit F11=Display"},
+          {cmdNew, "Cancel your interaction and return to New Dialogue."}}) {
+        const int before = starts;
+        for (int move = 0; move < 3; ++move) {
+            mirror->MouseMove(control);
+        }
+        EXPECT_EQ(starts - before, 1);
+        if (control == txtNote) { // the instruction box names the function keys
+            EXPECT_EQ(Text(txtNote), "Function key alternates for mouse clicks . . .");
+        }
+        mirror->TimerFired(TimerId::MirrorHover);
+        EXPECT_EQ(Text(txtNote), help);
+        // Leaving and coming back is another arrival.
+        mirror->MouseMove(txtMirror);
+        mirror->MouseMove(control);
+        EXPECT_EQ(starts - before, 2);
+        mirror->MouseMove(txtMirror);
+    }
     mirror->MouseMove(cmdNew);
     EXPECT_EQ(Layer.Timers.at(TimerId::MirrorHover), 1250);
     EXPECT_EQ(Box(cmdNew).Ink, Colour::HoverInk);
@@ -22,7 +61,7 @@ TEST_F(MirrorHelp, HelpShowsAfterATickAndEndsByItselfAfterSeven) {
     EXPECT_EQ(Text(txtNote), instruction);
     for (int tick = 1; tick <= 7; ++tick) {
         mirror->TimerFired(TimerId::MirrorHover);
-        EXPECT_EQ(Text(txtNote), CancelHelp);
+        EXPECT_EQ(Text(txtNote), "Cancel your interaction and return to New Dialogue.");
         EXPECT_EQ(Box(txtNote).Ink, Colour::HelpInk);
     }
     mirror->TimerFired(TimerId::MirrorHover);
@@ -41,7 +80,7 @@ TEST_F(MirrorHelp, HelpShowsAfterATickAndEndsByItselfAfterSeven) {
     Type("I want to understand my own anger better.");
     Help(cmdClear);
     Click(cmdClear);
-    EXPECT_EQ(Text(txtNote), "Type your entry again. Then press 'Enter' to continue.");
+    EXPECT_EQ(Text(txtNote).rfind("Type your entry again.", 0), 0u);
     EXPECT_TRUE(Box(cmdClear).Ink == Colour::Black &&
                 Layer.Timers.count(TimerId::MirrorHover) == 0);
     // A click on the response box turns it over.
@@ -60,19 +99,7 @@ TEST_F(MirrorHelp, HelpShowsAfterATickAndEndsByItselfAfterSeven) {
     const std::string result = Text(txtResponse);
     Click(txtResponse);
     EXPECT_EQ(Text(txtResponse), result);
-}
-
-TEST_F(MirrorHelp, ButtonHelpFollowsTheState) {
-    mirror->StartWindow();
-    EXPECT_EQ(Help(cmdNotate), "Open your Dialogue with a comment. Write a short paragraph "
-                               "without creating an Sagrel response.");
-    EXPECT_EQ(Help(cmdRetrieve), "Open the Dialogue Library. You have no saved Dialogues. "
-                                 "Right-click for Library Options.");
-    Click(cmdConverse);
-    EXPECT_EQ(Help(cmdConverse), "Click 'Cancel' to exit Converse and reset to New Dialogue.");
-    EXPECT_EQ(Help(cmdNotate), "Add a comment into your Dialogue. Write a short paragraph "
-                               "without creating an Sagrel response.");
-    Converse("Where did the joy of drawing go?");
+    // Each button's help follows the state.
     EXPECT_EQ(Help(cmdConverse),
               "Click 'Finish' to close your Dialogue for saving, printing, or filing. You may "
               "reopen it by clicking 'Continue'.");
@@ -85,50 +112,6 @@ TEST_F(MirrorHelp, ButtonHelpFollowsTheState) {
                             "'Save', or close the program without clicking 'New'.");
     EXPECT_EQ(Help(cmdDisplay),
               "Save the displayed Dialogue as a text file in the program's text editor.");
-}
-
-// The help shows 1.25 seconds after the mouse arrives, however it moves on the control.
-TEST(MirrorHelpTable, TheCountStartsWhenTheMouseArrives) {
-    const std::pair<MirrorControl, std::string> cases[] = {
-        {txtResponse,
-         "Click the text to toggle between the Direction, Inspiration, and Suggestion."},
-        {txtNote, "F1=Help F2=Know F3=Retrieve F4=Aknow F5=Converse F6=Suppose F7=Comment "
-                  "F9=Rewrite F10=Edit F11=Display"},
-        {cmdNew, CancelHelp}};
-    for (const auto& [control, help] : cases) {
-        MirrorDriver driver;
-        driver.StartConverse();
-        auto& starts = driver.Layer.TimerStarts[TimerId::MirrorHover];
-        const int before = starts;
-        for (int move = 0; move < 3; ++move) {
-            driver.mirror->MouseMove(control);
-        }
-        EXPECT_EQ(starts - before, 1);
-        if (control == txtNote) { // the instruction box names the function keys
-            EXPECT_EQ(driver.Text(txtNote), "Function key alternates for mouse clicks . . .");
-        }
-        driver.mirror->TimerFired(TimerId::MirrorHover);
-        EXPECT_EQ(driver.Text(txtNote), help);
-        // Leaving and coming back is another arrival.
-        driver.mirror->MouseMove(txtMirror);
-        driver.mirror->MouseMove(control);
-        EXPECT_EQ(starts - before, 2);
-    }
-}
-
-TEST(MirrorHelpTable, TheLibraryButtonCountsTheSavedDialogues) {
-    for (const int saved : {1, 3}) {
-        MirrorDriver driver;
-        for (int dialogue = 0; dialogue < saved; ++dialogue) {
-            driver.Clock.Date.Minute = dialogue; // one file name per minute
-            ASSERT_TRUE(driver.Library.AddToLibrary("\tInspiration.", "\r\n\r\n\tA comment."));
-        }
-        driver.mirror->StartWindow();
-        EXPECT_EQ(driver.Help(cmdRetrieve),
-                  "Open the Dialogue Library to access your " + std::to_string(saved) +
-                      (saved == 1 ? " saved Dialogue." : " saved Dialogues.") +
-                      " Right-click for Library Options.");
-    }
 }
 
 } // namespace

@@ -55,8 +55,9 @@ TEST(MirrorKeysCount, MarkAndInstructionFollowTheLaggingCount) {
     }
 }
 
-// The key record takes the time and code of every key but Enter and Backspace.
-TEST_F(MirrorKeys, ProtectedHeadCaretMovesTheKeyRecordFocusAndFont) {
+// The key record takes the time and code of every key but Enter and Backspace. Over the limit
+// only Backspace works.
+TEST_F(MirrorKeys, ProtectedHeadCaretKeyRecordFocusFontRewriteAndTheLimit) {
     StartConverse();
     Clock.Seconds = 100.5f;
     Type("abcdefghij"); // caret at 12, length 12
@@ -99,15 +100,8 @@ TEST_F(MirrorKeys, ProtectedHeadCaretMovesTheKeyRecordFocusAndFont) {
     EXPECT_EQ(Layer.Boxes.back().Title, "Change Font Size");
     EXPECT_EQ(App.UserSettings.WriteFontStep, 2);
     EXPECT_TRUE(Box(txtSaved).FontSize == 13.5 && !Box(txtResponse).FontBold);
-    // The focus rule stands down while the program is ending.
-    App.ClosingState = ClosingStates::Exiting;
-    mirror->FocusGained(txtSaved);
-    EXPECT_EQ(mirror->Controls().Focus, txtSaved);
-}
-
-TEST_F(MirrorKeys,
-       RewriteAndAClickEraseTheEntryUntilItIsAnsweredAndOverTheLimitOnlyBackspaceWorks) {
-    StartConverse();
+    // Rewrite and a click erase the entry until it is answered.
+    Click(cmdClear);
     EXPECT_FALSE(Box(cmdClear).Enabled);
     Type("Something I meant");
     EXPECT_TRUE(Box(cmdClear).Enabled);
@@ -125,9 +119,9 @@ TEST_F(MirrorKeys,
     Click(txtMirror);
     EXPECT_EQ(Text(txtMirror), shown);
     EXPECT_EQ(State().PairCount, 1);
-    EXPECT_EQ(Titles(), "Veyrant Sagrel Help;Veyrant Sagrel Help;");
-    EXPECT_EQ(Layer.Boxes[0].Text.substr(0, 29), "Press 'Enter' to continue. In");
-    EXPECT_EQ(Layer.Boxes[1].Text.substr(0, 40), "In this part of the cycle, you must pres");
+    EXPECT_EQ(Titles(), "Invalid Key;Change Font Size;Veyrant Sagrel Help;Veyrant Sagrel Help;");
+    EXPECT_EQ(Layer.Boxes[2].Text.substr(0, 29), "Press 'Enter' to continue. In");
+    EXPECT_EQ(Layer.Boxes[3].Text.substr(0, 40), "In this part of the cycle, you must pres");
     EXPECT_EQ(Box(txtMirror).Caret, 0);
     Enter();
     EXPECT_EQ(Text(txtMirror), Prefix);
@@ -148,39 +142,31 @@ TEST_F(MirrorKeys,
     EXPECT_TRUE(State().EntryFit == EntryLength::Fits && State().EntryCount == 137);
     EXPECT_EQ(Text(txtResponse), view);
     EXPECT_EQ(Box(txtResponse).Background, Colour::ColourReady);
+    // The focus rule stands down while the program is ending.
+    App.ClosingState = ClosingStates::Exiting;
+    mirror->FocusGained(txtSaved);
+    EXPECT_EQ(mirror->Controls().Focus, txtSaved);
 }
 
-// Esc clicks Cancel or Finish, whichever the window offers, and nothing when nothing runs.
-TEST_F(MirrorLayout, EscapeByMethod) {
-    mirror->StartWindow();
-    Press(KeyCode::Escape);
-    EXPECT_EQ(State().ActiveMethod, WriteMethod::None);
-    EXPECT_TRUE(Layer.Boxes.empty());
-    Click(cmdConverse);
-    Press(KeyCode::Escape); // Cancel in an empty Converse
-    EXPECT_EQ(State().ActiveMethod, WriteMethod::None);
-    EXPECT_EQ(mirror->Controls().Title, "Veyrant Sagrel -- New Dialogue");
-    EXPECT_EQ(Engine.Inspirations, 2);
-    Click(cmdConverse);
-    Converse(Entry);
-    Enter();
-    Click(cmdNotate);
-    Press(KeyCode::Escape); // Cancel back to Converse
-    EXPECT_EQ(State().ActiveMethod, WriteMethod::Converse);
-    EXPECT_TRUE(Text(cmdNew) == "Finish" && Box(cmdConverse).PressedIn);
-    Press(KeyCode::Escape); // Finish
-    EXPECT_EQ(Text(cmdNew), "New");
-}
-
-TEST_F(MirrorLayout, FunctionKeysActOnTheirButtonsUnlessGuarded) {
+// Esc clicks Cancel or Finish, whichever the window offers, and nothing when nothing runs; the
+// function keys act on their buttons unless guarded.
+TEST_F(MirrorLayout, EscapeAndFunctionKeysActOnTheirButtonsUnlessGuarded) {
     // No key reaches the window before it starts.
     EXPECT_EQ(mirror->KeyDown(KeyCode::Function(5)) + mirror->KeyPress('a'), 0);
     EXPECT_EQ(State().ActiveMethod, WriteMethod::NotStarted);
     mirror->StartWindow();
+    Press(KeyCode::Escape);
+    EXPECT_TRUE(State().ActiveMethod == WriteMethod::None && Layer.Boxes.empty());
     Press(KeyCode::Function(7));
     EXPECT_EQ(State().ActiveMethod, WriteMethod::Comment);
     Press(KeyCode::Function(5));
     EXPECT_EQ(State().ActiveMethod, WriteMethod::Converse);
+    const int inspirations = Engine.Inspirations;
+    Press(KeyCode::Escape); // Cancel in an empty Converse
+    EXPECT_EQ(State().ActiveMethod, WriteMethod::None);
+    EXPECT_EQ(mirror->Controls().Title, "Veyrant Sagrel -- New Dialogue");
+    EXPECT_EQ(Engine.Inspirations, inspirations + 1);
+    Press(KeyCode::Function(5));
     const std::string converse = mirror->Dump();
     EXPECT_NE(converse.find("txtMirror: \"\\t\xe2\x80\x9c\" back=Yellow focus\n"),
               std::string::npos);
@@ -205,11 +191,18 @@ TEST_F(MirrorLayout, FunctionKeysActOnTheirButtonsUnlessGuarded) {
     EXPECT_EQ(Box(txtSaved).Caret, 0);
     Press(KeyCode::Function(11));
     EXPECT_FALSE(State().DisplayFull);
-    Press(KeyCode::Function(12));
-    EXPECT_EQ(Text(cmdDisplay), "File");
+    Enter();
+    Click(cmdNotate);
+    Press(KeyCode::Escape); // Cancel back to Converse
+    EXPECT_EQ(State().ActiveMethod, WriteMethod::Converse);
+    EXPECT_TRUE(Text(cmdNew) == "Finish" && Box(cmdConverse).PressedIn);
+    Press(KeyCode::Escape); // Finish
+    EXPECT_EQ(Text(cmdNew) + Text(cmdDisplay), "NewFile");
     Press(KeyCode::Function(11)); // "File" is not a view switch
     Press(KeyCode::Function(10)); // nor is "Continue" an edit
     EXPECT_EQ(State().ActiveMethod, WriteMethod::None);
+    Press(KeyCode::Function(12));
+    EXPECT_EQ(Layer.Boxes.back().Title, "Save Finished Dialogue");
 }
 
 } // namespace

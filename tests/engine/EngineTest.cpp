@@ -155,7 +155,7 @@ TEST_F(Requests, AnswerAndRemarkPickTheirMessageByEntryTypeAndOnlyTheAnswerShows
     }
 }
 
-TEST_F(Requests, VerdictInspirationAndInterjectionTakeTheirMessage) {
+TEST_F(Requests, VerdictInspirationInterjectionAndGuidanceTakeTheirText) {
     // Chosen, the verdict goes on the user's sentence in lower case.
     std::string chosen = Mid(Composed(9), 3);
     LowerAt(chosen, 1);
@@ -173,6 +173,16 @@ TEST_F(Requests, VerdictInspirationAndInterjectionTakeTheirMessage) {
     EXPECT_EQ(TheEngine.InspirationText[1], UpperChar(TheEngine.InspirationText[1]));
     TheEngine.RequestInterjection();
     EXPECT_EQ(TheEngine.ReplyText, Composed(16));
+    const auto suggestions = SuggestionTexts();
+    ASSERT_GT(suggestions.size(), 10u);
+    EXPECT_TRUE(suggestions[0].empty());
+    TheRandom.Script = {0.0f};
+    TheEngine.PickGuidance();
+    EXPECT_EQ(TheEngine.SuggestionText, suggestions[1]);
+    TheRandom.Script = {0.99999f};
+    TheEngine.PickGuidance();
+    EXPECT_EQ(TheEngine.SuggestionText, suggestions.back());
+    EXPECT_NE(TheEngine.SuggestionText.find("\r\n\t"), std::string::npos);
     EXPECT_TRUE(Windows.Boxes.empty());
 }
 
@@ -189,19 +199,6 @@ TEST_F(Requests, RollAnswerGivesARemarkForDrawsUpToThePercent) {
         EXPECT_EQ(static_cast<int>(TheEngine.AnswerFlag), flag) << draw << " of " << percent;
         EXPECT_EQ(TheRandom.Seeds, std::vector<float>{1234.5f});
     }
-}
-
-TEST_F(Requests, PickGuidanceDrawsOverTheSuggestionsThatStand) {
-    const auto suggestions = SuggestionTexts();
-    ASSERT_GT(suggestions.size(), 10u);
-    EXPECT_TRUE(suggestions[0].empty());
-    TheRandom.Script = {0.0f};
-    TheEngine.PickGuidance();
-    EXPECT_EQ(TheEngine.SuggestionText, suggestions[1]);
-    TheRandom.Script = {0.99999f};
-    TheEngine.PickGuidance();
-    EXPECT_EQ(TheEngine.SuggestionText, suggestions.back());
-    EXPECT_NE(TheEngine.SuggestionText.find("\r\n\t"), std::string::npos);
 }
 
 // The plans are read at the first request.

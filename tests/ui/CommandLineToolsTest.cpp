@@ -66,8 +66,7 @@ private slots:
         }
         const QString said = Run(QStringLiteral(VEYRANT_SAGREL),
                                  {u"--export-library"_s, out, u"--pdf"_s}, environment);
-        QVERIFY2(said.endsWith(u"/Library.pdf\n2 Dialogues written to "_s + out +
-                               u".\n\nThe exported files are not encrypted.\n"_s),
+        QVERIFY2(said.contains(u"/Library.pdf\n2 Dialogues written to "_s + out + u".\n"_s),
                  qPrintable(said));
         QVERIFY(!std::filesystem::is_empty(library / "isp"));
         QVERIFY(!std::filesystem::exists(library / "exe"));

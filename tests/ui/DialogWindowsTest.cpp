@@ -104,6 +104,10 @@ struct ReadWindow : FreshApplication {
         QCoreApplication::processEvents();
         Window->Render();
     }
+    void Reopen(int library) {
+        App.Links.CloseLibrary();
+        Open(library);
+    }
     void Key(Qt::Key key) { QTest::keyClick(Window.get(), key); }
     QString Title() const { return Window->windowTitle(); }
     QString Selected() const { return Spin()->textCursor().selectedText(); }
@@ -119,11 +123,10 @@ struct ReadWindow : FreshApplication {
         QTest::keyClicks(SearchBox(), text);
         QTest::keyClick(SearchBox(), Qt::Key_Return);
     }
-    // The hit is the text selected in the text box, and it stands within the box's view.
-    bool HitInView() const {
-        const QRect caret = Spin()->cursorRect();
-        return Spin()->textCursor().hasSelection() &&
-               Spin()->viewport()->rect().contains(caret.center());
+    // The hit, in any case, is the text selected in the text box, and it stands within its view.
+    bool HitInView(const QString& hit) const {
+        return Selected().toLower() == hit &&
+               Spin()->viewport()->rect().contains(Spin()->cursorRect().center());
     }
     void SaveDialogue(const DateTime& when, const std::string& inspiration,
                       const std::string& dialogue) {
@@ -149,18 +152,27 @@ private slots:
         QCOMPARE(program.UserSettings.DisplayOption, 2);
         QTest::mouseClick(program.Window.findChild<QCheckBox*>("chkSpelling"), Qt::LeftButton);
         QVERIFY(!program.UserPreferences.SpellingMarks);
+        const std::string shown = program.DisplaySize.Dump();
+        QVERIFY(shown.starts_with("title \"Display Size\"\nOption4 ( )") &&
+                shown.ends_with("chkSpelling [ ] \"Mark misspelt words while typing\"\n"));
+        // Escape puts both back and leaves, which ends the program.
         QTest::keyClick(&program.Window, Qt::Key_Escape);
         QCOMPARE(program.UserSettings.DisplayOption, 1);
         QVERIFY(program.Choice("Option1")->isChecked());
+        QVERIFY(program.UserPreferences.SpellingMarks &&
+                program.DisplaySize.Dump().find("chkSpelling [x]") != std::string::npos);
+        QCOMPARE(program.Windows.WindowEvents.back() + std::to_string(program.Exits),
+                 "hide Resize1");
 
         DisplaySizeDialog ok(0);
+        QVERIFY(ok.Choice("Option4")->isChecked());
         QTest::mouseClick(ok.Choice("Option3"), Qt::LeftButton);
         QTest::keyClick(&ok.Window, Qt::Key_O, Qt::AltModifier);
         QTRY_COMPARE(ok.Exits, 1);
         QCOMPARE(ok.UserSettings.DisplayOption, 3);
     }
 
-    void optionsTakeDigitsOnlyAndOkClampsThem() {
+    void optionsTakeDigitsOnlyOkClampsEscapeRestoresGuestModeAndCleanEmpties() {
         OptionsDialog program;
         QCOMPARE(program.Find<QLabel>("lblSetSave")->text(),
                  QString("Set maximum saved &files between 1 and 99 files"));
@@ -190,19 +202,18 @@ private slots:
         QTest::keyClicks(days, "2");
         QTest::mouseClick(program.Find<QPushButton>("cmdOK"), Qt::LeftButton);
         QCOMPARE(program.Exits, 1);
-    }
 
-    void optionsEscapeRestoresGuestModeOnlyAndCleanEmptiesTheLibrary() {
-        OptionsDialog program;
-        QTest::keyClick(&program.Window, Qt::Key_G, Qt::AltModifier);
+        // Escape restores the Guest Mode only.
+        OptionsDialog escape;
+        QTest::keyClick(&escape.Window, Qt::Key_G, Qt::AltModifier);
         // A mnemonic clicks a check box after a short show of the press.
-        QTRY_COMPARE(program.UserSettings.GuestMode, 1);
-        program.Find<QLineEdit>("txtSetSave")->selectAll();
-        QTest::keyClicks(program.Find<QLineEdit>("txtSetSave"), "0");
-        QTest::keyClick(&program.Window, Qt::Key_Escape);
-        QCOMPARE(program.UserSettings.GuestMode, 0);
-        QCOMPARE(program.UserSettings.MaxLibraryFiles, 0);
-        QCOMPARE(program.Exits, 1);
+        QTRY_COMPARE(escape.UserSettings.GuestMode, 1);
+        escape.Find<QLineEdit>("txtSetSave")->selectAll();
+        QTest::keyClicks(escape.Find<QLineEdit>("txtSetSave"), "0");
+        QTest::keyClick(&escape.Window, Qt::Key_Escape);
+        QCOMPARE(escape.UserSettings.GuestMode, 0);
+        QCOMPARE(escape.UserSettings.MaxLibraryFiles, 0);
+        QCOMPARE(escape.Exits, 1);
 
         OptionsDialog clean;
         QTest::mouseClick(clean.Find<QPushButton>("cmdClean"), Qt::LeftButton);
@@ -211,7 +222,9 @@ private slots:
         QVERIFY(std::filesystem::is_empty(clean.Folder.Isp()));
     }
 
-    void messageBoxShowsTheProgramsTextAsQtText() {
+    // The window layer under the windows: the program's box as Qt shows it, the font faces the
+    // machine really has, and the screen in twips.
+    void theWindowLayerShowsBoxesFindsFacesAndMeasuresTheScreen() {
         // The entry quotes are Windows-1252 147 and 148; paragraphs are parted by CR LF.
         const auto box = BuildMessageBox({"Change Font Size", "\x93Why?\x94\r\n\r\nSee \xe9t\xe9.",
                                           MessageIcon::Question, MessageButtons::YesNoCancel, 2});
@@ -228,9 +241,6 @@ private slots:
               std::pair{MessageIcon::None, QMessageBox::NoIcon}}) {
             QCOMPARE(BuildMessageBox({"t", "x", icon, MessageButtons::Ok, 1})->icon(), shown);
         }
-    }
-
-    void onlyRealFacesCountAndTheScreenIsMeasuredInTwips() {
         QtWindowLayer windows;
         QVERIFY(windows.HasFontFace("Liberation Serif", false));
         QVERIFY(windows.HasFontFace("liberation serif", true));
@@ -315,8 +325,7 @@ private slots:
         QCOMPARE(read.List()->count(), lib.LastSection + 1);
         read.Key(Qt::Key_Return);
         QCOMPARE(read.List()->count(), lib.LastRow + 1);
-        read.App.Links.CloseLibrary();
-        read.Open(library);
+        read.Reopen(library);
         read.Key(Qt::Key_Down);
         read.Click(cmdPrint);
         QVERIFY(!read.List()->isVisible());
@@ -343,31 +352,26 @@ private slots:
         }
         QVERIFY(read.Title().startsWith(u"Veyrant Dialogue -- 1/3"_s));
         QVERIFY(!read.Window->Widget(cmdNext)->isEnabled());
-        read.App.Links.CloseLibrary();
-        read.Open(1);
+        read.Reopen(1);
         read.SearchFor(u"heron?"_s);
         QVERIFY(read.Title().startsWith(u"Veyrant Dialogue -- 1/3"_s));
         QCOMPARE(read.Selected(), u"Heron?"_s);
-        QVERIFY(read.HitInView());
+        QVERIFY(read.HitInView(u"heron?"_s));
         QCOMPARE(read.List()->currentRow(), 2);
-        read.App.Links.CloseLibrary();
-        read.Open(3);
+        read.Reopen(3);
         read.SearchFor(u"wisdom"_s);
-        QCOMPARE(read.Selected().toLower(), u"wisdom"_s);
-        QVERIFY(read.HitInView());
+        QVERIFY(read.HitInView(u"wisdom"_s));
         QVERIFY(read.SearchBox()->hasFocus());
         const int first = read.Spin()->textCursor().selectionStart();
         const QString firstTitle = read.Title();
         QTest::keyClick(read.SearchBox(), Qt::Key_Return);
         QVERIFY(read.Title() != firstTitle || read.Spin()->textCursor().selectionStart() > first);
-        QCOMPARE(read.Selected().toLower(), u"wisdom"_s);
-        QVERIFY(read.HitInView());
+        QVERIFY(read.HitInView(u"wisdom"_s));
 
         // The window toggle keeps the hit selected in the expanded text.
         read.Click(cmdWindow);
         QVERIFY(!read.List()->isVisible());
-        QCOMPARE(read.Selected().toLower(), u"wisdom"_s);
-        QVERIFY(read.HitInView());
+        QVERIFY(read.HitInView(u"wisdom"_s));
 
         // A click on the box starts a new search.
         QTest::mouseClick(read.SearchBox(), Qt::LeftButton);

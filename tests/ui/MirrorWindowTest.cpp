@@ -95,66 +95,6 @@ class MirrorWindowTest : public QObject {
     SaveFolder folders;
 
 private slots:
-    // A Converse typed and answered on screen, a button's help under the resting pointer and as a
-    // screen reader tells it, and the full view of the Dialogue over the boxes and back.
-    void TypedEntryIsAnsweredOnScreenAndShownWhole() {
-        WriteWindow write;
-        // The window's size less its frame, and the boxes' fonts, follow the display size.
-        const MirrorLayout design = MirrorDesign();
-        const double factor = write.App.Scale.ScaleFactor / 15;
-        QCOMPARE(write.Window->size(), QSize(std::lround((design.WindowWidth - 90) * factor),
-                                             std::lround((design.WindowHeight - 405) * factor)));
-        QCOMPARE(write.Box(txtSaved)->font().pointSizeF(), write.App.Scale.TextSize[1]);
-        QVERIFY(write.Box(txtSaved)->font().bold());
-        // The hover help is spoken, and a screen reader tells the key that presses a button, as
-        // the underlined letter shows it.
-        QCOMPARE(Spoken(write.Window->Widget(txtMirror), QAccessible::Description),
-                 QString("Type a question or a statement, then press 'Enter'."));
-        QCOMPARE(Spoken(write.Window->Widget(cmdHelp), QAccessible::Description),
-                 QString("Open the Information Library for instructions and information on the "
-                         "program. Right-click to open the Utilities window."));
-        QCOMPARE(QAccessible::queryAccessibleInterface(write.Window->Widget(cmdHelp))
-                     ->actionInterface()
-                     ->keyBindingsForAction(QAccessibleActionInterface::pressAction()),
-                 QStringList{"Alt+H"});
-        write.Click(cmdConverse);
-        // The description follows the button's state, as the hover help does.
-        QCOMPARE(Spoken(write.Window->Widget(cmdConverse), QAccessible::Description),
-                 QString("Click 'Cancel' to exit Converse and reset to New Dialogue."));
-        // The instruction line's description follows its words.
-        QCOMPARE(Spoken(write.Window->Widget(txtNote), QAccessible::Description),
-                 QString("Type your question or statement. Click 'Rewrite' to erase the text. "
-                         "Press 'Enter' for the Sagrel response."));
-
-        auto* entry = write.Box(txtMirror);
-        auto* mark = write.Window->Widget(lblRem);
-        QVERIFY(mark->isVisible());
-        QWidget* cancel = write.Window->Widget(cmdNew);
-        QTest::mouseMove(cancel, QPoint(10, 10));
-        QTest::mouseMove(cancel, QPoint(12, 11));
-        QVERIFY(cancel->property("hoverMark").toBool());
-        write.Logic->TimerFired(TimerId::MirrorHover);
-        write.Window->Render();
-        auto* note = static_cast<QLabel*>(write.Window->Widget(txtNote));
-        QCOMPARE(note->text(), u"Cancel your interaction and return to New Dialogue."_s);
-
-        QTest::keyClicks(entry, u"Why do I keep the old letters in a box?"_s);
-        QCOMPARE(entry->toPlainText(), Prefix + u"Why do I keep the old letters in a box?"_s);
-        QVERIFY(!mark->isVisible());
-        QVERIFY(write.Window->Widget(cmdClear)->isEnabled());
-
-        QTest::keyClick(entry, Qt::Key_Return);
-        QCOMPARE(entry->toPlainText(), Prefix + u"Why do I keep the old letters in a box?\u201D"_s);
-        QVERIFY(!write.Box(txtResponse)->toPlainText().isEmpty());
-        if (write.Caption(cmdRemove) == u"Keep"_s) {
-            write.Click(cmdRemove);
-        }
-        QTest::keyClick(entry, Qt::Key_F11);
-        QCOMPARE(write.Caption(cmdDisplay), u"Write"_s);
-        QTest::mouseClick(write.Box(txtSaved)->viewport(), Qt::LeftButton);
-        QCOMPARE(write.Caption(cmdDisplay), u"Display"_s);
-    }
-
     // A finished word the dictionary does not know is marked and loses the mark when corrected.
     // With the marks off or no dictionary nothing is marked and nothing complains, and in every
     // case the keys make the same text and the same random series.
@@ -188,49 +128,6 @@ private slots:
             series.emplace_back(write.Composer.SeriesBase, write.Composer.SeriesScale);
             QVERIFY2(series.front() == series.back(), name);
         }
-    }
-
-    // The head of the entry is out of reach; paste, drop and shortcuts are refused; a character
-    // the Dialogue file cannot hold, typed (an emoji is a surrogate pair) or sent by an input
-    // method, is refused with the program's notice and is never counted.
-    void HeadPasteShortcutsAndUnwritableCharactersAreRefused() {
-        WriteWindow write;
-        write.Click(cmdConverse);
-        auto* entry = write.Box(txtMirror);
-        QTest::keyClicks(entry, u"abc"_s);
-        QTest::keyClick(entry, Qt::Key_Home);
-        QTest::keyClick(entry, Qt::Key_Backspace);
-        QTest::keyClick(entry, Qt::Key_Left);
-        QTest::keyClicks(entry, u"X"_s);
-        QTest::keyClick(entry, Qt::Key_Tab);
-        QCOMPARE(entry->toPlainText(), Prefix + u"Xabc"_s);
-        QApplication::clipboard()->setText(u"pasted text"_s);
-        QTest::keyClick(entry, Qt::Key_V, Qt::ControlModifier);
-        QTest::keyClick(entry, Qt::Key_A, Qt::ControlModifier);
-        QCOMPARE(entry->toPlainText(), Prefix + u"Xabc"_s);
-        QCOMPARE(entry->contextMenuPolicy(), Qt::NoContextMenu);
-        QVERIFY(!entry->acceptDrops());
-        QTest::mouseClick(entry->viewport(), Qt::MiddleButton);
-        QCOMPARE(entry->toPlainText(), Prefix + u"Xabc"_s);
-        // The control key itself is named in the program's box.
-        auto boxes = write.Layer.Boxes.size();
-        QTest::keyClick(entry, Qt::Key_Control);
-        QCOMPARE(write.Layer.Boxes.size(), boxes + 1);
-
-        QTest::keyClick(entry, Qt::Key_End);
-        QTest::keyClicks(entry, u" I feel "_s);
-        const int count = write.Logic->State().EntryCount;
-        boxes = write.Layer.Boxes.size();
-        for (const char* typed : {"\U0001F600", "\u0151", "\u03B1"}) {
-            QKeyEvent key(QEvent::KeyPress, 0, Qt::NoModifier, QString::fromUtf8(typed));
-            QApplication::sendEvent(entry, &key);
-        }
-        QInputMethodEvent composed;
-        composed.setCommitString(u"\u0436"_s);
-        QApplication::sendEvent(entry, &composed);
-        QCOMPARE(write.Layer.Boxes.size(), boxes + 4);
-        QCOMPARE(entry->toPlainText(), Prefix + u"Xabc I feel "_s);
-        QCOMPARE(write.Logic->State().EntryCount, count);
     }
 
     void IdeasAreTypedIntoTheListAndSelectChoosesOne() {
@@ -268,10 +165,33 @@ private slots:
         QCOMPARE(write.Window->focusWidget(), entry);
     }
 
-    // A keyboard user reaches every command by Alt and the letter its caption underlines, while
-    // the entry box keeps the focus and its own rules for Tab and the letters typed.
-    void EveryCommandAnswersToAltAndItsLetter() {
+    // A Converse typed and answered on screen, a button's help under the resting pointer and as a
+    // screen reader tells it, and the full view of the Dialogue over the boxes and back. A keyboard
+    // user reaches every command by Alt and the letter its caption underlines, while the entry box
+    // keeps the focus and its own rules for Tab and the letters typed. The head of the entry is out
+    // of reach; paste, drop and shortcuts are refused; a character the Dialogue file cannot hold,
+    // typed (an emoji is a surrogate pair) or sent by an input method, is refused with the
+    // program's notice and is never counted.
+    void TypedEntryIsAnsweredOnScreenAndEveryCommandAnswersToAlt() {
         WriteWindow write;
+        // The window's size less its frame, and the boxes' fonts, follow the display size.
+        const MirrorLayout design = MirrorDesign();
+        const double factor = write.App.Scale.ScaleFactor / 15;
+        QCOMPARE(write.Window->size(), QSize(std::lround((design.WindowWidth - 90) * factor),
+                                             std::lround((design.WindowHeight - 405) * factor)));
+        QCOMPARE(write.Box(txtSaved)->font().pointSizeF(), write.App.Scale.TextSize[1]);
+        QVERIFY(write.Box(txtSaved)->font().bold());
+        // The hover help is spoken, and a screen reader tells the key that presses a button, as
+        // the underlined letter shows it.
+        QCOMPARE(Spoken(write.Window->Widget(txtMirror), QAccessible::Description),
+                 QString("Type a question or a statement, then press 'Enter'."));
+        QCOMPARE(Spoken(write.Window->Widget(cmdHelp), QAccessible::Description),
+                 QString("Open the Information Library for instructions and information on the "
+                         "program. Right-click to open the Utilities window."));
+        QCOMPARE(QAccessible::queryAccessibleInterface(write.Window->Widget(cmdHelp))
+                     ->actionInterface()
+                     ->keyBindingsForAction(QAccessibleActionInterface::pressAction()),
+                 QStringList{"Alt+H"});
         QApplication::setActiveWindow(write.Window.get());
         QVERIFY(QTest::qWaitForWindowActive(write.Window.get()));
         auto* entry = write.Box(txtMirror);
@@ -282,18 +202,79 @@ private slots:
         alt(Qt::Key_C);
         QTRY_COMPARE(entry->toPlainText(), Prefix);
         QCOMPARE(QApplication::focusWidget(), entry);
+        // The description follows the button's state, as the hover help does.
+        QVERIFY(Spoken(write.Window->Widget(cmdConverse), QAccessible::Description)
+                    .startsWith(u"Click 'Cancel'"_s));
+        // The instruction line's description follows its words.
+        QCOMPARE(Spoken(write.Window->Widget(txtNote), QAccessible::Description),
+                 QString("Type your question or statement. Click 'Rewrite' to erase the text. "
+                         "Press 'Enter' for the Sagrel response."));
+
+        auto* mark = write.Window->Widget(lblRem);
+        QVERIFY(mark->isVisible());
+        QWidget* cancel = write.Window->Widget(cmdNew);
+        QTest::mouseMove(cancel, QPoint(10, 10));
+        QTest::mouseMove(cancel, QPoint(12, 11));
+        QVERIFY(cancel->property("hoverMark").toBool());
+        write.Logic->TimerFired(TimerId::MirrorHover);
+        write.Window->Render();
+        auto* note = static_cast<QLabel*>(write.Window->Widget(txtNote));
+        QVERIFY(note->text().startsWith(u"Cancel your interaction"_s));
+
+        QTest::keyClicks(entry, u"abc"_s);
+        QTest::keyClick(entry, Qt::Key_Home);
+        QTest::keyClick(entry, Qt::Key_Backspace);
+        QTest::keyClick(entry, Qt::Key_Left);
+        QTest::keyClicks(entry, u"X"_s);
         QTest::keyClick(entry, Qt::Key_Tab);
+        QCOMPARE(entry->toPlainText(), Prefix + u"Xabc"_s);
+        QApplication::clipboard()->setText(u"pasted text"_s);
+        QTest::keyClick(entry, Qt::Key_V, Qt::ControlModifier);
+        QTest::keyClick(entry, Qt::Key_A, Qt::ControlModifier);
+        QCOMPARE(entry->toPlainText(), Prefix + u"Xabc"_s);
+        QCOMPARE(entry->contextMenuPolicy(), Qt::NoContextMenu);
+        QVERIFY(!entry->acceptDrops());
+        QTest::mouseClick(entry->viewport(), Qt::MiddleButton);
+        QCOMPARE(entry->toPlainText(), Prefix + u"Xabc"_s);
+        // The control key itself is named in the program's box.
+        auto boxes = write.Layer.Boxes.size();
+        QTest::keyClick(entry, Qt::Key_Control);
+        QCOMPARE(write.Layer.Boxes.size(), boxes + 1);
+
+        QTest::keyClick(entry, Qt::Key_End);
+        QTest::keyClicks(entry, u" I feel "_s);
+        const int entries = write.Logic->State().EntryCount;
+        boxes = write.Layer.Boxes.size();
+        for (const char* typed : {"\U0001F600", "\u0151", "\u03B1"}) {
+            QKeyEvent key(QEvent::KeyPress, 0, Qt::NoModifier, QString::fromUtf8(typed));
+            QApplication::sendEvent(entry, &key);
+        }
+        QInputMethodEvent composed;
+        composed.setCommitString(u"\u0436"_s);
+        QApplication::sendEvent(entry, &composed);
+        QCOMPARE(write.Layer.Boxes.size(), boxes + 4);
+        QCOMPARE(entry->toPlainText(), Prefix + u"Xabc I feel "_s);
+        QCOMPARE(write.Logic->State().EntryCount, entries);
         QCOMPARE(QApplication::focusWidget(), entry);
-        QTest::keyClicks(entry, u"I keep"_s);
         alt(Qt::Key_W);
         QTRY_COMPARE(entry->toPlainText(), Prefix);
 
-        QTest::keyClicks(entry, u"I keep the old letters in a box for a reason."_s);
+        QTest::keyClicks(entry, u"Why do I keep the old letters in a box?"_s);
+        QCOMPARE(entry->toPlainText(), Prefix + u"Why do I keep the old letters in a box?"_s);
+        QVERIFY(!mark->isVisible());
+        QVERIFY(write.Window->Widget(cmdClear)->isEnabled());
+
         QTest::keyClick(entry, Qt::Key_Return);
+        QCOMPARE(entry->toPlainText(), Prefix + u"Why do I keep the old letters in a box?\u201D"_s);
+        QVERIFY(!write.Box(txtResponse)->toPlainText().isEmpty());
         if (write.Caption(cmdRemove) == u"Keep"_s) {
             alt(Qt::Key_E);
         }
         QTRY_COMPARE(write.Caption(cmdRemove), u"Remove"_s);
+        QTest::keyClick(entry, Qt::Key_F11);
+        QCOMPARE(write.Caption(cmdDisplay), u"Write"_s);
+        QTest::mouseClick(write.Box(txtSaved)->viewport(), Qt::LeftButton);
+        QCOMPARE(write.Caption(cmdDisplay), u"Display"_s);
 
         // Each step: the key, and what the user sees once its command has run.
         const auto count = [](std::size_t number) { return QString::number(number); };
@@ -316,36 +297,77 @@ private slots:
         QTRY_COMPARE(write.Window->windowTitle(), u"Veyrant Sagrel -- New Dialogue"_s);
     }
 
+    // A correction replaces the word in this text only; an added word is known in every window at
+    // once and after a restart, and its list is the user's alone. Each language has its own words.
     // The user's edits are what is saved, as UTF-8 with the platform's line ends. A failed save
     // says so, leaves no file, and the text is still changed; closing then saves to the file the
     // text already has, and no file dialog asks for a name again.
-    void SavesTheEditedTextAsUtf8OrSaysWhyNotAndClosingKeepsTheFile() {
+    void TheExportEditorCorrectsMarkedWordsAndSavesTheEditsAsUtf8() {
         testing::FakeWindowLayer windows;
         testing::TempFolder folder;
+        const auto words = folder / "Words.txt";
         SpellChecker spelling;
+        OpenFor(spelling, "en_US.UTF-8", words);
         auto* editor = new ExportEditorWindow(
-            windows, folders, spelling, QString::fromUtf8("Veyrant Sagrel\n\u201cCaf\u00e9\u201d"),
+            windows, folders, spelling,
+            QString::fromUtf8("Veyrant Sagrel\n\u201c12\u00b0\u201d\nI wrte to the Sagrel about "
+                              "Tolmira's lettr, 12 times."),
             u"Dialogue.txt"_s);
+        ExportEditorWindow other(windows, folders, spelling, u"A lettr.\n"_s, u"Dialogue.txt"_s);
         editor->show();
+        QVERIFY(QTest::qWaitForWindowExposed(editor));
         QCOMPARE(Unnamed(*editor), QStringList());
+        QCOMPARE(MarkedWords(editor->Editor()), QStringList({"wrte", "lettr"}));
+
+        const QStringList offered = MenuOn(*editor, "wrte", "write");
+        QVERIFY(offered.contains("write"));
+        QVERIFY(offered.indexOf("Add to Dictionary") <= 5);
+        QVERIFY(editor->Editor().toPlainText().contains("I write to"));
+        QCOMPARE(MarkedWords(editor->Editor()), QStringList({"lettr"}));
+
+        MenuOn(*editor, "lettr", "Add to Dictionary");
+        QCOMPARE(MarkedWords(editor->Editor()), QStringList());
+        QCOMPARE(MarkedWords(other.Editor()), QStringList());
+        QCOMPARE(other.Editor().toPlainText(), u"A lettr.\n"_s);
+        QCOMPARE(std::filesystem::status(words).permissions(),
+                 std::filesystem::perms::owner_read | std::filesystem::perms::owner_write);
+        SpellChecker restarted;
+        OpenFor(restarted, "en_US.UTF-8", words);
+        QVERIFY(restarted.Knows("lettr"));
+
+        QVERIFY(!MenuOn(*editor, "Sagrel").contains("Add to Dictionary"));
+        QVERIFY(windows.Boxes.empty());
+
+        // The dictionary of the user's language judges its accented words.
+        SpellChecker german;
+        OpenFor(german, "de_DE.UTF-8", folder / "Wörter.txt");
+        ExportEditorWindow street(windows, folders, german,
+                                  QString::fromUtf8("Die Stra\u00dfe ist gem\u00fctlich, die "
+                                                    "Strase nicht.\n"),
+                                  u"Dialogue.txt"_s);
+        QCOMPARE(MarkedWords(street.Editor()), QStringList({"Strase"}));
+
         editor->Editor().appendPlainText(u"A line of my own."_s);
         QVERIFY(editor->Editor().document()->isModified());
-        const auto path = folder / "Sunday.txt";
+        const auto saves = folder / "saves";
+        std::filesystem::create_directories(saves);
+        const auto path = saves / "Sunday.txt";
         const std::string saved = "Veyrant Sagrel\n\xe2\x80\x9c"
-                                  "Caf\xc3\xa9\xe2\x80\x9d\nA line of my own.";
+                                  "12\xc2\xb0\xe2\x80\x9d\nI write to the Sagrel about Tolmira's "
+                                  "lettr, 12 times.\nA line of my own.";
         QVERIFY(editor->SaveTo(QString::fromStdString(path.string())));
         QCOMPARE(ReadWholeFile(path), saved);
         QVERIFY(!editor->Editor().document()->isModified());
-        QCOMPARE(FilesIn(folder.Path()), std::size_t{1});
+        QCOMPARE(FilesIn(saves), std::size_t{1});
         QVERIFY(windows.Boxes.empty());
 
         editor->Editor().appendPlainText(u"More."_s);
-        const auto missing = folder / "missing" / "Sunday.txt";
+        const auto missing = saves / "missing" / "Sunday.txt";
         QVERIFY(!editor->SaveTo(QString::fromStdString(missing.string())));
         QCOMPARE(windows.Boxes.at(0).Title + ": " + windows.Boxes[0].Text,
                  "Save File Error: Error 53 encountered attempting to save " + missing.string() +
                      ".");
-        QCOMPARE(FilesIn(folder.Path()), std::size_t{1});
+        QCOMPARE(FilesIn(saves), std::size_t{1});
         QVERIFY(editor->Editor().document()->isModified());
 
         bool askedForAName = false;
@@ -362,52 +384,6 @@ private slots:
         QVERIFY(editor->close());
         QVERIFY(!askedForAName);
         QCOMPARE(ReadWholeFile(path), saved + "\nMore.");
-    }
-
-    // A correction replaces the word in this text only; an added word is known in every window at
-    // once and after a restart, and its list is the user's alone. Each language has its own words.
-    void MarkedWordsOfferCorrectionsAndAddToDictionary() {
-        testing::FakeWindowLayer windows;
-        testing::TempFolder folder;
-        const auto words = folder / "Words.txt";
-        SpellChecker spelling;
-        OpenFor(spelling, "en_US.UTF-8", words);
-        ExportEditorWindow editor(windows, folders, spelling,
-                                  QStringLiteral("Veyrant Sagrel\nI wrte to the Sagrel about "
-                                                 "Tolmira's lettr, 12 times.\n"),
-                                  u"Dialogue.txt"_s);
-        ExportEditorWindow other(windows, folders, spelling, u"A lettr.\n"_s, u"Dialogue.txt"_s);
-        editor.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&editor));
-        QCOMPARE(MarkedWords(editor.Editor()), QStringList({"wrte", "lettr"}));
-
-        const QStringList offered = MenuOn(editor, "wrte", "write");
-        QVERIFY(offered.contains("write"));
-        QVERIFY(offered.indexOf("Add to Dictionary") <= 5);
-        QVERIFY(editor.Editor().toPlainText().contains("I write to"));
-        QCOMPARE(MarkedWords(editor.Editor()), QStringList({"lettr"}));
-
-        MenuOn(editor, "lettr", "Add to Dictionary");
-        QCOMPARE(MarkedWords(editor.Editor()), QStringList());
-        QCOMPARE(MarkedWords(other.Editor()), QStringList());
-        QCOMPARE(other.Editor().toPlainText(), u"A lettr.\n"_s);
-        QCOMPARE(std::filesystem::status(words).permissions(),
-                 std::filesystem::perms::owner_read | std::filesystem::perms::owner_write);
-        SpellChecker restarted;
-        OpenFor(restarted, "en_US.UTF-8", words);
-        QVERIFY(restarted.Knows("lettr"));
-
-        QVERIFY(!MenuOn(editor, "Sagrel").contains("Add to Dictionary"));
-        QVERIFY(windows.Boxes.empty());
-
-        // The dictionary of the user's language judges its accented words.
-        SpellChecker german;
-        OpenFor(german, "de_DE.UTF-8", folder / "Wörter.txt");
-        ExportEditorWindow street(windows, folders, german,
-                                  QString::fromUtf8("Die Stra\u00dfe ist gem\u00fctlich, die "
-                                                    "Strase nicht.\n"),
-                                  u"Dialogue.txt"_s);
-        QCOMPARE(MarkedWords(street.Editor()), QStringList({"Strase"}));
     }
 };
 

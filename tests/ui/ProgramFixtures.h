@@ -150,22 +150,18 @@ inline QString Spoken(QWidget* widget, QAccessible::Text text) {
     return face == nullptr ? QString() : face->text(text);
 }
 
-// Whether the user works the widget, and so needs it named.
-inline bool IsControl(const QWidget* widget) {
-    return qobject_cast<const QAbstractButton*>(widget) != nullptr ||
-           qobject_cast<const QPlainTextEdit*>(widget) != nullptr ||
-           qobject_cast<const QLineEdit*>(widget) != nullptr ||
-           qobject_cast<const QComboBox*>(widget) != nullptr;
-}
-
-// The controls of a window that a screen reader would give no name.
+// The controls of a window, the widgets the user works, that a screen reader would give no name.
 inline QStringList Unnamed(QWidget& window) {
     QStringList unnamed;
     if (Spoken(&window, QAccessible::Name).isEmpty()) {
         unnamed << window.objectName();
     }
     for (QWidget* widget : window.findChildren<QWidget*>()) {
-        if (IsControl(widget) && Spoken(widget, QAccessible::Name).trimmed().isEmpty()) {
+        const bool control = qobject_cast<QAbstractButton*>(widget) != nullptr ||
+                             qobject_cast<QPlainTextEdit*>(widget) != nullptr ||
+                             qobject_cast<QLineEdit*>(widget) != nullptr ||
+                             qobject_cast<QComboBox*>(widget) != nullptr;
+        if (control && Spoken(widget, QAccessible::Name).trimmed().isEmpty()) {
             unnamed << QStringLiteral("%1 (%2)").arg(widget->objectName(),
                                                      widget->metaObject()->className());
         }
