@@ -1,6 +1,6 @@
 // The windows besides the Write window as the user meets them: the Read window stepping through
-// each library by keys, the banner, Utilities, Display Size and Library Options, and the window
-// layer under them; Tab walks the dialogs' commands in reading order.
+// each library by keys, the banner, Display Size and Library Options, and the window layer under
+// them.
 
 #include "ProgramFixtures.h"
 #include "core/Cp1252.h"
@@ -8,7 +8,6 @@
 #include "support/SavedDialogue.h"
 #include "ui/OptionsWindow.h"
 #include "ui/ResizeWindow.h"
-#include "ui/UtilityWindow.h"
 
 #include <QCheckBox>
 #include <QLineEdit>
@@ -57,20 +56,6 @@ struct OptionsDialog : UtilityDialogs<testing::FakeWindowLayer> {
     }
     OptionsWindow Window{LibraryOptions};
 };
-
-// The controls that the Tab key visits from the one in focus, by name, once round.
-QStringList TabOrder() {
-    QStringList order;
-    for (int press = 0; press < 20; ++press) {
-        const QString name = QApplication::focusWidget()->objectName();
-        if (order.contains(name)) {
-            break;
-        }
-        order << name;
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-    }
-    return order;
-}
 
 // Forty pairs, so that the hit at the end is found far below the top of the text.
 std::string LongDialogue() {
@@ -249,36 +234,15 @@ private slots:
         QVERIFY(!windows.IsWindowVisible(WindowId::Back));
     }
 
-    void theBannerStandsAboveTheMiddleAndTabReadsTheDialogsInOrder() {
-        UtilityDialogs<testing::FakeWindowLayer> dialogs;
-        BannerWindow banner(dialogs.Windows);
+    // The banner stands frameless above the middle of the screen.
+    void theBannerStandsAboveTheMiddle() {
+        testing::FakeWindowLayer windows;
+        BannerWindow banner(windows);
         banner.show();
-        // The banner stands frameless above the middle of the screen.
         QCOMPARE(banner.geometry(), QRect((1920 - 512) / 2, int((1080 - 302) / 2.3), 512, 302));
         QVERIFY(banner.windowFlags().testFlag(Qt::FramelessWindowHint));
-        UtilityWindow utilities(dialogs.Utilities, 1.0);
-        utilities.show();
-        ResizeWindow displaySize(dialogs.DisplaySize, 1.0);
-        displaySize.show();
-        OptionsWindow options(dialogs.LibraryOptions);
-        options.show();
-        // Tab walks the dialogs' commands in reading order.
-        const std::pair<QWidget*, QStringList> cases[] = {
-            {&utilities, {"cmdOptions", "cmdResize", "cmdExport", "cmdAbout"}},
-            {&displaySize, {"Option1", "chkSpelling", "cmdOK", "cmdCancel"}},
-            // An empty Library has nothing to clean, and its button is passed over.
-            {&options, {"txtSetSave", "txtSetDays", "Check1", "cmdOK", "cmdCancel"}},
-        };
-        for (const auto& [window, expected] : cases) {
-            QApplication::setActiveWindow(window);
-            QVERIFY(QTest::qWaitForWindowActive(window));
-            // The round is read from the first control on, wherever the focus began.
-            const QStringList order = TabOrder();
-            const auto first = order.indexOf(expected.front());
-            QVERIFY2(first >= 0, qPrintable(order.join(", ")));
-            QCOMPARE(order.mid(first) + order.first(first), expected);
-        }
     }
+
     // Index-1, a Section, its first Topic split and expanded, and back to Index-1 by Esc; the
     // window's grey as painted; merge fills the window with the Section's Topics, no step takes
     // the keys there, and they scroll the long essay.
