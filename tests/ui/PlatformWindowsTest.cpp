@@ -64,6 +64,24 @@ QStringList CutOff(QWidget& window) {
     return cut;
 }
 
+// The controls that the Tab key visits once round, by name, read from the one named first. A
+// window the display server has not activated may have no focus yet: the first Tab gives it.
+QStringList TabRound(QWidget& window, const QString& first) {
+    QStringList order;
+    for (int press = 0; press < 20; ++press) {
+        QWidget* focus = window.focusWidget();
+        if (focus != nullptr && order.contains(focus->objectName())) {
+            break;
+        }
+        if (focus != nullptr) {
+            order << focus->objectName();
+        }
+        QTest::keyClick(focus != nullptr ? focus : &window, Qt::Key_Tab);
+    }
+    const qsizetype at = std::max<qsizetype>(order.indexOf(first), 0);
+    return order.mid(at) + order.first(at);
+}
+
 } // namespace
 
 class PlatformWindowsTest : public QObject {
@@ -71,16 +89,21 @@ class PlatformWindowsTest : public QObject {
 
 private slots:
     void theUtilityDialogsOpenTakeKeysAndCloseAndTheAboutBoxAnswersEnter() {
-        // Escape leaves each of them, which ends the program.
-        for (const WindowId id : {WindowId::Utility, WindowId::Resize, WindowId::Options}) {
+        // Tab walks each one's commands in reading order; Escape leaves it, which ends the
+        // program.
+        const std::pair<WindowId, QStringList> dialogs[] = {
+            {WindowId::Utility, {"cmdOptions", "cmdResize", "cmdExport", "cmdAbout"}},
+            {WindowId::Resize, {"Option1", "chkSpelling", "cmdOK", "cmdCancel"}},
+            // An empty Library has nothing to clean, and its button is passed over.
+            {WindowId::Options, {"txtSetSave", "txtSetDays", "Check1", "cmdOK", "cmdCancel"}},
+        };
+        for (const auto& [id, order] : dialogs) {
             UtilitiesOnScreen program;
             program.Windows.ShowWindow(id);
             QWidget* window = program.Windows.Window(id);
             QVERIFY(QTest::qWaitForWindowExposed(window));
             QCOMPARE(CutOff(*window) + Unnamed(*window), QStringList());
-            QWidget* first = window->focusWidget();
-            QTest::keyClick(window, Qt::Key_Tab);
-            QVERIFY(window->focusWidget() != first);
+            QCOMPARE(TabRound(*window, order.front()), order);
             QTest::keyClick(window, Qt::Key_Escape);
             QCOMPARE(program.Exits, 1);
         }
