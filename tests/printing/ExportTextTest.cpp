@@ -14,12 +14,12 @@ namespace {
 
 TEST(ExportText, HeadingTextClosingLinesAndTheFailureBox) {
     const DateTime morning{2026, 11, 22, 9, 5, 0};
-    EXPECT_EQ(ExportText(morning, "Inspiration\r\n\r\n\tBe still.\r\n\r\nDialogue"),
-              "Veyrant Sagrel\r\nSunday, 9:05 AM, November 22, 2026\r\n\r\n\r\n"
-              "Inspiration\r\n\r\n\tBe still.\r\n\r\nDialogue\r\n\r\n\r\n"
-              "Psychological Self-Reflection with the Veyrant Sagrel Dovrin\r\n"
-              "\"The Power of Your Inspiration is in the Worth that You Give It\"\r\n"
-              "Veyrant Technology, veyrant-sagrel.org\r\n");
+    const std::string text = ExportText(morning, "Inspiration\r\n\r\n\tBe still.\r\n\r\nDialogue");
+    EXPECT_TRUE(
+        text.starts_with("Veyrant Sagrel\r\nSunday, 9:05 AM, November 22, 2026\r\n\r\n\r\n"
+                         "Inspiration\r\n\r\n\tBe still.\r\n\r\nDialogue\r\n\r\n\r\nPsych") &&
+        text.ends_with("Give It\"\r\nVeyrant Technology, veyrant-sagrel.org\r\n"))
+        << text;
     EXPECT_EQ(ExportFileName({2026, 11, 22, 21, 40, 0}), "Dialogue 2026-11-22 9.40 PM.txt");
     const auto box = SaveFileErrorBox(70, "/home/ana/Dialogue.txt");
     EXPECT_EQ(box.Title + "|" + box.Text,

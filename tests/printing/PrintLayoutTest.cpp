@@ -2,6 +2,7 @@
 
 #include "core/Text.h"
 #include "printing/FakePageDevice.h"
+#include "printing/PrintTexts.h"
 #include "printing/WrapText.h"
 
 #include <gtest/gtest.h>
@@ -37,7 +38,7 @@ TEST(PrintLayout, PageCountCountsLinesAndHeads) {
         EXPECT_EQ(device.Pages, c.Pages);
         EXPECT_EQ(device.Ended, 1);
         // The body, then the rule, then the foot's title line.
-        EXPECT_EQ(device.Find("Psychological Self-Reflection with the Veyrant Sagrel Dovrin").Line,
+        EXPECT_EQ(device.Find(std::string(PrintTexts::TitleLine)).Line,
                   device.Find("Inspiration").Line + 32 + 1);
     }
 }
@@ -66,14 +67,10 @@ TEST(PrintLayout, HeadsAndFeetOfTheFirstAndTheLaterPages) {
     for (auto drawn = page.end() - 4; drawn != page.end(); ++drawn) {
         foot.push_back(drawn->Text);
     }
-    EXPECT_EQ(
-        foot,
-        (std::vector<std::string>{
-            rule, "Psychological Self-Reflection with the Veyrant Sagrel Dovrin",
-            OpenQuote +
-                std::string("The Power of your Inspiration Is in the Worth that You Give It") +
-                CloseQuote,
-            "Veyrant Technology, veyrant-sagrel.org"}));
+    EXPECT_EQ(foot, (std::vector<std::string>{rule, std::string(PrintTexts::TitleLine),
+                                              OpenQuote + std::string(PrintTexts::PrintedMotto) +
+                                                  CloseQuote,
+                                              std::string(PrintTexts::MakerLine)}));
     EXPECT_TRUE(page[page.size() - 3].Font.Points == 12 && page[page.size() - 2].Font.Italic);
     for (const int later : {2, 3}) {
         const auto& heading = device.Find("Page " + std::to_string(later));

@@ -122,21 +122,5 @@ TEST_F(WorkBuffersTest, BuffersBeyondWhatTheProgramWritesAreDamaged) {
               std::string(9000, 's'));
 }
 
-TEST_F(WorkBuffersTest, AFailedWriteLeavesTheOldSetWhole) {
-    ASSERT_TRUE(Buffers.WriteWorkBuffers(Kept));
-    const FolderImage kept = ImageOf(Folder.Exe());
-    EXPECT_FALSE(WithDiskNearlyFull([&] {
-        return Buffers.WriteWorkBuffers({"\tnew", std::string(100000, 'x'), "new suggestion", 9});
-    }));
-    EXPECT_EQ(ImageOf(Folder.Exe()), kept);
-    EXPECT_EQ(Windows.Boxes.at(0).Text.substr(0, 80),
-              "Error 61 attempting to keep your Dialogue in the work buffers. The disk is full.");
-    // A file where the program folder should be.
-    std::filesystem::remove_all(Folder.Exe());
-    WriteWholeFile(Folder.Exe(), "not a folder");
-    EXPECT_FALSE(Buffers.WriteWorkBuffers(Kept));
-    EXPECT_EQ(Windows.Boxes.back().Title, "Error 76 Keeping the Dialogue");
-}
-
 } // namespace
 } // namespace veyrant::testing
