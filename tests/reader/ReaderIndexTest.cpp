@@ -30,20 +30,16 @@ TEST_F(ReaderFixture, IndexButtonTogglesTheListsAndSectionsShowSplit) {
     Key(KeyCode::Escape);
     EXPECT_EQ(Shows({RC::cmdSelect, RC::List1, RC::cmdNext, RC::cmdPrior}),
               "Veyrant Knowledge Library | " + index1 + " | \"First\" | \"<< Prior\" disabled");
-    const std::string c = "Veyrant Knowledge Library -- 6/6/7 -- C | (hidden) | high \"C |  | "
-                          "\\tText of row 5. | \" back=ReadingText | \"Next >>\" | \"Merge\" "
-                          "disabled | \"< Index >\"";
+    const std::string c = "6/6/7 -- C | (hidden) | \"Next >>\" | \"Merge\" disabled";
     const std::string third =
-        "Veyrant Knowledge Library -- 7/7/7 -- < Third > | 7 rows, selected 6, top 3, split "
-        "back=ListInUse | low \"< Third > |  | \\tText of row 6. | \" back=IndexText | \"Next >>\" "
-        "disabled | \"Merge\" | \"< Index >\"";
+        "7/7/7 -- < Third > | 7 rows, selected 6, top 3, split back=ListInUse | "
+        "\"Next >>\" disabled | \"Merge\"";
     const struct {
         int Key;           // 0: a click on Section 2
-        std::string Shown; // Title | List1 | txtSpin | cmdNext | cmdPrint | cmdSelect
+        std::string Shown; // the title's place and name | List1 | cmdNext | cmdPrint
     } steps[] = {
-        {0, "Veyrant Knowledge Library -- 5/6/7 -- < Second > | 7 rows, selected 4, top 1, split "
-            "back=ListInUse | low \"< Second > |  | \\tText of row 4. | \" back=IndexText | "
-            "\"Next >>\" | \"Merge\" | \"< Index >\""},
+        {0, "5/6/7 -- < Second > | 7 rows, selected 4, top 1, split back=ListInUse | \"Next >>\" | "
+            "\"Merge\""},
         {KeyCode::Down, c},
         {KeyCode::Down, third},
         {KeyCode::PageDown, third}, // at the end
@@ -52,8 +48,8 @@ TEST_F(ReaderFixture, IndexButtonTogglesTheListsAndSectionsShowSplit) {
     for (const auto& step : steps) {
         SCOPED_TRACE(step.Shown);
         step.Key == 0 ? Read().ListRowClicked(1) : Key(step.Key);
-        EXPECT_EQ(Shows({RC::List1, RC::txtSpin, RC::cmdNext, RC::cmdPrint, RC::cmdSelect}),
-                  step.Shown);
+        EXPECT_EQ(Shows({RC::List1, RC::cmdNext, RC::cmdPrint}),
+                  "Veyrant Knowledge Library -- " + step.Shown);
     }
     EXPECT_EQ(App.Reading.CurRow[LibraryId::Knowledge], 5);
     // Hover help marks the button and comes one tick after the pointer; over the note it names the
