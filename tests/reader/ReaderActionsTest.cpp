@@ -222,13 +222,12 @@ TEST_F(ReaderFixture, DeleteTakesTheDialogueOutOfTheLibrary) {
                 box.Buttons == MessageButtons::YesNoCancel && box.DefaultButton == 2);
     EXPECT_TRUE(Files(Folder).empty());
     const auto empty = [&] {
-        return Shows({RC::List1, RC::cmdNext, RC::cmdSelect, RC::cmdDelete, RC::txtSpin});
+        return Shows({RC::List1, RC::cmdNext, RC::cmdSelect, RC::cmdDelete});
     };
     const std::string nothing =
         "Veyrant Dialogue Library -- No Dialogues Saved | 0 rows, selected -1, top 0, split "
-        "back=ListEmpty | \"Latest\" disabled | \"< Index >\" disabled | \"Delete\" disabled | low "
-        "\"Dialogue Library | \\tThere are currently no";
-    EXPECT_TRUE(empty().starts_with(nothing)) << empty();
+        "back=ListEmpty | \"Latest\" disabled | \"< Index >\" disabled | \"Delete\" disabled";
+    EXPECT_EQ(empty(), nothing);
     // Keys and a click that reaches a disabled button, as a screen reader's action might, do
     // nothing.
     Key(KeyCode::PageDown);
@@ -236,7 +235,7 @@ TEST_F(ReaderFixture, DeleteTakesTheDialogueOutOfTheLibrary) {
     for (auto button : {RC::cmdNext, RC::cmdPrint, RC::cmdFile, RC::cmdDelete, RC::cmdSearch}) {
         Read().Click(button);
     }
-    EXPECT_TRUE(empty().starts_with(nothing)) << empty();
+    EXPECT_EQ(empty(), nothing);
     EXPECT_EQ(Windows.Boxes.size(), 3u);
     EXPECT_NE(status().find("There are currently no Dialogues saved in the Library."),
               std::string::npos);
