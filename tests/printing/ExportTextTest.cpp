@@ -43,8 +43,7 @@ TEST(SaveFolder, ProposesOnlyAFolderThatExists) {
     EXPECT_EQ(folder.Proposed(documents, home.Path()), chosen);
 }
 
-// The Markdown of a Dialogue as a CommonMark reader shows it: entries as quotations, responses
-// as paragraphs, and the user's own characters never taken for markup.
+// The Markdown as a CommonMark reader shows it.
 std::string CommonMarkHtml(const std::string& markdown) {
     TempFolder folder;
     WriteWholeFile(folder / "d.md", markdown);
@@ -54,7 +53,9 @@ std::string CommonMarkHtml(const std::string& markdown) {
     return ReadWholeFile(folder / "d.html");
 }
 
-TEST(LibraryMarkdown, ADialogueReadsAsTheUserWroteIt) {
+// A Dialogue shows its entries as quotations, its responses as paragraphs, and the user's own
+// characters never taken for markup; the index links each file, latest first.
+TEST(LibraryMarkdown, ADialogueReadsAsTheUserWroteItAndTheIndexLinksEachFile) {
     const std::string dialogue =
         "\r\n\r\n\t\x93Is # a *star* <b> & [link](x)?\x94\r\n\t1. Not a list, \\ nor "
         "`code`.\r\n\r\n\t\x93Suppose it rains.\x94\r\n\tYour idea \x93Stay in.\x94 "
@@ -65,9 +66,6 @@ TEST(LibraryMarkdown, ADialogueReadsAsTheUserWroteIt) {
               "[link](x)?”</p>\n</blockquote>\n<p>1. Not a list, \\ nor "
               "`code`.</p>\n<blockquote>\n<p>“Suppose it rains.”</p>\n</blockquote>\n<p>Your idea "
               "“Stay in.” Yes.</p>\n<blockquote>\n<p>“- A comment, café.”</p>\n</blockquote>\n");
-}
-
-TEST(LibraryMarkdown, TheIndexLinksEachFileLatestFirst) {
     const DateTime first{2026, 11, 22, 12, 0, 0};
     const DateTime later{2026, 11, 23, 9, 15, 0};
     const auto names = MarkdownFileNames({first, later, later});
