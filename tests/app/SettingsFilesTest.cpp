@@ -100,21 +100,15 @@ TEST(SettingsFiles, ReadInAnySpacingOrRepairedWithTheScreensOption) {
     }
 }
 
-// Saves write every value in its place; whether a save cut short leaves the old file whole is
-// the fault sweep's to show.
-TEST(SettingsFiles, SavesReplaceTheFileWholeAndReadBack) {
+// Saves write every value in its place, a negative one with its minus sign; whether a save cut
+// short leaves the old file whole is the fault sweep's to show.
+TEST(SettingsFiles, SavesWriteEveryValueInItsPlace) {
     AppFixture fixture;
     fixture.App.UserSettings.WindowMode = PerLibrary<std::int16_t>({1, 0, 1, 1});
     fixture.App.UserSettings.MaxLibraryDays = -3;
     SaveSettings(fixture.App);
     EXPECT_EQ(fixture.ExeFile("Tolmira.ini"),
               " 1 \r\n 1 \r\n 1  0  1  1 \r\n 1  1 \r\n 1 \r\n-3  30 \r\n 0 \r\n");
-    // A negative mark is written with its minus sign.
-    ReadSettings& read = fixture.App.ReaderSettings;
-    read.OpenFlags[LibraryId::Information] = OpenFlag::Marked;
-    read.MarkRows = PerLibrary<std::int16_t>({-1, 12, 0, -250});
-    SaveReadSettings(fixture.App);
-    EXPECT_EQ(fixture.ExeFile("Read.ini"), " 1  12 \r\n 0 -1 \r\n 0  0 \r\n 0 -250 \r\n");
 }
 
 // The flags read keep a request made in memory; a damaged file is laid down as zeros in silence
