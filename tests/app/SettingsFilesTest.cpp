@@ -86,7 +86,6 @@ TEST(SettingsFiles, ReadInAnySpacingOrRepairedWithTheScreensOption) {
         repaired(nullptr, 1279, 1),
         repaired(nullptr, 1280, 2),
         repaired(" 2 \r\n x \r\n 0  0  0  0 \r\n 1  1 \r\n 1 \r\n 21  30 \r\n 0 \r\n", 1920, 2),
-        repaired(" 2 \r\n 40000 \r\n 0  0  0  0 \r\n 1  1 \r\n 1 \r\n 21  30 \r\n 0 \r\n", 1920, 2),
         repaired("", 1920, 2),
     };
     for (const Case& c : cases) {

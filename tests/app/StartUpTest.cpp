@@ -1,7 +1,6 @@
 #include "app/StartUp.h"
 
 #include "app/AppFixture.h"
-#include "core/ProgramError.h"
 #include "support/FileFaults.h"
 
 #include <cerrno>
@@ -176,7 +175,6 @@ TEST(StartUp, AnyFailureOfTheStartEndsInTheSystemErrorBox) {
          unknown(70)},
         {[] { throw std::bad_alloc(); }, "Cannot Load -- Out of Memory"},
         {[] { throw std::length_error("basic_string::_M_create"); }, unknown(1001)},
-        {[] { throw ProgramError(ErrorNumber::FileNotFound); }, unknown(53)},
         {nullptr, unknown(53)},
     };
     for (const auto& [fail, title] : cases) {

