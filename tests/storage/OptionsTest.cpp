@@ -66,8 +66,7 @@ TEST_F(OptionsTest, CleanDeletesEveryDialogueAfterAskingOnce) {
     Windows.Answers = {MessageAnswer::Cancel};
     Window.cmdClean_Click();
     EXPECT_TRUE(Names(Folder.Isp()).size() == 2 && ReaderUnloads == 0);
-    EXPECT_EQ(Windows.Boxes.at(0).Text.substr(0, 72),
-              "This will delete all the Dialogues from the Library, a total of 2 files.");
+    EXPECT_NE(Windows.Boxes.at(0).Text.find(", a total of 2 files."), std::string::npos);
     std::filesystem::remove(Folder.Dlg() / first);
     Window.cmdClean_Click();
     ASSERT_EQ(BoxTitles(), (std::vector<std::string>{"Delete All Dialogues", "Delete All Dialogues",
