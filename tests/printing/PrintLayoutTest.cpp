@@ -25,7 +25,9 @@ PrintRequest Dialogue(int inspirationLines, int dialogueLines) {
 }
 
 // However short the Dialogue, empty lines fill the first page so its foot stands in one place.
-TEST(PrintLayout, PageCountCountsLinesAndHeads) {
+// The first page carries the title, the rule and the date above and the foot below; the later
+// pages a page number and thirty-two lines each, every page ending on the rule in one place.
+TEST(PrintLayout, PagesCountTheirLinesAndCarryTheirHeadsAndFeet) {
     struct Case {
         int Inspiration, Dialogue, Pages;
     };
@@ -41,11 +43,6 @@ TEST(PrintLayout, PageCountCountsLinesAndHeads) {
         EXPECT_EQ(device.Find(std::string(PrintTexts::TitleLine)).Line,
                   device.Find("Inspiration").Line + 32 + 1);
     }
-}
-
-// The first page carries the title, the rule and the date above and the foot below; the later
-// pages a page number and thirty-two lines each, every page ending on the rule in one place.
-TEST(PrintLayout, HeadsAndFeetOfTheFirstAndTheLaterPages) {
     FakePageDevice device;
     // 3 + 24 lines on the first page, 32 on the second, 1 on the third.
     LayOutDialogue(device, Dialogue(3, 57));
