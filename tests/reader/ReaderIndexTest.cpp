@@ -10,7 +10,7 @@ namespace {
 // The index button toggles Index-1 and Index-2 by its caption, and from an open row goes back to
 // Index-1. A Section of Index-1 opens Index-2 at its row, split, whatever the saved mode; a Topic
 // then shows in the saved mode, and the next Section's row is split again.
-TEST_F(ReaderFixture, IndexButtonTogglesTheListsAndSectionsShowSplit) {
+TEST_F(ReaderFixture, IndexButtonTogglesTheListsSectionsShowSplitAndRightClickCyclesTheFont) {
     App.UserSettings.WindowMode[LibraryId::Knowledge] = 1;
     Open(3);
     Key(KeyCode::Enter);
@@ -70,14 +70,11 @@ TEST_F(ReaderFixture, IndexButtonTogglesTheListsAndSectionsShowSplit) {
     EXPECT_EQ(Shows({RC::cmdPrior, RC::List1}),
               "Veyrant Information Library -- 1/14/185 -- < Introduction for the New User > | "
               "\"<< Prior\" disabled | 185 rows, selected 0, top 0, split back=ListInUse");
-}
-
-// Index-1 keeps the window split: Space explains instead of toggling. A Topic toggles, and the
-// mode is kept for that library. F1 explains the window, and typing goes nowhere. Each
-// right-click in the text box then moves the font one step on, back to the list; the release that
-// follows is no window toggle.
-TEST_F(ReaderFixture, WindowModeTogglesOnlyWithinASectionAndRightClickCyclesTheFont) {
-    Open(4);
+    // Index-1 keeps the window split: Space explains instead of toggling. A Topic toggles, and the
+    // mode is kept for that library. F1 explains the window, and typing goes nowhere. Each
+    // right-click in the text box then moves the font one step on, back to the list; the release
+    // that follows is no window toggle.
+    Reopen(4);
     Key(KeyCode::Space);
     EXPECT_EQ(Line(RC::List1), "1 rows, selected -1, top 0, split back=ListInUse");
     Read().ListRowClicked(0);
