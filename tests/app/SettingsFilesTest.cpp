@@ -99,17 +99,6 @@ TEST(SettingsFiles, ReadInAnySpacingOrRepairedWithTheScreensOption) {
     }
 }
 
-// Saves write every value in its place, a negative one with its minus sign; whether a save cut
-// short leaves the old file whole is the fault sweep's to show.
-TEST(SettingsFiles, SavesWriteEveryValueInItsPlace) {
-    AppFixture fixture;
-    fixture.App.UserSettings.WindowMode = PerLibrary<std::int16_t>({1, 0, 1, 1});
-    fixture.App.UserSettings.MaxLibraryDays = -3;
-    SaveSettings(fixture.App);
-    EXPECT_EQ(fixture.ExeFile("Tolmira.ini"),
-              " 1 \r\n 1 \r\n 1  0  1  1 \r\n 1  1 \r\n 1 \r\n-3  30 \r\n 0 \r\n");
-}
-
 // The flags read keep a request made in memory; a damaged file is laid down as zeros in silence
 // and the request stands.
 TEST(SettingsFiles, ReadPlacesKeepTheRequestMadeInMemory) {
@@ -137,11 +126,18 @@ TEST(SettingsFiles, ReadPlacesKeepTheRequestMadeInMemory) {
     }
 }
 
-// Read.ini is not worth the running Dialogue: when it cannot be written, a box says so and the
-// program goes on. The settings are stored at the exit, when the Dialogues are kept: the box says
-// what failed, and the program still ends.
-TEST(SettingsFiles, AFileThatCannotBeWrittenIsToldAndOnlyTheExitEnds) {
+// Saves write every value in its place, a negative one with its minus sign; whether a save cut
+// short leaves the old file whole is the fault sweep's to show. Read.ini is not worth the running
+// Dialogue: when it cannot be written, a box says so and the program goes on. The settings are
+// stored at the exit, when the Dialogues are kept: the box says what failed, and the program
+// still ends.
+TEST(SettingsFiles, SavesWriteEveryValueAndAFileThatCannotBeWrittenIsToldAndOnlyTheExitEnds) {
     AppFixture fixture;
+    fixture.App.UserSettings.WindowMode = PerLibrary<std::int16_t>({1, 0, 1, 1});
+    fixture.App.UserSettings.MaxLibraryDays = -3;
+    SaveSettings(fixture.App);
+    EXPECT_EQ(fixture.ExeFile("Tolmira.ini"),
+              " 1 \r\n 1 \r\n 1  0  1  1 \r\n 1  1 \r\n 1 \r\n-3  30 \r\n 0 \r\n");
     std::filesystem::create_directories(fixture.Folder.Exe() / "Read.ini");
     LoadReadSettings(fixture.App);
     SaveReadSettings(fixture.App);

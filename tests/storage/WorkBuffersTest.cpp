@@ -8,7 +8,7 @@ namespace {
 
 using WorkBuffersTest = LibraryFixture;
 
-TEST_F(WorkBuffersTest, GuestModeMissingAndDeletedBuffersGiveNoPriorDialogue) {
+TEST_F(WorkBuffersTest, GuestModeMissingDeletedAndDamagedBuffers) {
     ASSERT_TRUE(Buffers.WriteWorkBuffers(Kept));
     EXPECT_EQ(ImageOf(Folder.Exe()), (FolderImage{{"savei.tmp", Kept.InspirationText},
                                                   {"savem.tmp", Kept.DialogueText},
@@ -44,11 +44,8 @@ TEST_F(WorkBuffersTest, GuestModeMissingAndDeletedBuffersGiveNoPriorDialogue) {
         Buffers.DeleteWorkBuffers();
     }
     EXPECT_TRUE(Buffers.ReadWorkBuffers().has_value() && Windows.Boxes.empty());
-}
-
-// One bad byte in savep.tmp does not lose the Prior Dialogue: the count is taken again from
-// the runs of savem.tmp. A count in the program's own form is trusted as it stands.
-TEST_F(WorkBuffersTest, ADamagedPairCountIsCountedAgainFromTheDialogue) {
+    // One bad byte in savep.tmp does not lose the Prior Dialogue: the count is taken again from
+    // the runs of savem.tmp. A count in the program's own form is trusted as it stands.
     const std::string threeRuns = "\r\n\r\n\t\x93What is next?\x94\r\n\tWhat you choose."
                                   "\r\n\r\n\t\x93"
                                   "A comment.\x94"
