@@ -111,7 +111,7 @@ TEST(ReaderActions, MarkExitReopensAtTheMark) {
 // Merge shows every Topic of the open Section as one essay, expanded, from the first Topic's
 // title to the row before the next Section or the library's last row. The merged view is
 // expanded without the saved mode saying so: Window splits it, and the split is what is saved.
-TEST(ReaderActions, MergeShowsTheSectionsTopicsExpanded) {
+TEST(ReaderActions, MergeShowsTheSectionsTopicsExpandedAndRefusesOnlyTheAmbrelAndOverflows) {
     const struct {
         int Library, Section;
         std::int16_t Mode;
@@ -145,42 +145,40 @@ TEST(ReaderActions, MergeShowsTheSectionsTopicsExpanded) {
                   c.Split + ", split back=IndexText low \"");
         EXPECT_EQ(t.App.UserSettings.WindowMode[library], 0);
     }
-}
-
-// With the real libraries every Section merges but "< The Ambrel >", which is refused at once by
-// its size with the Section left on view; a Section whose essay then overflows the text box is
-// refused the same way once the merging has shown.
-TEST_F(ReaderFixture, OnlyTheAmbrelAndOverflowingEssaysAreRefused) {
-    LoadLibraries(App.Libraries);
+    // With the real libraries every Section merges but "< The Ambrel >", which is refused at once
+    // by its size with the Section left on view; a Section whose essay then overflows the text box
+    // is refused the same way once the merging has shown.
+    ReaderFixture t;
+    LoadLibraries(t.App.Libraries);
     // Ten thousand empty Topics pass the size check and overflow the text box only once merged.
     FixedLibrary many = LibraryOf(std::vector<std::string>(10001, "\tA"));
     many.Titles[0] = "< Many >";
     many.Texts.assign(10001, "");
     many.RecordWidth = 10;
     const auto merge = [&](int library, int section) {
-        Windows.Boxes.clear();
-        Steps(*this, std::to_string(library) + ":" + std::to_string(section));
-        const std::string shown = Read().Controls()[RC::txtSpin].Text + Title();
-        const int yields = Windows.Yields;
-        Read().Click(RC::cmdPrint);
-        const bool refused = !Windows.Boxes.empty();
+        t.Windows.Boxes.clear();
+        Steps(t, std::to_string(library) + ":" + std::to_string(section));
+        const std::string shown = t.Read().Controls()[RC::txtSpin].Text + t.Title();
+        const int yields = t.Windows.Yields;
+        t.Read().Click(RC::cmdPrint);
+        const bool refused = !t.Windows.Boxes.empty();
         if (refused) {
-            EXPECT_EQ(Windows.Boxes[0].Title, "Cannot Merge");
-            EXPECT_EQ(Read().Controls()[RC::txtSpin].Text + Title(), shown);
-            EXPECT_EQ(Line(RC::cmdPrint) + Line(RC::txtSpin).substr(0, 4),
+            EXPECT_EQ(t.Windows.Boxes[0].Title, "Cannot Merge");
+            EXPECT_EQ(t.Read().Controls()[RC::txtSpin].Text + t.Title(), shown);
+            EXPECT_EQ(t.Line(RC::cmdPrint) + t.Line(RC::txtSpin).substr(0, 4),
                       "\"Merge\" disabledlow ");
-            EXPECT_FALSE(Windows.Busy);
+            EXPECT_FALSE(t.Windows.Busy);
         } else {
-            EXPECT_EQ(Line(RC::txtSpin).substr(0, 5), "high ");
+            EXPECT_EQ(t.Line(RC::txtSpin).substr(0, 5), "high ");
         }
-        App.Links.CloseLibrary();
-        return refused ? "refused at yield " + std::to_string(Windows.Yields - yields)
+        t.App.Links.CloseLibrary();
+        return refused ? "refused at yield " + std::to_string(t.Windows.Yields - yields)
                        : std::string("merged");
     };
     std::vector<std::string> refused;
     for (const auto id : {LibraryId::Information, LibraryId::Knowledge, LibraryId::Advanced}) {
-        BuildLibraryIndex(App.Libraries[id]);
-        const FixedLibrary& content = App.Libraries[id];
+        BuildLibraryIndex(t.App.Libraries[id]);
+        const FixedLibrary& content = t.App.Libraries[id];
         for (int section = 0; section <= content.LastSection; ++section) {
             const std::string verdict = merge(static_cast<int>(id), section);
             if (verdict != "merged") {
@@ -191,7 +189,7 @@ TEST_F(ReaderFixture, OnlyTheAmbrelAndOverflowingEssaysAreRefused) {
     }
     EXPECT_EQ(refused, std::vector<std::string>{"refused at yield 1 < The Ambrel >"});
     BuildLibraryIndex(many);
-    App.Libraries[LibraryId::Advanced] = many;
+    t.App.Libraries[LibraryId::Advanced] = many;
     EXPECT_EQ(std::string(merge(4, 0)), "refused at yield 2");
 }
 
