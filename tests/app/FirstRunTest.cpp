@@ -19,7 +19,7 @@ unsigned Rights(const std::filesystem::path& path) {
 // The folders are laid down with the faces this machine has, which the font check passes, and
 // another account must not read the Dialogues: not on a fresh install, not in a folder an earlier
 // version left open, and not in a file written since.
-TEST(FirstRun, LaysDownTheFoldersWithTheFacesThisMachineHasForTheUserAlone) {
+TEST(FirstRun, LaysDownTheFoldersWithTheFacesThisMachineHasForTheUserAloneAndChecksTheFaces) {
     // The rights of the folders and files found (0: the folder is new), and the face missing.
     const std::tuple<unsigned, unsigned, const char*> cases[] = {
         {0, 0, ""},
@@ -58,30 +58,18 @@ TEST(FirstRun, LaysDownTheFoldersWithTheFacesThisMachineHasForTheUserAlone) {
         EXPECT_EQ(fixture.ExeFile("Qdrfonts.ini"), face + "\r\n" + face + " Italic\r\n");
         EXPECT_TRUE(CheckFonts(fixture.App) && fixture.Windows.Boxes.empty());
     }
-}
-
-TEST(DisplayScale, AnOptionWithNoRowLeavesTheFactorAtZero) {
-    for (const int option : {7, -1, 4}) {
-        DisplayScale scale;
-        SetDisplayScale(option, scale);
-        EXPECT_EQ(scale.ScaleFactor, 0) << option;
-        EXPECT_EQ(scale.ButtonFontSize, 0) << option;
-    }
-}
-
-// Each face that cannot be selected is named, after one stop box per failed step, and the program
-// ends; the faces laid down at the first start pass without a word.
-TEST(FontCheck, EachFaceThatCannotBeSelectedIsNamedAndTheProgramEnds) {
+    // Each face that cannot be selected is named, after one stop box per failed step, and the
+    // program ends.
     const auto slot = [](const std::string& face, const char* file, const std::string& usual) {
         return "Error 380 accessing your font named {" + face + "} associated with the file <" +
                file + "> usually named {" + usual + "}.\r\n\r\n";
     };
     const std::string italic = slot("Garamond Italic", "timesi.ttf", "Times New Roman Italic");
-    const std::tuple<const char*, std::string, std::size_t> cases[] = {
+    const std::tuple<const char*, std::string, std::size_t> failing[] = {
         {"Garamond", slot("Garamond", "times.ttf", "Times New Roman") + italic, 3},
         {"Garamond/italic", italic, 2},
     };
-    for (const auto& [missing, slots, boxes] : cases) {
+    for (const auto& [missing, slots, boxes] : failing) {
         AppFixture fixture;
         fixture.PutExeFile("Qdrfonts.ini", "Garamond\r\nGaramond Italic\r\n");
         fixture.Windows.MissingFaces.insert(missing);
@@ -92,13 +80,16 @@ TEST(FontCheck, EachFaceThatCannotBeSelectedIsNamedAndTheProgramEnds) {
         EXPECT_EQ(last.Title, "Fonts Not Functioning");
         EXPECT_EQ(last.Icon, MessageIcon::Stop);
         EXPECT_EQ(fixture.Windows.Boxes.front().Icon, MessageIcon::Stop);
-        EXPECT_EQ(last.Text, "The Veyrant Sagrel font system is not functioning, probably "
-                             "because one or more fonts have been changed since "
-                             "installation.\r\n\r\nThese required font(s) cannot be "
-                             "accessed:\r\n\r\n" +
-                                 slots +
-                                 " Details on how to resolve font problems are given in the "
-                                 "Information Library.");
+        EXPECT_NE(last.Text.find("accessed:\r\n\r\n" + slots + " Details"), std::string::npos);
+    }
+}
+
+TEST(DisplayScale, AnOptionWithNoRowLeavesTheFactorAtZero) {
+    for (const int option : {7, -1, 4}) {
+        DisplayScale scale;
+        SetDisplayScale(option, scale);
+        EXPECT_EQ(scale.ScaleFactor, 0) << option;
+        EXPECT_EQ(scale.ButtonFontSize, 0) << option;
     }
 }
 

@@ -16,14 +16,13 @@
 namespace veyrant::testing {
 namespace {
 
-// Four Dialogues of 22 and 23 November 2026, one of them lacking its dlg/ file (nullptr), and one
-// saved in the minute of the first; a Library is named by the digits of its pairs.
+// Four Dialogues of 22 and 23 November 2026, one of them lacking its dlg/ file (nullptr); a
+// Library is named by the digits of its pairs.
 const std::tuple<const char*, const char*, const char*> Pairs[] = {
     {"76112309.150", "\tThe latest.", "\r\n\r\n\t\223Why now?\224\r\n\tBecause."},
     {"76112212.000", "\tThe first.", "\r\n\r\n\t\223What is it?\224\r\n\tA start."},
     {"76112301.150", "\tBroken.", nullptr},
     {"76112221.050", "\tThe evening.", "\r\n\r\n\t\223A comment.\224"},
-    {"76112309.151", "\tAgain.", "\r\n\r\n\t\223Again?\224\r\n\tYes."},
 };
 const char* const FullLibrary = "0123";
 
@@ -32,7 +31,6 @@ const std::map<std::string, std::string> Headings = {
     {"2026-11-22 12.00.md", "# Sunday, 12:00 PM, November 22, 2026"},
     {"2026-11-22 21.05.md", "# Sunday, 9:05 PM, November 22, 2026"},
     {"2026-11-23 09.15.md", "# Monday, 9:15 AM, November 23, 2026"},
-    {"2026-11-23 09.15 (2).md", "# Monday, 9:15 AM, November 23, 2026"},
     {"index.md", "# Veyrant Sagrel Dialogue Library"},
     {"Library.pdf", "%PDF 3"},
 };
@@ -101,9 +99,6 @@ TEST(LibraryExport, CommandLineWritesReportsAndExits) {
          "@/2026-11-22 12.00.md\n@/2026-11-22 21.05.md\n@/2026-11-23 09.15.md\n@/index.md\n"
          "@/Library.pdf\n3 Dialogues written to @.\n\nNot written:\n"
          "76112301.150: Error 53, one of its two files is missing from the Library.\n"},
-        {"a pair saved in one minute", "04", nullptr, 0, 0,
-         "@/2026-11-23 09.15.md\n@/2026-11-23 09.15 (2).md\n@/index.md\n"
-         "2 Dialogues written to @.\n"},
         {"a full disk half-way", FullLibrary, nullptr, 2, 2,
          "@/2026-11-22 12.00.md\n@/2026-11-22 21.05.md\n2 Dialogues written to @.\n\n"
          "Not written:\n76112301.150: Error 53, one of its two files is missing from the "

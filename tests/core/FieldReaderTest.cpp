@@ -7,19 +7,6 @@
 namespace veyrant {
 namespace {
 
-TEST(FieldReader, NumbersReadAlikeInAnySpacingOrSeparator) {
-    for (const std::string form :
-         {" 1 \r\n 2 \r\n 0  -1 \r\n 21 \r\n", "1,2,0,-1,21", "1\n2\n0\n-1\n21",
-          "1\r2\r0\r-1\r21\r", "  1 ,  2,0 , -1\r\n\r\n21", "1 2 0 -1 21"}) {
-        FieldReader reader(form);
-        std::vector<int> values;
-        for (int i = 0; i < 5; ++i) {
-            values.push_back(reader.ReadInt16());
-        }
-        EXPECT_EQ(values, (std::vector<int>{1, 2, 0, -1, 21})) << form;
-    }
-}
-
 TEST(FieldReader, FailuresCarryTheirNumbers) {
     const struct {
         std::string Text;
@@ -41,8 +28,19 @@ TEST(FieldReader, FailuresCarryTheirNumbers) {
     }
 }
 
-// Strings quoted or bare, the limits of each width, and an empty field between commas as zero.
-TEST(FieldReader, StringsQuotedOrBareAndTheLimitsOfEachWidth) {
+// Numbers read alike in any spacing or separator; strings quoted or bare, the limits of each
+// width, and an empty field between commas as zero.
+TEST(FieldReader, NumbersInAnySpacingStringsQuotedOrBareAndTheLimitsOfEachWidth) {
+    for (const std::string form :
+         {" 1 \r\n 2 \r\n 0  -1 \r\n 21 \r\n", "1,2,0,-1,21", "1\n2\n0\n-1\n21",
+          "1\r2\r0\r-1\r21\r", "  1 ,  2,0 , -1\r\n\r\n21", "1 2 0 -1 21"}) {
+        FieldReader reader(form);
+        std::vector<int> values;
+        for (int i = 0; i < 5; ++i) {
+            values.push_back(reader.ReadInt16());
+        }
+        EXPECT_EQ(values, (std::vector<int>{1, 2, 0, -1, 21})) << form;
+    }
     FieldReader reader("\"Parity\", \"a, b\",\"\"\r\n  Liberation Serif  \r\nx,7\r\n\"Tail\" "
                        "junk,8,32767,-32768,,2147483647,-2147483648");
     for (const char* expected : {"Parity", "a, b", "", "Liberation Serif"}) {

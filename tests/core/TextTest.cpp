@@ -8,7 +8,7 @@
 namespace veyrant {
 namespace {
 
-TEST(Text, PositionsCountFromOneAndNeverFail) {
+TEST(Text, PositionsCountFromOneAndNeverFailAndCaseFollowsWindows1252) {
     EXPECT_EQ(Mid("\t\x93Hello", 3) + "|" + Mid("abcdef", 2, 3) + "|" + Mid("abc", 5) + "|" +
                   Mid("abc", 0, 2) + "|" + Left("abc", 5) + "|" + Left("abc", 0) + "|" +
                   Right("abcdef", 2) + "|" + Right("ab", 9),
@@ -16,6 +16,14 @@ TEST(Text, PositionsCountFromOneAndNeverFail) {
     EXPECT_EQ(Trim("  two  words ") + "|" + Trim("\tkept ") + "|" + LTrim("  a ") + "|" +
                   RTrim(" a  ") + "|" + Trim("    "),
               "two  words|\tkept|a | a|");
+    EXPECT_EQ(Upper("caf\xE9 \x9C\x9A\x9E\xFF \xF7"), "CAF\xC9 \x8C\x8A\x8E\x9F \xF7");
+    EXPECT_EQ(Lower("\xC0\xD7\xDE Z"), "\xE0\xD7\xFE z");
+    EXPECT_TRUE(EqualNoCase("Parity", "pARITY"));
+    std::string entry = "\t\x93what now?";
+    UpperAt(entry, 3);
+    EXPECT_EQ(entry, "\t\x93What now?");
+    LowerAt(entry, 99); // out of range: unchanged
+    EXPECT_EQ(entry, "\t\x93What now?");
 }
 
 // The search's matching skips the lower-case copies; it must find exactly what comparing two
@@ -54,17 +62,6 @@ TEST(Text, FindNoCaseAgreesWithComparingLowerCasedCopies) {
                 << "\"" << text << "\" \"" << needle << "\" " << start;
         }
     }
-}
-
-TEST(Text, CaseOfWindows1252Letters) {
-    EXPECT_EQ(Upper("caf\xE9 \x9C\x9A\x9E\xFF \xF7"), "CAF\xC9 \x8C\x8A\x8E\x9F \xF7");
-    EXPECT_EQ(Lower("\xC0\xD7\xDE Z"), "\xE0\xD7\xFE z");
-    EXPECT_TRUE(EqualNoCase("Parity", "pARITY"));
-    std::string entry = "\t\x93what now?";
-    UpperAt(entry, 3);
-    EXPECT_EQ(entry, "\t\x93What now?");
-    LowerAt(entry, 99); // out of range: unchanged
-    EXPECT_EQ(entry, "\t\x93What now?");
 }
 
 // Every byte round-trips; quotation marks and dashes map to their Unicode characters; characters

@@ -2,6 +2,7 @@
 
 #include "core/Text.h"
 #include "printing/FakePageDevice.h"
+#include "printing/PrintTexts.h"
 #include "printing/WrapText.h"
 
 #include <gtest/gtest.h>
@@ -24,7 +25,9 @@ PrintRequest Dialogue(int inspirationLines, int dialogueLines) {
 }
 
 // However short the Dialogue, empty lines fill the first page so its foot stands in one place.
-TEST(PrintLayout, PageCountCountsLinesAndHeads) {
+// The first page carries the title, the rule and the date above and the foot below; the later
+// pages a page number and thirty-two lines each, every page ending on the rule in one place.
+TEST(PrintLayout, PagesCountTheirLinesAndCarryTheirHeadsAndFeet) {
     struct Case {
         int Inspiration, Dialogue, Pages;
     };
@@ -37,14 +40,9 @@ TEST(PrintLayout, PageCountCountsLinesAndHeads) {
         EXPECT_EQ(device.Pages, c.Pages);
         EXPECT_EQ(device.Ended, 1);
         // The body, then the rule, then the foot's title line.
-        EXPECT_EQ(device.Find("Psychological Self-Reflection with the Veyrant Sagrel Dovrin").Line,
+        EXPECT_EQ(device.Find(std::string(PrintTexts::TitleLine)).Line,
                   device.Find("Inspiration").Line + 32 + 1);
     }
-}
-
-// The first page carries the title, the rule and the date above and the foot below; the later
-// pages a page number and thirty-two lines each, every page ending on the rule in one place.
-TEST(PrintLayout, HeadsAndFeetOfTheFirstAndTheLaterPages) {
     FakePageDevice device;
     // 3 + 24 lines on the first page, 32 on the second, 1 on the third.
     LayOutDialogue(device, Dialogue(3, 57));
@@ -66,14 +64,10 @@ TEST(PrintLayout, HeadsAndFeetOfTheFirstAndTheLaterPages) {
     for (auto drawn = page.end() - 4; drawn != page.end(); ++drawn) {
         foot.push_back(drawn->Text);
     }
-    EXPECT_EQ(
-        foot,
-        (std::vector<std::string>{
-            rule, "Psychological Self-Reflection with the Veyrant Sagrel Dovrin",
-            OpenQuote +
-                std::string("The Power of your Inspiration Is in the Worth that You Give It") +
-                CloseQuote,
-            "Veyrant Technology, veyrant-sagrel.org"}));
+    EXPECT_EQ(foot, (std::vector<std::string>{rule, std::string(PrintTexts::TitleLine),
+                                              OpenQuote + std::string(PrintTexts::PrintedMotto) +
+                                                  CloseQuote,
+                                              std::string(PrintTexts::MakerLine)}));
     EXPECT_TRUE(page[page.size() - 3].Font.Points == 12 && page[page.size() - 2].Font.Italic);
     for (const int later : {2, 3}) {
         const auto& heading = device.Find("Page " + std::to_string(later));

@@ -10,21 +10,15 @@
 namespace veyrant {
 namespace {
 
-// The libraries as the program loads them at start-up, index and all.
-class LoadedLibraries : public ::testing::Test {
-protected:
-    void SetUp() override {
-        LoadLibraries(Libraries);
-        for (const auto id : {LibraryId::Information, LibraryId::Knowledge, LibraryId::Advanced}) {
-            BuildLibraryIndex(Libraries[id]);
-        }
-    }
-    FixedLibraries Libraries;
-};
-
-// The rows tell what is so of this program on a Linux desktop, and where to mend the Library.
-TEST_F(LoadedLibraries, RowsTellWhatHoldsOnLinux) {
+// The rows tell what is so of this program on a Linux desktop, and where to mend the Library. An
+// empty last title ends the start, except in the Advanced Knowledge Library.
+TEST(LoadedLibraries, RowsTellWhatHoldsOnLinuxAndAnEmptyLastTitleEndsTheStart) {
     using enum LibraryId;
+    FixedLibraries loaded;
+    LoadLibraries(loaded);
+    for (const auto id : {Information, Knowledge, Advanced}) {
+        BuildLibraryIndex(loaded[id]);
+    }
     const struct {
         LibraryId Library;
         std::string Title, Says;
@@ -44,12 +38,24 @@ TEST_F(LoadedLibraries, RowsTellWhatHoldsOnLinux) {
         {Advanced, "< The Ambrel >", "forty-seven Topics"},
     };
     for (const auto& c : cases) {
-        const auto& titles = Libraries[c.Library].Titles;
+        const auto& titles = loaded[c.Library].Titles;
         const auto row = std::find(titles.begin(), titles.end(), c.Title) - titles.begin();
         ASSERT_LT(row, std::ssize(titles)) << c.Title;
-        EXPECT_NE(Libraries[c.Library].Texts[static_cast<std::size_t>(row)].find(c.Says),
+        EXPECT_NE(loaded[c.Library].Texts[static_cast<std::size_t>(row)].find(c.Says),
                   std::string::npos)
             << c.Title;
+    }
+    EXPECT_NO_THROW(CheckLibraryContent(loaded));
+    for (const auto id : {Information, Knowledge, Advanced}) {
+        FixedLibraries damaged = loaded;
+        damaged[id].Titles.back().clear();
+        int number = 0;
+        try {
+            CheckLibraryContent(damaged);
+        } catch (const ProgramError& error) {
+            number = error.Number();
+        }
+        EXPECT_EQ(number, id == Advanced ? 0 : 1001);
     }
 }
 
@@ -68,21 +74,6 @@ TEST(ComposeRowText, ARowComposedIntoAKeptStringReadsAsTheShownText) {
     for (int row = 0; row < 5; ++row) {
         ComposeRowText(odd, row, kept);
         EXPECT_EQ(kept, composed[row]);
-    }
-}
-
-TEST_F(LoadedLibraries, AnEmptyLastTitleEndsTheStartExceptInTheAdvancedLibrary) {
-    EXPECT_NO_THROW(CheckLibraryContent(Libraries));
-    for (const auto id : {LibraryId::Information, LibraryId::Knowledge, LibraryId::Advanced}) {
-        FixedLibraries libraries = Libraries;
-        libraries[id].Titles.back().clear();
-        int number = 0;
-        try {
-            CheckLibraryContent(libraries);
-        } catch (const ProgramError& error) {
-            number = error.Number();
-        }
-        EXPECT_EQ(number, id == LibraryId::Advanced ? 0 : 1001);
     }
 }
 

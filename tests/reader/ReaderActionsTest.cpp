@@ -59,28 +59,24 @@ TEST(ReaderActions, MarkExitReopensAtTheMark) {
     const struct {
         std::string Visit;
         int ReadIniLine;                        // the line of Read.ini holding the mark
-        std::string Mark, Reopen, Title, Shown; // Shown: List1 | txtSpin | cmdNext
+        std::string Mark, Reopen, Title, Shown; // Shown: List1 | cmdNext
     } cases[] = {
         // The Knowledge Library expanded: its Topic fills the window.
         {"expand 3/1 mark", 2, " 1  1 ", "3", "Veyrant Knowledge Library -- 2/4/7 -- A",
-         "(hidden) | high \"A |  | \\tText of row 1. | \" back=ReadingText | \"Next >>\""},
+         "(hidden) | \"Next >>\""},
         // The Information row shown earlier in the run is no mark.
         {"2/1 close 3/3 mark", 2, " 1  3 ", "2", "Veyrant Information Library",
-         "6 rows, selected -1, top 0, split back=ListInUse | low \"Information Library | "
-         "\\tSections are listed in the main (colla\" back=IndexText | \"First\""},
+         "6 rows, selected -1, top 0, split back=ListInUse | \"First\""},
         {"4/2 mark", 3, " 1  2 ", "help", "Veyrant Advanced Knowledge Library -- 3/3/3 -- Y",
-         "3 rows, selected 2, top 0, split back=IndexText | low \"Y |  | \\tText of row 2. | \" "
-         "back=ReadingText | \"Next >>\" disabled"},
+         "3 rows, selected 2, top 0, split back=IndexText | \"Next >>\" disabled"},
         {"3days 1:1 mark", 1, " 1  1 ", "1",
          "Veyrant Dialogue -- 2/3 -- Friday, 9:30 am, November 20, 2026 -- 2/21 Days Old/Max",
-         "3 rows, selected 1, top 0, split back=IndexText | low \"Friday, 9:30 am, November 20, "
-         "2026 |  | Inspiration |  |  | \\tInsp\" back=ReadingText | \"Earlier >>\""},
+         "3 rows, selected 1, top 0, split back=IndexText | \"Earlier >>\""},
         // The marked Dialogue and the one after it are gone (below): the list opens with nothing
         // selected rather than show a Dialogue that was never marked.
         {"3days 1:2 mark", 1, " 1  2 ", "1",
          "Veyrant Dialogue Library -- 1/30 Saved/Max -- Nov 21 -- 1/21 Days Old/Max",
-         "1 rows, selected -1, top 0, split back=ListInUse | low \"Dialogue Library | \\tDialogues "
-         "are listed latest-to-earliest, \" back=IndexText | \"Latest\""},
+         "1 rows, selected -1, top 0, split back=ListInUse | \"Latest\""},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.Visit);
@@ -103,7 +99,7 @@ TEST(ReaderActions, MarkExitReopensAtTheMark) {
             }
         }
         c.Reopen == "help" ? Steps(t, c.Reopen) : t.Open(c.Reopen[0] - '0');
-        EXPECT_EQ(t.Shows({RC::List1, RC::txtSpin, RC::cmdNext}), c.Title + " | " + c.Shown);
+        EXPECT_EQ(t.Shows({RC::List1, RC::cmdNext}), c.Title + " | " + c.Shown);
         // Read.ini's lines are Information, Dialogue, Knowledge, Advanced; Help here reopens
         // the marked Advanced Knowledge Library.
         t.App.Links.CloseLibrary();
@@ -115,7 +111,7 @@ TEST(ReaderActions, MarkExitReopensAtTheMark) {
 // Merge shows every Topic of the open Section as one essay, expanded, from the first Topic's
 // title to the row before the next Section or the library's last row. The merged view is
 // expanded without the saved mode saying so: Window splits it, and the split is what is saved.
-TEST(ReaderActions, MergeShowsTheSectionsTopicsExpanded) {
+TEST(ReaderActions, MergeShowsTheSectionsTopicsExpandedAndRefusesOnlyTheAmbrelAndOverflows) {
     const struct {
         int Library, Section;
         std::int16_t Mode;
@@ -139,10 +135,9 @@ TEST(ReaderActions, MergeShowsTheSectionsTopicsExpanded) {
         const std::string& text = t.Read().Controls()[RC::txtSpin].Text;
         EXPECT_TRUE(text.starts_with(c.Starts) && text.ends_with(c.Ends)) << text;
         EXPECT_EQ(t.Line(RC::txtSpin).substr(0, 5), "high ");
-        EXPECT_EQ(t.Lines({RC::List1, RC::cmdPrint, RC::cmdExitM, RC::cmdSelect, RC::txtNote}),
-                  "(hidden) | \"Merge\" disabled | \"Mark Exit\" | \"< Index >\" | \"Click "
-                  "'Window' or the text to split the window and show the index. Click 'Index' to "
-                  "clear the window and reset the list.\"");
+        EXPECT_EQ(t.Lines({RC::List1, RC::cmdPrint, RC::cmdExitM, RC::cmdSelect}),
+                  "(hidden) | \"Merge\" disabled | \"Mark Exit\" | \"< Index >\"");
+        EXPECT_TRUE(t.Line(RC::txtNote).starts_with("\"Click 'Window' or the text"));
         EXPECT_EQ(t.App.UserSettings.WindowMode[library], c.Mode);
         EXPECT_TRUE(t.Windows.Boxes.empty() && !t.Windows.Busy && t.Windows.Yields >= 2);
         t.Read().Click(RC::cmdWindow);
@@ -150,43 +145,40 @@ TEST(ReaderActions, MergeShowsTheSectionsTopicsExpanded) {
                   c.Split + ", split back=IndexText low \"");
         EXPECT_EQ(t.App.UserSettings.WindowMode[library], 0);
     }
-}
-
-// With the real libraries every Section merges but "< The Ambrel >", which is refused at once by
-// its size with the Section left on view; a Section whose essay then overflows the text box is
-// refused the same way once the merging has shown.
-TEST_F(ReaderFixture, OnlyTheAmbrelAndOverflowingEssaysAreRefused) {
-    LoadLibraries(App.Libraries);
+    // With the real libraries every Section merges but "< The Ambrel >", which is refused at once
+    // by its size with the Section left on view; a Section whose essay then overflows the text box
+    // is refused the same way once the merging has shown.
+    ReaderFixture t;
+    LoadLibraries(t.App.Libraries);
     // Ten thousand empty Topics pass the size check and overflow the text box only once merged.
     FixedLibrary many = LibraryOf(std::vector<std::string>(10001, "\tA"));
     many.Titles[0] = "< Many >";
     many.Texts.assign(10001, "");
     many.RecordWidth = 10;
     const auto merge = [&](int library, int section) {
-        Windows.Boxes.clear();
-        Steps(*this, std::to_string(library) + ":" + std::to_string(section));
-        const std::string shown = Read().Controls()[RC::txtSpin].Text + Title();
-        const int yields = Windows.Yields;
-        Read().Click(RC::cmdPrint);
-        const bool refused = !Windows.Boxes.empty();
+        t.Windows.Boxes.clear();
+        Steps(t, std::to_string(library) + ":" + std::to_string(section));
+        const std::string shown = t.Read().Controls()[RC::txtSpin].Text + t.Title();
+        const int yields = t.Windows.Yields;
+        t.Read().Click(RC::cmdPrint);
+        const bool refused = !t.Windows.Boxes.empty();
         if (refused) {
-            EXPECT_EQ(Windows.Boxes[0].Title + ": " + Windows.Boxes[0].Text,
-                      "Cannot Merge: This Essay is too long to be merged.");
-            EXPECT_EQ(Read().Controls()[RC::txtSpin].Text + Title(), shown);
-            EXPECT_EQ(Line(RC::cmdPrint) + Line(RC::txtSpin).substr(0, 4),
+            EXPECT_EQ(t.Windows.Boxes[0].Title, "Cannot Merge");
+            EXPECT_EQ(t.Read().Controls()[RC::txtSpin].Text + t.Title(), shown);
+            EXPECT_EQ(t.Line(RC::cmdPrint) + t.Line(RC::txtSpin).substr(0, 4),
                       "\"Merge\" disabledlow ");
-            EXPECT_FALSE(Windows.Busy);
+            EXPECT_FALSE(t.Windows.Busy);
         } else {
-            EXPECT_EQ(Line(RC::txtSpin).substr(0, 5), "high ");
+            EXPECT_EQ(t.Line(RC::txtSpin).substr(0, 5), "high ");
         }
-        App.Links.CloseLibrary();
-        return refused ? "refused at yield " + std::to_string(Windows.Yields - yields)
+        t.App.Links.CloseLibrary();
+        return refused ? "refused at yield " + std::to_string(t.Windows.Yields - yields)
                        : std::string("merged");
     };
     std::vector<std::string> refused;
     for (const auto id : {LibraryId::Information, LibraryId::Knowledge, LibraryId::Advanced}) {
-        BuildLibraryIndex(App.Libraries[id]);
-        const FixedLibrary& content = App.Libraries[id];
+        BuildLibraryIndex(t.App.Libraries[id]);
+        const FixedLibrary& content = t.App.Libraries[id];
         for (int section = 0; section <= content.LastSection; ++section) {
             const std::string verdict = merge(static_cast<int>(id), section);
             if (verdict != "merged") {
@@ -197,7 +189,7 @@ TEST_F(ReaderFixture, OnlyTheAmbrelAndOverflowingEssaysAreRefused) {
     }
     EXPECT_EQ(refused, std::vector<std::string>{"refused at yield 1 < The Ambrel >"});
     BuildLibraryIndex(many);
-    App.Libraries[LibraryId::Advanced] = many;
+    t.App.Libraries[LibraryId::Advanced] = many;
     EXPECT_EQ(std::string(merge(4, 0)), "refused at yield 2");
 }
 
@@ -224,20 +216,15 @@ TEST_F(ReaderFixture, DeleteTakesTheDialogueOutOfTheLibrary) {
     Read().Click(RC::cmdDelete);
     ASSERT_EQ(Windows.Boxes.size(), 3u);
     const MessageBoxRequest& box = Windows.Boxes[2];
-    EXPECT_EQ(box.Title + ": " + box.Text,
-              "Delete Dialogue: Are you certain you want to delete this Dialogue?");
-    EXPECT_TRUE(box.Icon == MessageIcon::Stop && box.Buttons == MessageButtons::YesNoCancel &&
-                box.DefaultButton == 2);
+    EXPECT_TRUE(box.Title == "Delete Dialogue" && box.Icon == MessageIcon::Stop &&
+                box.Buttons == MessageButtons::YesNoCancel && box.DefaultButton == 2);
     EXPECT_TRUE(Files(Folder).empty());
     const auto empty = [&] {
-        return Shows(
-            {RC::List1, RC::cmdNext, RC::cmdSelect, RC::cmdDelete, RC::txtSpin, RC::txtNote});
+        return Shows({RC::List1, RC::cmdNext, RC::cmdSelect, RC::cmdDelete});
     };
     const std::string nothing =
         "Veyrant Dialogue Library -- No Dialogues Saved | 0 rows, selected -1, top 0, split "
-        "back=ListEmpty | \"Latest\" disabled | \"< Index >\" disabled | \"Delete\" disabled | low "
-        "\"Dialogue Library | \\tThere are currently no Dialogues saved in\" back=IndexText | "
-        "\"There are no Dialogues saved in the Library.\"";
+        "back=ListEmpty | \"Latest\" disabled | \"< Index >\" disabled | \"Delete\" disabled";
     EXPECT_EQ(empty(), nothing);
     // Keys and a click that reaches a disabled button, as a screen reader's action might, do
     // nothing.
@@ -248,8 +235,7 @@ TEST_F(ReaderFixture, DeleteTakesTheDialogueOutOfTheLibrary) {
     }
     EXPECT_EQ(empty(), nothing);
     EXPECT_EQ(Windows.Boxes.size(), 3u);
-    EXPECT_NE(status().find("There are currently no Dialogues saved in the Library."),
-              std::string::npos);
+    EXPECT_NE(status().find("There are currently no Dialogues"), std::string::npos);
     // A file whose name holds no date the program can read opens as a damaged Dialogue: the scan
     // names it, the opening says it cannot be retrieved, and the Reader goes on.
     for (const auto& folder : {Folder.Isp(), Folder.Dlg()}) {
@@ -304,10 +290,7 @@ TEST_F(ReaderFixture, PrintFileAndAFailedDeleteKeepTheDialogue) {
     EXPECT_EQ(BoxTitles(), (std::vector<std::string>{"Print Error", "Delete Dialogue",
                                                      "Error 70 Moving to the Trash",
                                                      "Dialogue Library Corrupted"}));
-    EXPECT_EQ(Windows.Boxes.back().Text,
-              "Error 70 attempting to delete the file from the Dialogue Library. Because the "
-              "Library has become corrupted, it is necessary for you to repair it. Open the "
-              "Information Library and review the Topic, 'Repairing the Dialogue Library'.");
+    EXPECT_TRUE(Windows.Boxes.back().Text.starts_with("Error 70 attempting to delete"));
     EXPECT_TRUE(Files(Folder) == before && Title() == shown) << Title();
     // With its dialogue file gone the pair is half deleted: the list no longer offers it.
     std::filesystem::remove(Folder.Dlg() / "76112109.300");
@@ -317,45 +300,30 @@ TEST_F(ReaderFixture, PrintFileAndAFailedDeleteKeepTheDialogue) {
     EXPECT_EQ(Line(RC::List1), "2 rows, selected -1, top 0, split back=ListInUse");
 }
 
-// Each library button opens its library with the Write window minimised behind the Reader and the
+// A library button opens its library with the Write window minimised behind the Reader and the
 // backdrop kept, and bringing the Write window back closes the Reader and releases the button.
+// Which button opens which library the platform test shows on real windows.
 TEST_F(ReaderFixture, LibraryButtonsOpenTheReaderAndRestoringClosesIt) {
-    const struct {
-        MC Button;
-        MouseButton Mouse;
-        const char* Title;
-        LibraryId ReadLibrary;
-    } cases[] = {
-        {MC::cmdHelp, MouseButton::Left, "Veyrant Information Library", LibraryId::Information},
-        {MC::cmdKnow, MouseButton::Left, "Veyrant Knowledge Library", LibraryId::Knowledge},
-        {MC::cmdKnow, MouseButton::Right, "Veyrant Advanced Knowledge Library",
-         LibraryId::Advanced},
-        {MC::cmdRetrieve, MouseButton::Left, "Veyrant Dialogue Library -- No Dialogues Saved",
-         LibraryId::Dialogue},
-    };
     const auto pressed = [&](MC button) { return App.Write->Controls()[button].PressedIn; };
     Windows.ShowWindow(WindowId::Back);
     App.Back.Load();
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.Title);
-        Press(c.Button, c.Mouse);
-        EXPECT_EQ(Title(), c.Title);
-        EXPECT_EQ(App.Write->State().ReadLibrary, c.ReadLibrary);
-        EXPECT_TRUE(App.Reading.ReaderOpen == ReaderOpenState::Open && pressed(c.Button) &&
-                    Windows.IsWindowMinimised(WindowId::Mirror) &&
-                    Windows.IsWindowVisible(WindowId::Read) &&
-                    Windows.IsWindowVisible(WindowId::Back) && !Windows.Busy);
-        // The same library is not opened twice.
-        const auto events = Windows.WindowEvents.size();
-        Press(c.Button, c.Mouse);
-        EXPECT_EQ(Windows.WindowEvents.size(), events);
-        // The user brings the Write window back.
-        Windows.RestoreWindow(WindowId::Mirror);
-        App.Write->WindowStateChanged(false);
-        EXPECT_TRUE(App.Reading.ReaderOpen == ReaderOpenState::Closed && !pressed(c.Button) &&
-                    !Windows.IsWindowVisible(WindowId::Read) &&
-                    App.Write->State().ReadLibrary == LibraryId::None);
-    }
+    Press(MC::cmdKnow, MouseButton::Right);
+    EXPECT_EQ(Title(), "Veyrant Advanced Knowledge Library");
+    EXPECT_EQ(App.Write->State().ReadLibrary, LibraryId::Advanced);
+    EXPECT_TRUE(App.Reading.ReaderOpen == ReaderOpenState::Open && pressed(MC::cmdKnow) &&
+                !pressed(MC::cmdHelp) && Windows.IsWindowMinimised(WindowId::Mirror) &&
+                Windows.IsWindowVisible(WindowId::Read) &&
+                Windows.IsWindowVisible(WindowId::Back) && !Windows.Busy);
+    // The same library is not opened twice.
+    const auto events = Windows.WindowEvents.size();
+    Press(MC::cmdKnow, MouseButton::Right);
+    EXPECT_EQ(Windows.WindowEvents.size(), events);
+    // The user brings the Write window back.
+    Windows.RestoreWindow(WindowId::Mirror);
+    App.Write->WindowStateChanged(false);
+    EXPECT_TRUE(App.Reading.ReaderOpen == ReaderOpenState::Closed && !pressed(MC::cmdKnow) &&
+                !Windows.IsWindowVisible(WindowId::Read) &&
+                App.Write->State().ReadLibrary == LibraryId::None);
     // Closing the Reader's own window brings the Write window back from minimised.
     Press(MC::cmdKnow);
     App.Links.CloseLibrary();
@@ -414,7 +382,7 @@ TEST(BackgroundHelp, TellsHowToRestoreAHiddenBackdropOnEitherWindow) {
         move();
         EXPECT_EQ(t.Windows.Timers.at(timer), 1250);
         tick();
-        EXPECT_EQ(note(), "Click to restore the background that surrounds the window.");
+        EXPECT_TRUE(note().starts_with("Click to restore the background"));
         // Further moves over the same place neither restart the count nor the help.
         const auto starts = t.Windows.TimerStarts[timer];
         move();

@@ -75,9 +75,7 @@ TEST_F(DialogueLibraryTest, AFailedSaveOrScanSaysWhy) {
     ASSERT_TRUE(Library.AddToLibrary("\told", "old dialogue"));
     EXPECT_FALSE(WithDiskNearlyFull(
         [&] { return Library.AddToLibrary("\tnew", std::string(100000, 'x')).has_value(); }));
-    EXPECT_TRUE(Windows.Boxes.at(0).Text.starts_with(
-        "Error 61 attempting to save your Dialogue in the Dialogue Library. The disk is "
-        "full.\r\n\r\nYour Dialogue is not lost."));
+    EXPECT_TRUE(Windows.Boxes.at(0).Text.starts_with("Error 61 attempting to save"));
     // A file where a folder of the Library should be: the save fails and the scan says so.
     std::filesystem::remove_all(Folder.Dlg());
     WriteWholeFile(Folder.Dlg(), "not a folder");

@@ -17,53 +17,18 @@ const StretchLimits Light{crypto_pwhash_OPSLIMIT_MIN, crypto_pwhash_MEMLIMIT_MIN
 const std::string Letter = "\r\n\r\n\t\x93"
                            "A letter never sent\x94";
 
-class LibraryLockTest : public LibraryFixture {
-protected:
-    void SetUp() override {
-        SaveAt(DaysAgo(2), "\r\n\r\n\t\x93"
-                           "The harbour at dawn\x94");
-        SaveAt(DaysAgo(1), Letter);
-        ASSERT_TRUE(Buffers.WriteWorkBuffers(Kept));
-        Plain = ImageOf(Folder.Root);
-        TurnLockOn(Folder, "lantern", Light);
-        Library.ScanLibrary();
-    }
-    bool AnyFileHolds(const std::string& sentence) const {
-        const auto image = ImageOf(Folder.Root);
-        return std::any_of(image.begin(), image.end(), [&](const auto& file) {
-            return file.second.find(sentence) != std::string::npos;
-        });
-    }
-    FolderImage Plain;
-};
+using LibraryLockTest = LibraryFixture;
 
-TEST_F(LibraryLockTest, LockedTheLibraryWorksAsBeforeAndUnlocksByteForByte) {
-    for (const char* sentence : {"harbour at dawn", "letter never sent", "quiet river",
-                                 "What you choose", "nearest to you"}) {
-        EXPECT_FALSE(AnyFileHolds(sentence)) << sentence;
-    }
-    EXPECT_EQ(Buffers.ReadWorkBuffers().value().Buffers.DialogueText, Kept.DialogueText);
-    // A new Dialogue goes in sealed, and a delete takes it to the trash as it is.
-    const auto saved = Library.AddToLibrary("\tThe last word", "\r\n\r\n\tThe last word");
-    ASSERT_TRUE(saved.has_value());
-    EXPECT_FALSE(AnyFileHolds("The last word"));
-    Windows.Answers = {MessageAnswer::Yes};
-    ASSERT_TRUE(Library.DeleteDialogue(*saved));
-    EXPECT_FALSE(AnyFileHolds("The last word"));
-    // Another passphrase opens the same files; the wrong one opens nothing.
-    ChangePassphrase(Folder, "beacon", Light);
-    AppFolder again{Folder.Root};
-    EXPECT_FALSE(OpenLibrary(again, "lantern"));
-    EXPECT_THROW(DialogueFile::SavedDialogue(again, Library.Listing().LibraryFiles[1]).Read(),
-                 LockedFileError);
-    ASSERT_TRUE(OpenLibrary(again, "beacon"));
-    TurnLockOff(again);
-    auto after = ImageOf(Folder.Root);
-    std::erase_if(after, [](const auto& file) { return file.first.starts_with("Trash/"); });
-    EXPECT_EQ(after, Plain);
-}
-
-TEST_F(LibraryLockTest, AFlippedByteOrAMissingKeyGivesTheBoxNamingTheFileAndLosesNothing) {
+// A flipped byte or a missing key gives the box naming the file and loses nothing; a locked
+// Library works as before and unlocks to the very bytes it held.
+TEST_F(LibraryLockTest, DamageLosesNothingAndTheLockedLibraryWorksAndUnlocksByteForByte) {
+    SaveAt(DaysAgo(2), "\r\n\r\n\t\x93"
+                       "The harbour at dawn\x94");
+    SaveAt(DaysAgo(1), Letter);
+    ASSERT_TRUE(Buffers.WriteWorkBuffers(Kept));
+    const FolderImage plain = ImageOf(Folder.Root);
+    TurnLockOn(Folder, "lantern", Light);
+    Library.ScanLibrary();
     const auto name = Library.Listing().LibraryFiles[1];
     const auto other = Library.Listing().LibraryFiles[2];
     for (const auto& file : {Folder.Isp() / name, Folder.Dlg() / name, Folder.Exe() / "savem.tmp",
@@ -90,11 +55,41 @@ TEST_F(LibraryLockTest, AFlippedByteOrAMissingKeyGivesTheBoxNamingTheFileAndLose
         WriteWholeFile(file, sealed);
     }
     EXPECT_FALSE(SealedWithoutKey(Folder));
+    const auto key = ReadWholeFile(KeyFilePath(Folder));
     std::filesystem::remove(KeyFilePath(Folder));
     EXPECT_TRUE(SealedWithoutKey(Folder));
     AppFolder keyless{Folder.Root};
     EXPECT_THROW(OpenLibrary(keyless, "lantern"), LockedFileError);
     EXPECT_THROW(ReadSavedDialogue(keyless, other), LockedFileError);
+    WriteWholeFile(KeyFilePath(Folder), key);
+    const auto anyFileHolds = [&](const std::string& sentence) {
+        return std::ranges::any_of(ImageOf(Folder.Root), [&](const auto& file) {
+            return file.second.find(sentence) != std::string::npos;
+        });
+    };
+    for (const char* sentence : {"harbour at dawn", "letter never sent", "quiet river",
+                                 "What you choose", "nearest to you"}) {
+        EXPECT_FALSE(anyFileHolds(sentence)) << sentence;
+    }
+    EXPECT_EQ(Buffers.ReadWorkBuffers().value().Buffers.DialogueText, Kept.DialogueText);
+    // A new Dialogue goes in sealed, and a delete takes it to the trash as it is.
+    const auto saved = Library.AddToLibrary("\tThe last word", "\r\n\r\n\tThe last word");
+    ASSERT_TRUE(saved.has_value());
+    EXPECT_FALSE(anyFileHolds("The last word"));
+    Windows.Answers = {MessageAnswer::Yes};
+    ASSERT_TRUE(Library.DeleteDialogue(*saved));
+    EXPECT_FALSE(anyFileHolds("The last word"));
+    // Another passphrase opens the same files; the wrong one opens nothing.
+    ChangePassphrase(Folder, "beacon", Light);
+    AppFolder again{Folder.Root};
+    EXPECT_FALSE(OpenLibrary(again, "lantern"));
+    EXPECT_THROW(DialogueFile::SavedDialogue(again, Library.Listing().LibraryFiles[1]).Read(),
+                 LockedFileError);
+    ASSERT_TRUE(OpenLibrary(again, "beacon"));
+    TurnLockOff(again);
+    auto after = ImageOf(Folder.Root);
+    std::erase_if(after, [](const auto& file) { return file.first.starts_with("Trash/"); });
+    EXPECT_EQ(after, plain);
 }
 
 } // namespace

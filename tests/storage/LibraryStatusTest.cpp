@@ -33,11 +33,6 @@ TEST(LibraryStatus, EveryWordingOfTheStatus) {
              "Saturday, 11:45 pm, November 21, 2026. Your earliest Dialogue will be "
              "automatically deleted in 1 day. " +
              limits},
-        {3, 24, 0, "", 30,
-         "You have 3 Dialogues saved in the Library. " + latest +
-             "Sunday, 12:01 am, November 22, 2026. Your earliest Dialogue will "
-             "be automatically deleted in -3 days. " +
-             limits},
         {3, 19, 1, "", 30,
          "The Library is in the Guest Mode. No Dialogues are saved or retrieved."},
     };
