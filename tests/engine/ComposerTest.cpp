@@ -223,8 +223,6 @@ TEST_F(Composing, AssembleSetsCaseAndSpacingByTheListsHidesTheLabelRowAndReports
     EXPECT_EQ(Assemble({Hello, Big}), "\t Hello there hello there");
     ASSERT_EQ(windows.Boxes.size(), 1u);
     EXPECT_EQ(windows.Boxes[0].Title, "Coding error in Rcmp, Engine21");
-    EXPECT_EQ(windows.Boxes[0].Text, "Error in Sub Rcmp configuration. Must be put into "
-                                     "comformity for the correct number of SysBlocks.");
     EXPECT_EQ(windows.Boxes[0].Buttons, MessageButtons::OkCancel);
 }
 
