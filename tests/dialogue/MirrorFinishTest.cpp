@@ -231,21 +231,6 @@ TEST(MirrorFinishPrior, APriorDialogueReopensWithItsAgeAndStaysWhenTheLimitsTake
     }
 }
 
-// Buffers that outlive the Dialogue they held reopen when an empty Dialogue is cancelled, and
-// a list of ideas open at that moment must not stay over them.
-TEST_F(MirrorFinish, ACancelledListInAnEmptyDialogueClosesBeforeOldBuffersReopen) {
-    mirror->StartWindow();
-    LeavePriorDialogue(1);
-    Click(cmdSuppose);
-    Engine.Judgements.push_back({1, 20});
-    Converse(Question);
-    ASSERT_TRUE(Box(txtAnalyze).Visible);
-    Click(cmdNew); // Cancel
-    EXPECT_EQ(Text(cmdRemove) + std::to_string(State().PairCount), "Continue1");
-    EXPECT_FALSE(Box(txtAnalyze).Visible || Box(lblRemS).Visible);
-    EXPECT_EQ(mirror->Controls().Focus, txtMirror);
-}
-
 // The full view and the window's title tell the length of the Dialogue.
 TEST(MirrorTranscriptLength, DisplayTellsTheLengthAndWriteRestoresTheState) {
     const std::tuple<int, std::string, std::string> cases[] = {{4, "less than 1 page", "1 Page"},

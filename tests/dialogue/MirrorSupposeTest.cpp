@@ -160,7 +160,9 @@ TEST_F(MirrorSuppose, SelectRefusedByTheDrawLeavesTheOutcomeOutUntilKeptAndCance
     EXPECT_EQ(State().CycleCount, cycles + 2);
 }
 
-// An idea is capped and loses one closing mark; a too short one stays to be lengthened.
+// An idea is capped and loses one closing mark; a too short one stays to be lengthened. Buffers
+// that outlive the Dialogue they held reopen when an empty one is cancelled, and the list must
+// not stay over them.
 TEST(MirrorSupposeTable, AnIdeaIsFiledCappedWithOneClosingMark) {
     const std::pair<std::string, std::string> cases[] = {{"walk to school.", "Walk to school."},
                                                          {"walk to school", "Walk to school."},
@@ -175,6 +177,12 @@ TEST(MirrorSupposeTable, AnIdeaIsFiledCappedWithOneClosingMark) {
         OpenList(driver);
         driver.Converse(typed);
         EXPECT_EQ(Listed(driver), filed.empty() ? List({}, typed) : List({filed})) << typed;
+        // Cancelled in an empty Dialogue, the list closes before buffers left by then reopen.
+        driver.LeavePriorDialogue(1);
+        driver.Click(cmdNew);
+        EXPECT_EQ(driver.Text(cmdRemove) + std::to_string(driver.State().PairCount), "Continue1");
+        EXPECT_FALSE(driver.Box(txtAnalyze).Visible || driver.Box(lblRemS).Visible);
+        EXPECT_EQ(driver.mirror->Controls().Focus, txtMirror);
     }
 }
 
