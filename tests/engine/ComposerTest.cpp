@@ -209,7 +209,6 @@ TEST_F(Composing, AssembleSetsCaseAndSpacingByTheListsHidesTheLabelRowAndReports
         {{Hello, Dash, Big}, "\t Hello there\227big news"},
         {{Hello, Dash, Period, Big}, "\t Hello there\x97. Big news"},
         {{Hello, Dash, Period, Big, Third}, "\t Hello there\x97. Big newsthird"},
-        {{Hello, Hello}, "\t Hello there hello there"},
         {{}, "\t"}};
     for (const auto& [components, text] : cases) {
         EXPECT_EQ(Assemble(components), text);

@@ -19,12 +19,12 @@ TEST(ClassifyEntry, GivesTheSentenceTypeAndLeavesThePreparedForm) {
          {"Will I be happy?", "I will go?", "Do you think I will go?", "If I go, will it rain?",
           "Is it somewhere near?", "However, can it work?", "When I was young, did I know?",
           "You love me, don't you?"}},
-        {10, {"Who am I?", "Whose turn is it?"}},
+        {10, {"Who am I?"}},
         {20,
          {"What is love?", "Tell me what is love?", "Which road should I take?",
           "What else can I do?"}},
         {30, {"When will you know?"}},
-        {40, {"Where is my home?", "Where else would you go?"}},
+        {40, {"Where is my home?"}},
         {50, {"WHY DO I DREAM?"}},
         {60, {"How can I grow?"}},
         {0,
@@ -51,10 +51,8 @@ TEST(CheckEntry, SetsStatusAndType) {
     // Method, pairs so far, entry, its status and its type (77: left as it was).
     const std::tuple<int, std::int16_t, const char*, int, int> cases[] = {
         {1, 0, "Will I be happy?", -3, 77}, // a first entry must be longer and denser
-        {1, 0, "Is it?", -2, 77},
         {1, 1, "Is it?", -2, 77},
         {1, 1, "Is it ok?", -3, 77},
-        {1, 0, "Will tomorrow bring happiness?", 1000, 1},
         {1, 1, "Will tomorrow bring happiness?", 1000, 1},
         {1, 1, "Is  it?", -3, 77}, // runs of blanks are not folded: two blanks are two gaps
         {1, 1, "Will tomorrow bring happiness?   ", 1000, 1},
