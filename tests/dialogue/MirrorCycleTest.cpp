@@ -72,7 +72,7 @@ TEST_F(MirrorCycle, CommentThenConverseEntryIsAcceptedAnsweredAndKept) {
 // only once the goal is reached and stays out of the Dialogue. Closing the window keeps a running
 // Dialogue for next time, and only a kept pair makes it run.
 TEST_F(MirrorCycle, KeepRemoveAndTheNoticeOnceTheGoalIsReachedEvenWithThePairsRemoved) {
-    Draws.Draws = {0.05f}; // CycleGoal 3
+    Draws.Script = {0.05f}; // CycleGoal 3
     StartConverse();
     mirror->Unload();
     EXPECT_EQ(Kept(), "none");

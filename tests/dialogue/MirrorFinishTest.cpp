@@ -41,7 +41,7 @@ bool Leave(MirrorDriver& driver, std::optional<MirrorControl> rightClick) {
 
 TEST_F(MirrorFinish, FinishThenContinueThenFinishAgain) {
     // One answered statement and one Suppose pair, its first idea chosen.
-    Draws.Draws = {0.9f, 0.7f, 0.2f};
+    Draws.Script = {0.9f, 0.7f, 0.2f};
     StartConverse();
     Converse(Statement);
     Click(cmdSuppose);
@@ -125,7 +125,6 @@ TEST(MirrorFinishNew, NewAsksOnlyForAnUnsavedDialogueAndResetsOnNo) {
         MessageAnswer Answer;
         bool Asked, Reset;
     } cases[] = {{"Yes", false, false, MessageAnswer::Yes, true, false},
-                 {"Cancel", false, false, MessageAnswer::Cancel, true, false},
                  {"No", false, false, MessageAnswer::No, true, true},
                  {"Guest", true, false, MessageAnswer::Yes, false, true},
                  {"Saved", false, true, MessageAnswer::Yes, false, true}};

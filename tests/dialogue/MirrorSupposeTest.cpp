@@ -41,8 +41,8 @@ void AskQuestion(MirrorDriver& driver) {
 // Starts the window and asks the question in Suppose; the first draw sets the goal of the
 // notice out of reach, the later ones weigh the ideas.
 void OpenList(MirrorDriver& driver, std::deque<float> weights = {}) {
-    driver.Draws.Draws = {0.9f};
-    driver.Draws.Draws.insert(driver.Draws.Draws.end(), weights.begin(), weights.end());
+    driver.Draws.Script = {0.9f};
+    driver.Draws.Script.insert(driver.Draws.Script.end(), weights.begin(), weights.end());
     driver.mirror->StartWindow();
     AskQuestion(driver);
 }
@@ -108,7 +108,7 @@ TEST_F(MirrorSuppose, SelectRefusedByTheDrawLeavesTheOutcomeOutUntilKeptAndCance
     Click(cmdRemove);
     EXPECT_EQ(State().DialogueText, "\r\n\r\n" + Quoted(Question) + "\r\n\tRefusal 1.");
     EXPECT_EQ(State().PairCount, 1);
-    Draws.Draws = {0.5f, 0.1f};
+    Draws.Script = {0.5f, 0.1f};
     AskQuestion(*this);
     Converse("another idea");
     Converse("a last idea");
