@@ -1,15 +1,14 @@
 #include "core/Text.h"
 #include "core/WholeFile.h"
 #include "dialogue/MirrorDriver.h"
-#include "dialogue/Transcript.h"
 #include "printing/ExportText.h"
 #include "storage/LibraryFileName.h"
 #include "support/FileFaults.h"
 
 #include <filesystem>
 #include <gtest/gtest.h>
+#include <map>
 #include <optional>
-#include <tuple>
 
 namespace veyrant::testing {
 namespace {
@@ -169,41 +168,62 @@ TEST(MirrorFinishNew, NewAsksOnlyForAnUnsavedDialogueAndResetsOnNo) {
     }
 }
 
-// A Prior Dialogue reopens with its age and the date it was written. The Library's limits can
-// take it the moment it is saved: when it is older than the days, or than every Dialogue of a
-// full Library. The user hears of it, and the Dialogue stays on the screen and in the buffers
-// instead of vanishing with the New that a save clicks.
-TEST(MirrorFinishPrior, APriorDialogueReopensWithItsAgeAndStaysWhenTheLimitsTakeItAtOnce) {
+// A Prior Dialogue reopens with its length, its age and the date it was written; continued, its
+// full view tells the length too. The Library's limits can take it the moment it is saved: when
+// it is older than the days, or than every Dialogue of a full Library. The user hears of it, and
+// the Dialogue stays on the screen and in the buffers instead of vanishing with the New that a
+// save clicks.
+TEST(MirrorFinishPrior, APriorDialogueReopensWithItsLengthAndAgeAndStaysWhenTheLimitsTakeIt) {
+    // A Dialogue of that many pairs: its pages in the title, its length in the full view.
+    const std::map<int, std::pair<std::string, std::string>> lengths = {
+        {4, {"1 Page", "less than 1 page"}},
+        {5, {"1 Page", "about 1 page"}},
+        {6, {"2 Pages", "about 2 pages"}},
+        {14, {"3 Pages", "about 3 pages"}}};
     const struct {
         DateTime Written;
-        std::string Title;
+        std::string Age;
+        int Pairs;
         std::int16_t MaxFiles = 0; // saved at once into a Library of 21 days and that many files
     } cases[] = {
-        {{2026, 11, 22, 8, 30, 0}, "0 Days -- Sunday, 8:30 am, November 22, 2026"},
-        {{2026, 11, 21, 21, 5, 0}, "1 Day -- Saturday, 9:05 pm, November 21, 2026"},
+        {{2026, 11, 22, 8, 30, 0}, "0 Days -- Sunday, 8:30 am, November 22, 2026", 4},
+        {{2026, 11, 21, 21, 5, 0}, "1 Day -- Saturday, 9:05 pm, November 21, 2026", 5},
         // Buffers dated after now, as when the clock was set back.
-        {{2026, 11, 25, 19, 0, 0}, "0 Days -- Wednesday, 7:00 pm, November 25, 2026"},
+        {{2026, 11, 25, 19, 0, 0}, "0 Days -- Wednesday, 7:00 pm, November 25, 2026", 6},
         // Older than the days, and older than a full Library.
-        {{2026, 10, 28, 9, 0, 0}, "25 Days Old -- Wednesday, 9:00 am, October 28, 2026", 30},
-        {{2026, 11, 19, 9, 0, 0}, "3 Days Old -- Thursday, 9:00 am, November 19, 2026", 1}};
+        {{2026, 10, 28, 9, 0, 0}, "25 Days Old -- Wednesday, 9:00 am, October 28, 2026", 14, 30},
+        {{2026, 11, 19, 9, 0, 0}, "3 Days Old -- Thursday, 9:00 am, November 19, 2026", 4, 1}};
     for (const auto& c : cases) {
-        SCOPED_TRACE(c.Title);
+        SCOPED_TRACE(c.Age);
         MirrorDriver driver;
-        driver.LeavePriorDialogue(3);
+        driver.LeavePriorDialogue(c.Pairs);
         driver.Clock.FileDates[driver.App.Folder.Exe() / "savei.tmp"] = c.Written;
         driver.mirror->StartWindow();
         EXPECT_EQ(driver.mirror->Controls().Title,
-                  "Veyrant Sagrel -- Dialogue, 1 Page, " + c.Title);
+                  "Veyrant Sagrel -- Dialogue, " + lengths.at(c.Pairs).first + ", " + c.Age);
         EXPECT_EQ(driver.Text(cmdRemove) + driver.Text(cmdNew) + driver.Text(cmdDisplay),
                   "ContinueNewFile");
         EXPECT_EQ(driver.Text(txtSaved).substr(0, 35), "Inspiration\r\n\r\n\tAn old inspiration.");
         EXPECT_TRUE(driver.Text(txtNote).starts_with("Click 'Continue' to open"));
-        EXPECT_EQ(driver.State().PairCount, 3);
+        EXPECT_EQ(driver.State().PairCount, c.Pairs);
         EXPECT_FALSE(driver.Box(cmdConverse).Enabled || driver.Box(cmdClear).Enabled);
         EXPECT_EQ(driver.Engine.Inspirations, 0); // the Dialogue keeps its own
         if (c.MaxFiles == 0) {
             driver.Click(cmdRemove); // Continue
             EXPECT_EQ(driver.Text(txtResponse), "Inspiration\r\n\tAn old inspiration.");
+            // The full view takes no keys and gives the window back as it was.
+            driver.Type("half an entry");
+            const std::string before = driver.mirror->Dump();
+            driver.Click(cmdDisplay);
+            EXPECT_EQ(driver.Text(cmdDisplay), "Write");
+            EXPECT_TRUE(driver.Text(txtNote).starts_with("Your Dialogue is " +
+                                                         lengths.at(c.Pairs).second + " long."));
+            EXPECT_FALSE(driver.Box(cmdNew).Enabled || driver.Box(lblRem).Visible);
+            EXPECT_EQ(driver.Box(txtSaved).Background, Colour::EntryYellow);
+            EXPECT_EQ(driver.Text(txtSaved).substr(0, 13), "Inspiration\r\n");
+            driver.Type("zz");
+            driver.Click(txtSaved);
+            EXPECT_EQ(driver.mirror->Dump(), before);
             continue;
         }
         driver.App.UserSettings.MaxLibraryFiles = c.MaxFiles;
@@ -217,42 +237,14 @@ TEST(MirrorFinishPrior, APriorDialogueReopensWithItsAgeAndStaysWhenTheLimitsTake
         const std::string dialogue = driver.State().DialogueText;
         driver.Click(cmdSave);
         EXPECT_EQ(driver.Titles(), "Dialogue Not Kept in the Library;");
-        EXPECT_EQ(driver.Layer.Boxes[0].Text.rfind("The Library keeps up to " +
-                                                       std::to_string(c.MaxFiles) +
-                                                       " Dialogues, none older than 21 days.",
-                                                   0),
-                  0u);
+        EXPECT_TRUE(driver.Layer.Boxes[0].Text.starts_with("The Library keeps up to " +
+                                                           std::to_string(c.MaxFiles) +
+                                                           " Dialogues, none older than 21 days."));
         EXPECT_FALSE(driver.Library.Holds(MakeFileName(c.Written)));
         EXPECT_TRUE(driver.Library.Holds(MakeFileName(later)));
-        EXPECT_EQ(driver.Kept(), "3:" + dialogue);
+        EXPECT_EQ(driver.Kept(), std::to_string(c.Pairs) + ":" + dialogue);
         EXPECT_EQ(driver.State().DialogueText, dialogue);
         EXPECT_TRUE(driver.Box(cmdSave).Enabled && !driver.Layer.Busy);
-    }
-}
-
-// The full view and the window's title tell the length of the Dialogue.
-TEST(MirrorTranscriptLength, DisplayTellsTheLengthAndWriteRestoresTheState) {
-    const std::tuple<int, std::string, std::string> cases[] = {{4, "less than 1 page", "1 Page"},
-                                                               {5, "about 1 page", "1 Page"},
-                                                               {6, "about 2 pages", "2 Pages"},
-                                                               {14, "about 3 pages", "3 Pages"}};
-    for (const auto& [pairCount, length, pages] : cases) {
-        SCOPED_TRACE(pairCount);
-        MirrorDriver driver;
-        ContinuePrior(driver, pairCount);
-        driver.Type("half an entry");
-        const std::string before = driver.mirror->Dump();
-        driver.Click(cmdDisplay);
-        EXPECT_EQ(driver.Text(cmdDisplay), "Write");
-        EXPECT_EQ(PagesTitle(pairCount), "Dialogue, " + pages);
-        EXPECT_TRUE(driver.Text(txtNote).starts_with("Your Dialogue is " + length + " long. "));
-        EXPECT_FALSE(driver.Box(cmdNew).Enabled || driver.Box(lblRem).Visible);
-        EXPECT_EQ(driver.Box(txtSaved).Background, Colour::EntryYellow);
-        EXPECT_EQ(driver.Text(txtSaved).substr(0, 13), "Inspiration\r\n");
-        // Keys are not typed into the hidden entry while the full view is up.
-        driver.Type("zz");
-        driver.Click(txtSaved);
-        EXPECT_EQ(driver.mirror->Dump(), before);
     }
 }
 
