@@ -306,7 +306,6 @@ TEST(MirrorUtilities, ADialogueTheBuffersCannotTakeCanBeSavedElsewhereOnTheWayOu
         bool NameChosen;
         int SaveError; // 0: the chosen place takes the file
     } cases[] = {
-        {"close, saved", std::nullopt, MessageAnswer::Yes, true, 0},
         {"Utilities, saved", cmdHelp, MessageAnswer::Yes, true, 0},
         {"Library Options, saved", cmdRetrieve, MessageAnswer::Yes, true, 0},
         {"close, save cancelled", std::nullopt, MessageAnswer::Yes, false, 0},

@@ -52,7 +52,6 @@ TEST(CheckEntry, SetsStatusAndType) {
     const std::tuple<int, std::int16_t, const char*, int, int> cases[] = {
         {1, 0, "Will I be happy?", -3, 77}, // a first entry must be longer and denser
         {1, 1, "Is it?", -2, 77},
-        {1, 1, "Is it ok?", -3, 77},
         {1, 1, "Will tomorrow bring happiness?", 1000, 1},
         {1, 1, "Is  it?", -3, 77}, // runs of blanks are not folded: two blanks are two gaps
         {1, 1, "Will tomorrow bring happiness?   ", 1000, 1},
@@ -66,10 +65,8 @@ TEST(CheckEntry, SetsStatusAndType) {
         {4, 0, "Hi\"", -1, 77},
         {2, 1, "Tomorrow brings happiness for everyone.", 2, 77}, // Supposition wants a question
         {2, 1, "What should I change about my work?", 1000, 20},
-        {2, 1, "What should I change about my work", 2, 77},
         {1, 1, "Why me? who knows?", -12, -2}, // inner marks become commas and start clauses
         {1, 1, "If I go. will it rain?", 1000, 1},
-        {1, 1, "Who knows; what matters now?", -12, -2},
         {1, 1, "I wondered who really knew it?", -13, -3},
         {1, 1, "Is it, is it, is it, is it, is it?", -11, -1},
         {1, 1, "Tell me about the weather?", -10, 0}};

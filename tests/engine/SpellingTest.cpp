@@ -140,7 +140,6 @@ TEST(Spelling, NamesEachUnknownWordWithItsFileAndLine) {
     const std::pair<const char*, const char*> files[] = {
         {"stocks/01.txt", "# The quiet mornnig is a comment.\n[Quiet-mornnig]\n(3) The quiet of "
                           "the mornnig\nYour Sagrel’s gentle voice\n\n[—]\n—\n—can\n"},
-        {"stocks/02.txt", "[Open]\nAn honest, open question\nYour parents’ wishes\n"},
         {"stocks/order.txt", "1: Quiet-mornnig Cond-lead\n"},
         {"suggestions.txt", "= Reveal What Is Hiden\nUse the Converse method to create new "
                             "ideas.\nClick ‘Keep’ and let it setle.\n"},
