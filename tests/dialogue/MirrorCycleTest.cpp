@@ -137,8 +137,7 @@ TEST(MirrorCycleTable, ARejectionShowsItsMessageAndInstruction) {
         {-12, 2, ">> The point of your entry is not clear. Ask a direct Supposition", startAgain},
         {-13, 1, ">> The meaning of your entry is not clear.", startAgain},
         {-14, 1, ">> The meaning of your entry cannot be deciphered.", startAgain},
-        {2, 2, ">> Statements are not valid for Supposition.", startAgain},
-        {-100, 2, YesNoRefusal, startAgain}};
+        {2, 2, ">> Statements are not valid for Supposition.", startAgain}};
     for (const auto& c : cases) {
         SCOPED_TRACE(c.Message);
         MirrorDriver driver;
@@ -181,8 +180,7 @@ TEST(MirrorComposed, ADialogueOfSeveralCyclesWithTheRealEngine) {
     // before: after a yes-or-no question in Suppose, every such refusal is the yes-or-no one.
     driver.Click(cmdSuppose);
     for (const char* early : {"Tomorrow will bring happiness for all.", "Tomorrow, maybe, perhaps?",
-                              "Is it not so, is it?", "Will tomorrow bring happiness",
-                              "Will tomorrow bring happiness\""}) {
+                              "Will tomorrow bring happiness"}) {
         SCOPED_TRACE(early);
         driver.Converse("Will tomorrow bring happiness for all?");
         ASSERT_TRUE(driver.Text(txtResponse).starts_with(YesNoRefusal));

@@ -143,9 +143,7 @@ TEST(MirrorFinishNew, NewAsksOnlyForAnUnsavedDialogueAndResetsOnNo) {
         driver.Click(c.SavedFirst ? cmdSave : cmdNew);
         EXPECT_EQ(driver.Library.Listing().LibraryCount, c.SavedFirst ? 1 : 0);
         EXPECT_EQ(driver.Titles(), c.Asked ? "Save Finished Dialogue;" : "");
-        if (c.Asked) {
-            EXPECT_EQ(driver.Layer.Boxes[0].Buttons, MessageButtons::YesNoCancel);
-        }
+        EXPECT_TRUE(!c.Asked || driver.Layer.Boxes[0].Buttons == MessageButtons::YesNoCancel);
         EXPECT_EQ(driver.Kept(), c.Reset ? "none" : "1:\r\n\r\n" + OnePair);
         if (!c.Reset) {
             EXPECT_EQ(driver.Text(cmdNew), "New");

@@ -20,8 +20,7 @@ TEST_F(MirrorHelp, HelpShowsAfterATickEndsByItselfAfterSevenAndFollowsTheState) 
         Clock.Date.Minute = minute; // one file name per minute
         ASSERT_TRUE(Library.AddToLibrary("\tInspiration.", "\r\n\r\n\tA comment."));
         mirror->MouseMove(txtMirror);
-        EXPECT_EQ(Help(cmdRetrieve), "Open the Dialogue Library to access your " +
-                                         std::string(saved) + " Right-click for Library Options.");
+        EXPECT_NE(Help(cmdRetrieve).find(std::string("access your ") + saved), std::string::npos);
     }
     Click(cmdConverse);
     const std::string instruction = Text(txtNote);

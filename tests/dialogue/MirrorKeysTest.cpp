@@ -23,8 +23,7 @@ TEST(MirrorKeysCount, MarkAndInstructionFollowTheLaggingCount) {
         EntryLength EntryFit;
         std::string Note = {}; // words of the instruction, when the row checks it
     } cases[] = {
-        {cmdConverse, 1, "X", Colour::InkWarn, EntryLength::TooShort, "Type to reach the minimum"},
-        {cmdConverse, 18, "X", Colour::InkWarn, EntryLength::TooShort},
+        {cmdConverse, 18, "X", Colour::InkWarn, EntryLength::TooShort, "Type to reach the minimum"},
         {cmdConverse, 19, nullptr, Colour::Black, EntryLength::Fits, "Ready to enter"},
         {cmdConverse, 91, nullptr, Colour::Black, EntryLength::Fits},
         {cmdConverse, 92, "8", Colour::InkNear, EntryLength::Fits, "space for about 8 more words"},

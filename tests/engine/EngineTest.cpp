@@ -32,8 +32,6 @@ std::string ShippedWith(std::string_view from, std::string_view to) {
 using LoadSystem = testing::EngineFixture;
 
 TEST_F(LoadSystem, ADamagedTableFileEndsTheStartWithItsBox) {
-    const std::string tooLarge =
-        "DESIGN ERROR: Sysblocks too large for current system design. Sysblocks=";
     const std::pair<std::string, std::string> cases[] = {
         {ShippedWith("\"Parity\"", "7, \"Parity\""), ParityText},
         {ShippedWith("\"Parity\"", "\"Parity\"").replace(0, 1, "x"), MemoryText},
@@ -47,7 +45,8 @@ TEST_F(LoadSystem, ADamagedTableFileEndsTheStartWithItsBox) {
         // Counts far beyond what the file holds are refused before anything is allocated.
         {SmallSystemFile(14).replace(6, 4, "32767, 1"), MemoryText},
         {ShippedWith("\r\n4\r\n1\r\n14\r\n", "\r\n4\r\n1\r\n32767\r\n"), MemoryText},
-        {SmallSystemFile(15), tooLarge + "15 exceeds MaxDataBlocks=14"},
+        {SmallSystemFile(15), "DESIGN ERROR: Sysblocks too large for current system design. "
+                              "Sysblocks=15 exceeds MaxDataBlocks=14"},
         {SmallSystemFile(13), "Incorrect number=14 of LCMs in LoadSystem. Probable missing BAS "
                               "file(s) in system MAK. Required SysBlocks=13"}};
     for (const auto& [systemFile, text] : cases) {
