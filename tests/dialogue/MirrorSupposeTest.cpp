@@ -165,11 +165,10 @@ TEST_F(MirrorSuppose, SelectRefusedByTheDrawLeavesTheOutcomeOutUntilKeptAndCance
 // not stay over them.
 TEST(MirrorSupposeTable, AnIdeaIsFiledCappedWithOneClosingMark) {
     const std::pair<std::string, std::string> cases[] = {{"walk to school.", "Walk to school."},
-
                                                          {"walk?!", "Walk?."},
                                                          {"  2 alarms  ", "2 alarms."},
-                                                         {"ab!", "Ab."},
 
+                                                         {"ab!", "Ab."},
                                                          {"    ", ""}};
     for (const auto& [typed, filed] : cases) {
         MirrorDriver driver;

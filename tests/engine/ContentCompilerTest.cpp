@@ -130,7 +130,6 @@ TEST(StockTally, CountsRowsAndChecksTheLabelTable) {
     using Labels = std::vector<std::string>;
     const std::tuple<const char*, int, std::array<int, 3>, Labels, Labels, bool> cases[] = {
         {InOrder, 10, {11, 4, 3}, {}, {}, true},
-
         {InOrder, 13, {11, 4, 3}, {}, {}, false},
         {"[Alpha]\n(5) One\n[Gamma]\n(3) Three\n", 10, {10, 2, 6}, {"Beta"}, {}, false},
         {BetaFirst, 10, {9, 3, 3}, {}, {"Beta"}, false}};

@@ -17,8 +17,7 @@ TEST(ClassifyEntry, GivesTheSentenceTypeAndLeavesThePreparedForm) {
     const std::pair<std::int16_t, std::vector<const char*>> cases[] = {
         {1,
          {"Will I be happy?", "I will go?", "Do you think I will go?", "If I go, will it rain?",
-          "Is it somewhere near?", "However, can it work?", "When I was young, did I know?",
-          "You love me, don't you?"}},
+          "Is it somewhere near?", "However, can it work?", "You love me, don't you?"}},
         {10, {"Who am I?"}},
         {20,
          {"What is love?", "Tell me what is love?", "Which road should I take?",
@@ -66,7 +65,6 @@ TEST(CheckEntry, SetsStatusAndType) {
         {2, 1, "Tomorrow brings happiness for everyone.", 2, 77}, // Supposition wants a question
         {2, 1, "What should I change about my work?", 1000, 20},
         {1, 1, "Why me? who knows?", -12, -2}, // inner marks become commas and start clauses
-        {1, 1, "If I go. will it rain?", 1000, 1},
         {1, 1, "I wondered who really knew it?", -13, -3},
         {1, 1, "Is it, is it, is it, is it, is it?", -11, -1},
         {1, 1, "Tell me about the weather?", -10, 0}};
