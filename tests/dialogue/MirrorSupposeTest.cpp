@@ -167,7 +167,6 @@ TEST(MirrorSupposeTable, AnIdeaIsFiledCappedWithOneClosingMark) {
     const std::pair<std::string, std::string> cases[] = {{"walk to school.", "Walk to school."},
                                                          {"walk?!", "Walk?."},
                                                          {"  2 alarms  ", "2 alarms."},
-
                                                          {"ab!", "Ab."},
                                                          {"    ", ""}};
     for (const auto& [typed, filed] : cases) {
