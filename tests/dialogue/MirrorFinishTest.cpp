@@ -21,13 +21,6 @@ const std::string Question = "what would make Sunday evenings lighter?";
 const std::string Entry = "What am I still carrying from last winter?";
 const std::string OnePair = Quoted(Statement) + "\r\n\tAnswer 1 to type 2.";
 
-// Reopens a Prior Dialogue of that many items and continues it in Converse.
-void ContinuePrior(MirrorDriver& driver, int pairCount) {
-    driver.LeavePriorDialogue(pairCount);
-    driver.mirror->StartWindow();
-    driver.Click(cmdRemove);
-}
-
 // Closes the window, or right-clicks on the Help or the Library button for the Utilities or the
 // Library Options window, which puts it out of the way; true when the program went on.
 bool Leave(MirrorDriver& driver, std::optional<MirrorControl> rightClick) {
@@ -249,7 +242,9 @@ TEST(MirrorFinishPrior, APriorDialogueReopensWithItsLengthAndAgeAndStaysWhenTheL
 // The advice comes once, at the 61st pair; from 100 every fifth Enter warns, refused entries
 // counted; at 121 every entry is refused.
 TEST_F(MirrorTranscript, AdviceOnceThenWarningsThenTheLimitOfOneHundredTwentyOne) {
-    ContinuePrior(*this, 60);
+    LeavePriorDialogue(60);
+    mirror->StartWindow();
+    Click(cmdRemove); // Continue
     Converse(Entry);
     EXPECT_TRUE(Layer.Boxes.empty());
     Enter();
