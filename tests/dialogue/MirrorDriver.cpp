@@ -1,7 +1,6 @@
 #include "dialogue/MirrorDriver.h"
 
 #include "core/Text.h"
-#include "engine/EngineFiles.h"
 
 #include <stdexcept>
 
@@ -64,10 +63,6 @@ std::string Quoted(const std::string& entry) {
     std::string text = std::string{Tab, OpenQuote} + entry + CloseQuote;
     UpperAt(text, 3);
     return text;
-}
-
-float ScriptedRandom::Draw() {
-    return Draws.empty() ? Random::Draw() : Next(Draws, 0.0f);
 }
 
 MirrorDriver::MirrorDriver(int displayOption, Replies replies)

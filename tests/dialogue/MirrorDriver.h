@@ -5,11 +5,11 @@
 
 #include "app/Application.h"
 #include "core/KeyCodes.h"
-#include "core/Random.h"
 #include "dialogue/DialogueEngine.h"
 #include "dialogue/EngineDialogue.h"
 #include "dialogue/Mirror.h"
 #include "engine/Engine.h"
+#include "engine/EngineFixture.h"
 #include "storage/DialogueLibrary.h"
 #include "storage/WorkBuffers.h"
 #include "support/FakeClock.h"
@@ -56,13 +56,6 @@ public:
     std::vector<float> KeyTimes;
     int Compositions = 0, Inspirations = 0, Guidances = 0;
     std::string Last;
-};
-
-// Draws from a script while it lasts, then as the program's own generator does.
-class ScriptedRandom : public Random {
-public:
-    float Draw() override;
-    std::deque<float> Draws;
 };
 
 // An entry as the Dialogue keeps it: tab, opening mark, first letter capitalised, closing mark.

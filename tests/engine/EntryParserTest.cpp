@@ -17,14 +17,13 @@ TEST(ClassifyEntry, GivesTheSentenceTypeAndLeavesThePreparedForm) {
     const std::pair<std::int16_t, std::vector<const char*>> cases[] = {
         {1,
          {"Will I be happy?", "I will go?", "Do you think I will go?", "If I go, will it rain?",
-          "Is it somewhere near?", "However, can it work?", "When I was young, did I know?",
-          "You love me, don't you?"}},
-        {10, {"Who am I?", "Whose turn is it?"}},
+          "Is it somewhere near?", "However, can it work?", "You love me, don't you?"}},
+        {10, {"Who am I?"}},
         {20,
          {"What is love?", "Tell me what is love?", "Which road should I take?",
           "What else can I do?"}},
         {30, {"When will you know?"}},
-        {40, {"Where is my home?", "Where else would you go?"}},
+        {40, {"Where is my home?"}},
         {50, {"WHY DO I DREAM?"}},
         {60, {"How can I grow?"}},
         {0,
@@ -51,10 +50,7 @@ TEST(CheckEntry, SetsStatusAndType) {
     // Method, pairs so far, entry, its status and its type (77: left as it was).
     const std::tuple<int, std::int16_t, const char*, int, int> cases[] = {
         {1, 0, "Will I be happy?", -3, 77}, // a first entry must be longer and denser
-        {1, 0, "Is it?", -2, 77},
         {1, 1, "Is it?", -2, 77},
-        {1, 1, "Is it ok?", -3, 77},
-        {1, 0, "Will tomorrow bring happiness?", 1000, 1},
         {1, 1, "Will tomorrow bring happiness?", 1000, 1},
         {1, 1, "Is  it?", -3, 77}, // runs of blanks are not folded: two blanks are two gaps
         {1, 1, "Will tomorrow bring happiness?   ", 1000, 1},
@@ -68,10 +64,7 @@ TEST(CheckEntry, SetsStatusAndType) {
         {4, 0, "Hi\"", -1, 77},
         {2, 1, "Tomorrow brings happiness for everyone.", 2, 77}, // Supposition wants a question
         {2, 1, "What should I change about my work?", 1000, 20},
-        {2, 1, "What should I change about my work", 2, 77},
         {1, 1, "Why me? who knows?", -12, -2}, // inner marks become commas and start clauses
-        {1, 1, "If I go. will it rain?", 1000, 1},
-        {1, 1, "Who knows; what matters now?", -12, -2},
         {1, 1, "I wondered who really knew it?", -13, -3},
         {1, 1, "Is it, is it, is it, is it, is it?", -11, -1},
         {1, 1, "Tell me about the weather?", -10, 0}};
