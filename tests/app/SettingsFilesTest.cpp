@@ -44,7 +44,6 @@ TEST(SettingsFiles, PreferencesAreKeptByKeyAndRepairThemselves) {
         {"SpellingMarks 0\r\n", true, defaults},
         {"version 1\r\nSpellingMarks 2\r\n", true, defaults},
         {"version 1\r\nSpellingMarks\r\n", true, defaults},
-        {"version 2\r\nSpellingMarks 0\r\n", true, defaults},
     };
     for (const auto& [text, marks, saved] : cases) {
         AppFixture fixture;
@@ -77,7 +76,6 @@ TEST(SettingsFiles, ReadInAnySpacingOrRepairedWithTheScreensOption) {
          {1, 1, 0, 0, 0, 0, 1, 1, 7, 21, 0, 0},
          ""},
         {" 2 \r\n 3 \r\n 1  0  1  0 \r\n 1  1 \r\n 2 \r\n 14  99 \r\n 1 \r\n", 1024, read, ""},
-        {"2,3,1,0,1,0,1,1,2,14,99,1\r\n", 1024, read, ""},
         {"  2 ,\t3\r\n\r\n1 0,1 0\r\n1,1\r\n2\r\n14 , 99\r\n1", 1024, read, ""},
         // Six lines: GuestMode is missing, so every value read so far is dropped too.
         repaired(" 2 \r\n 3 \r\n 1  1  1  1 \r\n 1  1 \r\n 3 \r\n 5  6 \r\n", 1024, 1),

@@ -195,11 +195,8 @@ TEST(StartUp, AnyFailureOfTheStartEndsInTheSystemErrorBox) {
         EXPECT_EQ(box.Buttons, MessageButtons::Ok);
         EXPECT_TRUE(fixture.Windows.WindowEvents.empty());
     }
-    EXPECT_EQ(SystemErrorBox(35).Title,
-              "System Conflict, Error 35 -- Close Programs and Log In Again");
-    EXPECT_NE(SystemErrorBox(1001).Text.find("support@veyrant-sagrel.org that you encountered "
-                                             "System Error 1001"),
-              std::string::npos);
+    EXPECT_TRUE(SystemErrorBox(35).Title.starts_with("System Conflict, Error 35 --"));
+    EXPECT_NE(SystemErrorBox(1001).Text.find("System Error 1001"), std::string::npos);
 }
 
 } // namespace

@@ -83,7 +83,6 @@ TEST_F(OptionsTest, CleanDeletesEveryDialogueAfterAskingOnce) {
     // Opened again on the empty Library, it has nothing to clean.
     Window.Form_Load();
     EXPECT_TRUE(Shown.Label4.Caption == "There are no files to clean." && !Shown.cmdClean.Enabled);
-    EXPECT_NE(Window.Dump().find("cmdClean disabled\n"), std::string::npos);
 }
 
 } // namespace

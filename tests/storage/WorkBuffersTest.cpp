@@ -57,7 +57,6 @@ TEST_F(WorkBuffersTest, GuestModeMissingDeletedAndDamagedBuffers) {
         {" #\r\n", 3},
         {" 3 \r\n 3 \r\n", 3},
         {" 3 \r\n" + std::string(100, ' '), 3},
-        {" 3 \r\n", 3},
         {" 2 \r\n", 2},
         {"5", 5},
     };
