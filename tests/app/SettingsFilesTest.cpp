@@ -84,7 +84,6 @@ TEST(SettingsFiles, ReadInAnySpacingOrRepairedWithTheScreensOption) {
         repaired(nullptr, 1279, 1),
         repaired(nullptr, 1280, 2),
         repaired(" 2 \r\n x \r\n 0  0  0  0 \r\n 1  1 \r\n 1 \r\n 21  30 \r\n 0 \r\n", 1920, 2),
-        repaired("", 1920, 2),
     };
     for (const Case& c : cases) {
         AppFixture fixture;
@@ -103,8 +102,6 @@ TEST(SettingsFiles, ReadPlacesKeepTheRequestMadeInMemory) {
     using enum OpenFlag;
     const std::tuple<const char*, OpenFlag, const char*, const char*> cases[] = {
         {"0 5\r\n0 -1\r\n0 7\r\n0 8\r\n", Marked, "1 5,1 -1,1 7,1 8,", nullptr},
-        {"0 5\r\n0 -1\r\n0 7\r\n0 8\r\n", None, "0 5,0 -1,0 7,0 8,", nullptr},
-        {"1 5\r\n1 -1\r\n1 7\r\n1 8\r\n", None, "1 5,1 -1,1 7,1 8,", nullptr},
         {"2 5\r\n2 -1\r\n2 7\r\n2 8\r\n", Marked, "2 5,2 -1,2 7,2 8,", nullptr},
         {nullptr, Marked, "1 0,1 0,1 0,1 0,", ZeroPlaces},
         {"1 2 3", None, "0 0,0 0,0 0,0 0,", ZeroPlaces},

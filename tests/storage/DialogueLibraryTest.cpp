@@ -15,15 +15,6 @@ TEST_F(DialogueLibraryTest, EqualKeysLeaveTheOneListedFirstAsTheLater) {
               "76112010.00176112010.000");
 }
 
-TEST_F(DialogueLibraryTest, AMissingDialogueFileStopsTheRetentionWithTheLibraryBox) {
-    UserSettings.MaxLibraryFiles = 1;
-    const auto oldest = SaveAt(DaysAgo(3));
-    SaveAt(DaysAgo(1));
-    std::filesystem::remove(Folder.Dlg() / oldest);
-    EXPECT_FALSE(Library.ScanLibrary());
-    EXPECT_EQ(BoxTitles(), std::vector<std::string>{"Error 53 Dialogue Library File Names"});
-}
-
 TEST_F(DialogueLibraryTest, StrayNamesInTheInspirationFolderCountAsDialogues) {
     const auto saved = SaveAt(DaysAgo(1));
     // Hidden files are no Dialogues: among them a write of ours cut short.
