@@ -33,11 +33,12 @@ std::string Places(const ReadSettings& read) {
 
 const char* const ZeroPlaces = " 0  0 \r\n 0  0 \r\n 0  0 \r\n 0  0 \r\n";
 
-// Preferences.ini is read and written with Tolmira.ini. A damaged one becomes the defaults in
-// silence, a key of another build is kept, and a damaged Tolmira.ini leaves it as it was.
-TEST(SettingsFiles, PreferencesAreKeptByKeyAndRepairThemselves) {
+// Each file is read as it stands or repairs itself in silence. Preferences.ini is read and
+// written with Tolmira.ini: a damaged one becomes the defaults, a key of another build is kept,
+// and a damaged Tolmira.ini leaves it as it was.
+TEST(SettingsFiles, EachFileIsReadAsItStandsOrRepairsItselfInSilence) {
     const char* const defaults = "version 1\r\nSpellingMarks 1\r\n";
-    const std::tuple<const char*, bool, const char*> cases[] = {
+    const std::tuple<const char*, bool, const char*> preferences[] = {
         {nullptr, true, defaults},
         {"version 1\nLastFolder /home/a b\nSpellingMarks 0\n", false,
          "version 1\r\nSpellingMarks 0\r\nLastFolder /home/a b\r\n"},
@@ -45,7 +46,7 @@ TEST(SettingsFiles, PreferencesAreKeptByKeyAndRepairThemselves) {
         {"version 1\r\nSpellingMarks 2\r\n", true, defaults},
         {"version 1\r\nSpellingMarks\r\n", true, defaults},
     };
-    for (const auto& [text, marks, saved] : cases) {
+    for (const auto& [text, marks, saved] : preferences) {
         AppFixture fixture;
         fixture.PutExeFile("Tolmira.ini", "damaged");
         fixture.PutExeFile("Preferences.ini", text);
@@ -54,11 +55,8 @@ TEST(SettingsFiles, PreferencesAreKeptByKeyAndRepairThemselves) {
         EXPECT_EQ(fixture.ExeFile("Preferences.ini"), saved) << text;
         EXPECT_TRUE(fixture.Windows.Boxes.empty());
     }
-}
-
-// A readable file is used as it stands, in any spacing and out of range, and is not rewritten; a
-// damaged one repairs itself in silence with the defaults and the option for the screen.
-TEST(SettingsFiles, ReadInAnySpacingOrRepairedWithTheScreensOption) {
+    // Tolmira.ini is used as it stands, in any spacing and out of range, and is not rewritten; a
+    // damaged one is repaired with the defaults and the option for the screen.
     struct Case {
         const char* Text; // nullptr: no file
         int ScreenPixels;
@@ -70,7 +68,7 @@ TEST(SettingsFiles, ReadInAnySpacingOrRepairedWithTheScreensOption) {
         return Case{
             text, pixels, {1, 1, 0, 0, 0, 0, 1, 1, option, 21, 30, 0}, SettingsText(option)};
     };
-    const Case cases[] = {
+    const Case settings[] = {
         {" 1 \r\n 1 \r\n 0  0  0  0 \r\n 1  1 \r\n 7 \r\n 21  0 \r\n 0",
          1024,
          {1, 1, 0, 0, 0, 0, 1, 1, 7, 21, 0, 0},
@@ -85,7 +83,7 @@ TEST(SettingsFiles, ReadInAnySpacingOrRepairedWithTheScreensOption) {
         repaired(nullptr, 1280, 2),
         repaired(" 2 \r\n x \r\n 0  0  0  0 \r\n 1  1 \r\n 1 \r\n 21  30 \r\n 0 \r\n", 1920, 2),
     };
-    for (const Case& c : cases) {
+    for (const Case& c : settings) {
         AppFixture fixture;
         fixture.PutExeFile("Tolmira.ini", c.Text);
         fixture.Windows.ScreenWidth = c.ScreenPixels * TwipsPerPixel;
@@ -94,13 +92,10 @@ TEST(SettingsFiles, ReadInAnySpacingOrRepairedWithTheScreensOption) {
         EXPECT_EQ(fixture.ExeFile("Tolmira.ini"), c.Saved.empty() ? c.Text : c.Saved) << c.Text;
         EXPECT_TRUE(fixture.Windows.Boxes.empty()) << c.Text;
     }
-}
-
-// The flags read keep a request made in memory; a damaged file is laid down as zeros in silence
-// and the request stands.
-TEST(SettingsFiles, ReadPlacesKeepTheRequestMadeInMemory) {
+    // The flags of Read.ini keep a request made in memory; a damaged file is laid down as zeros
+    // and the request stands.
     using enum OpenFlag;
-    const std::tuple<const char*, OpenFlag, const char*, const char*> cases[] = {
+    const std::tuple<const char*, OpenFlag, const char*, const char*> placesRead[] = {
         {"0 5\r\n0 -1\r\n0 7\r\n0 8\r\n", Marked, "1 5,1 -1,1 7,1 8,", nullptr},
         {"2 5\r\n2 -1\r\n2 7\r\n2 8\r\n", Marked, "2 5,2 -1,2 7,2 8,", nullptr},
         {nullptr, Marked, "1 0,1 0,1 0,1 0,", ZeroPlaces},
@@ -108,7 +103,7 @@ TEST(SettingsFiles, ReadPlacesKeepTheRequestMadeInMemory) {
         {"1 2 3 4 5 6 7 x", Marked, "1 0,1 0,1 0,1 0,", ZeroPlaces},
         {"3 5 0 -1 0 7 0 8", None, "0 0,0 0,0 0,0 0,", ZeroPlaces},
     };
-    for (const auto& [text, requested, places, saved] : cases) {
+    for (const auto& [text, requested, places, saved] : placesRead) {
         AppFixture fixture;
         fixture.PutExeFile("Read.ini", text);
         ReadSettings& read = fixture.App.ReaderSettings;
