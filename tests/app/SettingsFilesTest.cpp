@@ -114,6 +114,37 @@ TEST(SettingsFiles, EachFileIsReadAsItStandsOrRepairsItselfInSilence) {
         EXPECT_EQ(fixture.ExeFile("Read.ini"), saved == nullptr ? text : saved);
         EXPECT_TRUE(fixture.Windows.Boxes.empty());
     }
+    // A pipe would hold the start for ever and a device would fill the memory; a file past the
+    // limit is no file the program wrote. Each is damaged, and the usual repair or box follows.
+    for (const auto& [kind, error] : {std::pair{"pipe", 75}, {"device", 75}, {"oversized", 7}}) {
+        SCOPED_TRACE(kind);
+        AppFixture fixture;
+        for (const char* name : {"Tolmira.ini", "Read.ini", "Qdrfonts.ini"}) {
+            const auto path = fixture.Folder.Exe() / name;
+            if (kind == std::string("pipe")) {
+                ASSERT_EQ(::mkfifo(path.c_str(), 0600), 0);
+            } else if (kind == std::string("device")) {
+                std::filesystem::create_symlink("/dev/zero", path);
+            } else {
+                fixture.PutExeFile(name, SettingsText(2, 2) + std::string(70000, ' '));
+            }
+        }
+        fixture.Windows.ScreenWidth = 1024 * TwipsPerPixel;
+        LoadSettings(fixture.App);
+        fixture.App.ReaderSettings.OpenFlags[LibraryId::Knowledge] = OpenFlag::Marked;
+        LoadReadSettings(fixture.App);
+        LoadFontNames(fixture.App);
+        EXPECT_EQ(fixture.ExeFile("Tolmira.ini"), SettingsText(1));
+        EXPECT_TRUE(std::filesystem::is_regular_file(
+            std::filesystem::symlink_status(fixture.Folder.Exe() / "Tolmira.ini")));
+        EXPECT_EQ(fixture.ExeFile("Read.ini"), ZeroPlaces);
+        EXPECT_EQ(fixture.App.ReaderSettings.OpenFlags[LibraryId::Knowledge], OpenFlag::Marked);
+        ASSERT_EQ(fixture.Windows.Boxes.size(), 1u);
+        const std::string n = std::to_string(error);
+        EXPECT_TRUE(fixture.Windows.Boxes[0].Text.starts_with(
+            "Error " + n + " loading file " + (fixture.Folder.Exe() / "Qdrfonts.ini").string() +
+            "."));
+    }
 }
 
 // Saves write every value in its place, a negative one with its minus sign; whether a save cut
@@ -141,41 +172,6 @@ TEST(SettingsFiles, SavesWriteEveryValueAndAFileThatCannotBeWrittenIsToldAndOnly
     const MessageBoxRequest& box = fixture.Windows.Boxes.back();
     EXPECT_EQ(box.Title, "Error 61 Storing the Settings");
     EXPECT_NE(box.Text.find("The disk is full."), std::string::npos) << box.Text;
-}
-
-// A pipe would hold the start for ever and a device would fill the memory; a file past the
-// limit is no file the program wrote. Each is damaged, and the usual repair or box follows.
-TEST(SettingsFiles, OnlyASmallRegularFileIsRead) {
-    for (const auto& [kind, error] : {std::pair{"pipe", 75}, {"device", 75}, {"oversized", 7}}) {
-        SCOPED_TRACE(kind);
-        AppFixture fixture;
-        for (const char* name : {"Tolmira.ini", "Read.ini", "Qdrfonts.ini"}) {
-            const auto path = fixture.Folder.Exe() / name;
-            if (kind == std::string("pipe")) {
-                ASSERT_EQ(::mkfifo(path.c_str(), 0600), 0);
-            } else if (kind == std::string("device")) {
-                std::filesystem::create_symlink("/dev/zero", path);
-            } else {
-                fixture.PutExeFile(name, SettingsText(2, 2) + std::string(70000, ' '));
-            }
-        }
-        fixture.Windows.ScreenWidth = 1024 * TwipsPerPixel;
-        LoadSettings(fixture.App);
-        fixture.App.ReaderSettings.OpenFlags[LibraryId::Knowledge] = OpenFlag::Marked;
-        LoadReadSettings(fixture.App);
-        LoadFontNames(fixture.App);
-
-        EXPECT_EQ(fixture.ExeFile("Tolmira.ini"), SettingsText(1));
-        EXPECT_TRUE(std::filesystem::is_regular_file(
-            std::filesystem::symlink_status(fixture.Folder.Exe() / "Tolmira.ini")));
-        EXPECT_EQ(fixture.ExeFile("Read.ini"), ZeroPlaces);
-        EXPECT_EQ(fixture.App.ReaderSettings.OpenFlags[LibraryId::Knowledge], OpenFlag::Marked);
-        ASSERT_EQ(fixture.Windows.Boxes.size(), 1u);
-        const std::string n = std::to_string(error);
-        EXPECT_TRUE(fixture.Windows.Boxes[0].Text.starts_with(
-            "Error " + n + " loading file " + (fixture.Folder.Exe() / "Qdrfonts.ini").string() +
-            "."));
-    }
 }
 
 } // namespace
