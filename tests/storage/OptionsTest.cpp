@@ -14,9 +14,8 @@ protected:
     const OptionsControls& Shown = Window.Controls();
 };
 
-// Clean deletes every Dialogue after asking once: a missing Dialogue file stops it with its box,
-// and opened again, the window cleans the rest. OK clamps the limits and asks before they would
-// delete.
+// A missing Dialogue file stops the clean with its box; opened again, the window cleans the rest.
+// OK then clamps the limits and asks before they would delete.
 TEST_F(OptionsTest, CleanDeletesEveryDialogueAfterAskingOnceAndOkClampsTheLimitsAndAsks) {
     const auto first = SaveAt(DaysAgo(2));
     const auto second = SaveAt(DaysAgo(1));
