@@ -25,7 +25,6 @@ TEST(FirstRun, LaysDownTheFoldersWithTheFacesThisMachineHasForTheUserAloneAndChe
         {0, 0, ""},
         {0755, 0644, "Times New Roman"},
         {0777, 0666, "Times New Roman/italic"},
-        {0700, 0600, ""},
         {0700, 0400, ""},
     };
     for (const auto& [folderRights, fileRights, missing] : cases) {

@@ -10,7 +10,8 @@
 namespace veyrant {
 namespace {
 
-TEST(DateFormat, EveryPatternOfTheProgram) {
+// Every pattern of the program, and day numbers that subtract to ages in days.
+TEST(DateFormat, EveryPatternOfTheProgramAndDayNumbers) {
     const DateTime pm{2005, 7, 19, 14, 30, 5};
     const DateTime am{2026, 1, 4, 0, 7, 0};
     const struct {
@@ -30,9 +31,6 @@ TEST(DateFormat, EveryPatternOfTheProgram) {
     for (const auto& c : cases) {
         EXPECT_EQ(FormatDate(c.When, c.Pattern), c.Expected) << c.Pattern;
     }
-}
-
-TEST(DateTime, DayNumbersSubtractToAgesInDays) {
     const DateTime saved{2026, 2, 27, 18, 0, 0};
     EXPECT_DOUBLE_EQ(DayNumber(DateTime{2026, 3, 1, 6, 0, 0}) - DayNumber(saved), 1.5);
     EXPECT_EQ(std::tuple(RoundDays(1.5), RoundDays(2.5), RoundDays(-0.5)), std::tuple(2, 2, 0));

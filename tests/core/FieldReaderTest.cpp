@@ -7,7 +7,9 @@
 namespace veyrant {
 namespace {
 
-TEST(FieldReader, FailuresCarryTheirNumbers) {
+// Numbers read alike in any spacing or separator; strings quoted or bare, the limits of each
+// width, and an empty field between commas as zero; failures carry their numbers.
+TEST(FieldReader, NumbersInAnySpacingStringsQuotedOrBareTheLimitsOfEachWidthAndFailures) {
     const struct {
         std::string Text;
         bool Wide;
@@ -26,11 +28,6 @@ TEST(FieldReader, FailuresCarryTheirNumbers) {
             EXPECT_EQ(error.Number(), c.Error) << c.Text;
         }
     }
-}
-
-// Numbers read alike in any spacing or separator; strings quoted or bare, the limits of each
-// width, and an empty field between commas as zero.
-TEST(FieldReader, NumbersInAnySpacingStringsQuotedOrBareAndTheLimitsOfEachWidth) {
     for (const std::string form :
          {" 1 \r\n 2 \r\n 0  -1 \r\n 21 \r\n", "1,2,0,-1,21", "1\n2\n0\n-1\n21",
           "1\r2\r0\r-1\r21\r", "  1 ,  2,0 , -1\r\n\r\n21", "1 2 0 -1 21"}) {

@@ -8,7 +8,7 @@
 namespace veyrant {
 namespace {
 
-TEST(Text, PositionsCountFromOneAndNeverFailAndCaseFollowsWindows1252) {
+TEST(Text, PositionsCountFromOneCaseFollowsWindows1252AndFindNoCaseAgreesWithLowerCasedCopies) {
     EXPECT_EQ(Mid("\t\x93Hello", 3) + "|" + Mid("abcdef", 2, 3) + "|" + Mid("abc", 5) + "|" +
                   Mid("abc", 0, 2) + "|" + Left("abc", 5) + "|" + Left("abc", 0) + "|" +
                   Right("abcdef", 2) + "|" + Right("ab", 9),
@@ -24,11 +24,8 @@ TEST(Text, PositionsCountFromOneAndNeverFailAndCaseFollowsWindows1252) {
     EXPECT_EQ(entry, "\t\x93What now?");
     LowerAt(entry, 99); // out of range: unchanged
     EXPECT_EQ(entry, "\t\x93What now?");
-}
-
-// The search's matching skips the lower-case copies; it must find exactly what comparing two
-// lower-cased copies finds, at every start, for every byte and for overlapping hits.
-TEST(Text, FindNoCaseAgreesWithComparingLowerCasedCopies) {
+    // The search's matching skips the lower-case copies; it must find exactly what comparing two
+    // lower-cased copies finds, at every start, for every byte and for overlapping hits.
     const auto literal = [](std::string_view text, std::string_view needle, long start) {
         return Find(Lower(text), Lower(needle), start);
     };

@@ -30,8 +30,9 @@ std::vector<std::string> Marked(const SpellChecker& checker, std::string_view te
     return words;
 }
 
-// Finished words the dictionary does not know are marked; an added word is known.
-TEST(SpellChecker, MarksFinishedWordsTheDictionaryDoesNotKnow) {
+// Finished words the dictionary does not know are marked; an added word is known. The dictionary
+// is chosen by the user's language.
+TEST(SpellChecker, MarksFinishedWordsTheDictionaryOfTheUsersLanguageDoesNotKnow) {
     const struct {
         std::string_view Text;
         std::size_t Caret;
@@ -68,23 +69,20 @@ TEST(SpellChecker, MarksFinishedWordsTheDictionaryDoesNotKnow) {
     SpellChecker restarted;
     restarted.Open(std::make_unique<FewWords>(), folder / "Words.txt");
     EXPECT_TRUE(restarted.Knows("Qwerty") && restarted.Knows("Zorp"));
-}
-
-TEST(DictionaryChoice, TheUsersLanguageComesFirstAndAmericanEnglishLast) {
+    // The dictionary of the user's language comes first, American English last.
     const struct {
         std::string_view All, Messages, Lang;
         std::vector<std::string> Names;
-    } cases[] = {
+    } languages[] = {
         {"", "", "de_DE.UTF-8", {"de_DE", "de", "en_US"}},
         {"", "fr_CA.UTF-8@euro", "de_DE.UTF-8", {"fr_CA", "fr", "en_US"}},
         {"C", "fr_CA", "de_DE", {"en_US"}},
         {"", "", "en_US.UTF-8", {"en_US", "en"}},
         {"", "", "", {"en_US"}},
     };
-    for (const auto& c : cases) {
+    for (const auto& c : languages) {
         EXPECT_EQ(DictionaryNames(c.All, c.Messages, c.Lang), c.Names) << c.Lang;
     }
-    TempFolder folder;
     WriteWholeFile(folder / "de_DE.aff", "SET UTF-8\n");
     EXPECT_FALSE(FindDictionary(folder.Path(), {"de_DE", "en_US"}));
     WriteWholeFile(folder / "en_US.aff", "SET UTF-8\n");

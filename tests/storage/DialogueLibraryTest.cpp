@@ -15,15 +15,6 @@ TEST_F(DialogueLibraryTest, EqualKeysLeaveTheOneListedFirstAsTheLater) {
               "76112010.00176112010.000");
 }
 
-TEST_F(DialogueLibraryTest, AMissingDialogueFileStopsTheRetentionWithTheLibraryBox) {
-    UserSettings.MaxLibraryFiles = 1;
-    const auto oldest = SaveAt(DaysAgo(3));
-    SaveAt(DaysAgo(1));
-    std::filesystem::remove(Folder.Dlg() / oldest);
-    EXPECT_FALSE(Library.ScanLibrary());
-    EXPECT_EQ(BoxTitles(), std::vector<std::string>{"Error 53 Dialogue Library File Names"});
-}
-
 TEST_F(DialogueLibraryTest, StrayNamesInTheInspirationFolderCountAsDialogues) {
     const auto saved = SaveAt(DaysAgo(1));
     // Hidden files are no Dialogues: among them a write of ours cut short.
@@ -44,7 +35,7 @@ TEST_F(DialogueLibraryTest, StrayNamesInTheInspirationFolderCountAsDialogues) {
     EXPECT_TRUE(std::filesystem::exists(Folder.Isp() / saved));
 }
 
-TEST_F(DialogueLibraryTest, SavingTakesTheDateOfTheWorkBuffersAndWritesBothFilesExactly) {
+TEST_F(DialogueLibraryTest, SavingTakesTheDateOfTheWorkBuffersWritesBothFilesExactlyOrSaysWhyNot) {
     const std::string inspiration = "\tEvery door you open \x93leads\x94 somewhere.";
     const std::string dialogue = "\r\n\r\n\t\x93Why now?\x94\r\n\tBecause the hour has come.";
     // The inspiration buffer, as the Write window keeps it, dates the save.
@@ -57,25 +48,22 @@ TEST_F(DialogueLibraryTest, SavingTakesTheDateOfTheWorkBuffersAndWritesBothFiles
     EXPECT_EQ(Library.AddToLibrary(inspiration, dialogue + " More."), "76112118.071");
     EXPECT_EQ(SavedPair("76112118.070") + SavedPair("76112118.071"),
               inspiration + "|" + dialogue + inspiration + "|" + dialogue + " More.");
-    // An inspiration without its tab is kept as it stands.
+    // The next minute starts from the first tag again; with all ten of a minute taken the save is
+    // refused, and the box says why.
     SetFileDate(Folder.Exe() / "savei.tmp", {2026, 11, 21, 18, 8, 0});
-    ASSERT_TRUE(Library.AddToLibrary("no tab here", dialogue));
-    EXPECT_EQ(ReadWholeFile(Folder.Isp() / "76112118.080"), "no tab here");
+    EXPECT_EQ(Library.AddToLibrary(inspiration, dialogue), "76112118.080");
     EXPECT_TRUE(Library.Listing().LibraryCount == 3 && Windows.Boxes.empty());
-    // With all ten tags of a minute taken the save is refused, and the box says why.
     for (int tag = 1; tag < FileTags; ++tag) {
         ASSERT_TRUE(Library.AddToLibrary(inspiration, dialogue));
     }
     EXPECT_FALSE(Library.AddToLibrary(inspiration, dialogue));
     EXPECT_EQ(Names(Folder.Dlg()).size(), 12u);
     EXPECT_EQ(BoxTitles(), std::vector<std::string>{"Cannot Save -- Ten Dialogues in One Minute"});
-}
-
-TEST_F(DialogueLibraryTest, AFailedSaveOrScanSaysWhy) {
-    ASSERT_TRUE(Library.AddToLibrary("\told", "old dialogue"));
+    // A save the disk cuts short says why.
+    SetFileDate(Folder.Exe() / "savei.tmp", {2026, 11, 21, 18, 9, 0});
     EXPECT_FALSE(WithDiskNearlyFull(
         [&] { return Library.AddToLibrary("\tnew", std::string(100000, 'x')).has_value(); }));
-    EXPECT_TRUE(Windows.Boxes.at(0).Text.starts_with("Error 61 attempting to save"));
+    EXPECT_TRUE(Windows.Boxes.back().Text.starts_with("Error 61 attempting to save"));
     // A file where a folder of the Library should be: the save fails and the scan says so.
     std::filesystem::remove_all(Folder.Dlg());
     WriteWholeFile(Folder.Dlg(), "not a folder");

@@ -359,9 +359,8 @@ private slots:
         editor->Editor().appendPlainText(u"More."_s);
         const auto missing = saves / "missing" / "Sunday.txt";
         QVERIFY(!editor->SaveTo(QString::fromStdString(missing.string())));
-        QCOMPARE(windows.Boxes.at(0).Title + ": " + windows.Boxes[0].Text,
-                 "Save File Error: Error 53 encountered attempting to save " + missing.string() +
-                     ".");
+        QCOMPARE(windows.Boxes.at(0).Text.substr(0, 8), "Error 53");
+        QVERIFY(windows.Boxes[0].Text.ends_with(missing.string() + "."));
         QCOMPARE(FilesIn(saves), std::size_t{1});
         QVERIFY(editor->Editor().document()->isModified());
 
