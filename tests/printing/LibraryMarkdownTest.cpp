@@ -1,5 +1,3 @@
-#include "printing/ExportText.h"
-
 #include "core/WholeFile.h"
 #include "printing/LibraryMarkdown.h"
 #include "printing/SaveFolder.h"
@@ -11,19 +9,6 @@
 
 namespace veyrant::testing {
 namespace {
-
-TEST(ExportText, HeadingTextClosingLinesAndTheFailureBox) {
-    const DateTime morning{2026, 11, 22, 9, 5, 0};
-    const std::string text = ExportText(morning, "Inspiration\r\n\r\n\tBe still.\r\n\r\nDialogue");
-    EXPECT_TRUE(text.substr(16).starts_with(
-        "Sunday, 9:05 AM, November 22, 2026\r\n\r\n\r\nInspiration\r\n\r\n"
-        "\tBe still.\r\n\r\nDialogue\r\n\r\n\r\n"));
-    EXPECT_TRUE(text.ends_with(".org\r\n"));
-    EXPECT_EQ(ExportFileName({2026, 11, 22, 21, 40, 0}), "Dialogue 2026-11-22 9.40 PM.txt");
-    const auto box = SaveFileErrorBox(70, "/home/ana/Dialogue.txt");
-    EXPECT_TRUE(box.Text.ends_with("70 encountered attempting to save /home/ana/Dialogue.txt."));
-    EXPECT_TRUE(box.Title == "Save File Error" && box.Icon == MessageIcon::Warning);
-}
 
 // Save As never proposes a folder that is not there: a missing documents folder gives home, and
 // the folder of the last save is kept only while it exists.
