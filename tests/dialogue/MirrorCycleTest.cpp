@@ -142,7 +142,7 @@ TEST(MirrorCycleTable, ARejectionShowsItsMessageAndInstruction) {
         MirrorDriver driver;
         driver.mirror->StartWindow();
         driver.Click(c.Method == 2 ? cmdSuppose : cmdConverse);
-        driver.Engine.Judgements.push_back({c.Status, c.Status == -100 ? 1 : 2});
+        driver.Engine.Judgements.push_back({c.Status, 2});
         driver.Converse(c.Entry);
         EXPECT_EQ(driver.Text(txtResponse).substr(0, c.Message.size()), c.Message);
         EXPECT_EQ(driver.Engine.CheckedEntries.empty(), c.Entry != Question);
