@@ -194,28 +194,18 @@ TEST(MirrorComposed, ADialogueOfSeveralCyclesWithTheRealEngine) {
     EXPECT_EQ(driver.State().CycleCount, 1) << driver.Text(txtResponse);
     driver.Click(cmdConverse);
 
-    const std::string entries[] = {
-        "Why do I hesitate before every important decision?",
-        "I feel that my work no longer means what it once did.",
-        "How can I be kinder to myself on the difficult days?",
-        "What should I do about the friend I have not called?",
-    };
-    int answered = 0;
-    for (const auto& entry : entries) {
+    // At these moments the first two entries draw a remark, left out, and the third an answer.
+    for (const char* entry : {"Why do I hesitate before every important decision?",
+                              "I feel that my work no longer means what it once did.",
+                              "How can I be kinder to myself on the difficult days?"}) {
         driver.Clock.Seconds += 37.5f;
         driver.Converse(entry);
         ASSERT_FALSE(driver.State().EntryFailed) << driver.Text(txtResponse);
-        const std::string response = driver.Text(txtResponse);
-        if (response.rfind(">> Regarding", 0) == 0) {
-            driver.Enter();
-            driver.Converse(entry);
-        }
         ASSERT_EQ(driver.Text(txtResponse).substr(0, 1), "\t");
-        answered += driver.State().PairState == PairShown::Kept ? 1 : 0;
         driver.Enter();
     }
-    EXPECT_EQ(driver.State().PairCount, answered);
-    EXPECT_GE(driver.State().CycleCount, 5);
+    EXPECT_EQ(driver.State().PairCount, 1);
+    EXPECT_EQ(driver.State().CycleCount, 4);
 }
 
 } // namespace
