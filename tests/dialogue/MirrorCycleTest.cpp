@@ -172,7 +172,7 @@ TEST(MirrorCycleTable, ARejectionShowsItsMessageAndInstruction) {
 
 // The window over the program's own parser and composer with the starter content.
 TEST(MirrorComposed, ADialogueOfSeveralCyclesWithTheRealEngine) {
-    MirrorDriver driver(1, MirrorDriver::Replies::Composed);
+    MirrorDriver driver(MirrorDriver::Replies::Composed);
     driver.mirror->StartWindow();
     EXPECT_EQ(driver.Text(txtResponse).substr(0, 14), "Inspiration\r\n\t");
     // An entry that the parser refuses before it reads the sentence keeps the type of the entry
