@@ -249,7 +249,6 @@ TEST_F(MirrorTranscript, AdviceOnceThenWarningsThenTheLimitOfOneHundredTwentyOne
     Enter();
     Converse(Entry);
     EXPECT_EQ(Titles(), "Veyrant Sagrel Help -- Recommendation Regarding Conversation;");
-    EXPECT_EQ(Layer.Boxes[0].Icon, MessageIcon::Information);
     for (int pair = 62; pair < 100; ++pair) {
         Enter();
         Converse(Entry);
@@ -263,7 +262,6 @@ TEST_F(MirrorTranscript, AdviceOnceThenWarningsThenTheLimitOfOneHundredTwentyOne
     }
     EXPECT_EQ(Layer.Boxes[1].Title, "Veyrant Sagrel Help -- Nearing the Dialogue Limit");
     EXPECT_NE(Layer.Boxes[1].Text.find("approximately 20 cycles"), std::string::npos);
-    EXPECT_EQ(Layer.Boxes[1].Icon, MessageIcon::Warning);
     // A response left out does not bring the limit nearer.
     while (State().PairCount < 120) {
         Enter();
