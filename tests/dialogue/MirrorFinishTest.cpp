@@ -71,7 +71,6 @@ TEST_F(MirrorFinish, FinishThenContinueThenFinishAgain) {
               "\tInspiration number 1.|" + twoPairs.substr(4) + "|Veyrant Dialogue");
     EXPECT_EQ(printed.ShownDate, Clock.Date);
     EXPECT_TRUE(Layer.BusyWhilePrinting && !Layer.Busy && Box(cmdPrint).Enabled);
-    EXPECT_EQ(Titles(), "Print Error;");
     Click(cmdDisplay); // File
     ASSERT_EQ(Layer.EditorTexts.size(), 1u);
     EXPECT_EQ(Layer.EditorTexts[0].Text, ExportText(Clock.Date, Text(txtSaved)));
@@ -148,8 +147,7 @@ TEST(MirrorFinishNew, NewAsksOnlyForAnUnsavedDialogueAndResetsOnNo) {
         EXPECT_EQ(driver.Text(txtResponse), "Inspiration\r\n\tInspiration number 2.");
         EXPECT_EQ(driver.Text(txtSaved).substr(0, 12), "Suggestion 2");
         EXPECT_EQ(driver.mirror->Controls().Title,
-                  c.Guest ? "Veyrant Sagrel -- New Dialogue -- Guest Mode"
-                          : "Veyrant Sagrel -- New Dialogue");
+                  "Veyrant Sagrel -- New Dialogue" + std::string(c.Guest ? " -- Guest Mode" : ""));
         EXPECT_TRUE(driver.Box(cmdConverse).Enabled);
         if (c.Guest) { // a guest reaches the Utilities through Help, the Library button disabled
             EXPECT_TRUE(driver.Box(cmdKnow).Enabled && !driver.Box(cmdRetrieve).Enabled);
