@@ -1,5 +1,6 @@
-#include "core/WholeFile.h"
 #include "printing/LibraryMarkdown.h"
+
+#include "core/WholeFile.h"
 #include "printing/SaveFolder.h"
 #include "support/FakeClock.h"
 #include "support/TempFolder.h"
