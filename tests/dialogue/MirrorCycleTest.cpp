@@ -142,7 +142,7 @@ TEST(MirrorCycleTable, ARejectionShowsItsMessageAndInstruction) {
         MirrorDriver driver;
         driver.mirror->StartWindow();
         driver.Click(c.Method == 2 ? cmdSuppose : cmdConverse);
-        driver.Engine.Judgements.push_back({c.Status, c.Status == -100 ? 1 : 2});
+        driver.Engine.Judgements.push_back({c.Status, 2});
         driver.Converse(c.Entry);
         EXPECT_EQ(driver.Text(txtResponse).substr(0, c.Message.size()), c.Message);
         EXPECT_EQ(driver.Engine.CheckedEntries.empty(), c.Entry != Question);
@@ -172,7 +172,7 @@ TEST(MirrorCycleTable, ARejectionShowsItsMessageAndInstruction) {
 
 // The window over the program's own parser and composer with the starter content.
 TEST(MirrorComposed, ADialogueOfSeveralCyclesWithTheRealEngine) {
-    MirrorDriver driver(1, MirrorDriver::Replies::Composed);
+    MirrorDriver driver(MirrorDriver::Replies::Composed);
     driver.mirror->StartWindow();
     EXPECT_EQ(driver.Text(txtResponse).substr(0, 14), "Inspiration\r\n\t");
     // An entry that the parser refuses before it reads the sentence keeps the type of the entry
@@ -194,28 +194,18 @@ TEST(MirrorComposed, ADialogueOfSeveralCyclesWithTheRealEngine) {
     EXPECT_EQ(driver.State().CycleCount, 1) << driver.Text(txtResponse);
     driver.Click(cmdConverse);
 
-    const std::string entries[] = {
-        "Why do I hesitate before every important decision?",
-        "I feel that my work no longer means what it once did.",
-        "How can I be kinder to myself on the difficult days?",
-        "What should I do about the friend I have not called?",
-    };
-    int answered = 0;
-    for (const auto& entry : entries) {
+    // At these moments the first two entries draw a remark, left out, and the third an answer.
+    for (const char* entry : {"Why do I hesitate before every important decision?",
+                              "I feel that my work no longer means what it once did.",
+                              "How can I be kinder to myself on the difficult days?"}) {
         driver.Clock.Seconds += 37.5f;
         driver.Converse(entry);
         ASSERT_FALSE(driver.State().EntryFailed) << driver.Text(txtResponse);
-        const std::string response = driver.Text(txtResponse);
-        if (response.rfind(">> Regarding", 0) == 0) {
-            driver.Enter();
-            driver.Converse(entry);
-        }
         ASSERT_EQ(driver.Text(txtResponse).substr(0, 1), "\t");
-        answered += driver.State().PairState == PairShown::Kept ? 1 : 0;
         driver.Enter();
     }
-    EXPECT_EQ(driver.State().PairCount, answered);
-    EXPECT_GE(driver.State().CycleCount, 5);
+    EXPECT_EQ(driver.State().PairCount, 1);
+    EXPECT_EQ(driver.State().CycleCount, 4);
 }
 
 } // namespace

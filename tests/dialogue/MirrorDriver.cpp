@@ -65,13 +65,12 @@ std::string Quoted(const std::string& entry) {
     return text;
 }
 
-MirrorDriver::MirrorDriver(int displayOption, Replies replies)
+MirrorDriver::MirrorDriver(Replies replies)
     : App(AppFolder{Temp.Path()}, Temp / "program", Clock, Draws, Layer),
       Library(App.Folder, App.UserSettings, Clock, Layer),
       Buffers(App.Folder, App.UserSettings, Clock, Layer) {
     std::filesystem::create_directories(App.Folder.Exe());
-    App.UserSettings.DisplayOption = static_cast<std::int16_t>(displayOption);
-    SetDisplayScale(displayOption, App.Scale);
+    SetDisplayScale(App.UserSettings.DisplayOption, App.Scale);
     DialogueEngine* engine = &Engine;
     if (replies == Replies::Composed) {
         InstallEngineFiles(App.Folder);

@@ -66,7 +66,7 @@ public:
     // With the program's engine and its starter content in place of the scripted one.
     enum class Replies { Scripted, Composed };
 
-    explicit MirrorDriver(int displayOption = 1, Replies replies = Replies::Scripted);
+    explicit MirrorDriver(Replies replies = Replies::Scripted);
 
     // Types each character of text (Windows-1252) into the focused box.
     void Type(const std::string& text);

@@ -48,7 +48,6 @@ TEST_F(MirrorHelp, HelpShowsAfterATickEndsByItselfAfterSevenAndFollowsTheState) 
         mirror->MouseMove(txtMirror);
     }
     mirror->MouseMove(cmdNew);
-    EXPECT_EQ(Layer.Timers.at(TimerId::MirrorHover), 1250);
     EXPECT_EQ(Box(cmdNew).Ink, Colour::HoverInk);
     EXPECT_TRUE(Box(cmdNew).Underlined);
     EXPECT_EQ(Text(txtNote), instruction);

@@ -1,5 +1,4 @@
 #include "ReaderFixture.h"
-#include "core/DateFormat.h"
 #include "core/KeyCodes.h"
 #include "engine/EngineFiles.h"
 #include "printing/ExportText.h"
@@ -267,7 +266,7 @@ TEST_F(ReaderFixture, PrintFileAndAFailedDeleteKeepTheDialogue) {
     const PrintRequest& printed = Windows.Printed[0];
     EXPECT_EQ(printed.Inspiration + "|" + printed.Dialogue + "|" + printed.Title,
               "\r\n\tInspiration of day 21.|" + body + "|Veyrant Dialogue");
-    EXPECT_EQ(FormatDate(printed.ShownDate, "yyyy-mm-dd hh:nn"), "2026-11-21 09:30");
+    EXPECT_EQ(printed.ShownDate, saved);
     EXPECT_TRUE(Windows.BusyWhilePrinting && !Windows.Busy);
     EXPECT_EQ(Line(RC::cmdPrint), "\"Print\"");
     Read().Click(RC::cmdFile);

@@ -41,8 +41,7 @@ class ReaderFixture : public ::testing::Test {
 public:
     ReaderFixture() {
         std::filesystem::create_directories(Folder.Exe());
-        App.UserSettings.DisplayOption = 1;
-        SetDisplayScale(1, App.Scale);
+        SetDisplayScale(App.UserSettings.DisplayOption, App.Scale);
         // The Information Library's real titles, with a short text for each row.
         LoadLibraries(App.Libraries);
         App.Libraries[LibraryId::Information] =

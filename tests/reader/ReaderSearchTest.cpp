@@ -93,8 +93,8 @@ TEST_F(ReaderSearch, AllDialoguesLandOnTheThird) {
     for (const auto& [library, name] :
          {std::pair{2, "Information"}, {3, "Knowledge"}, {4, "Advanced Knowledge"}}) {
         Reopen(library);
-        EXPECT_TRUE(Hover().starts_with("Search for words or phrases within all " +
-                                        std::string(name) + ". The list opens"));
+        EXPECT_NE(Hover().find("within all " + std::string(name) + ". The list"),
+                  std::string::npos);
     }
 }
 
@@ -112,9 +112,8 @@ TEST_F(ReaderSearch, HitsCountTheBoxStartsOverAndCancelKeepsWhatWasFound) {
     Read().Click(RC::cmdSearch);
     EXPECT_TRUE(Selected("3+2 \"aa\"") && Read().State().HitCount == 2) << Read().Dump();
     EnterInBox();
-    EXPECT_TRUE(
-        Lines({RC::txtSearch, RC::txtNote})
-            .starts_with("\"Search complete\" | \"The search is complete with 2 instances"));
+    EXPECT_EQ(Line(RC::txtSearch), "\"Search complete\"");
+    EXPECT_NE(Line(RC::txtNote).find("complete with 2 instances"), std::string::npos);
     // The last hit stays on view and selected; Enter at the end does nothing more.
     EXPECT_TRUE(Selected("3+2 \"aa\""));
     EnterInBox();

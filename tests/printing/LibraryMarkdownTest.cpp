@@ -1,7 +1,6 @@
-#include "printing/ExportText.h"
+#include "printing/LibraryMarkdown.h"
 
 #include "core/WholeFile.h"
-#include "printing/LibraryMarkdown.h"
 #include "printing/SaveFolder.h"
 #include "support/FakeClock.h"
 #include "support/TempFolder.h"
@@ -11,21 +10,6 @@
 
 namespace veyrant::testing {
 namespace {
-
-TEST(ExportText, HeadingTextClosingLinesAndTheFailureBox) {
-    const DateTime morning{2026, 11, 22, 9, 5, 0};
-    const std::string text = ExportText(morning, "Inspiration\r\n\r\n\tBe still.\r\n\r\nDialogue");
-    EXPECT_TRUE(
-        text.starts_with("Veyrant Sagrel\r\nSunday, 9:05 AM, November 22, 2026\r\n\r\n\r\n"
-                         "Inspiration\r\n\r\n\tBe still.\r\n\r\nDialogue\r\n\r\n\r\nPsych") &&
-        text.ends_with("Give It\"\r\nVeyrant Technology, veyrant-sagrel.org\r\n"))
-        << text;
-    EXPECT_EQ(ExportFileName({2026, 11, 22, 21, 40, 0}), "Dialogue 2026-11-22 9.40 PM.txt");
-    const auto box = SaveFileErrorBox(70, "/home/ana/Dialogue.txt");
-    EXPECT_EQ(box.Title + "|" + box.Text,
-              "Save File Error|Error 70 encountered attempting to save /home/ana/Dialogue.txt.");
-    EXPECT_EQ(box.Icon, MessageIcon::Warning);
-}
 
 // Save As never proposes a folder that is not there: a missing documents folder gives home, and
 // the folder of the last save is kept only while it exists.
