@@ -2,6 +2,7 @@
 #include "core/WholeFile.h"
 #include "dialogue/MirrorDriver.h"
 #include "printing/ExportText.h"
+#include "printing/PrintTexts.h"
 #include "storage/LibraryFileName.h"
 #include "support/FileFaults.h"
 
@@ -353,6 +354,10 @@ TEST(MirrorUtilities, ADialogueTheBuffersCannotTakeCanBeSavedElsewhereOnTheWayOu
         const std::string file = ReadWholeFile(chosen);
         EXPECT_EQ(file.substr(0, 53), "Veyrant Sagrel\nSunday, 12:00 PM, November 22, 2026\n\n\n");
         EXPECT_NE(file.find("\n\t\xE2\x80\x9C" + Statement + "\xE2\x80\x9D\n"), std::string::npos);
+        EXPECT_TRUE(file.ends_with("\n\n\n" + std::string(PrintTexts::TitleLine) + "\n\"" +
+                                   std::string(PrintTexts::ExportedMotto) + "\"\n" +
+                                   std::string(PrintTexts::MakerLine) + "\n"))
+            << file;
     }
 }
 
