@@ -50,9 +50,9 @@ TEST_F(ReaderSearch, AllDialoguesLandOnTheThird) {
     Open(1);
     Read().Click(RC::cmdNext);
     // Hover help names what Search, File and Print reach from here, and in each fixed library.
-    EXPECT_TRUE(Hover().starts_with("Search for words or phrases within only the displayed") &&
+    EXPECT_TRUE(Hover(RC::cmdPrint).starts_with("Print the displayed Dialogue") &&
                 Hover(RC::cmdFile).starts_with("Write the displayed Dialogue") &&
-                Hover(RC::cmdPrint).starts_with("Print the displayed Dialogue"));
+                Hover().starts_with("Search for words or phrases within only the displayed"));
     const std::string title = Title();
     Search("REPLY");
     EXPECT_EQ(Title(), title);

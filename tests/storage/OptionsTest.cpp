@@ -39,6 +39,7 @@ TEST_F(OptionsTest, CleanDeletesEveryDialogueAfterAskingOnceAndOkClampsTheLimits
     // Opened again on the empty Library, it has nothing to clean.
     Window.Form_Load();
     EXPECT_TRUE(Shown.Label4.Caption == "There are no files to clean." && !Shown.cmdClean.Enabled);
+    EXPECT_NE(Window.Dump().find("cmdClean disabled\n"), std::string::npos);
     Windows.Boxes.clear();
     // The limits typed, and the limits stored.
     const std::tuple<std::string, std::string, int, int> cases[] = {

@@ -134,12 +134,15 @@ private slots:
         QCOMPARE(program.UserSettings.DisplayOption, 2);
         auto* spelling = program.Window.findChild<QCheckBox*>("chkSpelling");
         QTest::mouseClick(spelling, Qt::LeftButton);
-        QVERIFY(!program.UserPreferences.SpellingMarks);
+        QVERIFY(!program.UserPreferences.SpellingMarks &&
+                program.DisplaySize.Dump().find("Option2 (x)") != std::string::npos &&
+                program.DisplaySize.Dump().find("chkSpelling [ ]") != std::string::npos);
         // Escape puts both back and leaves, which ends the program.
         QTest::keyClick(&program.Window, Qt::Key_Escape);
         QCOMPARE(program.UserSettings.DisplayOption, 1);
         QVERIFY(program.Choice("Option1")->isChecked());
-        QVERIFY(program.UserPreferences.SpellingMarks && spelling->isChecked());
+        QVERIFY(program.UserPreferences.SpellingMarks && spelling->isChecked() &&
+                program.DisplaySize.Dump().find("chkSpelling [x]") != std::string::npos);
         QCOMPARE(program.Windows.WindowEvents.back() + std::to_string(program.Exits),
                  "hide Resize1");
 
